@@ -1,0 +1,12 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QImage>
+
+namespace orrerix {
+
+// The emblem, 400 by 300: an orrery, divided from the top left to the bottom right corner. Above
+// the line its worlds are real, below it they are brass and gears.
+QImage PaintLogo(int scale);
+
+}  // namespace orrerix

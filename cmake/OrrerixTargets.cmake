@@ -1,0 +1,34 @@
+# SPDX-License-Identifier: MIT
+# One library for each folder below src/. A folder's headers are reached only through the
+# libraries that it names, so that an include across a border does not compile.
+
+add_library(orrerix_options INTERFACE)
+target_compile_options(orrerix_options INTERFACE
+  -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wno-sign-conversion -Wnon-virtual-dtor -Werror)
+if(ORRERIX_SANITIZE)
+  target_compile_options(orrerix_options INTERFACE
+    -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+  target_link_options(orrerix_options INTERFACE -fsanitize=address,undefined)
+endif()
+
+# orrerix_library(<folder> SOURCES <files> [USES <folders>] [LINKS <other libraries>])
+function(orrerix_library folder)
+  cmake_parse_arguments(ARG "" "" "SOURCES;USES;LINKS" ${ARGN})
+  set(target orrerix_${folder})
+  set(includes ${CMAKE_BINARY_DIR}/include/${folder})
+  file(MAKE_DIRECTORY ${includes})
+  file(CREATE_LINK ${CMAKE_CURRENT_SOURCE_DIR} ${includes}/${folder} SYMBOLIC)
+  add_library(${target} STATIC ${ARG_SOURCES})
+  target_include_directories(${target} PUBLIC ${includes})
+  list(TRANSFORM ARG_USES PREPEND orrerix_)
+  target_link_libraries(${target} PUBLIC ${ARG_USES} ${ARG_LINKS} PRIVATE orrerix_options)
+endfunction()
+
+# orrerix_program(<name> SOURCES <files> [USES <folders>] [LINKS <other libraries>])
+function(orrerix_program name)
+  cmake_parse_arguments(ARG "" "" "SOURCES;USES;LINKS" ${ARGN})
+  add_executable(${name} ${ARG_SOURCES})
+  list(TRANSFORM ARG_USES PREPEND orrerix_)
+  target_link_libraries(${name} PRIVATE ${ARG_USES} ${ARG_LINKS} orrerix_options)
+  set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR})
+endfunction()

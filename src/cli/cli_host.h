@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "import/import_host.h"
+
+namespace orrerix {
+
+// Runs an import without a window. On a terminal it shows a bar with the percent text and the file
+// being read; elsewhere, or if it is told to be quiet, nothing.
+class CliHost : public ImportHost {
+ public:
+  CliHost(MessageBoxes& messages, bool quiet);
+  ~CliHost() override;
+
+  void ShowText(std::string_view text) override;
+  void AppendText(std::string_view text) override;
+  void ProgressIt(std::int32_t maximum, std::int32_t value,
+                  const ImportProgress& progress) override;
+  void Yield() override {}
+  void Pause(int) override {}
+  MessageAnswer Show(const Message& message) override { return messages_.Show(message); }
+  std::uint32_t TickCount() override;
+  bool IsMinimised() const override { return false; }
+  bool IsDebugging() const override { return false; }
+
+ private:
+  MessageBoxes& messages_;
+  bool shown_;
+  std::string doing_;
+};
+
+}  // namespace orrerix

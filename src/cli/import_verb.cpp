@@ -1,0 +1,166 @@
+// SPDX-License-Identifier: MIT
+#include <chrono>
+#include <cstdio>
+#include <fstream>
+#include <memory>
+
+#include <fmt/format.h>
+#include <nlohmann/json.hpp>
+
+#include "cli/cli_host.h"
+#include "cli/verbs.h"
+#include "derived/stages.h"
+#include "import/import_driver.h"
+
+namespace orrerix {
+namespace fs = std::filesystem;
+namespace {
+
+struct ImportOptions {
+  std::string Game;
+  std::string Log;
+  bool Strict = false;
+  bool Quiet = false;
+};
+
+struct TableCount {
+  std::string Name;
+  std::int64_t Rows;
+};
+
+// Names the file's folder; the import itself names its files.
+class ImportVerb {
+ public:
+  ImportVerb(const CommonOptions& options, const ImportOptions& import)
+      : options_(options), import_(import), messages_(options), log_(messages_, CurrentVersion()) {}
+
+  int Run() {
+    const auto start = std::chrono::steady_clock::now();
+    const fs::path target = RequireTarget();
+    const bool finished = Import(target);
+    seconds_ = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+    WriteLog();
+    if (!finished) throw CouldNot("the import was given up; the universe file is not usable");
+    options_.Json ? PrintJson(target) : PrintText(target);
+    const bool found = !log_.DataLines().empty() || !log_.Failures().empty();
+    return import_.Strict && found ? kStrictFound : kDone;
+  }
+
+ private:
+  fs::path RequireTarget() const {
+    const GameFolder game(GameText());
+    if (!game.FindFile(game.Text() + "\\exe\\freelancer.ini")) {
+      throw CouldNot(fmt::format("'{}' is no game folder: there is no exe/freelancer.ini in it",
+                                 import_.Game));
+    }
+    fs::path target = fs::absolute(options_.DatabasePath()).lexically_normal();
+    std::error_code error;
+    if (!fs::is_directory(target.parent_path(), error)) {
+      throw CouldNot(fmt::format("there is no folder '{}'", target.parent_path().string()));
+    }
+    return target;
+  }
+
+  std::string GameText() const {
+    std::string text = import_.Game;
+    while (text.size() > 1 && (text.back() == '/' || text.back() == '\\')) text.pop_back();
+    return text;
+  }
+
+  // Works in a folder beside the target, so that files of the import's own names never meet
+  // others, and an older universe file is replaced only by a finished one.
+  bool Import(const fs::path& target) {
+    const fs::path work = target.string() + ".import";
+    std::error_code error;
+    fs::remove_all(work, error);
+    if (!fs::create_directory(work, error)) {
+      throw CouldNot(fmt::format("cannot make the folder '{}'", work.string()));
+    }
+    const GameFolder game(GameText());
+    CliHost host(messages_, import_.Quiet);
+    const bool finished =
+        ImportGame(log_, host, database_,
+                   {game, work, JetVersionOption::Version30, CurrentVersion()}, DerivedStages());
+    CountTables();
+    database_.Close();
+    if (finished) fs::rename(work / "Orrerix.fl", target, error);
+    const bool moved = finished && !error;
+    fs::remove_all(work, error);
+    return moved;
+  }
+
+  void CountTables() {
+    if (!database_.IsOpen()) return;
+    class Ignore : public FailureSink {
+      void Fail(const Failure&) override {}
+    } ignore;
+    for (const TableDef& table : database_.TableDefs(ignore)) {
+      Recordset rows = database_.OpenRecordset(
+          ignore, "SELECT count(*) AS rows FROM " + QuoteName(table.Name));
+      counts_.push_back({table.Name, *rows["rows"].Get().Whole()});
+    }
+  }
+
+  void WriteLog() const {
+    std::ofstream file;
+    if (!import_.Log.empty()) {
+      file.open(import_.Log, std::ios::binary);
+      if (!file) throw CouldNot(fmt::format("cannot write '{}'", import_.Log));
+    }
+    for (const std::string& line : log_.DataLines()) {
+      if (!import_.Log.empty()) {
+        file << line << '\n';
+      } else if (!options_.Json) {
+        fmt::print("{}\n", line);
+      }
+    }
+  }
+
+  void PrintJson(const fs::path& target) const {
+    nlohmann::ordered_json answer;
+    answer["database"] = target.string();
+    answer["tables"] = nlohmann::ordered_json::object();
+    for (const TableCount& count : counts_) answer["tables"][count.Name] = count.Rows;
+    answer["log_lines"] = log_.DataLines().size();
+    answer["failures"] = nlohmann::ordered_json::array();
+    for (const FailureEntry& entry : log_.Failures()) {
+      answer["failures"].push_back({{"source", entry.Source},
+                                    {"info", entry.Info},
+                                    {"number", entry.What.Number},
+                                    {"description", entry.What.Description}});
+    }
+    answer["seconds"] = seconds_;
+    fmt::print("{}\n",
+               answer.dump(2, ' ', false, nlohmann::ordered_json::error_handler_t::replace));
+  }
+
+  void PrintText(const fs::path& target) const {
+    for (const TableCount& count : counts_) fmt::print("{:<32}{:>8}\n", count.Name, count.Rows);
+    fmt::print("{} log lines, {} failures, {:.2f} seconds: {}\n", log_.DataLines().size(),
+               log_.Failures().size(), seconds_, target.string());
+  }
+
+  const CommonOptions& options_;
+  const ImportOptions& import_;
+  PolicyMessageBoxes messages_;
+  ErrorLog log_;
+  Database database_;
+  std::vector<TableCount> counts_;
+  double seconds_ = 0;
+};
+
+}  // namespace
+
+void AddImportVerb(CLI::App& app, const CommonOptions& options, Verb& run) {
+  auto import = std::make_shared<ImportOptions>();
+  CLI::App* verb = app.add_subcommand("import", "Build the universe file anew");
+  verb->add_option("--game", import->Game, "The game's folder")->required();
+  verb->add_option("--log", import->Log, "File for the lines of the data log");
+  verb->add_flag("--strict", import->Strict, "Exit code 3 if there is a log line or a failure");
+  verb->add_flag("--quiet", import->Quiet, "No progress");
+  verb->callback([&options, &run, import] {
+    run = [&options, import] { return ImportVerb(options, *import).Run(); };
+  });
+}
+
+}  // namespace orrerix

@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: MIT
+// What every verb of the command line shares.
+#pragma once
+
+#include <filesystem>
+#include <functional>
+#include <stdexcept>
+#include <string>
+
+#include "db/engine.h"
+#include "platform/message_box.h"
+#include "shell/error_log.h"
+
+namespace orrerix {
+
+// Exit codes.
+inline constexpr int kDone = 0;
+inline constexpr int kCouldNot = 1;
+inline constexpr int kWrongUsage = 2;
+inline constexpr int kStrictFound = 3;
+
+// A verb could not do its work; the text is the one line that says why.
+struct CouldNot : std::runtime_error {
+  using std::runtime_error::runtime_error;
+};
+
+// The words were wrong.
+struct WrongUsage : std::runtime_error {
+  using std::runtime_error::runtime_error;
+};
+
+struct CommonOptions {
+  std::string Database;  // empty: the one in the save folder
+  std::string Language = "en";
+  std::string OnFailure = "ok";
+  bool Json = false;
+
+  // The universe file.
+  std::filesystem::path DatabasePath() const;
+  // Number of the language: 0 English, 1 German, 2 French.
+  int LanguageNumber() const;
+};
+
+// Answers every failure question by the chosen policy and prints it to standard error, in the
+// dialog's own words. Other messages are printed, too.
+class PolicyMessageBoxes : public MessageBoxes {
+ public:
+  explicit PolicyMessageBoxes(const CommonOptions& options) : options_(options) {}
+  MessageAnswer Show(const Message& message) override;
+
+ private:
+  const CommonOptions& options_;
+};
+
+// Opens the finished universe file for reading, as the indexed copy; says why if it cannot.
+Database OpenUniverse(const CommonOptions& options);
+
+}  // namespace orrerix

@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+// name and card: one text by its number.
+#include <memory>
+
+#include <fmt/format.h>
+#include <nlohmann/json.hpp>
+
+#include "cli/verbs.h"
+#include "import/resource_strings.h"
+
+namespace orrerix {
+namespace {
+
+void Answer(const CommonOptions& options, const std::string& text) {
+  if (!options.Json) return fmt::print("{}\n", text);
+  const nlohmann::json answer = {{"text", text}};
+  fmt::print("{}\n", answer.dump(2, ' ', false, nlohmann::json::error_handler_t::replace));
+}
+
+// A verb that looks a number up.
+template <typename LookUp>
+void AddNumberVerb(CLI::App& app, const CommonOptions& options, Verb& run, const char* name,
+                   const char* help, LookUp lookUp) {
+  auto number = std::make_shared<std::int32_t>();
+  CLI::App* verb = app.add_subcommand(name, help);
+  verb->add_option("NUMBER", *number, "The text's number")->required();
+  verb->callback([&options, &run, number, lookUp] {
+    run = [&options, number, lookUp] {
+      Database database = OpenUniverse(options);
+      PolicyMessageBoxes messages(options);
+      ErrorLog log(messages, CurrentVersion());
+      Universe universe{log, database};
+      Answer(options, lookUp(universe, *number));
+      return kDone;
+    };
+  });
+}
+
+}  // namespace
+
+void AddTextVerbs(CLI::App& app, const CommonOptions& options, Verb& run) {
+  AddNumberVerb(app, options, run, "name", "The name of a number",
+                [](Universe& universe, std::int32_t number) {
+                  return GetName(universe, number, "");
+                });
+  AddNumberVerb(app, options, run, "card", "The info text of a number", GetInfo);
+}
+
+}  // namespace orrerix

@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: MIT
+// The verbs of the command line, each with its own options. A verb's Run answers on standard
+// output and gives the exit code.
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include <CLI/CLI.hpp>
+
+#include "cli/options.h"
+
+namespace orrerix {
+
+// Each of these adds a verb to the command line; `run` is set to it when its word is parsed.
+using Verb = std::function<int()>;
+void AddImportVerb(CLI::App& app, const CommonOptions& options, Verb& run);
+void AddSceneVerb(CLI::App& app, const CommonOptions& options, Verb& run);
+void AddTextVerbs(CLI::App& app, const CommonOptions& options, Verb& run);
+void AddRenderVerb(CLI::App& app, const CommonOptions& options, Verb& run);
+
+}  // namespace orrerix

@@ -1,0 +1,97 @@
+// SPDX-License-Identifier: MIT
+// One open database file under the engine's own terms.
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <initializer_list>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "db/appender.h"
+#include "db/failure.h"
+#include "db/recordset.h"
+#include "db/table_def.h"
+#include "db/value.h"
+
+struct sqlite3;
+
+namespace orrerix {
+
+class Connection;
+
+// What an append query does with a row that breaks a key: drop it silently, or fail.
+enum class ExecuteOption { DropBadRows, FailOnError };
+
+// Owns a connection. Every operation that can fail hands its failure to the sink of the routine it
+// works for, and then has not happened. A closed database fails each operation.
+class Database {
+ public:
+  Database() = default;
+
+  bool IsOpen() const;
+  const std::filesystem::path& Path() const;
+
+  // Commits an open transaction and lets go of the file. Recordsets made before stay readable.
+  void Close();
+
+  // All tables in the order of their creation.
+  std::vector<TableDef> TableDefs(FailureSink& sink) const;
+  bool HasTable(std::string_view name) const;
+  bool HasField(std::string_view table, std::string_view field) const;
+
+  // Makes a table with its key. Fails with 3010 if one of that name, in whatever case, is there.
+  void CreateTable(FailureSink& sink, const TableDef& table);
+
+  // Opens the rows of a query text (query_text.h tells what may stand in it). A failed query gives
+  // a recordset without rows.
+  Recordset OpenRecordset(FailureSink& sink, std::string_view text,
+                          std::initializer_list<Value> values = {},
+                          RecordsetType type = RecordsetType::Snapshot);
+
+  // Opens a table to append to; it shows no rows.
+  Recordset OpenTable(FailureSink& sink, std::string_view table);
+
+  // Opens a table for many rows that need no tests; all its fields in the order of the definition.
+  Appender OpenAppender(FailureSink& sink, const TableDef& table);
+
+  // Runs a statement that gives no rows.
+  void Execute(FailureSink& sink, std::string_view text, std::initializer_list<Value> values = {},
+               ExecuteOption option = ExecuteOption::FailOnError);
+
+  // Attaches a second file, whose tables are then made and filled from this one's by the two
+  // operations below it. Copying runs "INSERT INTO [table] IN 'path' SELECT * FROM [table];": a path
+  // that holds a "'" breaks that statement (3075).
+  void Attach(FailureSink& sink, const std::filesystem::path& path);
+  void CreateAttachedTable(FailureSink& sink, const TableDef& table);
+  void CopyToAttached(FailureSink& sink, std::string_view table);
+
+  // Runs the engine's native statement, as it stands: indexes, pragmas and the like.
+  void ExecuteNative(FailureSink& sink, const std::string& statement);
+
+  // Trades safety against loss of power for speed: for files that are thrown away if they are not
+  // finished. Keys and transactions work as ever.
+  void UseForBuilding(FailureSink& sink);
+
+  void Begin(FailureSink& sink);
+  void Commit(FailureSink& sink);
+
+  // Pages that hold nothing and could be given back.
+  std::int64_t FreePages(FailureSink& sink) const;
+
+  // SQLite's own handle, for the files of this folder.
+  sqlite3* Native() const;
+
+  // A database that is already connected; made by DBEngine.
+  explicit Database(std::shared_ptr<Connection> connection);
+
+ private:
+  void RequireOpen() const;
+
+  std::shared_ptr<Connection> connection_;
+  std::filesystem::path attached_;
+};
+
+}  // namespace orrerix

@@ -1,0 +1,95 @@
+// SPDX-License-Identifier: MIT
+#include "db/engine.h"
+
+#include <memory>
+
+#include <fmt/format.h>
+#include <sqlite3.h>
+
+#include "db/connection.h"
+#include "db/engine_functions.h"
+
+namespace orrerix {
+namespace fs = std::filesystem;
+namespace {
+
+std::shared_ptr<Connection> Connect(const fs::path& path, int flags) {
+  sqlite3* handle = nullptr;
+  const int result = sqlite3_open_v2(path.string().c_str(), &handle, flags, nullptr);
+  auto connection = std::make_shared<Connection>(handle, path);
+  if (result != SQLITE_OK) {
+    throw EngineFailure(failure_number::kCannotOpenFile,
+                        fmt::format("Could not open file '{}'.", path.string()));
+  }
+  sqlite3_extended_result_codes(handle, 1);
+  RegisterEngineFunctions(handle);
+  return connection;
+}
+
+void Run(Connection& connection, const std::string& statement) {
+  if (sqlite3_exec(connection.Handle(), statement.c_str(), nullptr, nullptr, nullptr) !=
+      SQLITE_OK) {
+    throw connection.LastFailure();
+  }
+}
+
+template <typename Open>
+Database Guarded(FailureSink& sink, Open&& open) {
+  std::optional<Failure> failed;
+  try {
+    return Database(open());
+  } catch (const Failure& failure) {
+    failed = failure;
+  }
+  sink.Fail(*failed);
+  return Database();
+}
+
+}  // namespace
+
+Database DBEngine::CreateDatabase(FailureSink& sink, const fs::path& path,
+                                  JetVersionOption option) {
+  return Guarded(sink, [&] {
+    std::error_code ignored;
+    if (fs::exists(path, ignored)) {
+      throw EngineFailure(3204, fmt::format("Database '{}' already exists.", path.string()));
+    }
+    auto connection = Connect(path, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
+    Run(*connection, fmt::format("PRAGMA user_version = {}", static_cast<int>(option)));
+    return connection;
+  });
+}
+
+Database DBEngine::OpenDatabase(FailureSink& sink, const fs::path& path) {
+  return Guarded(sink, [&] {
+    auto connection = Connect(path, SQLITE_OPEN_READWRITE);
+    // SQLite opens anything; reading the schema tells whether it is a database.
+    Run(*connection, "SELECT count(*) FROM sqlite_master");
+    return connection;
+  });
+}
+
+Database DBEngine::CreateInMemory(FailureSink& sink) {
+  return Guarded(sink, [] {
+    return Connect(":memory:", SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_MEMORY);
+  });
+}
+
+void DBEngine::CompactDatabase(FailureSink& sink, const fs::path& from, const fs::path& to) {
+  Database source = OpenDatabase(sink, from);
+  if (!source.IsOpen()) return;
+  if (source.FreePages(sink) > 0) {
+    source.Execute(sink, "VACUUM INTO '{}'", {to.string()});
+    return;
+  }
+  source.Close();
+  std::error_code error;
+  fs::rename(from, to, error);
+  if (error) {
+    sink.Fail(EngineFailure(failure_number::kCannotOpenFile,
+                            fmt::format("Could not rename '{}' to '{}': {}.", from.string(),
+                                        to.string(), error.message())));
+  }
+}
+
+}  // namespace orrerix

@@ -1,0 +1,95 @@
+// SPDX-License-Identifier: MIT
+#include "db/engine_functions.h"
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include <sqlite3.h>
+
+#include "db/failure.h"
+#include "db/like_pattern.h"
+#include "db/number_text.h"
+#include "db/text.h"
+
+namespace orrerix {
+namespace {
+
+std::string_view TextOf(sqlite3_value* value) {
+  const auto* text = reinterpret_cast<const char*>(sqlite3_value_text(value));
+  if (text == nullptr) return {};
+  return {text, static_cast<std::size_t>(sqlite3_value_bytes(value))};
+}
+
+bool IsNull(sqlite3_value* value) {
+  return sqlite3_value_type(value) == SQLITE_NULL;
+}
+
+void ReturnText(sqlite3_context* context, std::string_view text) {
+  sqlite3_result_text64(context, text.data(), text.size(), SQLITE_TRANSIENT, SQLITE_UTF8);
+}
+
+void UcaseFunction(sqlite3_context* context, int, sqlite3_value** arguments) {
+  if (IsNull(arguments[0])) return sqlite3_result_null(context);
+  ReturnText(context, Ucase(TextOf(arguments[0])));
+}
+
+void LenFunction(sqlite3_context* context, int, sqlite3_value** arguments) {
+  if (IsNull(arguments[0])) return sqlite3_result_null(context);
+  sqlite3_result_int64(context, static_cast<sqlite3_int64>(Len(TextOf(arguments[0]))));
+}
+
+// Left or Right, told apart by the function that cuts.
+template <auto Cut>
+void CutFunction(sqlite3_context* context, int, sqlite3_value** arguments) {
+  if (IsNull(arguments[0])) return sqlite3_result_null(context);
+  const sqlite3_int64 count = sqlite3_value_int64(arguments[1]);
+  if (count < 0) {
+    return sqlite3_result_error(
+        context, StandardMessage(failure_number::kInvalidProcedureCall).data(), -1);
+  }
+  ReturnText(context, Cut(TextOf(arguments[0]), static_cast<std::size_t>(count)));
+}
+
+// A number rounded to a whole one, ties to even; Null if it leaves the range between the bounds.
+template <std::int64_t Lowest, std::int64_t Highest>
+void FitFunction(sqlite3_context* context, int, sqlite3_value** arguments) {
+  if (IsNull(arguments[0])) return sqlite3_result_null(context);
+  const double whole = RoundToEven(sqlite3_value_double(arguments[0]));
+  if (!(whole >= Lowest && whole <= Highest)) return sqlite3_result_null(context);
+  sqlite3_result_int64(context, static_cast<sqlite3_int64>(whole));
+}
+
+void IsNullFunction(sqlite3_context* context, int, sqlite3_value** arguments) {
+  sqlite3_result_int(context, IsNull(arguments[0]) ? 1 : 0);
+}
+
+// SQLite hands the pattern over first.
+void LikeFunction(sqlite3_context* context, int, sqlite3_value** arguments) {
+  if (IsNull(arguments[0]) || IsNull(arguments[1])) return sqlite3_result_null(context);
+  const LikeResult result = Like(TextOf(arguments[1]), TextOf(arguments[0]));
+  if (result == LikeResult::InvalidPattern) {
+    return sqlite3_result_error(context, "Invalid pattern string.", -1);
+  }
+  sqlite3_result_int(context, result == LikeResult::Yes ? 1 : 0);
+}
+
+}  // namespace
+
+void RegisterEngineFunctions(sqlite3* connection) {
+  const auto add = [connection](const char* name, int arguments,
+                                void (*function)(sqlite3_context*, int, sqlite3_value**)) {
+    sqlite3_create_function_v2(connection, name, arguments, SQLITE_UTF8 | SQLITE_DETERMINISTIC,
+                               nullptr, function, nullptr, nullptr, nullptr);
+  };
+  add("ucase", 1, UcaseFunction);
+  add("len", 1, LenFunction);
+  add("left", 2, CutFunction<Left>);
+  add("right", 2, CutFunction<Right>);
+  add("isnull", 1, IsNullFunction);
+  add("like", 2, LikeFunction);
+  add("fitlong", 1, FitFunction<-2147483648LL, 2147483647LL>);
+  add("fitbyte", 1, FitFunction<0, 255>);
+}
+
+}  // namespace orrerix

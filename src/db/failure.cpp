@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+#include "db/failure.h"
+
+#include <utility>
+
+namespace orrerix {
+
+Failure EngineFailure(int number, std::string description) {
+  return {number, std::move(description), "Database engine"};
+}
+
+Failure RuntimeFailure(int number) {
+  return {number, std::string(StandardMessage(number)), "Orrerix"};
+}
+
+std::string_view StandardMessage(int number) {
+  switch (number) {
+    case failure_number::kInvalidProcedureCall: return "Invalid procedure call or argument";
+    case failure_number::kOverflow: return "Overflow";
+    case failure_number::kOutOfMemory: return "Out of memory";
+    case failure_number::kSubscriptOutOfRange: return "Subscript out of range";
+    case failure_number::kDivisionByZero: return "Division by zero";
+    case failure_number::kFileNotFound: return "File not found";
+    case failure_number::kPathFileAccess: return "Path/File access error";
+    case failure_number::kInvalidPattern: return "Invalid pattern string";
+    case failure_number::kInvalidUseOfNull: return "Invalid use of Null";
+    default: return "Application-defined or object-defined error";
+  }
+}
+
+}  // namespace orrerix

@@ -1,0 +1,286 @@
+// SPDX-License-Identifier: MIT
+#include "db/recordset.h"
+
+#include <cmath>
+#include <utility>
+
+#include <fmt/format.h>
+
+#include "db/connection.h"
+#include "db/number_text.h"
+#include "db/query_text.h"
+#include "db/text.h"
+
+namespace orrerix {
+namespace {
+
+// A definition of a result's columns that says no more than their names.
+std::shared_ptr<const TableDef> ColumnsOf(sqlite3_stmt* statement) {
+  auto columns = std::make_shared<TableDef>();
+  for (int i = 0; i < sqlite3_column_count(statement); ++i) {
+    Field field;
+    field.Name = sqlite3_column_name(statement, i);
+    columns->Fields.push_back(std::move(field));
+  }
+  return columns;
+}
+
+Failure NoCurrentRecord() {
+  return EngineFailure(failure_number::kNoCurrentRecord, "No current record.");
+}
+
+Assignment Keep(Value value) {
+  return {std::move(value), std::nullopt};
+}
+
+Assignment Refuse(Failure failure) {
+  return {Value(), std::move(failure)};
+}
+
+Assignment AssignText(const Field& field, std::string_view table, std::string text) {
+  if (text.empty() && !field.AllowZeroLength) {
+    return Refuse(EngineFailure(
+        failure_number::kZeroLength,
+        fmt::format("Field '{}.{}' can't be a zero-length string.", table, field.Name)));
+  }
+  if (field.Type == FieldType::Text && text.size() > field.Size && Len(text) > field.Size) {
+    return Refuse(EngineFailure(failure_number::kFieldTooSmall,
+                                "The field is too small to accept the amount of data you attempted "
+                                "to add."));
+  }
+  return Keep(std::move(text));
+}
+
+Assignment AssignWhole(double number, double lowest, double highest) {
+  const double whole = RoundToEven(number);
+  if (!(whole >= lowest && whole <= highest)) {
+    return Refuse(RuntimeFailure(failure_number::kOverflow));
+  }
+  return Keep(static_cast<std::int64_t>(whole));
+}
+
+}  // namespace
+
+Assignment AssignTo(const Field& field, std::string_view table, const Value& value) {
+  if (value.IsNull()) return Keep(Value());
+  switch (field.Type) {
+    case FieldType::Text:
+    case FieldType::Memo: return AssignText(field, table, value.Text());
+    case FieldType::Boolean: return Keep(value.Number() != 0 ? 1 : 0);
+    case FieldType::Byte: return AssignWhole(value.Number(), 0, 255);
+    case FieldType::Integer: return AssignWhole(value.Number(), -32768, 32767);
+    case FieldType::Long: return AssignWhole(value.Number(), -2147483648.0, 2147483647.0);
+    case FieldType::Double: break;
+  }
+  if (!std::isfinite(value.Number())) return Refuse(RuntimeFailure(failure_number::kOverflow));
+  return Keep(value.Number());
+}
+
+Value FieldRef::Get() const {
+  return recordset_.Read(field_);
+}
+
+std::string FieldRef::RequireText() const {
+  const Value value = Get();
+  if (value.IsNull()) throw RuntimeFailure(failure_number::kInvalidUseOfNull);
+  return value.Text();
+}
+
+std::int32_t FieldRef::RequireLong() const {
+  const Value value = Get();
+  if (value.IsNull()) throw RuntimeFailure(failure_number::kInvalidUseOfNull);
+  const auto number = ToLong(value.Number());
+  if (!number) throw RuntimeFailure(failure_number::kOverflow);
+  return *number;
+}
+
+const FieldRef& FieldRef::operator=(const Value& value) const {
+  recordset_.Assign(field_, value);
+  return *this;
+}
+
+void Recordset::ReadRows(const Statement& statement, RecordsetType type) {
+  StatementLoan loan(connection_->Prepare(statement.Sql));
+  BindAll(loan.get(), statement.Bound);
+  editable_ = type == RecordsetType::Dynaset;
+  table_ = editable_ ? connection_->Find(statement.Table) : ColumnsOf(loan.get());
+  if (table_ == nullptr) {
+    throw EngineFailure(failure_number::kNoSuchTable, "The rows of this query cannot be edited.");
+  }
+  const int fields = static_cast<int>(table_->Fields.size());
+  int result = sqlite3_step(loan.get());
+  for (; result == SQLITE_ROW; result = sqlite3_step(loan.get())) {
+    for (int i = 0; i < fields; ++i) cells_.push_back(Column(loan.get(), i));
+    if (editable_) rowids_.push_back(sqlite3_column_int64(loan.get(), fields));
+    ++rowCount_;
+  }
+  if (result != SQLITE_DONE) {
+    const Failure failure = connection_->LastFailure();
+    cells_.clear();
+    rowids_.clear();
+    rowCount_ = 0;
+    throw failure;
+  }
+}
+
+void Recordset::MoveNext() {
+  if (AtEnd()) {
+    if (sink_ != nullptr) sink_->Fail(NoCurrentRecord());
+    return;
+  }
+  ++current_;
+}
+
+std::optional<std::size_t> Recordset::FindField(std::string_view name) const {
+  return table_ == nullptr ? std::nullopt : table_->Find(name);
+}
+
+FieldRef Recordset::operator[](std::string_view field) {
+  return FieldRef(*this, FindField(field));
+}
+
+FieldRef Recordset::operator[](std::size_t field) {
+  return FieldRef(*this, field);
+}
+
+Value Recordset::Read(std::optional<std::size_t> field) const {
+  if (editing_ == Editing::None && AtEnd()) {
+    if (sink_ != nullptr) sink_->Fail(NoCurrentRecord());
+    return {};
+  }
+  if (!field) {
+    sink_->Fail(EngineFailure(failure_number::kNoSuchItem, "Item not found in this collection."));
+    return {};
+  }
+  if (editing_ != Editing::None) return edited_[*field];
+  return cells_[current_ * table_->Fields.size() + *field];
+}
+
+void Recordset::Assign(std::optional<std::size_t> field, const Value& value) {
+  if (editing_ == Editing::None) {
+    if (sink_ == nullptr) return;
+    return sink_->Fail(EngineFailure(3020, "Update or CancelUpdate without AddNew or Edit."));
+  }
+  if (!field) {
+    return sink_->Fail(
+        EngineFailure(failure_number::kNoSuchItem, "Item not found in this collection."));
+  }
+  Assignment assignment = AssignTo(table_->Fields[*field], table_->Name, value);
+  if (assignment.Refused) return sink_->Fail(*assignment.Refused);
+  edited_[*field] = std::move(assignment.Kept);
+  assigned_[*field] = true;
+}
+
+void Recordset::AddNew() {
+  if (!editable_) {
+    if (sink_ != nullptr) {
+      sink_->Fail(EngineFailure(failure_number::kReadOnly, "The recordset is read-only."));
+    }
+    return;
+  }
+  const std::size_t fields = table_->Fields.size();
+  edited_.assign(fields, Value());
+  assigned_.assign(fields, false);
+  for (std::size_t i = 0; i < fields; ++i) {
+    if (table_->Fields[i].Type == FieldType::Boolean) edited_[i] = 0;
+  }
+  editing_ = Editing::Added;
+}
+
+void Recordset::Edit() {
+  if (AtEnd() || !editable_) {
+    if (sink_ != nullptr) sink_->Fail(NoCurrentRecord());
+    return;
+  }
+  const auto row = cells_.begin() + static_cast<std::ptrdiff_t>(current_ * table_->Fields.size());
+  edited_.assign(row, row + static_cast<std::ptrdiff_t>(table_->Fields.size()));
+  assigned_.assign(table_->Fields.size(), false);
+  editing_ = Editing::Changed;
+}
+
+bool Recordset::KeyHoldsNull() const {
+  if (!table_->PrimaryKey) return false;
+  for (const std::string& field : table_->PrimaryKey->Fields) {
+    if (edited_[*table_->Find(field)].IsNull()) return true;
+  }
+  return false;
+}
+
+void Recordset::Update() {
+  if (editing_ == Editing::None) {
+    if (sink_ == nullptr) return;
+    return sink_->Fail(EngineFailure(3020, "Update or CancelUpdate without AddNew or Edit."));
+  }
+  const Editing editing = std::exchange(editing_, Editing::None);
+  std::optional<Failure> failed;
+  try {
+    if (KeyHoldsNull()) {
+      throw EngineFailure(failure_number::kNullInKey,
+                          "Index or primary key can't contain a Null value.");
+    }
+    connection_->RequireOpen();
+    editing == Editing::Added ? Insert() : Rewrite();
+  } catch (const Failure& failure) {
+    failed = failure;
+  }
+  if (failed) sink_->Fail(*failed);
+}
+
+// Fields with a default of the engine's own are left to it unless they were assigned.
+std::string Recordset::InsertStatement() const {
+  std::string columns;
+  std::string parameters;
+  for (std::size_t i = 0; i < table_->Fields.size(); ++i) {
+    if (table_->Fields[i].IsUniqueID && !assigned_[i]) continue;
+    if (!columns.empty()) columns += ",", parameters += ",";
+    columns += QuoteName(table_->Fields[i].Name);
+    parameters += fmt::format("?{}", i + 1);
+  }
+  return "INSERT INTO " + QuoteName(table_->Name) + " (" + columns + ") VALUES (" + parameters +
+         ")";
+}
+
+void Recordset::Insert() {
+  bool assignsID = false;
+  for (std::size_t i = 0; i < edited_.size(); ++i) {
+    assignsID = assignsID || (table_->Fields[i].IsUniqueID && assigned_[i]);
+  }
+  if (!assignsID && insertStatement_.empty()) insertStatement_ = InsertStatement();
+  StatementLoan insert(connection_->Prepare(assignsID ? InsertStatement() : insertStatement_));
+  for (std::size_t i = 0; i < edited_.size(); ++i) {
+    if (table_->Fields[i].IsUniqueID && !assigned_[i]) continue;
+    Bind(insert.get(), static_cast<int>(i) + 1, edited_[i]);
+  }
+  if (sqlite3_step(insert.get()) != SQLITE_DONE) throw connection_->LastFailure();
+}
+
+// Only what was assigned is written, so that an edit never undoes another one's.
+void Recordset::Rewrite() {
+  std::string assignments;
+  for (std::size_t i = 0; i < edited_.size(); ++i) {
+    if (!assigned_[i]) continue;
+    if (!assignments.empty()) assignments += ", ";
+    assignments += fmt::format("{} = ?{}", QuoteName(table_->Fields[i].Name), i + 1);
+  }
+  if (assignments.empty()) return;
+  StatementLoan update(connection_->Prepare("UPDATE " + QuoteName(table_->Name) + " SET " +
+                                            assignments +
+                                            fmt::format(" WHERE rowid = ?{}", edited_.size() + 1)));
+  for (std::size_t i = 0; i < edited_.size(); ++i) {
+    if (assigned_[i]) Bind(update.get(), static_cast<int>(i) + 1, edited_[i]);
+  }
+  Bind(update.get(), static_cast<int>(edited_.size()) + 1, rowids_[current_]);
+  if (sqlite3_step(update.get()) != SQLITE_DONE) throw connection_->LastFailure();
+  std::move(edited_.begin(), edited_.end(),
+            cells_.begin() + static_cast<std::ptrdiff_t>(current_ * edited_.size()));
+}
+
+void Recordset::CancelUpdate() {
+  editing_ = Editing::None;
+}
+
+void Recordset::Close() {
+  *this = Recordset();
+}
+
+}  // namespace orrerix

@@ -1,0 +1,118 @@
+// SPDX-License-Identifier: MIT
+// The rows of a query or a table, one of them current, edited field by field.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "db/failure.h"
+#include "db/table_def.h"
+#include "db/value.h"
+
+namespace orrerix {
+
+class Connection;
+class Recordset;
+struct Statement;
+
+// Whether the rows of a recordset can be edited and added to.
+enum class RecordsetType { Snapshot, Dynaset };
+
+// One field of the current row, or of the row being edited.
+class FieldRef {
+ public:
+  // Reading fails with 3021 where no row is and with 3265 where no such field is; both give Null.
+  Value Get() const;
+
+  // The content where Null will not do: both throw failure 94 on Null, and RequireLong throws 6
+  // outside 32 bits.
+  std::string RequireText() const;
+  std::int32_t RequireLong() const;
+
+  bool IsNull() const { return Get().IsNull(); }
+
+  // Assigns to the row being edited. Fails with 3163 (text too long), 3315 (empty text in a field
+  // that takes none), 6 (number outside the type) and 3020 (no row is edited); the field then
+  // keeps its content. A real number in an integer field is rounded, ties to even.
+  const FieldRef& operator=(const Value& value) const;
+  FieldRef& operator=(const FieldRef&) = delete;
+  FieldRef(const FieldRef&) = default;
+
+ private:
+  friend class Recordset;
+  FieldRef(Recordset& recordset, std::optional<std::size_t> field)
+      : recordset_(recordset), field_(field) {}
+
+  Recordset& recordset_;
+  std::optional<std::size_t> field_;
+};
+
+// What a field of this definition keeps of a value, or why it takes none.
+struct Assignment {
+  Value Kept;
+  std::optional<Failure> Refused;
+};
+Assignment AssignTo(const Field& field, std::string_view table, const Value& value);
+
+// All rows are read when the recordset is opened, so that stages may change tables while they walk
+// them. Every failed operation goes to the sink of the routine that opened the recordset. Once
+// its database is closed a recordset can still be read; its edits fail with 3420.
+class Recordset {
+ public:
+  Recordset() = default;
+  Recordset(Recordset&&) noexcept = default;
+  Recordset& operator=(Recordset&&) noexcept = default;
+
+  bool AtEnd() const { return current_ >= rowCount_; }
+  bool Empty() const { return rowCount_ == 0; }
+  std::size_t RecordCount() const { return rowCount_; }
+  void MoveNext();
+  void MoveFirst() { current_ = 0; }
+
+  FieldRef operator[](std::string_view field);
+  FieldRef operator[](std::size_t field);
+
+  // Begins a new row, or the change of the current one. An edit that is open is dropped.
+  void AddNew();
+  void Edit();
+
+  // Writes the row. Fails with 3022 (key exists) and 3058 (Null in a key). Failed or not, the
+  // recordset is no longer being edited.
+  void Update();
+  void CancelUpdate();
+  void Close();
+
+ private:
+  friend class Database;
+  friend class FieldRef;
+  enum class Editing { None, Added, Changed };
+
+  void ReadRows(const Statement& statement, RecordsetType type);
+  Value Read(std::optional<std::size_t> field) const;
+  void Assign(std::optional<std::size_t> field, const Value& value);
+  std::optional<std::size_t> FindField(std::string_view name) const;
+  bool KeyHoldsNull() const;
+  void Insert();
+  void Rewrite();
+  std::string InsertStatement() const;
+
+  FailureSink* sink_ = nullptr;
+  std::shared_ptr<Connection> connection_;
+  std::shared_ptr<const TableDef> table_;  // definition of the fields; of one table if editable
+  bool editable_ = false;
+  std::vector<Value> cells_;  // row by row
+  std::vector<std::int64_t> rowids_;
+  std::size_t rowCount_ = 0;
+  std::size_t current_ = 0;
+  Editing editing_ = Editing::None;
+  std::vector<Value> edited_;
+  std::vector<bool> assigned_;
+  std::string insertStatement_;  // of a row whose unique ID is left to the engine
+};
+
+}  // namespace orrerix

@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: MIT
+#include <cstdio>
+#include <exception>
+#include <string>
+
+#include <CLI/CLI.hpp>
+#include <fmt/core.h>
+
+#include "demo/demo_game.h"
+
+namespace {
+
+constexpr int Failed = 1;
+constexpr int WrongUsage = 2;
+
+struct Request {
+  std::string Folder;
+  int Systems = orrerix::DefaultDemoSystems;
+};
+
+void Describe(CLI::App& app, Request& request) {
+  app.add_option("DIR", request.Folder, "Folder to write: new, empty, or an earlier demo game")
+      ->required();
+  app.add_option("--systems", request.Systems, "Number of star systems")
+      ->check(CLI::Range(orrerix::demo::FewestSystems, orrerix::demo::MostSystems))
+      ->capture_default_str();
+  app.set_version_flag("--version", "orrerix-demo " ORRERIX_VERSION);
+}
+
+int Write(const Request& request) {
+  try {
+    orrerix::WriteDemoGame(request.Folder, request.Systems);
+  } catch (const std::exception& error) {
+    fmt::print(stderr, "orrerix-demo: {}\n", error.what());
+    return Failed;
+  }
+  fmt::print("Wrote a game of {} systems to {}\n", request.Systems, request.Folder);
+  return 0;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  CLI::App app(
+      "Writes a made-up game with everything that Orrerix reads, for demonstrations and tests.",
+      "orrerix-demo");
+  Request request;
+  try {
+    Describe(app, request);
+    app.parse(argc, argv);
+  } catch (const CLI::ParseError& error) {
+    return app.exit(error) == 0 ? 0 : WrongUsage;
+  }
+  return Write(request);
+}

@@ -1,0 +1,113 @@
+// SPDX-License-Identifier: MIT
+#include "derived/base_prices.h"
+
+#include <cmath>
+
+#include "db/text.h"
+#include "derived/lookup.h"
+#include "platform/tick_count.h"
+#include "shell/routine.h"
+
+namespace orrerix {
+namespace {
+
+// Market lines of goods or bases that do not exist give no row, so inner joins will do; their
+// order is the one in which the indexes serve them.
+constexpr std::string_view kAppendPrices =
+    "INSERT INTO BaseGoodPrices (BaseNick, GoodNick, Price, Sell, SysNick) "
+    "SELECT Objects.nickname, BaseGoods.GoodNick, fitlong(Goods.price*BaseGoods.val6) AS Preis, "
+    "fitbyte(1+BaseGoods.val5) AS Sell, "
+    "IIf(sys_nick Is Null,Left(BaseGoods.Base,4),sys_nick) AS SysNick "
+    "FROM BaseGoods CROSS JOIN Goods ON Goods.nickname = BaseGoods.GoodNick "
+    "CROSS JOIN Objects ON BaseGoods.Base = Objects.dock_with "
+    "WHERE Len(Objects.nickname) > 0 And ucase(Goods.category) Like 'COMMODITY' "
+    "ORDER BY Goods.realname, BaseGoods.rowid, Objects.rowid";
+
+class PriceStage {
+ public:
+  PriceStage(FailureSink& caller, Import& import)
+      : caller_(caller),
+        import_(import),
+        db_(import.Target.DB),
+        prices_(db_.OpenTable(caller, "BaseGoodPrices")) {}
+
+  void Run() {
+    Recordset objects =
+        db_.OpenRecordset(caller_, "SELECT * from Objects WHERE len(dock_with)>0", {},
+                          RecordsetType::Dynaset);
+    const auto count = static_cast<std::int32_t>(objects.RecordCount());
+    ++import_.Progress.ImportDone;
+    import_.ProgressIt(count, 0);
+    std::uint32_t lastTick = import_.Host.TickCount();
+    for (std::int32_t done = 0; !objects.AtEnd(); objects.MoveNext(), ++done) {
+      if (IsDue(import_.Host.TickCount(), lastTick)) {
+        import_.ProgressIt(count, done);
+        lastTick = import_.Host.TickCount();
+      }
+      PriceObject(objects);
+    }
+    import_.ProgressIt(count, count);
+  }
+
+ private:
+  void PriceObject(Recordset& object) {
+    const std::string base = Ucase(object["dock_with"].Get().Text());
+    if (db_.OpenRecordset(caller_,
+                          "SELECT * from BaseGoods WHERE ucase(Base) = '{}' AND ucase(GoodNick) "
+                          "like 'COMMODITY_*'",
+                          {base})
+            .AtEnd()) {
+      return;
+    }
+    object.Edit();
+    object["has_commodities"] = 1;
+    object.Update();
+    for (Recordset goods = db_.OpenRecordset(
+             caller_, "SELECT * from Goods WHERE ucase(category) = 'COMMODITY' ORDER BY realname");
+         !goods.AtEnd(); goods.MoveNext()) {
+      PriceGood(object, base, goods);
+    }
+  }
+
+  void PriceGood(Recordset& object, const std::string& base, Recordset& good) {
+    const std::string nickname = good["nickname"].Get().Text();
+    const double price = good["price"].Get().Number();
+    Recordset market = db_.OpenRecordset(
+        caller_,
+        "SELECT * from BaseGoods WHERE ucase(Base) = '{}' AND ucase(GoodNick) = '{}'",
+        {base, Ucase(nickname)});
+    prices_.AddNew();
+    prices_["SysNick"] = object["sys_nick"].Get();
+    prices_["BaseNick"] = object["nickname"].Get();
+    prices_["GoodNick"] = nickname;
+    prices_["Price"] = price;
+    prices_["Sell"] = 0;
+    if (!market.AtEnd()) {
+      prices_["Sell"] = market["val5"].Get().Number() == 0 ? 2 : 1;
+      prices_["Price"] = std::floor(price * market["val6"].Get().Number());
+    }
+    prices_.Update();
+  }
+
+  FailureSink& caller_;
+  Import& import_;
+  Database& db_;
+  Recordset prices_;
+};
+
+}  // namespace
+
+void CalcBasePrices2(Universe& universe) {
+  Routine routine(universe.Log, "OrrerixMain.CalcBasePrices2");
+  routine.Run([&] {
+    LookUpBy(routine, universe, "Objects", "dock_with");
+    LookUpBy(routine, universe, "Goods", "nickname");
+    universe.DB.Execute(routine, kAppendPrices, {}, ExecuteOption::DropBadRows);
+  });
+}
+
+void CalcBasePrices(FailureSink& caller, Import& import) {
+  PriceStage(caller, import).Run();
+}
+
+}  // namespace orrerix

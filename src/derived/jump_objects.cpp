@@ -1,0 +1,131 @@
+// SPDX-License-Identifier: MIT
+#include "derived/jump_objects.h"
+
+#include <fmt/format.h>
+
+#include "db/schema.h"
+#include "db/text.h"
+#include "derived/lookup.h"
+#include "derived/system_grid.h"
+#include "import/block_text.h"
+#include "shell/routine.h"
+
+namespace orrerix {
+namespace {
+
+// One end of a connection. What a failed step leaves unset keeps its last content.
+struct JumpEnd {
+  std::string Nickname;
+  MapCell Cell;
+  double Scale = 1;
+  CellFraction Place;
+};
+
+class JumpStage {
+ public:
+  JumpStage(Routine& routine, Universe& universe, ImportHost& host)
+      : routine_(routine), universe_(universe), host_(host), grid_(routine, universe) {}
+
+  void Run() {
+    universe_.DB.CreateTable(routine_, JumpNodesTable());
+    LookUpBy(routine_, universe_, "JumpNodes", "ucase(nickname)");
+    LookUpBy(routine_, universe_, "Objects", "ucase(nickname)");
+    nodes_ = universe_.DB.OpenTable(routine_, "JumpNodes");
+    for (Recordset objects = universe_.DB.OpenRecordset(
+             routine_, "SELECT * from Objects where len(jump_effect)>0 ORDER BY jump_effect");
+         !objects.AtEnd(); objects.MoveNext()) {
+      Connect(objects);
+      host_.Yield();
+    }
+  }
+
+ private:
+  void Connect(Recordset& object) {
+    const std::string target = object["goto"].Get().Text();
+    from_.Nickname = object["nickname"].Get().Text();
+    Locate(from_, object["sys_nick"].Get().Text());
+    std::string system = target;
+    routine_.Try([&] { system = RequireBeforeComma(target); });
+    Locate(to_, system);
+    Place(from_, object["pos"].Get().Text());
+
+    to_.Nickname = TargetNickname(target);
+    to_.Place = {};
+    Recordset found = ObjectNamed(routine_, universe_, to_.Nickname);
+    if (found.AtEnd()) return;
+    Place(to_, TargetPosition(found));
+    to_.Nickname = found["nickname"].Get().Text();
+    if (IsRecorded(to_.Nickname)) return;
+    Append(object["jump_effect"].Get().Text());
+  }
+
+  void Locate(JumpEnd& end, std::string_view system) {
+    end.Cell = grid_.FindCell(system);
+    end.Scale = SystemScale(routine_, universe_, end.Cell);
+  }
+
+  void Place(JumpEnd& end, const std::string& pos) {
+    ObjectPosition position;
+    routine_.Try([&] { position = ParsePosition(pos); });
+    routine_.Try([&] { end.Place.X = MapFraction(position.A, end.Scale); });
+    routine_.Try([&] { end.Place.Y = MapFraction(position.C, end.Scale); });
+  }
+
+  // The second of the parts of `GoTo`.
+  std::string TargetNickname(std::string_view target) {
+    const CommaCut system = CutAtComma(target);
+    std::string_view nickname = system.Found ? system.Behind : system.Before;
+    routine_.Try([&] { nickname = RequireBeforeComma(nickname); });
+    return std::string(Trim(nickname));
+  }
+
+  std::string TargetPosition(Recordset& target) {
+    std::string pos = target["pos"].Get().Text();
+    if (Contains(pos, ",")) return pos;
+    universe_.Log.AddErrorLine(fmt::format(
+        "*=== FL-MOD-ERROR: Objekt {} has no POS = x,z,y! ===*", to_.Nickname));
+    return "0,0,0";
+  }
+
+  // The connection is recorded if its other end was visited before.
+  bool IsRecorded(const std::string& nickname) {
+    return !universe_.DB
+                .OpenRecordset(routine_, "SELECT * FROM JumpNodes WHERE ucase(nickname) = '{}'",
+                               {Ucase(nickname)})
+                .AtEnd();
+  }
+
+  void Append(const std::string& jumpEffect) {
+    nodes_.AddNew();
+    nodes_["nickname"] = from_.Nickname;
+    nodes_["nickname2"] = to_.Nickname;
+    nodes_["MapX1"] = from_.Cell.X;
+    nodes_["MapY1"] = from_.Cell.Y;
+    nodes_["MapX2"] = to_.Cell.X;
+    nodes_["MapY2"] = to_.Cell.Y;
+    nodes_["PosX1"] = from_.Place.X;
+    nodes_["PosY1"] = from_.Place.Y;
+    nodes_["PosX2"] = to_.Place.X;
+    nodes_["PosY2"] = to_.Place.Y;
+    nodes_["Type"] = Contains(Ucase(jumpEffect), "JUMP_EFFECT_HOLE") ? kJumpHole : kJumpGate;
+    nodes_.Update();
+  }
+
+  Routine& routine_;
+  Universe& universe_;
+  ImportHost& host_;
+  SystemGrid grid_;
+  Recordset nodes_;
+  JumpEnd from_;
+  JumpEnd to_;
+};
+
+}  // namespace
+
+void CalcJumpObjects(Universe& universe, ImportHost& host) {
+  Routine routine(universe.Log, "OrrerixMain.CalcJumpObjects",
+                  "While calculating jump-gates/-holes");
+  routine.Run([&] { JumpStage(routine, universe, host).Run(); });
+}
+
+}  // namespace orrerix

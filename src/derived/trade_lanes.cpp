@@ -1,0 +1,128 @@
+// SPDX-License-Identifier: MIT
+#include "derived/trade_lanes.h"
+
+#include <unordered_set>
+
+#include <fmt/format.h>
+
+#include "db/schema.h"
+#include "db/text.h"
+#include "derived/lookup.h"
+#include "derived/system_grid.h"
+#include "shell/routine.h"
+
+namespace orrerix {
+namespace {
+
+// One end of a lane. What a failed step leaves unset keeps its last content.
+struct LaneEnd {
+  std::string Nickname;
+  std::string RealName;
+  MapCell Cell;
+  CellFraction Place;
+};
+
+class LaneStage {
+ public:
+  LaneStage(Routine& routine, Universe& universe, ImportHost& host)
+      : routine_(routine), universe_(universe), host_(host), grid_(routine, universe) {}
+
+  void Run() {
+    universe_.DB.CreateTable(routine_, TradeLanesTable());
+    LookUpBy(routine_, universe_, "TradeLanes", "ucase(nickname)");
+    LookUpBy(routine_, universe_, "Objects", "ucase(nickname)");
+    lanes_ = universe_.DB.OpenTable(routine_, "TradeLanes");
+    for (Recordset starts = universe_.DB.OpenRecordset(
+             routine_, "SELECT * from Objects where len(prev_ring)=0 and len(next_ring)>0");
+         !starts.AtEnd(); starts.MoveNext()) {
+      Walk(starts);
+      host_.Yield();
+    }
+  }
+
+ private:
+  void Walk(Recordset& start) {
+    TakeEnd(first_, start);
+    first_.Nickname = start["nickname"].Get().Text();
+    Recordset end = LastRing(start["next_ring"].Get().Text());
+    last_.Place = {};
+    last_.Nickname.clear();
+    if (!end.AtEnd()) {
+      TakeEnd(last_, end);
+      last_.Nickname = Trim(end["nickname"].Get().Text());
+    }
+    if (!last_.Nickname.empty() && !IsRecorded(last_.Nickname)) Append();
+  }
+
+  // Follows the rings to the end of the chain or to the one before it meets itself. Without a row
+  // if a ring is missing.
+  Recordset LastRing(std::string target) {
+    std::unordered_set<std::string> visited;
+    Recordset ring;
+    while (!target.empty()) {
+      ring = ObjectNamed(routine_, universe_, target);
+      if (ring.AtEnd()) {
+        universe_.Log.AddErrorLine(
+            fmt::format("FL-MOD-ERROR Searching target Tradelane <{}> for <{}>", target,
+                        first_.Nickname));
+        break;
+      }
+      visited.insert(Ucase(target));
+      target = Trim(ring["next_ring"].Get().Text());
+      if (visited.contains(Ucase(target))) break;
+    }
+    return ring;
+  }
+
+  void TakeEnd(LaneEnd& end, Recordset& ring) {
+    end.Cell = grid_.FindCell(ring["sys_nick"].Get().Text());
+    const double scale = SystemScale(routine_, universe_, end.Cell);
+    ObjectPosition position;
+    routine_.Try([&] { position = ParsePosition(ring["pos"].Get().Text()); });
+    routine_.Try([&] { end.Place.X = MapFraction(position.A, scale); });
+    routine_.Try([&] { end.Place.Y = MapFraction(position.C, scale); });
+    end.RealName = ring["realspacename"].Get().Text();
+    if (end.RealName.empty()) end.RealName = "Unknown";
+  }
+
+  bool IsRecorded(const std::string& nickname) {
+    return !universe_.DB
+                .OpenRecordset(routine_, "SELECT * FROM Tradelanes WHERE ucase(nickname) = '{}'",
+                               {Ucase(nickname)})
+                .AtEnd();
+  }
+
+  void Append() {
+    lanes_.AddNew();
+    lanes_["nickname"] = first_.Nickname;
+    lanes_["nickname2"] = last_.Nickname;
+    lanes_["realname"] = first_.RealName;
+    lanes_["realname2"] = last_.RealName;
+    lanes_["MapX1"] = first_.Cell.X;
+    lanes_["MapY1"] = first_.Cell.Y;
+    lanes_["MapX2"] = last_.Cell.X;
+    lanes_["MapY2"] = last_.Cell.Y;
+    lanes_["PosX1"] = first_.Place.X;
+    lanes_["PosY1"] = first_.Place.Y;
+    lanes_["PosX2"] = last_.Place.X;
+    lanes_["PosY2"] = last_.Place.Y;
+    lanes_.Update();
+  }
+
+  Routine& routine_;
+  Universe& universe_;
+  ImportHost& host_;
+  SystemGrid grid_;
+  Recordset lanes_;
+  LaneEnd first_;
+  LaneEnd last_;
+};
+
+}  // namespace
+
+void CalcTradeLanes(Universe& universe, ImportHost& host) {
+  Routine routine(universe.Log, "OrrerixMain.CalcTradeLanes");
+  routine.Run([&] { LaneStage(routine, universe, host).Run(); });
+}
+
+}  // namespace orrerix

@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: MIT
+// Care of the database file between and behind the stages of an import.
+#pragma once
+
+#include <filesystem>
+
+#include "db/engine.h"
+#include "import/import_host.h"
+#include "shell/error_log.h"
+
+namespace orrerix {
+
+// Lets go of a file if it is the one that `database` has open; any other path is no error.
+void CloseDB(Database& database, const std::filesystem::path& path);
+
+// Gives memory and file space back: closes the file, compacts it by way of "Orrerix.ok" and opens
+// it again for building. If the compaction fails, "Orrerix.ok" stays behind and holds the data.
+void CleanUpMemory(ErrorLog& log, ImportHost& host, Database& database,
+                   const std::filesystem::path& saveFolder);
+
+// Copies all tables of a file into a new one, with every Text field cut down to what its longest
+// text needs (254 where there is none). Fields and rows are carried over, keys are not; tables
+// whose names begin with "MSYS" are the engine's own and stay behind. The target is replaced.
+void CrunchTXTFields(ErrorLog& log, const std::filesystem::path& source,
+                     const std::filesystem::path& target, JetVersionOption option);
+
+}  // namespace orrerix

@@ -1,0 +1,184 @@
+// SPDX-License-Identifier: MIT
+#include "import/import_driver.h"
+
+#include <fmt/format.h>
+
+#include "db/schema.h"
+#include "db/text.h"
+#include "import/crunching.h"
+#include "import/ini_reader.h"
+#include "import/resource_strings.h"
+#include "shell/routine.h"
+
+namespace orrerix {
+namespace fs = std::filesystem;
+namespace {
+
+constexpr int kPauseBehindTexts = 500;
+
+// The stages, each a function that reads like the list of its steps.
+class ImportRun {
+ public:
+  ImportRun(ErrorLog& log, ImportHost& host, Database& database, const ImportOrder& order,
+            Routine& routine)
+      : log_(log),
+        host_(host),
+        database_(database),
+        order_(order),
+        routine_(routine),
+        import_{{log, database}, order.Game, host, {}, {}} {}
+
+  void Run(const std::vector<DerivedStage>& stages) {
+    OpenFile();
+    CreateFixedTables();
+    Read("\\exe\\freelancer.ini", "[Resources]");
+    Read("\\data\\universe\\universe.ini", "[System]");
+    CleanUp();
+    ReadTexts();
+    host_.Pause(kPauseBehindTexts);
+    CleanUp();
+    NameSystems();
+    ReadDataFiles();
+    CleanUp();
+    Read("\\data\\missions\\mbases.ini", "[GF_NPC]");
+    import_.Sections.WriteTo(routine_, database_);
+    import_.Sections = {};
+    CleanUp();
+    Derive(stages);
+    StampVersion();
+    Crunch();
+  }
+
+ private:
+  fs::path File() const { return order_.SaveFolder / "Orrerix.fl"; }
+
+  void OpenFile() {
+    std::error_code ignored;
+    database_ = fs::exists(File(), ignored)
+                    ? DBEngine::OpenDatabase(routine_, File())
+                    : DBEngine::CreateDatabase(routine_, File(), order_.Format);
+    database_.UseForBuilding(routine_);
+    database_.Begin(routine_);
+  }
+
+  void CreateFixedTables() {
+    for (const TableDef& table : FixedTables()) database_.CreateTable(routine_, table);
+    // The reader of goods looks commodities up by nickname.
+    database_.ExecuteNative(routine_,
+                            "CREATE INDEX \"commodity lookup\" ON commodity "
+                            "(ucase(nickname) COLLATE NOCASE)");
+  }
+
+  void Read(std::string_view path, std::string_view section, const std::string& system = {}) {
+    ReadINI(import_, order_.Game.Text() + std::string(path), section, system);
+  }
+
+  void CleanUp() { CleanUpMemory(log_, host_, database_, order_.SaveFolder); }
+
+  void ReadTexts() {
+    std::int32_t place = 1;
+    for (Recordset libraries = database_.OpenRecordset(routine_, "SELECT * from resources");
+         !libraries.AtEnd(); libraries.MoveNext(), ++place) {
+      const std::string library = libraries["DLL"].Get().Text();
+      import_.Progress.ImportSteps = routine_.Integer(import_.Progress.ImportSteps + 2);
+      host_.AppendText("\r\n\r\nreading " + library + " Strings/XML-Code...");
+      host_.Yield();
+      ReadHTML_STRData(import_, order_.Game.Text() + "\\exe\\" + library,
+                       routine_.Long(static_cast<double>(place) * kNumbersPerLibrary));
+    }
+  }
+
+  // Names are known only now that the libraries are read.
+  void NameSystems() {
+    for (Recordset systems = database_.OpenRecordset(routine_, "SELECT * from Systems", {},
+                                                     RecordsetType::Dynaset);
+         !systems.AtEnd(); systems.MoveNext()) {
+      systems.Edit();
+      routine_.Try([&] {
+        systems["realname"] = GetName(import_.Target, systems["stridname"].RequireLong(),
+                                      systems["nickname"].RequireText());
+      });
+      systems.Update();
+    }
+  }
+
+  void ReadDataFiles() {
+    for (Recordset files = database_.OpenRecordset(routine_, "SELECT * FROM DataFiles");
+         !files.AtEnd(); files.MoveNext()) {
+      const std::string type = files["type"].Get().Text();
+      if (Ucase(type) == "BASES") {
+        ReadSystemFiles();
+      } else {
+        Read("\\data\\" + files["pathfile"].Get().Text(), "[" + type + "]");
+      }
+    }
+  }
+
+  void ReadSystemFiles() {
+    for (Recordset systems = database_.OpenRecordset(routine_, "SELECT * from Systems");
+         !systems.AtEnd(); systems.MoveNext()) {
+      Read("\\data\\universe\\" + systems["file"].Get().Text(), "[Object]",
+           systems["nickname"].Get().Text());
+    }
+  }
+
+  void Derive(const std::vector<DerivedStage>& stages) {
+    const auto count = static_cast<std::int32_t>(stages.size());
+    for (std::int32_t k = 0; k < count; ++k) {
+      const DerivedStage& stage = stages[static_cast<std::size_t>(k)];
+      import_.ProgressIt(count, k);
+      const std::string text = "\r\n\r\n" + std::string(stage.Text);
+      k < 2 ? host_.ShowText(text) : host_.AppendText(text);
+      host_.Yield();
+      stage.Calculate(import_.Target, host_);
+      if (k + 1 < count) CleanUp();
+    }
+    import_.ProgressIt(count, count);
+    host_.AppendText("\r\n\r\n(DONE)");
+    host_.Yield();
+  }
+
+  void StampVersion() {
+    database_.CreateTable(routine_, VersionTable());
+    Recordset version = database_.OpenTable(routine_, "Version");
+    version.AddNew();
+    version["Version"] = order_.Version.Stamp();
+    version.Update();
+  }
+
+  void Crunch() {
+    const fs::path build = order_.SaveFolder / "build.mdb";
+    CloseDB(database_, File());
+    std::error_code error;
+    fs::remove(build, error);
+    routine_.Try([&] {
+      fs::rename(File(), build, error);
+      if (error) {
+        throw Failure{failure_number::kPathFileAccess,
+                      fmt::format("Path/File access error: cannot rename '{}': {}",
+                                  File().string(), error.message())};
+      }
+    });
+    CrunchTXTFields(log_, build, File(), order_.Format);
+    fs::remove(build, error);
+    database_ = DBEngine::OpenDatabase(routine_, File());
+  }
+
+  ErrorLog& log_;
+  ImportHost& host_;
+  Database& database_;
+  const ImportOrder& order_;
+  Routine& routine_;
+  Import import_;
+};
+
+}  // namespace
+
+bool ImportGame(ErrorLog& log, ImportHost& host, Database& database, const ImportOrder& order,
+                const std::vector<DerivedStage>& stages) {
+  Routine routine(log, "OrrerixMain.Command1_Click", "While getting Data from FreeLancer");
+  return routine.Run(
+      [&] { ImportRun(log, host, database, order, routine).Run(stages); });
+}
+
+}  // namespace orrerix

@@ -1,0 +1,187 @@
+// SPDX-License-Identifier: MIT
+#include "import/section_tables.h"
+
+#include <algorithm>
+
+#include <fmt/format.h>
+
+#include "db/schema.h"
+#include "db/text.h"
+
+namespace orrerix {
+namespace {
+
+// The engine's limit of 2,000 columns, less the row number.
+constexpr std::size_t kMostFields = 1999;
+
+constexpr std::string_view kSourceFileName = "SourceFileName";
+
+void RequireName(std::string_view name) {
+  if (name.find('\0') == std::string_view::npos) return;
+  throw EngineFailure(3125, "A name with a character of code 0 is not a valid name.");
+}
+
+TableDef DefinitionOf(std::string_view name, const std::vector<std::string>& fields) {
+  TableDef table = GenericTable(name);
+  for (const std::string& field : fields) {
+    if (field != kSourceFileName) table.Fields.push_back(Field{field});
+  }
+  return table;
+}
+
+}  // namespace
+
+SectionTable::SectionTable(std::string name) : name_(std::move(name)) {
+  fields_.emplace_back(kSourceFileName);
+  places_.emplace(kSourceFileName, 0);
+}
+
+std::optional<SectionTable::FieldIndex> SectionTable::FindField(std::string_view name) const {
+  const auto found = places_.find(std::string(name));
+  return found == places_.end() ? std::nullopt : std::optional(found->second);
+}
+
+SectionTable::FieldIndex SectionTable::AddField(std::string_view name) {
+  if (EqualIgnoringCase(name, kSourceFileName) || EqualIgnoringCase(name, "OX_ID")) {
+    throw EngineFailure(failure_number::kFieldDefinedTwice,
+                        "Can't define field more than once.");
+  }
+  RequireName(name);
+  if (fields_.size() >= kMostFields) {
+    throw EngineFailure(failure_number::kTooManyFields, "Too many fields defined.");
+  }
+  fields_.emplace_back(name);
+  places_.emplace(name, fields_.size() - 1);
+  return fields_.size() - 1;
+}
+
+const std::string* SectionTable::Row::Find(FieldIndex field) const {
+  for (const Cell& cell : Cells) {
+    if (cell.Field == field) return &cell.Text;
+  }
+  return nullptr;
+}
+
+std::optional<std::string> SectionTable::KeyOf(const Row& row) const {
+  const std::string* key = row.Find(*keyField_);
+  return key == nullptr ? std::nullopt : std::optional(FoldAscii(*key));
+}
+
+void SectionTable::MakeNicknameKey() {
+  keyField_ = FindField("nickname");
+  keys_.clear();
+  for (const auto& row : rows_) {
+    const auto key = KeyOf(*row);
+    if (!key || !keys_.insert(*key).second) {
+      keyField_.reset();
+      throw key ? EngineFailure(failure_number::kDuplicateKey,
+                                "The changes you requested were not successful because they would "
+                                "create duplicate values in the index.")
+                : EngineFailure(failure_number::kNullInKey,
+                                "Index or primary key can't contain a Null value.");
+    }
+  }
+}
+
+void SectionTable::AddNew() {
+  edited_ = std::make_unique<Row>();
+  edited_->ID = rowID_ = ++lastID_;
+  editedPlace_.reset();
+}
+
+void SectionTable::Edit(std::int32_t rowID) {
+  // The row in question is the last one written, if it was written at all.
+  const auto found = std::find_if(rows_.rbegin(), rows_.rend(),
+                                  [rowID](const auto& row) { return row->ID <= rowID; });
+  if (found == rows_.rend() || (*found)->ID != rowID) {
+    throw EngineFailure(failure_number::kNoCurrentRecord, "No current record.");
+  }
+  edited_ = std::make_unique<Row>(**found);
+  editedPlace_ = static_cast<std::size_t>(rows_.rend() - found) - 1;
+  rowID_ = rowID;
+}
+
+const std::string* SectionTable::Get(FieldIndex field) const {
+  return edited_ == nullptr ? nullptr : edited_->Find(field);
+}
+
+void SectionTable::Set(FieldIndex field, std::string text) {
+  // Most texts are short and full; the others are for the engine's own rules to judge.
+  if (text.empty() || text.size() > kDefaultTextSize) {
+    const Assignment assignment = AssignTo(Field{fields_[field]}, name_, text);
+    if (assignment.Refused) throw *assignment.Refused;
+  }
+  for (Cell& cell : edited_->Cells) {
+    if (cell.Field == field) {
+      cell.Text = std::move(text);
+      return;
+    }
+  }
+  edited_->Cells.push_back({field, std::move(text)});
+}
+
+void SectionTable::CheckKey(const Row& row) {
+  const auto key = KeyOf(row);
+  if (!key) {
+    throw EngineFailure(failure_number::kNullInKey,
+                        "Index or primary key can't contain a Null value.");
+  }
+  const auto before = editedPlace_ ? KeyOf(*rows_[*editedPlace_]) : std::nullopt;
+  if (before == key) return;
+  if (!keys_.insert(*key).second) {
+    throw EngineFailure(failure_number::kDuplicateKey,
+                        "The changes you requested were not successful because they would create "
+                        "duplicate values in the index.");
+  }
+  if (before) keys_.erase(*before);
+}
+
+void SectionTable::Update() {
+  auto row = std::move(edited_);
+  if (keyField_) CheckKey(*row);
+  if (editedPlace_) {
+    rows_[*editedPlace_] = std::move(row);
+  } else {
+    rows_.push_back(std::move(row));
+  }
+}
+
+void SectionTable::CancelUpdate() {
+  edited_.reset();
+}
+
+void SectionTable::WriteTo(FailureSink& sink, Database& database) const {
+  const TableDef definition = DefinitionOf(name_, fields_);
+  database.CreateTable(sink, definition);
+  Appender appender = database.OpenAppender(sink, definition);
+  for (const auto& row : rows_) {
+    appender.Set(0, row->ID);
+    for (const Cell& cell : row->Cells) appender.Set(cell.Field + 1, cell.Text);
+    appender.Append();
+  }
+}
+
+SectionTable& SectionTables::Open(std::string_view name) {
+  if (const auto found = byName_.find(std::string(name)); found != byName_.end()) {
+    return *found->second;
+  }
+  RequireName(name);
+  if (IsOwnTable(name)) {
+    throw EngineFailure(failure_number::kTableExists,
+                        fmt::format("Table '{}' already exists.", name));
+  }
+  tables_.push_back(std::make_unique<SectionTable>(std::string(name)));
+  byName_.emplace(name, tables_.back().get());
+  return *tables_.back();
+}
+
+const SectionTable* SectionTables::Find(std::string_view name) const {
+  const auto found = byName_.find(std::string(name));
+  return found == byName_.end() ? nullptr : found->second;
+}
+
+void SectionTables::WriteTo(FailureSink& sink, Database& database) const {
+  for (const auto& table : tables_) table->WriteTo(sink, database);
+}
+
+}  // namespace orrerix

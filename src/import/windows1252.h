@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: MIT
+// The character set of the game's text files.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace orrerix {
+
+// UTF-8 of Windows-1252 bytes. The five bytes that the character set leaves open stand for the
+// control characters of the same number.
+std::string FromWindows1252(std::string_view bytes);
+
+// Whether the character set has a character for this code point.
+bool IsInWindows1252(char32_t codePoint);
+
+}  // namespace orrerix

@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: MIT
+#include "platform/game_path.h"
+
+#include <algorithm>
+#include <vector>
+
+namespace orrerix {
+namespace fs = std::filesystem;
+namespace {
+
+char LowerAscii(char c) {
+  return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c;
+}
+
+bool EqualIgnoringCase(std::string_view a, std::string_view b) {
+  return a.size() == b.size() &&
+         std::equal(a.begin(), a.end(), b.begin(),
+                    [](char x, char y) { return LowerAscii(x) == LowerAscii(y); });
+}
+
+std::vector<std::string> Components(std::string_view path) {
+  std::vector<std::string> components;
+  while (!path.empty()) {
+    const std::size_t end = path.find_first_of("\\/");
+    std::string component(path.substr(0, end));
+    path.remove_prefix(end == std::string_view::npos ? path.size() : end + 1);
+    if (component != "..") component.erase(component.find_last_not_of(" \t.") + 1);
+    if (!component.empty()) components.push_back(std::move(component));
+  }
+  return components;
+}
+
+// Every other spelling of a name in a folder.
+std::vector<fs::path> Spellings(const fs::path& folder, const std::string& name) {
+  std::vector<fs::path> others;
+  std::error_code error;
+  for (fs::directory_iterator entry(folder, error), end; !error && entry != end;
+       entry.increment(error)) {
+    const std::string found = entry->path().filename().string();
+    if (found != name && EqualIgnoringCase(found, name)) others.push_back(entry->path());
+  }
+  std::sort(others.begin(), others.end());
+  return others;
+}
+
+// Walks down the components from `at` on; `accept` says whether the path found will do.
+template <typename Accept>
+std::optional<fs::path> Find(const fs::path& folder, const std::vector<std::string>& components,
+                             std::size_t at, Accept accept) {
+  if (at == components.size()) return accept(folder) ? std::optional(folder) : std::nullopt;
+  const std::string& name = components[at];
+  if (name == "..") return Find(folder.parent_path(), components, at + 1, accept);
+  const fs::path exact = folder / name;
+  std::error_code error;
+  if (fs::exists(exact, error)) {
+    if (auto found = Find(exact, components, at + 1, accept)) return found;
+  }
+  for (const fs::path& other : Spellings(folder, name)) {
+    if (auto found = Find(other, components, at + 1, accept)) return found;
+  }
+  return std::nullopt;
+}
+
+bool IsFile(const fs::path& path) {
+  std::error_code error;
+  return fs::is_regular_file(path, error);
+}
+
+bool IsFolder(const fs::path& path) {
+  std::error_code error;
+  return fs::is_directory(path, error);
+}
+
+}  // namespace
+
+std::optional<fs::path> FindFolder(const fs::path& below, std::string_view path) {
+  return Find(below, Components(path), 0, IsFolder);
+}
+
+std::optional<fs::path> GameFolder::FindFile(std::string_view path) const {
+  if (!path.starts_with(text_) || path.find('\0') != std::string_view::npos) return std::nullopt;
+  return Find(fs::path(text_), Components(path.substr(text_.size())), 0,
+              IsFile);
+}
+
+}  // namespace orrerix

@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT
+// From the game's own paths to real ones.
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace orrerix {
+
+// The folder at a path of the game's kind below a real folder, found as GameFolder::FindFile finds
+// files; nothing if there is none.
+std::optional<std::filesystem::path> FindFolder(const std::filesystem::path& below,
+                                                std::string_view path);
+
+// The folder of an installed game. Inside the program a path is the text of this folder followed by
+// the game's own "\exe\..." or "\data\...", and that is what is stored, logged and shown.
+class GameFolder {
+ public:
+  explicit GameFolder(std::string text) : text_(std::move(text)) {}
+
+  const std::string& Text() const { return text_; }
+
+  // The real file of a path that begins with Text(); nothing if there is none. "\" and "/" count
+  // alike, the case of each component does not: the exact spelling is tried first, then all others
+  // on disk in byte order, also where two folders differ in case only. Blanks, tabs and dots at
+  // the end of a component are ignored. A folder is no file.
+  std::optional<std::filesystem::path> FindFile(std::string_view path) const;
+
+ private:
+  std::string text_;
+};
+
+}  // namespace orrerix

@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+
+namespace orrerix {
+
+enum class MessageAnswer { Ok, Cancel, Abort, Retry, Ignore };
+enum class MessageButtons { Ok, OkCancel, AbortRetryIgnore };
+enum class MessageIcon { None, Exclamation, Critical };
+
+struct Message {
+  std::string Text;
+  std::string Title;
+  MessageButtons Buttons = MessageButtons::Ok;
+  MessageIcon Icon = MessageIcon::None;
+};
+
+// Shows a message and waits for the user's answer.
+class MessageBoxes {
+ public:
+  virtual ~MessageBoxes() = default;
+  virtual MessageAnswer Show(const Message& message) = 0;
+};
+
+}  // namespace orrerix

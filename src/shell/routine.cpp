@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+#include "shell/routine.h"
+
+#include <utility>
+
+#include "db/number_text.h"
+
+namespace orrerix {
+
+Routine::Routine(ErrorLog& log, std::string_view source, InfoText info)
+    : log_(log), source_(source), info_(std::move(info)) {}
+
+Routine::Routine(ErrorLog& log, std::string_view source, std::string_view info)
+    : log_(log), source_(source) {
+  if (!info.empty()) info_ = [text = std::string(info)] { return text; };
+}
+
+std::int32_t Routine::Long(double number) {
+  const auto whole = ToLong(number);
+  if (!whole) Fail(RuntimeFailure(failure_number::kOverflow));
+  return whole.value_or(0);
+}
+
+std::int16_t Routine::Integer(double number) {
+  const auto whole = ToInteger(number);
+  if (!whole) Fail(RuntimeFailure(failure_number::kOverflow));
+  return whole.value_or(static_cast<std::int16_t>(0));
+}
+
+void Routine::Fail(const Failure& failure) {
+  bool cancelled = false;
+  log_.AddDataError(source_, failure, info_ ? info_() : std::string(), cancelled);
+  if (cancelled) throw Leave{this};
+}
+
+}  // namespace orrerix

@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: MIT
+// The decisions of a start: which engine format, import or map, shortcuts or none.
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+
+#include "db/engine.h"
+#include "shell/error_log.h"
+#include "shell/game_registry.h"
+#include "shell/version.h"
+
+namespace orrerix {
+
+// Probes the engine by creating "Test.mdb" in the application folder, the older format first, and
+// removes it again. Nothing if neither can be created.
+std::optional<JetVersionOption> CheckJetDatabase(const std::filesystem::path& applicationFolder);
+
+// What a start finds in the save folder.
+enum class UniverseState {
+  Usable,      // a finished file of this version
+  Absent,      // none, or one that was not usable and has been deleted
+  Undeletable  // one that is not usable and could not be deleted
+};
+
+// Looks at "Orrerix.fl". A file of another version, a damaged one and the leftovers of a broken
+// import are deleted without asking. A delete that fails is the routine's failure.
+UniverseState ExamineUniverse(FailureSink& routine, const std::filesystem::path& saveFolder,
+                              const AppVersion& version);
+
+// The save folder's part below the personal folder, "\My Games\Freelancer\Accts\SinglePlayer", as
+// a real path. The game makes this folder; with a folder of another case on disk that one counts.
+std::filesystem::path SaveFolderBelow(const std::filesystem::path& personalFolder);
+
+// If the setup program left the marker "CopyLnk" in the application folder: makes the shortcuts on
+// the desktop and in the programs folder, and deletes the marker.
+void MakeShortcuts(ErrorLog& log, FailureSink& routine, const GameRegistry& registry,
+                   const std::filesystem::path& applicationFolder,
+                   const std::filesystem::path& program, const AppVersion& version);
+
+// Makes one shortcut.
+void CreateLink(ErrorLog& log, const std::filesystem::path& target,
+                const std::filesystem::path& link);
+
+// Captions of the main window before the first map, and with it.
+std::string StartCaption(const AppVersion& version);
+std::string MapCaption(const AppVersion& version);
+
+// The message that the game's executable is not in the folder of the path box.
+std::string MissingExecutableText(const std::string& registryPath);
+
+}  // namespace orrerix
