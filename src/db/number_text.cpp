@@ -24,7 +24,7 @@ struct Decimal {
 
 Decimal ToDecimal(double magnitude) {
   Decimal decimal;
-  if (magnitude == 0) return decimal;
+  if (magnitude == 0 || !std::isfinite(magnitude)) return decimal;
   const std::string text = fmt::format("{:.{}e}", magnitude, kSignificantDigits - 1);
   const std::size_t e = text.find('e');
   for (char c : text.substr(0, e)) {

@@ -81,7 +81,9 @@ class Reader {
 
   void ReadBlock(std::string_view block) {
     std::string text = RemoveComments(block);
-    text.erase(0, std::min(text.find('['), text.size()));
+    if (const std::size_t header = text.find('['); header != std::string::npos) {
+      text.erase(0, header);
+    }
     FixCrLf(text);
     if (known_.Read(text)) return;
     try {

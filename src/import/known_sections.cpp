@@ -2,6 +2,7 @@
 #include "import/known_sections.h"
 
 #include <array>
+#include <cmath>
 #include <initializer_list>
 #include <string_view>
 
@@ -42,10 +43,15 @@ void AssignNumbers(Recordset& row, const BlockText& block, std::initializer_list
   for (const auto& [key, field] : keys) row[field] = Val(block.Value(key));
 }
 
+std::string WholeText(double number) {
+  if (!std::isfinite(number)) throw RuntimeFailure(failure_number::kOverflow);
+  return FormatWhole(number);
+}
+
 // The map cell of a system: its column plus 1 and its row plus 2.
 std::string MapCellText(std::string_view pos) {
-  return FormatWhole(Val(RequireBeforeComma(pos)) + 1) + ", " +
-         FormatWhole(Val(RequireBehindComma(pos)) + 2);
+  return WholeText(Val(RequireBeforeComma(pos)) + 1) + ", " +
+         WholeText(Val(RequireBehindComma(pos)) + 2);
 }
 
 // Numbers at the start of a text and behind each further comma; 0 where none is left.

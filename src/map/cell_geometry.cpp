@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+#include "map/cell_geometry.h"
+
+#include "map/numeric.h"
+
+namespace orrerix {
+
+Box FrameOn(int formWidth, int formHeight) {
+  return {50, 50, static_cast<double>(MAXI(0, formWidth - 200)),
+          static_cast<double>(MAXI(0, formHeight - 550))};
+}
+
+CellGeometry::CellGeometry(const Box& frame, const ZoomRectangle& visible)
+    : size_(MINI(WholeTwips(frame.Width / visible.Columns()),
+                 WholeTwips(frame.Height / visible.Rows()))),
+      x1_(visible.X1),
+      y1_(visible.Y1) {}
+
+Box CellGeometry::CellBox(int x, int y) const {
+  return {static_cast<double>(CellLeft(x)), static_cast<double>(CellTop(y)),
+          static_cast<double>(size_), static_cast<double>(size_)};
+}
+
+ScreenPoint CellGeometry::ScreenPosition(MapCell cell, CellFraction point) const {
+  return {static_cast<float>(CellLeft(cell.X) + size_ * point.X),
+          static_cast<float>(CellTop(cell.Y) + size_ * point.Y)};
+}
+
+}  // namespace orrerix

@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+// Numbers of the map: places and sizes in twips.
+#pragma once
+
+#include <algorithm>
+#include <cmath>
+#include <cstdint>
+#include <limits>
+
+namespace orrerix {
+
+// The smaller of two numbers, the first when they are equal.
+template <typename Number>
+constexpr Number MINI(Number a, Number b) {
+  return b < a ? b : a;
+}
+
+// The greater of two numbers: MAXI the first when they are equal, MAX the second.
+template <typename Number>
+constexpr Number MAXI(Number a, Number b) {
+  return b > a ? b : a;
+}
+template <typename Number>
+constexpr Number MAX(Number a, Number b) {
+  return a > b ? a : b;
+}
+
+// A place or size as a whole number of twips, rounded to nearest, ties to even, and kept within 32
+// bits.
+inline std::int32_t WholeTwips(double twips) {
+  const double whole = std::nearbyint(twips);
+  return static_cast<std::int32_t>(
+      std::clamp(whole, static_cast<double>(std::numeric_limits<std::int32_t>::min()),
+                 static_cast<double>(std::numeric_limits<std::int32_t>::max())));
+}
+
+}  // namespace orrerix

@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+#include "map/opt_font_size.h"
+
+#include <cmath>
+#include <cstdlib>
+
+#include "map/numeric.h"
+
+namespace orrerix {
+namespace {
+
+constexpr int kLargestSize = 32767;
+
+// Half a step, rounded down, but at least 1.
+int HalfStep(int step) {
+  return MAXI(1, static_cast<int>(std::floor(step / 2.0)));
+}
+
+}  // namespace
+
+int OptFontSize(std::string_view text, const TextMeasure& measure, int size, int maxWidth) {
+  const auto fits = [&](int points) { return measure.TextWidth(text, points) <= maxWidth; };
+  bool up = fits(size + 1);
+  if (!up && fits(size)) return size;
+  int step = up ? HalfStep(size) : -HalfStep(size);
+  while (true) {
+    if (size + step > kLargestSize) return size;  // a text without width fits any size
+    size = MAXI(1, size + step);
+    if (fits(size)) {
+      if (step == -1) return size;
+      step = up ? std::abs(step) : HalfStep(step);
+      up = true;
+    } else {
+      step = up ? -HalfStep(step) : -std::abs(step);
+      up = false;
+    }
+    if (size == 1) return 1;
+  }
+}
+
+}  // namespace orrerix

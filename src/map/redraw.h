@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: MIT
+// One redraw of the map: from the form's size and the visible rectangle to a drawing list.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "import/universe.h"
+#include "map/cell_geometry.h"
+#include "map/drawing_list.h"
+#include "map/map_coords.h"
+#include "map/map_options.h"
+#include "map/side_panel.h"
+#include "map/text_measure.h"
+#include "map/zoom.h"
+
+namespace orrerix {
+
+// A background tile. Tiles are laid when a zoomed map is drawn and stay from then on.
+struct MapTile {
+  int Left = 0;
+  int Top = 0;
+  bool Visible = false;
+};
+
+// What the map remembers from one redraw to the next.
+struct MapState {
+  ZoomStack Zoom;
+  CellNames Names;
+  std::vector<MapTile> Tiles;
+  bool PrintMode = false;
+  bool OptionsOpen = false;
+};
+
+// What one redraw depends on besides.
+struct MapView {
+  int FormWidth = 0;  // outer size of the form, twips
+  int FormHeight = 0;
+  MapOptions Options;
+  const TextMeasure& Measure;
+  const PanelContent& Panel;
+  std::string StarMapPicture = "StarMapPic";  // or the file that replaces it
+};
+
+enum class PanelPlace { None, Right, Below };
+
+struct MapDrawing {
+  Box Frame;
+  Color FrameColor;
+  bool Zoomed = false;
+  CellGeometry Cells;
+  int FreeRight = 0;  // twips beside the shown cells
+  int FreeBelow = 0;
+  PanelPlace Panel = PanelPlace::None;
+  Box PanelBox;          // MenuFrame(0)
+  bool NewsScrolls = false;
+  ControlList Controls;  // visible children of the frame, back to front
+};
+
+// Draws the map as it stands. The database needs the tables of the derived stages; one without rows
+// gives a map without lines and icons.
+MapDrawing DrawMap(Universe& universe, MapState& state, const MapView& view);
+
+}  // namespace orrerix

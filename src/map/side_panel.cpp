@@ -1,0 +1,278 @@
+// SPDX-License-Identifier: MIT
+#include "map/side_panel.h"
+
+#include <fmt/format.h>
+
+#include "db/number_text.h"
+#include "map/borders.h"
+#include "map/numeric.h"
+#include "map/opt_font_size.h"
+
+namespace orrerix {
+namespace {
+
+constexpr Color kBack{0x400000};
+constexpr Color kText{0x0000FF};
+constexpr Color kOptionText{0x00CCCC};
+constexpr Color kNewsText{0xFFFF80};
+constexpr Color kCreditText{0xC0A080};
+
+constexpr int kTools = 5;
+constexpr int kInnerLeft = 40;  // of the frames within the panel
+constexpr int kInnerRight = 20;
+constexpr int kCheckSize = 225;
+constexpr int kCheckLeft = 120;
+constexpr Box kOptionLabel{0, 0, 1095, 495};
+constexpr int kLanguageLabel = 6;
+constexpr int kShowOptionsHeight = 495;
+constexpr int kNewsHeight = 270;
+constexpr int kSloganFont = 10;
+constexpr int kCreditFont = 8;
+constexpr int kNewsFont = 9;
+constexpr int kOptionFont = 8;
+
+// Design height and width of the head band, as its control carries them.
+constexpr std::string_view kHeadBandTag = "615,8115";
+
+constexpr std::array<const char*, kTools> kToolPictures = {
+    "tools/search_place.svg", "tools/search_ship.svg", "tools/search_equipment.svg",
+    "tools/search_bribe.svg", "tools/print.svg"};
+
+double NotBelowZero(double size) {
+  return MAXI(0.0, size);
+}
+
+Box WithSize(double left, double top, double width, double height) {
+  return {left, top, NotBelowZero(width), NotBelowZero(height)};
+}
+
+Control Label(std::string name, std::optional<int> index, Box place, std::string caption,
+              int fontSize, Color color) {
+  Control label = MakeLabel(std::move(name), index, place, std::move(caption));
+  label.FontSize = fontSize;
+  label.ForeColor = color;
+  return label;
+}
+
+void Append(ControlList& list, ControlList more) {
+  for (Control& control : more) list.push_back(std::move(control));
+}
+
+// Fits a picture of the logo's proportions into a room, as wide as it can be.
+Box FitLogo(const PanelContent& content, double width, double mostHeight) {
+  Box logo = WithSize(0, 0, width, 0);
+  logo.Height = logo.Width / content.LogoWidth * content.LogoHeight;
+  if (mostHeight < logo.Height) {
+    logo.Height = NotBelowZero(mostHeight);
+    logo.Width = NotBelowZero(logo.Height / content.LogoHeight * content.LogoWidth);
+  }
+  return logo;
+}
+
+ControlList NewsLabels(const PanelContent& content, double width, double top) {
+  ControlList labels;
+  for (std::size_t i = 0; i < content.News.size(); ++i) {
+    const NewsItem& item = content.News[i];
+    Control label = Label("InfoBoxLabel", static_cast<int>(i),
+                          {0, top + static_cast<double>(i) * kNewsHeight, width, kNewsHeight},
+                          item.Caption, kNewsFont, kNewsText);
+    label.ToolTip = item.ToolTip;
+    label.Tag = item.Link;
+    labels.push_back(std::move(label));
+  }
+  return labels;
+}
+
+Control Logo(const PanelContent& content, Box place) {
+  Control logo = MakePicture("ImageClan", std::nullopt, place, "logo.png");
+  logo.ToolTip = content.LogoTip;
+  return logo;
+}
+
+// The row of tool icons with its border.
+ControlList Tools(const Box& panel, int iconSize, const PanelContent& content) {
+  ControlList tools;
+  for (int i = 0; i < kTools; ++i) {
+    Control tool = MakePicture("StationSearch", i,
+                               {static_cast<double>(i * iconSize + 50), 50,
+                                static_cast<double>(iconSize), static_cast<double>(iconSize)},
+                               kToolPictures[static_cast<std::size_t>(i)]);
+    tool.ToolTip = content.ToolTips[static_cast<std::size_t>(i)];
+    tools.push_back(std::move(tool));
+  }
+  constexpr int borderGap = 21;
+  Append(tools, SetRahmen(BorderSet::Tools, 0, 0, WholeTwips(panel.Width),
+                          iconSize + 100 - borderGap));
+  return tools;
+}
+
+// The six switches in one or two columns, below `top`.
+ControlList Switches(double frameWidth, double top, const PanelContent& content,
+                     const MapOptions& options) {
+  const double labelLeft = kCheckLeft + kCheckSize;
+  const bool twoColumns = 2 * kOptionLabel.Width + 2 * labelLeft < frameWidth;
+  const double secondLeft = frameWidth - kOptionLabel.Width - labelLeft - kBorderThickness;
+  ControlList switches;
+  for (int i = 0; i < kMapSwitches; ++i) {
+    const int row = twoColumns ? i / 2 : i;
+    const double left = twoColumns && i % 2 == 1 ? secondLeft : kCheckLeft;
+    const double rowTop = top + row * kOptionLabel.Height;
+    const bool on = options.On[static_cast<std::size_t>(i)];
+    Control check = MakePicture("SetImage", i, {left, rowTop, kCheckSize, kCheckSize},
+                                on ? "check_on.svg" : "check_off.svg");
+    check.Tag = on ? "1" : "0";
+    switches.push_back(std::move(check));
+    switches.push_back(Label("SetLabel", i,
+                             {left + kCheckSize, rowTop, kOptionLabel.Width, kOptionLabel.Height},
+                             content.Options[static_cast<std::size_t>(i)], kOptionFont,
+                             kOptionText));
+  }
+  return switches;
+}
+
+Control OptionsFrame(const Box& panel, double top, const PanelContent& content,
+                     const MapOptions& options, bool optionsOpen) {
+  const double width = NotBelowZero(panel.Width - kInnerLeft - kInnerRight);
+  const Box caption{0, kBorderThickness, width, kShowOptionsHeight};
+  const double switchesTop = caption.Bottom() + 2 * kBorderThickness;
+  Control frame = MakeFrame("MenuFrame", 1, {kInnerLeft, top, width, switchesTop}, kBack);
+  frame.Caption = "Show - Options";
+  frame.ForeColor = kText;
+  frame.Children.push_back(Label("ShowOptionsLabel", std::nullopt, caption, content.ShowOptions,
+                                 kNewsFont, kOptionText));
+  frame.Children.push_back(
+      Label("SetLabel", kLanguageLabel,
+            {caption.Right() - kOptionLabel.Width, caption.Bottom() - kOptionLabel.Height,
+             kOptionLabel.Width, kOptionLabel.Height},
+            content.Options[kLanguageLabel], kOptionFont, kOptionText));
+  if (optionsOpen) {
+    ControlList switches = Switches(width, switchesTop, content, options);
+    frame.Place.Height = switches.back().Place.Top + kOptionLabel.Height + kBorderThickness;
+    Append(frame.Children, std::move(switches));
+  }
+  Append(frame.Children, SetRahmen(BorderSet::Options, 0, 0, WholeTwips(width),
+                                   WholeTwips(frame.Place.Height)));
+  return frame;
+}
+
+// Slogan, logo and credit line, placed from the bottom up.
+struct InfoBoxFoot {
+  Control Slogan;
+  Control LogoPicture;
+  Control Credit;
+};
+
+InfoBoxFoot FootOf(const Box& box, const PanelContent& content, const TextMeasure& measure) {
+  const int width = WholeTwips(box.Width);
+  const int sloganFont = OptFontSize(content.Slogan, measure, kSloganFont, width);
+  const int creditFont = OptFontSize(content.Credit, measure, kCreditFont, width / 2);
+  InfoBoxFoot foot{
+      Label("WRTP", 0,
+            {0, 0, box.Width,
+             static_cast<double>(measure.TextHeight(content.Slogan, sloganFont))},
+            content.Slogan, sloganFont, kText),
+      Logo(content, FitLogo(content, box.Width, 0)),
+      Label("WRTP", 1,
+            {0, 0, box.Width,
+             static_cast<double>(measure.TextHeight(content.Credit, creditFont))},
+            content.Credit, creditFont, kCreditText)};
+  foot.Slogan.BackColor = kBack;
+  foot.Slogan.ToolTip = content.SloganTip;
+  Box& logo = foot.LogoPicture.Place;
+  logo = FitLogo(content, box.Width, box.Height - 1000 - foot.Slogan.Place.Height);
+  if (logo.Width < box.Width) logo.Left = box.Width / 2 - logo.Width / 2;
+  foot.Credit.Place.Top = NotBelowZero(box.Height - foot.Credit.Place.Height - 50);
+  logo.Top = NotBelowZero(foot.Credit.Place.Top - logo.Height - 50);
+  foot.Slogan.Place.Top = NotBelowZero(logo.Top - foot.Slogan.Place.Height);
+  return foot;
+}
+
+struct InfoBox {
+  Control Frame;
+  bool NewsScrolls = false;
+};
+
+InfoBox MakeInfoBox(const Box& panel, double top, const PanelContent& content,
+                    const TextMeasure& measure) {
+  InfoBox info;
+  const Box box = WithSize(kInnerLeft, top, panel.Width - kInnerLeft - kInnerRight,
+                           panel.Height - top);
+  info.Frame = MakeFrame("MenuFrame", 2, box, kBack);
+  info.Frame.Caption = "Infobox";
+  info.Frame.ForeColor = kText;
+  InfoBoxFoot foot = FootOf(box, content, measure);
+  const double sloganTop = foot.Slogan.Place.Top;
+
+  const double bandHeight =
+      box.Width / Val(kHeadBandTag.substr(4)) * Val(kHeadBandTag);
+  const Box background =
+      WithSize(kBorderThickness, kBorderThickness, box.Width - 2 * kBorderThickness,
+               sloganTop - kBorderThickness - kBorderThickness);
+  ControlList& children = info.Frame.Children;
+  children.push_back(MakePicture("ITACImage", 1, background, "itac_background.jpg"));
+  children.push_back(MakePicture("ITACImage", 0, {0, kBorderThickness, box.Width, bandHeight},
+                                 "itac_head.png"));
+  children.back().Tag = kHeadBandTag;
+  Append(children, NewsLabels(content, box.Width, kBorderThickness + bandHeight));
+  info.NewsScrolls = !content.News.empty() && children.back().Place.Bottom() > sloganTop;
+  Append(children, SetRahmen(BorderSet::InfoBox, 0, 0, WholeTwips(box.Width),
+                             WholeTwips(sloganTop)));
+  children.push_back(std::move(foot.LogoPicture));
+  children.push_back(std::move(foot.Slogan));
+  children.push_back(std::move(foot.Credit));
+  return info;
+}
+
+}  // namespace
+
+PanelContent PanelTexts(TextSource& texts) {
+  constexpr std::array<int, kTools - 1> toolTips = {9, 10, 11, 27};
+  PanelContent content;
+  for (int i = 0; i < kMapSwitches; ++i) {
+    content.Options[static_cast<std::size_t>(i)] = texts.TXT(i + 1);
+  }
+  content.Options[kLanguageLabel] = texts.TXT(0);
+  content.ShowOptions = texts.TXT(7);
+  content.Slogan = texts.TXT(8);
+  content.SloganTip = texts.TXT(13);
+  content.LogoTip = texts.TXT(14);
+  content.Credit = "Artwork: The Orrerix authors";
+  for (std::size_t i = 0; i < toolTips.size(); ++i) content.ToolTips[i] = texts.TXT(toolTips[i]);
+  content.ToolTips.back() = "Print Map";
+  content.News.push_back(
+      {"OX-Main-Webpage", "The Orrerix Project needs ur Support - click to open it´s MainPage.",
+       ""});
+  return content;
+}
+
+SidePanel LayOutPanelRight(const Box& panel, const PanelContent& content,
+                           const MapOptions& options, bool optionsOpen,
+                           const TextMeasure& measure) {
+  const int iconSize = MAXI(0, WholeTwips((panel.Width - 100) / kTools));
+  SidePanel laidOut;
+  laidOut.Controls = Tools(panel, iconSize, content);
+  Control optionsFrame = OptionsFrame(panel, iconSize + 100, content, options, optionsOpen);
+  const double below = optionsFrame.Place.Bottom();
+  InfoBox info = MakeInfoBox(panel, below, content, measure);
+  laidOut.NewsScrolls = info.NewsScrolls;
+  laidOut.Controls.push_back(std::move(info.Frame));
+  laidOut.Controls.push_back(std::move(optionsFrame));
+  return laidOut;
+}
+
+SidePanel LayOutPanelBelow(const Box& panel, const PanelContent& content) {
+  const Box box = WithSize(0, 0, panel.Width, panel.Height);
+  Control frame = MakeFrame("MenuFrame", 2, box, kBack);
+  frame.Caption = "Infobox";
+  frame.ForeColor = kText;
+  Append(frame.Children, NewsLabels(content, box.Width, 0));
+  Box logo = FitLogo(content, NotBelowZero(box.Width - 100), box.Height - 100);
+  logo.Left = NotBelowZero(box.Width - logo.Width) - 50;
+  logo.Top = NotBelowZero(box.Height - logo.Height) - 50;
+  frame.Children.push_back(Logo(content, logo));
+  SidePanel laidOut;
+  laidOut.Controls.push_back(std::move(frame));
+  return laidOut;
+}
+
+}  // namespace orrerix
