@@ -6,12 +6,6 @@
 #include "db/text.h"
 
 namespace orrerix {
-namespace {
-
-// Statements kept prepared; a program that asks for more begins anew.
-constexpr std::size_t kMostStatements = 400;
-
-}  // namespace
 
 Connection::Connection(sqlite3* handle, std::filesystem::path path)
     : handle_(handle), path_(std::move(path)) {}
@@ -21,6 +15,8 @@ Connection::~Connection() {
 }
 
 void Connection::Close() {
+  queries_.clear();
+  editableQueries_.clear();
   statements_.clear();
   tables_.clear();
   sqlite3_close_v2(handle_);
@@ -36,6 +32,12 @@ sqlite3_stmt* Connection::Prepare(const std::string& sql) {
   if (const auto found = statements_.find(sql); found != statements_.end()) {
     return found->second.get();
   }
+  PreparedStatement prepared = PrepareOnce(sql);
+  return statements_.emplace(sql, std::move(prepared)).first->second.get();
+}
+
+PreparedStatement Connection::PrepareOnce(const std::string& sql) {
+  RequireOpen();
   sqlite3_stmt* statement = nullptr;
   const int result = sqlite3_prepare_v3(handle_, sql.data(), static_cast<int>(sql.size()),
                                         SQLITE_PREPARE_PERSISTENT, &statement, nullptr);
@@ -43,9 +45,7 @@ sqlite3_stmt* Connection::Prepare(const std::string& sql) {
   if (statement == nullptr) {
     throw EngineFailure(failure_number::kSyntaxError, "Syntax error in query expression.");
   }
-  if (statements_.size() >= kMostStatements) statements_.clear();
-  statements_.emplace(sql, statement);
-  return statement;
+  return PreparedStatement(statement);
 }
 
 std::shared_ptr<const TableDef> Connection::Find(std::string_view table) {
@@ -81,8 +81,31 @@ std::shared_ptr<const TableDef> Connection::Find(std::string_view table) {
   return definition;
 }
 
+const Connection::Query& Connection::Remember(std::string_view text, bool withRowid) {
+  RequireOpen();
+  auto& queries = withRowid ? editableQueries_ : queries_;
+  if (const auto found = queries.find(text); found != queries.end()) return found->second;
+  auto translated = TranslateTemplate(text, withRowid);
+  if (const Failure* failure = std::get_if<Failure>(&translated)) throw *failure;
+  Query query;
+  query.Translated = std::get<Statement>(std::move(translated));
+  query.Prepared = Prepare(query.Translated.Sql);
+  query.Columns = withRowid ? Find(query.Translated.Table) : ColumnsOf(query.Prepared);
+  return queries.emplace(text, std::move(query)).first->second;
+}
+
 void Connection::Forget(std::string_view table) {
   tables_.erase(FoldAscii(table));
+}
+
+std::shared_ptr<const TableDef> Connection::ColumnsOf(sqlite3_stmt* statement) {
+  auto columns = std::make_shared<TableDef>();
+  for (int i = 0; i < sqlite3_column_count(statement); ++i) {
+    Field field;
+    field.Name = sqlite3_column_name(statement, i);
+    columns->Fields.push_back(std::move(field));
+  }
+  return columns;
 }
 
 Failure Connection::LastFailure() const {
@@ -128,9 +151,10 @@ Failure Connection::LastFailure() const {
   }
 }
 
-void Bind(sqlite3_stmt* statement, int parameter, const Value& value) {
+void Bind(sqlite3_stmt* statement, int parameter, const Value& value, BoundText bound) {
   if (const std::string* text = value.TextContent()) {
-    sqlite3_bind_text64(statement, parameter, text->data(), text->size(), SQLITE_TRANSIENT,
+    sqlite3_bind_text64(statement, parameter, text->data(), text->size(),
+                        bound == BoundText::Copied ? SQLITE_TRANSIENT : SQLITE_STATIC,
                         SQLITE_UTF8);
   } else if (const std::int64_t* whole = value.Whole()) {
     sqlite3_bind_int64(statement, parameter, *whole);
@@ -143,7 +167,7 @@ void Bind(sqlite3_stmt* statement, int parameter, const Value& value) {
 
 void BindAll(sqlite3_stmt* statement, const std::vector<Value>& values) {
   for (std::size_t i = 0; i < values.size(); ++i) {
-    Bind(statement, static_cast<int>(i) + 1, values[i]);
+    Bind(statement, static_cast<int>(i) + 1, values[i], BoundText::Stays);
   }
 }
 

@@ -13,6 +13,7 @@
 #include <sqlite3.h>
 
 #include "db/failure.h"
+#include "db/query_text.h"
 #include "db/table_def.h"
 #include "db/value.h"
 
@@ -51,12 +52,28 @@ class Connection {
   sqlite3* Handle() const { return handle_; }
   const std::filesystem::path& Path() const { return path_; }
 
-  // The statement for a text, prepared once. Throws a Failure if the text is no statement.
+  // The statement for a text, prepared once and kept until the file is closed. Throws a Failure if
+  // the text is no statement.
   sqlite3_stmt* Prepare(const std::string& sql);
+
+  // A statement that is used this once.
+  PreparedStatement PrepareOnce(const std::string& sql);
+
+  // A query text as it is used again and again with other values; translated once. Throws a Failure
+  // if it is no query. Texts with values written into them are not remembered.
+  struct Query {
+    Statement Translated;
+    sqlite3_stmt* Prepared = nullptr;
+    std::shared_ptr<const TableDef> Columns;
+  };
+  const Query& Remember(std::string_view text, bool withRowid);
 
   // The definition of a table, nothing if there is none of that name in whatever case.
   std::shared_ptr<const TableDef> Find(std::string_view table);
   void Forget(std::string_view table);
+
+  // A definition of a statement's columns that says no more than their names.
+  static std::shared_ptr<const TableDef> ColumnsOf(sqlite3_stmt* statement);
 
   // What the last failed call means in the engine's terms.
   Failure LastFailure() const;
@@ -68,11 +85,16 @@ class Connection {
   sqlite3* handle_;
   std::filesystem::path path_;
   std::unordered_map<std::string, PreparedStatement> statements_;
+  std::map<std::string, Query, std::less<>> queries_;          // as they stand
+  std::map<std::string, Query, std::less<>> editableQueries_;  // with the numbers of their rows
   std::map<std::string, std::shared_ptr<const TableDef>, std::less<>> tables_;
 };
 
 // Binds one parameter, counted from 1, or all of them in their order.
-void Bind(sqlite3_stmt* statement, int parameter, const Value& value);
+// A text that is bound to stay must outlive the statement's run.
+enum class BoundText { Copied, Stays };
+void Bind(sqlite3_stmt* statement, int parameter, const Value& value,
+          BoundText text = BoundText::Copied);
 void BindAll(sqlite3_stmt* statement, const std::vector<Value>& values);
 
 // A column of the current row, counted from 0.

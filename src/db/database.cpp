@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "db/database.h"
 
+#include <algorithm>
 #include <utility>
 
 #include <fmt/format.h>
 
 #include "db/connection.h"
 #include "db/query_text.h"
+#include "db/text.h"
 
 namespace orrerix {
 namespace {
@@ -29,11 +31,23 @@ void StepToEnd(Connection& connection, sqlite3_stmt* statement) {
   if (result != SQLITE_DONE) throw connection.LastFailure();
 }
 
-Statement TranslateOrThrow(std::string_view text, std::initializer_list<Value> values,
-                           bool withRowid = false) {
-  auto translated = Translate(text, values, withRowid);
+// Runs `use` on a query's columns and its statement, with the values bound.
+template <typename Use>
+void WithStatement(Connection& connection, std::string_view text,
+                   std::initializer_list<Value> values, bool withRowid, Use&& use) {
+  if (!MustBeWritten(values)) {
+    const Connection::Query& query = connection.Remember(text, withRowid);
+    const std::vector<Value> bound = BoundValues(query.Translated, values);
+    StatementLoan loan(query.Prepared);
+    BindAll(loan.get(), bound);
+    return use(query.Columns, loan.get());
+  }
+  auto translated = TranslateText(WriteValues(text, values), withRowid);
   if (const Failure* failure = std::get_if<Failure>(&translated)) throw *failure;
-  return std::get<Statement>(std::move(translated));
+  const Statement& statement = std::get<Statement>(translated);
+  const PreparedStatement once = connection.PrepareOnce(statement.Sql);
+  use(withRowid ? connection.Find(statement.Table) : Connection::ColumnsOf(once.get()),
+      once.get());
 }
 
 }  // namespace
@@ -112,7 +126,10 @@ Recordset Database::OpenRecordset(FailureSink& sink, std::string_view text,
   recordset.connection_ = connection_;
   Guard(sink, [&] {
     RequireOpen();
-    recordset.ReadRows(TranslateOrThrow(text, values, type == RecordsetType::Dynaset), type);
+    WithStatement(*connection_, text, values, type == RecordsetType::Dynaset,
+                  [&](std::shared_ptr<const TableDef> columns, sqlite3_stmt* prepared) {
+                    recordset.ReadRows(std::move(columns), prepared, type);
+                  });
   });
   return recordset;
 }
@@ -148,17 +165,47 @@ Appender Database::OpenAppender(FailureSink& sink, const TableDef& table) {
 
 void Database::Execute(FailureSink& sink, std::string_view text,
                        std::initializer_list<Value> values, ExecuteOption option) {
+  std::string dropping;
+  constexpr std::string_view insert = "INSERT INTO";
+  if (option == ExecuteOption::DropBadRows && text.starts_with(insert)) {
+    dropping = "INSERT OR IGNORE INTO" + std::string(text.substr(insert.size()));
+    text = dropping;
+  }
   Guard(sink, [&] {
     RequireOpen();
-    Statement statement = TranslateOrThrow(text, values);
-    constexpr std::string_view insert = "INSERT INTO";
-    if (option == ExecuteOption::DropBadRows && statement.Sql.starts_with(insert)) {
-      statement.Sql.insert(insert.find(' '), " OR IGNORE");
-    }
-    StatementLoan loan(connection_->Prepare(statement.Sql));
-    BindAll(loan.get(), statement.Bound);
-    StepToEnd(*connection_, loan.get());
+    WithStatement(*connection_, text, values, false,
+                  [&](const std::shared_ptr<const TableDef>&, sqlite3_stmt* prepared) {
+                    StepToEnd(*connection_, prepared);
+                  });
   });
+}
+
+std::vector<std::size_t> Database::LongestTexts(FailureSink& sink, const TableDef& table) const {
+  std::vector<std::size_t> longest(table.Fields.size(), 0);
+  std::vector<std::size_t> places;
+  std::string columns;
+  for (std::size_t i = 0; i < table.Fields.size(); ++i) {
+    if (table.Fields[i].Type != FieldType::Text) continue;
+    columns += (places.empty() ? "" : ",") + QuoteName(table.Fields[i].Name);
+    places.push_back(i);
+  }
+  if (places.empty()) return longest;
+  Guard(sink, [&] {
+    RequireOpen();
+    const PreparedStatement rows =
+        connection_->PrepareOnce("SELECT " + columns + " FROM " + QuoteName(table.Name));
+    while (sqlite3_step(rows.get()) == SQLITE_ROW) {
+      for (std::size_t i = 0; i < places.size(); ++i) {
+        const int column = static_cast<int>(i);
+        std::size_t& most = longest[places[i]];
+        const auto bytes = static_cast<std::size_t>(sqlite3_column_bytes(rows.get(), column));
+        if (bytes <= most) continue;  // there are no more characters than bytes
+        const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(rows.get(), column));
+        most = std::max(most, Len({text, bytes}));
+      }
+    }
+  });
+  return longest;
 }
 
 void Database::Attach(FailureSink& sink, const std::filesystem::path& path) {
@@ -179,7 +226,9 @@ void Database::CopyToAttached(FailureSink& sink, std::string_view table) {
   Guard(sink, [&] {
     RequireOpen();
     const std::string source = QuoteName(table);
-    TranslateOrThrow("INSERT INTO t IN '" + attached_.string() + "' SELECT * FROM t;", {});
+    const auto quoted =
+        TranslateText("INSERT INTO t IN '" + attached_.string() + "' SELECT * FROM t;");
+    if (const Failure* failure = std::get_if<Failure>(&quoted)) throw *failure;
     StepToEnd(*connection_,
               StatementLoan(connection_->Prepare("INSERT INTO attached." + source +
                                                  " SELECT * FROM main." + source))
@@ -197,9 +246,10 @@ void Database::ExecuteNative(FailureSink& sink, const std::string& statement) {
 }
 
 void Database::UseForBuilding(FailureSink& sink) {
-  // Checks repeat what every assignment has tested already.
+  // Checks repeat what every assignment has tested already, and nothing is ever rolled back: a
+  // statement tests its keys before it writes.
   ExecuteNative(sink,
-                "PRAGMA journal_mode = MEMORY; PRAGMA synchronous = OFF; "
+                "PRAGMA journal_mode = OFF; PRAGMA synchronous = OFF; "
                 "PRAGMA cache_size = -16384; PRAGMA ignore_check_constraints = ON; "
                 "PRAGMA locking_mode = EXCLUSIVE; PRAGMA temp_store = MEMORY;");
 }

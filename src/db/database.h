@@ -61,6 +61,9 @@ class Database {
   void Execute(FailureSink& sink, std::string_view text, std::initializer_list<Value> values = {},
                ExecuteOption option = ExecuteOption::FailOnError);
 
+  // Length of the longest text in each Text field of a table, characters; 0 for all other fields.
+  std::vector<std::size_t> LongestTexts(FailureSink& sink, const TableDef& table) const;
+
   // Attaches a second file, whose tables are then made and filled from this one's by the two
   // operations below it. Copying runs "INSERT INTO [table] IN 'path' SELECT * FROM [table];": a path
   // that holds a "'" breaks that statement (3075).
@@ -72,7 +75,7 @@ class Database {
   void ExecuteNative(FailureSink& sink, const std::string& statement);
 
   // Trades safety against loss of power for speed: for files that are thrown away if they are not
-  // finished. Keys and transactions work as ever.
+  // finished. Keys work as ever; what was written is not taken back.
   void UseForBuilding(FailureSink& sink);
 
   void Begin(FailureSink& sink);

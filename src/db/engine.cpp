@@ -13,9 +13,16 @@ namespace orrerix {
 namespace fs = std::filesystem;
 namespace {
 
+// The engine counts its memory under a lock that one thread has no use for.
+bool ConfigureEngine() {
+  return sqlite3_config(SQLITE_CONFIG_MEMSTATUS, 0) == SQLITE_OK;
+}
+
 std::shared_ptr<Connection> Connect(const fs::path& path, int flags) {
+  [[maybe_unused]] static const bool kConfigured = ConfigureEngine();
   sqlite3* handle = nullptr;
-  const int result = sqlite3_open_v2(path.string().c_str(), &handle, flags, nullptr);
+  const int result =
+      sqlite3_open_v2(path.string().c_str(), &handle, flags | SQLITE_OPEN_NOMUTEX, nullptr);
   auto connection = std::make_shared<Connection>(handle, path);
   if (result != SQLITE_OK) {
     throw EngineFailure(failure_number::kCannotOpenFile,

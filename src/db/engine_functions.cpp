@@ -64,14 +64,19 @@ void IsNullFunction(sqlite3_context* context, int, sqlite3_value** arguments) {
   sqlite3_result_int(context, IsNull(arguments[0]) ? 1 : 0);
 }
 
-// SQLite hands the pattern over first.
+// SQLite hands the pattern over first, and keeps what was made of it for the other rows.
 void LikeFunction(sqlite3_context* context, int, sqlite3_value** arguments) {
   if (IsNull(arguments[0]) || IsNull(arguments[1])) return sqlite3_result_null(context);
-  const LikeResult result = Like(TextOf(arguments[1]), TextOf(arguments[0]));
-  if (result == LikeResult::InvalidPattern) {
-    return sqlite3_result_error(context, "Invalid pattern string.", -1);
+  auto* pattern = static_cast<LikePattern*>(sqlite3_get_auxdata(context, 0));
+  if (pattern == nullptr) {
+    auto compiled = LikePattern::Compile(TextOf(arguments[0]));
+    if (!compiled) return sqlite3_result_error(context, "Invalid pattern string.", -1);
+    sqlite3_set_auxdata(context, 0, new LikePattern(std::move(*compiled)),
+                        [](void* kept) { delete static_cast<LikePattern*>(kept); });
+    pattern = static_cast<LikePattern*>(sqlite3_get_auxdata(context, 0));
+    if (pattern == nullptr) return sqlite3_result_error_nomem(context);
   }
-  sqlite3_result_int(context, result == LikeResult::Yes ? 1 : 0);
+  sqlite3_result_int(context, pattern->Matches(TextOf(arguments[1])) ? 1 : 0);
 }
 
 }  // namespace

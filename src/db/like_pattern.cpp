@@ -10,35 +10,24 @@
 namespace orrerix {
 namespace {
 
-struct Range {
-  char32_t First;
-  char32_t Last;
-};
-
-// One place of a pattern: a run of any length, or one character out of a set.
-struct Place {
-  bool AnyRun = false;
-  bool AnyCharacter = false;
-  bool Negated = false;
-  std::vector<Range> Ranges;
-
-  bool Fits(char32_t c) const {
-    if (AnyCharacter) return true;
-    for (const Range& range : Ranges) {
-      if (c >= range.First && c <= range.Last) return !Negated;
-    }
-    return Negated;
-  }
-};
-
 std::u32string Decode(std::string_view text) {
   std::u32string decoded;
   for (std::size_t at = 0; at < text.size();) decoded.push_back(NextCodePoint(text, at));
   return decoded;
 }
 
-// The set between `first` and `last`, or nothing if a range runs from high to low.
-std::optional<Place> ReadSet(std::u32string_view set) {
+}  // namespace
+
+bool LikePattern::Place::Fits(char32_t c) const {
+  if (AnyCharacter) return true;
+  for (const Range& range : Ranges) {
+    if (c >= range.First && c <= range.Last) return !Negated;
+  }
+  return Negated;
+}
+
+// What stands between brackets; nothing if a range runs from high to low.
+std::optional<LikePattern::Place> LikePattern::ReadSet(std::u32string_view set) {
   Place place;
   if (!set.empty() && set.front() == U'!') {
     place.Negated = true;
@@ -56,8 +45,11 @@ std::optional<Place> ReadSet(std::u32string_view set) {
   return place;
 }
 
-std::optional<std::vector<Place>> Compile(std::u32string_view pattern) {
-  std::vector<Place> places;
+std::optional<LikePattern> LikePattern::Compile(std::string_view text) {
+  const std::u32string decoded = Decode(FoldAscii(text));
+  const std::u32string_view pattern = decoded;
+  LikePattern compiled;
+  std::vector<Place>& places = compiled.places_;
   for (std::size_t i = 0; i < pattern.size(); ++i) {
     const char32_t c = pattern[i];
     if (c == U'[') {
@@ -77,11 +69,13 @@ std::optional<std::vector<Place>> Compile(std::u32string_view pattern) {
       places.push_back(std::move(place));
     }
   }
-  return places;
+  return compiled;
 }
 
-// Greedy match with one point of return: the last run that was met.
-bool Match(std::u32string_view text, const std::vector<Place>& places) {
+// A greedy match with one point of return: the last run that was met.
+bool LikePattern::Matches(std::string_view rawText) const {
+  const std::u32string text = Decode(FoldAscii(rawText));
+  const std::vector<Place>& places = places_;
   std::size_t at = 0;
   std::size_t place = 0;
   std::size_t runPlace = places.size();
@@ -102,14 +96,6 @@ bool Match(std::u32string_view text, const std::vector<Place>& places) {
   }
   while (place < places.size() && places[place].AnyRun) ++place;
   return place == places.size();
-}
-
-}  // namespace
-
-LikeResult Like(std::string_view text, std::string_view pattern) {
-  const auto places = Compile(Decode(FoldAscii(pattern)));
-  if (!places) return LikeResult::InvalidPattern;
-  return Match(Decode(FoldAscii(text)), *places) ? LikeResult::Yes : LikeResult::No;
 }
 
 }  // namespace orrerix

@@ -2,15 +2,39 @@
 // The engine's own patterns.
 #pragma once
 
+#include <optional>
 #include <string_view>
+#include <vector>
 
 namespace orrerix {
 
-enum class LikeResult { No, Yes, InvalidPattern };
+// A pattern made ready for many texts: "*" any run, "?" one character, "#" one digit, "[a-z]" one of
+// a set, "[!a-z]" one outside it. The case of ASCII letters does not count.
+class LikePattern {
+ public:
+  // Nothing for an invalid pattern: a "[" with no "]" behind it, or a range from high to low.
+  static std::optional<LikePattern> Compile(std::string_view pattern);
 
-// Whether `text` fits `pattern`: "*" any run, "?" one character, "#" one digit, "[a-z]" one of a
-// set, "[!a-z]" one outside it. The case of ASCII letters does not count. A "[" with no "]" behind
-// it and a range from high to low are invalid, also where the match never gets that far.
-LikeResult Like(std::string_view text, std::string_view pattern);
+  bool Matches(std::string_view text) const;
+
+ private:
+  struct Range {
+    char32_t First;
+    char32_t Last;
+  };
+
+  // One place of a pattern: a run of any length, or one character out of a set.
+  struct Place {
+    bool AnyRun = false;
+    bool AnyCharacter = false;
+    bool Negated = false;
+    std::vector<Range> Ranges;
+    bool Fits(char32_t c) const;
+  };
+
+  static std::optional<Place> ReadSet(std::u32string_view set);
+
+  std::vector<Place> places_;
+};
 
 }  // namespace orrerix

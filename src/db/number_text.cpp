@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "db/number_text.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <cstddef>
 #include <limits>
 
 #include <fmt/format.h>
@@ -65,6 +67,21 @@ void Increment(std::string& digits) {
   digits.insert(digits.begin(), '1');
 }
 
+// Whether a number of this text, unsigned and not 0, is smaller than 1.
+bool IsTiny(std::string_view number) {
+  const std::size_t e = std::min(number.find_first_of("eE"), number.size());
+  const std::string_view mantissa = number.substr(0, e);
+  std::string_view exponent = number.substr(std::min(e + 1, number.size()));
+  if (exponent.starts_with('+')) exponent.remove_prefix(1);
+  std::ptrdiff_t power = 0;
+  const auto [end, error] =
+      std::from_chars(exponent.data(), exponent.data() + exponent.size(), power);
+  if (error == std::errc::result_out_of_range) return exponent.starts_with('-');
+  const std::size_t point = std::min(mantissa.find('.'), mantissa.size());
+  const std::size_t first = std::min(mantissa.find_first_of("123456789"), mantissa.size());
+  return power < static_cast<std::ptrdiff_t>(first) - static_cast<std::ptrdiff_t>(point);
+}
+
 }  // namespace
 
 double Val(std::string_view text) {
@@ -92,11 +109,7 @@ double Val(std::string_view text) {
   const auto [end, error] = std::from_chars(text.data() + start, text.data() + at, number);
   if (error == std::errc::result_out_of_range) {
     // from_chars leaves the number untouched both for too large and for too small ones.
-    const std::string_view mantissa = text.substr(start, at - start);
-    const bool tiny = mantissa.find("e-") != std::string_view::npos ||
-                      mantissa.find("E-") != std::string_view::npos || mantissa.front() == '.' ||
-                      mantissa.front() == '0';
-    number = tiny ? 0 : std::numeric_limits<double>::infinity();
+    number = IsTiny(text.substr(start, at - start)) ? 0 : std::numeric_limits<double>::infinity();
   }
   return negative ? -number : number;
 }

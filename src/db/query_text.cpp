@@ -76,9 +76,8 @@ std::string Unquoted(const Token& token) {
 // Writes the statement token by token.
 class Translator {
  public:
-  // `values` null: the text holds its values already, and a "{}" in it is just that.
-  Translator(std::vector<Token> tokens, const Value* values, bool withRowid)
-      : tokens_(std::move(tokens)), nextValue_(values), withRowid_(withRowid) {}
+  Translator(std::vector<Token> tokens, bool hasPlaces, bool withRowid)
+      : tokens_(std::move(tokens)), hasPlaces_(hasPlaces), withRowid_(withRowid) {}
 
   // False if there is text behind the statement.
   bool Run() {
@@ -98,8 +97,11 @@ class Translator {
   }
 
   Statement TakeResult() {
-    if (ordered_ && !grouped_ && !joined_) result_.Sql += ", rowid";
-    if (joined_ || grouped_) result_.Table.clear();
+    const bool plain = !compound_ && !grouped_;
+    if (!plain) result_.Table.clear();
+    if (ordered_ && plain) result_.Sql += ", rowid";
+    // An index that serves the query would give the rows in its own order.
+    if (isQuery_ && !ordered_ && !result_.Table.empty()) result_.Sql += " ORDER BY rowid";
     return std::move(result_);
   }
 
@@ -122,43 +124,46 @@ class Translator {
     return next != nullptr && next->Text == "(";
   }
 
-  void Bind(Value value) {
-    result_.Bound.push_back(std::move(value));
-    result_.Sql += fmt::format("?{}", result_.Bound.size());
+  void AddParameter(Parameter parameter) {
+    result_.Parameters.push_back(std::move(parameter));
+    result_.Sql += fmt::format("?{}", result_.Parameters.size());
   }
 
   void WriteLiteral(std::string_view literal) {
     const std::size_t place = literal.find(kPlaceholder);
-    if (place == std::string_view::npos || nextValue_ == nullptr) {
+    if (place == std::string_view::npos || !hasPlaces_) {
       result_.Sql += literal;
     } else {
-      Bind(std::string(literal.substr(1, place - 1)) + (nextValue_++)->Text() +
-           std::string(literal.substr(place + 2, literal.size() - place - 3)));
+      AddParameter({true, std::string(literal.substr(1, place - 1)),
+                    std::string(literal.substr(place + 2, literal.size() - place - 3))});
     }
     result_.Sql += kIgnoreCase;
   }
 
   void WriteSymbol(std::string_view symbol) {
-    const bool placeholder =
-        nextValue_ != nullptr && symbol == "{" && at_ + 1 < tokens_.size() && tokens_[at_ + 1].Text == "}";
-    if (placeholder) {
-      Bind(*nextValue_++);
+    const bool isPlace =
+        hasPlaces_ && symbol == "{" && at_ + 1 < tokens_.size() && tokens_[at_ + 1].Text == "}";
+    if (isPlace) {
+      AddParameter({});
       ++at_;
     } else if (symbol == "*" && withRowid_ && selected_ && result_.Table.empty()) {
       result_.Sql += "*, rowid";
       selected_ = false;
     } else {
+      if (symbol == "," && inFrom_) compound_ = true;
       result_.Sql += symbol;
     }
   }
 
   void WriteWord(std::string_view word) {
     const std::string upper = Ucase(word);
+    if (result_.Sql.empty()) isQuery_ = upper == "SELECT";
     if (upper == "SELECT") selected_ = true;
-    if (upper == "JOIN") joined_ = true;
+    if (upper == "JOIN" || upper == "UNION" || upper == "LIMIT") compound_ = true;
     if (upper == "GROUP") grouped_ = true;
     if (upper == "ORDER") ordered_ = true;
     if (upper == "FROM") NoteTable();
+    inFrom_ = inFrom_ ? upper != "WHERE" && upper != "ORDER" : upper == "FROM";
     if (upper == "UCASE" && ordered_ && IsCall()) return;  // its brackets stay
     if ((upper == "LEFT" || upper == "RIGHT" || upper == "ISNULL") && IsCall()) {
       result_.Sql += QuoteName(word);
@@ -170,28 +175,53 @@ class Translator {
   void NoteTable() {
     std::size_t index = at_ + 1;
     const Token* table = Following(index);
-    if (table != nullptr && result_.Table.empty()) result_.Table = Unquoted(*table);
+    if (table == nullptr || !result_.Table.empty()) return;
+    if (table->Kind == Token::Kind::Symbol) compound_ = true;  // rows of another query
+    result_.Table = Unquoted(*table);
   }
 
   std::vector<Token> tokens_;
-  const Value* nextValue_;
+  bool hasPlaces_;
   bool withRowid_;
   std::size_t at_ = 0;
   Statement result_;
+  bool isQuery_ = false;
   bool selected_ = false;
-  bool joined_ = false;
+  bool inFrom_ = false;
+  bool compound_ = false;  // of more than one table, or of more than one query
   bool grouped_ = false;
   bool ordered_ = false;
 };
 
-bool AnyHoldsQuote(std::initializer_list<Value> values) {
+std::variant<Statement, Failure> Translate(std::string_view text, bool hasPlaces,
+                                           bool withRowid) {
+  auto tokens = Tokenize(text);
+  if (tokens) {
+    Translator translator(std::move(*tokens), hasPlaces, withRowid);
+    if (translator.Run()) return translator.TakeResult();
+  }
+  return EngineFailure(failure_number::kSyntaxError, "Syntax error in query expression.");
+}
+
+}  // namespace
+
+std::variant<Statement, Failure> TranslateTemplate(std::string_view text, bool withRowid) {
+  return Translate(text, true, withRowid);
+}
+
+std::variant<Statement, Failure> TranslateText(std::string_view text, bool withRowid) {
+  return Translate(text, false, withRowid);
+}
+
+bool MustBeWritten(std::initializer_list<Value> values) {
   for (const Value& value : values) {
-    if (value.IsText() && Contains(*value.TextContent(), "'")) return true;
+    const std::string* text = value.TextContent();
+    if (text != nullptr && Contains(*text, "'")) return true;
   }
   return false;
 }
 
-std::string Join(std::string_view text, std::initializer_list<Value> values) {
+std::string WriteValues(std::string_view text, std::initializer_list<Value> values) {
   std::string joined;
   for (const Value& value : values) {
     const std::size_t place = text.find(kPlaceholder);
@@ -202,26 +232,20 @@ std::string Join(std::string_view text, std::initializer_list<Value> values) {
   return joined + std::string(text);
 }
 
-Failure SyntaxError() {
-  return EngineFailure(failure_number::kSyntaxError, "Syntax error in query expression.");
-}
-
-}  // namespace
-
-std::variant<Statement, Failure> Translate(std::string_view text,
-                                           std::initializer_list<Value> values, bool withRowid) {
-  std::string joined;
-  const Value* bound = values.size() > 0 ? values.begin() : nullptr;
-  if (AnyHoldsQuote(values)) {
-    joined = Join(text, values);
-    text = joined;
-    bound = nullptr;
+std::vector<Value> BoundValues(const Statement& statement, std::initializer_list<Value> values) {
+  std::vector<Value> bound;
+  const Value* next = values.begin();
+  for (const Parameter& parameter : statement.Parameters) {
+    const Value& value = *next++;
+    if (!parameter.IsText) {
+      bound.push_back(value);
+    } else if (parameter.Before.empty() && parameter.Behind.empty()) {
+      bound.emplace_back(value.Text());
+    } else {
+      bound.emplace_back(parameter.Before + value.Text() + parameter.Behind);
+    }
   }
-  auto tokens = Tokenize(text);
-  if (!tokens) return SyntaxError();
-  Translator translator(std::move(*tokens), bound, withRowid);
-  if (!translator.Run()) return SyntaxError();
-  return translator.TakeResult();
+  return bound;
 }
 
 }  // namespace orrerix

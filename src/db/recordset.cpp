@@ -14,17 +14,6 @@
 namespace orrerix {
 namespace {
 
-// A definition of a result's columns that says no more than their names.
-std::shared_ptr<const TableDef> ColumnsOf(sqlite3_stmt* statement) {
-  auto columns = std::make_shared<TableDef>();
-  for (int i = 0; i < sqlite3_column_count(statement); ++i) {
-    Field field;
-    field.Name = sqlite3_column_name(statement, i);
-    columns->Fields.push_back(std::move(field));
-  }
-  return columns;
-}
-
 Failure NoCurrentRecord() {
   return EngineFailure(failure_number::kNoCurrentRecord, "No current record.");
 }
@@ -61,11 +50,11 @@ Assignment AssignWhole(double number, double lowest, double highest) {
 
 }  // namespace
 
-Assignment AssignTo(const Field& field, std::string_view table, const Value& value) {
+Assignment AssignTo(const Field& field, std::string_view table, Value value) {
   if (value.IsNull()) return Keep(Value());
   switch (field.Type) {
     case FieldType::Text:
-    case FieldType::Memo: return AssignText(field, table, value.Text());
+    case FieldType::Memo: return AssignText(field, table, std::move(value).TakeText());
     case FieldType::Boolean: return Keep(value.Number() != 0 ? 1 : 0);
     case FieldType::Byte: return AssignWhole(value.Number(), 0, 255);
     case FieldType::Integer: return AssignWhole(value.Number(), -32768, 32767);
@@ -94,24 +83,23 @@ std::int32_t FieldRef::RequireLong() const {
   return *number;
 }
 
-const FieldRef& FieldRef::operator=(const Value& value) const {
-  recordset_.Assign(field_, value);
+const FieldRef& FieldRef::operator=(Value value) const {
+  recordset_.Assign(field_, std::move(value));
   return *this;
 }
 
-void Recordset::ReadRows(const Statement& statement, RecordsetType type) {
-  StatementLoan loan(connection_->Prepare(statement.Sql));
-  BindAll(loan.get(), statement.Bound);
+void Recordset::ReadRows(std::shared_ptr<const TableDef> columns, sqlite3_stmt* statement,
+                         RecordsetType type) {
   editable_ = type == RecordsetType::Dynaset;
-  table_ = editable_ ? connection_->Find(statement.Table) : ColumnsOf(loan.get());
+  table_ = std::move(columns);
   if (table_ == nullptr) {
     throw EngineFailure(failure_number::kNoSuchTable, "The rows of this query cannot be edited.");
   }
   const int fields = static_cast<int>(table_->Fields.size());
-  int result = sqlite3_step(loan.get());
-  for (; result == SQLITE_ROW; result = sqlite3_step(loan.get())) {
-    for (int i = 0; i < fields; ++i) cells_.push_back(Column(loan.get(), i));
-    if (editable_) rowids_.push_back(sqlite3_column_int64(loan.get(), fields));
+  int result = sqlite3_step(statement);
+  for (; result == SQLITE_ROW; result = sqlite3_step(statement)) {
+    for (int i = 0; i < fields; ++i) cells_.push_back(Column(statement, i));
+    if (editable_) rowids_.push_back(sqlite3_column_int64(statement, fields));
     ++rowCount_;
   }
   if (result != SQLITE_DONE) {
@@ -156,7 +144,7 @@ Value Recordset::Read(std::optional<std::size_t> field) const {
   return cells_[current_ * table_->Fields.size() + *field];
 }
 
-void Recordset::Assign(std::optional<std::size_t> field, const Value& value) {
+void Recordset::Assign(std::optional<std::size_t> field, Value value) {
   if (editing_ == Editing::None) {
     if (sink_ == nullptr) return;
     return sink_->Fail(EngineFailure(3020, "Update or CancelUpdate without AddNew or Edit."));
@@ -165,7 +153,7 @@ void Recordset::Assign(std::optional<std::size_t> field, const Value& value) {
     return sink_->Fail(
         EngineFailure(failure_number::kNoSuchItem, "Item not found in this collection."));
   }
-  Assignment assignment = AssignTo(table_->Fields[*field], table_->Name, value);
+  Assignment assignment = AssignTo(table_->Fields[*field], table_->Name, std::move(value));
   if (assignment.Refused) return sink_->Fail(*assignment.Refused);
   edited_[*field] = std::move(assignment.Kept);
   assigned_[*field] = true;
@@ -245,11 +233,11 @@ void Recordset::Insert() {
   for (std::size_t i = 0; i < edited_.size(); ++i) {
     assignsID = assignsID || (table_->Fields[i].IsUniqueID && assigned_[i]);
   }
-  if (!assignsID && insertStatement_.empty()) insertStatement_ = InsertStatement();
-  StatementLoan insert(connection_->Prepare(assignsID ? InsertStatement() : insertStatement_));
+  if (!assignsID && insert_ == nullptr) insert_ = connection_->Prepare(InsertStatement());
+  StatementLoan insert(assignsID ? connection_->Prepare(InsertStatement()) : insert_);
   for (std::size_t i = 0; i < edited_.size(); ++i) {
     if (table_->Fields[i].IsUniqueID && !assigned_[i]) continue;
-    Bind(insert.get(), static_cast<int>(i) + 1, edited_[i]);
+    Bind(insert.get(), static_cast<int>(i) + 1, edited_[i], BoundText::Stays);
   }
   if (sqlite3_step(insert.get()) != SQLITE_DONE) throw connection_->LastFailure();
 }

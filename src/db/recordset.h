@@ -14,11 +14,12 @@
 #include "db/table_def.h"
 #include "db/value.h"
 
+struct sqlite3_stmt;
+
 namespace orrerix {
 
 class Connection;
 class Recordset;
-struct Statement;
 
 // Whether the rows of a recordset can be edited and added to.
 enum class RecordsetType { Snapshot, Dynaset };
@@ -39,7 +40,7 @@ class FieldRef {
   // Assigns to the row being edited. Fails with 3163 (text too long), 3315 (empty text in a field
   // that takes none), 6 (number outside the type) and 3020 (no row is edited); the field then
   // keeps its content. A real number in an integer field is rounded, ties to even.
-  const FieldRef& operator=(const Value& value) const;
+  const FieldRef& operator=(Value value) const;
   FieldRef& operator=(const FieldRef&) = delete;
   FieldRef(const FieldRef&) = default;
 
@@ -57,7 +58,7 @@ struct Assignment {
   Value Kept;
   std::optional<Failure> Refused;
 };
-Assignment AssignTo(const Field& field, std::string_view table, const Value& value);
+Assignment AssignTo(const Field& field, std::string_view table, Value value);
 
 // All rows are read when the recordset is opened, so that stages may change tables while they walk
 // them. Every failed operation goes to the sink of the routine that opened the recordset. Once
@@ -92,9 +93,10 @@ class Recordset {
   friend class FieldRef;
   enum class Editing { None, Added, Changed };
 
-  void ReadRows(const Statement& statement, RecordsetType type);
+  void ReadRows(std::shared_ptr<const TableDef> columns, sqlite3_stmt* statement,
+                RecordsetType type);
   Value Read(std::optional<std::size_t> field) const;
-  void Assign(std::optional<std::size_t> field, const Value& value);
+  void Assign(std::optional<std::size_t> field, Value value);
   std::optional<std::size_t> FindField(std::string_view name) const;
   bool KeyHoldsNull() const;
   void Insert();
@@ -112,7 +114,7 @@ class Recordset {
   Editing editing_ = Editing::None;
   std::vector<Value> edited_;
   std::vector<bool> assigned_;
-  std::string insertStatement_;  // of a row whose unique ID is left to the engine
+  sqlite3_stmt* insert_ = nullptr;  // of a row whose unique ID is left to the engine
 };
 
 }  // namespace orrerix

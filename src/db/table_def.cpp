@@ -43,6 +43,10 @@ std::string Column(const Field& field) {
 }  // namespace
 
 std::optional<std::size_t> TableDef::Find(std::string_view field) const {
+  // Most callers spell the name as the table does.
+  for (std::size_t i = 0; i < Fields.size(); ++i) {
+    if (Fields[i].Name == field) return i;
+  }
   for (std::size_t i = 0; i < Fields.size(); ++i) {
     if (EqualIgnoringCase(Fields[i].Name, field)) return i;
   }

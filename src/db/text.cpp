@@ -39,7 +39,8 @@ std::string MapCase(std::string_view text, Ascii ascii, Simple simple) {
     const std::size_t start = at;
     const char32_t from = NextCodePoint(text, at);
     const char32_t to = simple(from);
-    if (from == to) {
+    const bool noUtf8 = from >= 0x80 && at - start == 1;
+    if (from == to || noUtf8) {
       mapped.append(text.substr(start, at - start));
     } else {
       AppendUtf8(mapped, to);

@@ -12,6 +12,11 @@ std::string Value::Text() const {
   return {};
 }
 
+std::string Value::TakeText() && {
+  if (auto* text = std::get_if<std::string>(&content_)) return std::move(*text);
+  return Text();
+}
+
 double Value::Number() const {
   if (const std::string* text = TextContent()) return Val(*text);
   if (const std::int64_t* whole = Whole()) return static_cast<double>(*whole);

@@ -36,6 +36,9 @@ class Value {
   // The content joined to a text: numbers in plain decimal, Null as nothing.
   std::string Text() const;
 
+  // The same out of a value that is used up.
+  std::string TakeText() &&;
+
   // The content as a number: a text by the number at its start, Null as 0.
   double Number() const;
 

@@ -20,7 +20,7 @@ constexpr std::string_view kAppendPrices =
     "IIf(sys_nick Is Null,Left(BaseGoods.Base,4),sys_nick) AS SysNick "
     "FROM BaseGoods CROSS JOIN Goods ON Goods.nickname = BaseGoods.GoodNick "
     "CROSS JOIN Objects ON BaseGoods.Base = Objects.dock_with "
-    "WHERE Len(Objects.nickname) > 0 And ucase(Goods.category) Like 'COMMODITY' "
+    "WHERE Goods.category = 'COMMODITY' And Len(Objects.nickname) > 0 "
     "ORDER BY Goods.realname, BaseGoods.rowid, Objects.rowid";
 
 class PriceStage {
@@ -101,7 +101,6 @@ void CalcBasePrices2(Universe& universe) {
   Routine routine(universe.Log, "OrrerixMain.CalcBasePrices2");
   routine.Run([&] {
     LookUpBy(routine, universe, "Objects", "dock_with");
-    LookUpBy(routine, universe, "Goods", "nickname");
     universe.DB.Execute(routine, kAppendPrices, {}, ExecuteOption::DropBadRows);
   });
 }

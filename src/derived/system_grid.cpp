@@ -6,6 +6,7 @@
 #include "db/number_text.h"
 #include "db/text.h"
 #include "import/block_text.h"
+#include "import/ini_text.h"
 
 namespace orrerix {
 namespace {
@@ -49,7 +50,7 @@ SystemGrid::SystemGrid(FailureSink& routine, Universe& universe) {
 }
 
 MapCell SystemGrid::FindCell(std::string_view systemNickname) const {
-  const std::size_t found = text_.find(GridCell(systemNickname));
+  const std::size_t found = FindText(text_, GridCell(systemNickname));
   if (found == std::string::npos) return {};
   const int position = static_cast<int>(Len(std::string_view(text_).substr(0, found))) + 1;
   const int index = position / kCellWidth;

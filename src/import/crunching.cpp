@@ -14,23 +14,13 @@ namespace {
 
 constexpr std::size_t kSizeOfEmptyField = 254;
 
-// Asks for the longest text of every Text field in one pass over the table.
+// The table without its key, its Text fields as long as their longest text.
 TableDef Crunched(FailureSink& routine, Database& source, TableDef table) {
-  std::string lengths;
-  for (const Field& field : table.Fields) {
-    if (field.Type != FieldType::Text) continue;
-    if (!lengths.empty()) lengths += ", ";
-    lengths += fmt::format("max(length({}))", QuoteName(field.Name));
-  }
   table.PrimaryKey.reset();
-  if (lengths.empty()) return table;
-  Recordset longest = source.OpenRecordset(
-      routine, "SELECT " + lengths + " from " + QuoteName(table.Name));
-  std::size_t column = 0;
-  for (Field& field : table.Fields) {
-    if (field.Type != FieldType::Text) continue;
-    const double length = longest.AtEnd() ? 0 : longest[column++].Get().Number();
-    field.Size = length > 0 ? static_cast<std::size_t>(length) : kSizeOfEmptyField;
+  const std::vector<std::size_t> longest = source.LongestTexts(routine, table);
+  for (std::size_t i = 0; i < table.Fields.size(); ++i) {
+    if (table.Fields[i].Type != FieldType::Text) continue;
+    table.Fields[i].Size = longest[i] > 0 ? longest[i] : kSizeOfEmptyField;
   }
   return table;
 }
@@ -54,6 +44,13 @@ void CleanUpMemory(ErrorLog& log, ImportHost& host, Database& database,
     const fs::path file = saveFolder / "Orrerix.fl";
     const fs::path aside = saveFolder / "Orrerix.ok";
     host.Yield();
+    if (database.IsOpen() && database.FreePages(routine) == 0) {
+      // There is nothing to give back; renaming the file there and back would change nothing.
+      database.Commit(routine);
+      database.Begin(routine);
+      host.Yield();
+      return;
+    }
     CloseDB(database, file);
     routine.Try([&] {
       std::error_code error;

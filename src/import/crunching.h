@@ -14,7 +14,8 @@ namespace orrerix {
 void CloseDB(Database& database, const std::filesystem::path& path);
 
 // Gives memory and file space back: closes the file, compacts it by way of "Orrerix.ok" and opens
-// it again for building. If the compaction fails, "Orrerix.ok" stays behind and holds the data.
+// it again for building. If the compaction fails, "Orrerix.ok" stays behind and holds the data. A file
+// without free pages has nothing to give back and stays open.
 void CleanUpMemory(ErrorLog& log, ImportHost& host, Database& database,
                    const std::filesystem::path& saveFolder);
 

@@ -81,7 +81,6 @@ class RowReader {
       table_.Set(sourceFileName, std::string(file_.substr(import_.Game.Text().size())));
     });
     while (!block.empty() && Contains(block, "=")) ReadLine(TakeLine(block));
-    routine_.ClearPair();
     if (stored_) {
       routine_.Try([this] { table_.Update(); });
     } else {
@@ -91,7 +90,6 @@ class RowReader {
 
  private:
   void ReadLine(std::string_view line) {
-    routine_.ClearPair();
     const std::size_t sign = line.find('=');
     if (sign == std::string_view::npos) return;
     std::string key = Lcase(FromWindows1252(Trim(line.substr(0, sign))));
@@ -100,6 +98,7 @@ class RowReader {
     if (key.empty() || value.empty()) return;
     routine_.SetPair(key, value);
     Store(key, FromWindows1252(value));
+    routine_.ClearPair();
   }
 
   // The value is two things: the shield's type, which becomes the key, and the figure.

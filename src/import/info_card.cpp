@@ -11,6 +11,7 @@ constexpr std::string_view kLineEnd = "\r\n";
 
 std::string ReplaceAll(std::string_view text, std::string_view from, std::string_view to) {
   std::string replaced;
+  replaced.reserve(text.size());
   while (true) {
     const std::size_t found = text.find(from);
     replaced += text.substr(0, found);
@@ -23,6 +24,7 @@ std::string ReplaceAll(std::string_view text, std::string_view from, std::string
 // Deletes from each `open` to the `close` behind it, up to the first `close` that comes too early.
 std::string Strip(std::string_view text, char open, char close) {
   std::string stripped;
+  stripped.reserve(text.size());
   while (true) {
     const std::size_t from = text.find(open);
     const std::size_t to = text.find(close);
@@ -36,25 +38,27 @@ std::string Strip(std::string_view text, char open, char close) {
 // Deletes every run of a character that stands right before a CR.
 std::string RemoveBeforeLineEnds(std::string_view text, char unwanted) {
   std::string kept;
-  for (const char c : text) {
-    if (c == '\r') kept.erase(kept.find_last_not_of(unwanted) + 1);
-    kept += c;
+  kept.reserve(text.size());
+  while (true) {
+    const std::size_t lineEnd = text.find('\r');
+    kept += text.substr(0, lineEnd);
+    if (lineEnd == std::string_view::npos) return kept;
+    kept.erase(kept.find_last_not_of(unwanted) + 1);
+    kept += '\r';
+    text.remove_prefix(lineEnd + 1);
   }
-  return kept;
 }
 
 std::string RemoveEmptyLines(std::string_view text) {
   std::string kept;
-  while (!text.empty()) {
-    if (text.starts_with(kLineEnd)) {
-      if (!kept.ends_with(kLineEnd)) kept += kLineEnd;
-      text.remove_prefix(kLineEnd.size());
-    } else {
-      kept += text.front();
-      text.remove_prefix(1);
-    }
+  kept.reserve(text.size());
+  while (true) {
+    const std::size_t lineEnd = text.find(kLineEnd);
+    kept += text.substr(0, lineEnd);
+    if (lineEnd == std::string_view::npos) return kept;
+    if (!kept.ends_with(kLineEnd)) kept += kLineEnd;
+    text.remove_prefix(lineEnd + kLineEnd.size());
   }
-  return kept;
 }
 
 }  // namespace

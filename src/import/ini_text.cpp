@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <optional>
 
 #include "db/text.h"
 
@@ -11,6 +12,17 @@ namespace {
 
 std::string_view UpToCarriageReturn(std::string_view text) {
   return Trim(text.substr(0, text.find('\r')));
+}
+
+// Whether each character between the first and the last that is a CR or LF has its partner.
+bool LineEndsAreWhole(std::string_view text) {
+  for (std::size_t at = text.find('\n', 1); at < text.size() - 1; at = text.find('\n', at + 1)) {
+    if (text[at - 1] != '\r') return false;
+  }
+  for (std::size_t at = text.find('\r', 1); at < text.size() - 1; at = text.find('\r', at + 1)) {
+    if (text[at + 1] != '\n') return false;
+  }
+  return true;
 }
 
 // Line ends only; blanks before "=" come later.
@@ -28,13 +40,14 @@ std::string WithLineEnds(std::string_view text) {
   return fixed;
 }
 
-void ShrinkBlanksBeforeSigns(std::string& text) {
-  auto end = text.begin();
-  for (const char c : text) {
-    if (c == '=') {
+// Leaves one blank of each run before "=". `from` is the first place of such a run.
+void ShrinkBlanksBeforeSigns(std::string& text, std::size_t from) {
+  auto end = text.begin() + static_cast<std::ptrdiff_t>(from);
+  for (auto at = end; at != text.end(); ++at) {
+    if (*at == '=') {
       while (end - text.begin() > 1 && *(end - 1) == ' ' && *(end - 2) == ' ') --end;
     }
-    *end++ = c;
+    *end++ = *at;
   }
   text.erase(end, text.end());
 }
@@ -55,17 +68,20 @@ std::size_t FindText(std::string_view text, std::string_view part) {
 
 std::string_view FindINIValue(std::string_view text, std::string_view upperText,
                               std::string_view upperKey) {
-  std::string sought(upperKey);
-  sought += " =";
-  std::size_t found = FindText(upperText, sought);
-  if (found != std::string_view::npos) {
-    const std::size_t start = found + sought.size() + 1;
-    return start < text.size() ? UpToCarriageReturn(text.substr(start)) : std::string_view();
+  std::optional<std::size_t> tight;
+  for (std::size_t from = 0; from < upperText.size();) {
+    const std::size_t found = FindText(upperText.substr(from), upperKey);
+    if (found == std::string_view::npos) break;
+    const std::size_t sign = from + found + upperKey.size();
+    const std::string_view behind = upperText.substr(sign);
+    if (behind.starts_with(" =")) {
+      const std::size_t start = sign + 3;
+      return start < text.size() ? UpToCarriageReturn(text.substr(start)) : std::string_view();
+    }
+    if (!tight && behind.starts_with("=")) tight = sign + 1;
+    from += found + 1;
   }
-  sought.erase(sought.size() - 2, 1);
-  found = FindText(upperText, sought);
-  if (found == std::string_view::npos) return {};
-  return UpToCarriageReturn(text.substr(found + sought.size()));
+  return tight ? UpToCarriageReturn(text.substr(*tight)) : std::string_view();
 }
 
 std::string_view GetINIValue(std::string_view text, std::string_view key) {
@@ -86,8 +102,9 @@ std::string RemoveComments(std::string_view text) {
 }
 
 void FixCrLf(std::string& text) {
-  if (!text.empty()) text = WithLineEnds(text);
-  ShrinkBlanksBeforeSigns(text);
+  if (text.size() > 2 && !LineEndsAreWhole(text)) text = WithLineEnds(text);
+  const std::size_t run = FindText(text, "  =");
+  if (run != std::string_view::npos) ShrinkBlanksBeforeSigns(text, run);
 }
 
 }  // namespace orrerix

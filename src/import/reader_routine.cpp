@@ -27,21 +27,21 @@ ReaderRoutine::ReaderRoutine(Import& import, std::string_view file)
       file_(file) {}
 
 std::string ReaderRoutine::Info() const {
-  return "While working on - " + FromWindows1252(blockCopy_) + FromWindows1252(pair_);
+  const std::string info = "While working on - " + FromWindows1252(blockCopy_);
+  if (key_.empty()) return info;
+  return info + "\r\nField: " + std::string(key_) + " Data: " + FromWindows1252(value_);
 }
 
 void ReaderRoutine::BeginBlock(std::string_view block) {
   blockCopy_ = block;
   currentLine_.clear();
-  pair_.clear();
+  ClearPair();
   inGeneric_ = false;
 }
 
 void ReaderRoutine::SetPair(std::string_view key, std::string_view value) {
-  pair_ = "\r\nField: ";
-  pair_ += key;
-  pair_ += " Data: ";
-  pair_ += value;
+  key_ = key;
+  value_ = value;
 }
 
 void ReaderRoutine::Fail(const Failure& failure) {

@@ -54,9 +54,10 @@ class ReaderRoutine : public Routine {
   void SetCurrentLine(std::string_view line) { currentLine_ = line; }
 
   void SetInGeneric(bool inGeneric) { inGeneric_ = inGeneric; }
-  // The key and value being stored in a generic table; empty behind that.
+  // The key (as the table has it) and the value (as the file has it) being stored in a generic
+  // table; empty behind that. Both must live until they are cleared.
   void SetPair(std::string_view key, std::string_view value);
-  void ClearPair() { pair_.clear(); }
+  void ClearPair() { key_ = {}; }
 
  private:
   struct BeginAgain {};
@@ -69,7 +70,8 @@ class ReaderRoutine : public Routine {
   std::string_view file_;
   std::string_view blockCopy_;
   std::string currentLine_;
-  std::string pair_;
+  std::string_view key_;
+  std::string_view value_;
   bool inGeneric_ = false;
   RetryState retryState_ = RetryState::None;
   int retryCount_ = 0;

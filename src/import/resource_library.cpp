@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "import/resource_library.h"
 
+#include <algorithm>
 #include <vector>
 
 #include "db/text.h"
@@ -190,7 +191,13 @@ std::string_view StringInBlock(std::string_view block, std::uint32_t index) {
 
 // What the game's system makes of a string: its character set, its longest text.
 std::string AsSystemText(std::string_view utf16) {
-  const std::string text = FromUtf16(utf16);
+  std::string text = FromUtf16(utf16);
+  const bool isAscii = std::all_of(text.begin(), text.end(),
+                                   [](char c) { return static_cast<signed char>(c) >= 0; });
+  if (isAscii) {
+    text.resize(std::min(text.size(), kLongestString));
+    return text;
+  }
   std::string system;
   std::size_t characters = 0;
   for (std::size_t at = 0; at < text.size() && characters < kLongestString; ++characters) {
@@ -252,7 +259,9 @@ std::string FromUtf16(std::string_view bytes) {
       continue;
     }
     flush();
-    if (unit >= 0xD800 && unit < 0xDC00) {
+    if (unit < 0x80) {
+      text += static_cast<char>(unit);
+    } else if (unit >= 0xD800 && unit < 0xDC00) {
       high = unit;
     } else {
       AppendUtf8(text, unit);  // a lone low half becomes "?" there

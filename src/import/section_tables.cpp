@@ -37,7 +37,7 @@ SectionTable::SectionTable(std::string name) : name_(std::move(name)) {
 }
 
 std::optional<SectionTable::FieldIndex> SectionTable::FindField(std::string_view name) const {
-  const auto found = places_.find(std::string(name));
+  const auto found = places_.find(name);
   return found == places_.end() ? std::nullopt : std::optional(found->second);
 }
 

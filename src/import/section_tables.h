@@ -60,6 +60,12 @@ class SectionTable {
   void WriteTo(FailureSink& sink, Database& database) const;
 
  private:
+  struct TextHash {
+    using is_transparent = void;
+    std::size_t operator()(std::string_view text) const {
+      return std::hash<std::string_view>()(text);
+    }
+  };
   struct Cell {
     FieldIndex Field;
     std::string Text;
@@ -75,7 +81,7 @@ class SectionTable {
 
   std::string name_;
   std::vector<std::string> fields_;  // behind OX_ID: SourceFileName and the keys
-  std::unordered_map<std::string, FieldIndex> places_;
+  std::unordered_map<std::string, FieldIndex, TextHash, std::equal_to<>> places_;
   std::optional<FieldIndex> keyField_;
   std::unordered_set<std::string> keys_;
   std::vector<std::unique_ptr<Row>> rows_;

@@ -9,20 +9,9 @@
 
 #include "import/import_host.h"
 #include "platform/message_box.h"
+#include "support/fake_message_boxes.h"
 
 namespace orrerix {
-
-// Answers every question in the same way.
-class FakeMessageBoxes : public MessageBoxes {
- public:
-  MessageAnswer Answer = MessageAnswer::Ok;
-  std::vector<Message> Shown;
-
-  MessageAnswer Show(const Message& message) override {
-    Shown.push_back(message);
-    return Answer;
-  }
-};
 
 // A host whose clock stands still unless a test moves it.
 class FakeHost : public ImportHost {

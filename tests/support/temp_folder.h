@@ -29,8 +29,8 @@ class TempFolder {
   std::filesystem::path Write(const std::string& name, std::string_view content) const {
     const std::filesystem::path file = path_ / name;
     std::filesystem::create_directories(file.parent_path());
-    std::ofstream(file, std::ios::binary).write(content.data(),
-                                                static_cast<std::streamsize>(content.size()));
+    std::ofstream(file, std::ios::binary)
+        .write(content.data(), static_cast<std::streamsize>(content.size()));
     return file;
   }
 

@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+// The games that are measured, and what every benchmark does with them.
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include "db/database.h"
+#include "import/import_driver.h"
+
+namespace orrerix {
+
+struct BenchGame {
+  std::string Name;
+  std::filesystem::path Folder;
+};
+
+// The folder named by ORRERIX_BENCH_GAME, if there is one, as "real", and demo games of 40 and 500
+// systems, written below `work`.
+std::vector<BenchGame> BenchGames(const std::filesystem::path& work);
+
+// Imports a game into a folder of its own below `work` and gives the finished file.
+std::filesystem::path ImportInto(const BenchGame& game, const std::filesystem::path& work);
+
+void RegisterImportBenchmarks(const std::vector<BenchGame>& games,
+                              const std::filesystem::path& work);
+void RegisterRedrawBenchmarks(const std::vector<BenchGame>& games,
+                              const std::filesystem::path& work);
+
+}  // namespace orrerix

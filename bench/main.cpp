@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: MIT
+#include <benchmark/benchmark.h>
+
+#include "bench_games.h"
+
+int main(int argc, char** argv) {
+  namespace fs = std::filesystem;
+  const fs::path work = fs::temp_directory_path() / "orrerix-bench";
+  fs::create_directories(work);
+  const auto games = orrerix::BenchGames(work);
+  orrerix::RegisterImportBenchmarks(games, work);
+  orrerix::RegisterRedrawBenchmarks(games, work);
+  benchmark::Initialize(&argc, argv);
+  benchmark::RunSpecifiedBenchmarks();
+  return 0;
+}

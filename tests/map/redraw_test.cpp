@@ -1,0 +1,397 @@
+// SPDX-License-Identifier: MIT
+#include "map/redraw.h"
+
+#include <gmock/gmock.h>
+
+#include "derived/jump_objects.h"
+#include "support/universe_fixture.h"
+
+namespace orrerix {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+class Redraw : public UniverseFixture {
+ protected:
+  Redraw() {
+    db.CreateTable(mustWork, JumpNodesTable());
+    db.CreateTable(mustWork, TradeLanesTable());
+    db.CreateTable(mustWork, DockObjectsTable());
+    state.Names.Set({7, 4}, "Lantern");
+    state.Names.Set({8, 4}, "Ember");
+  }
+
+  void Jump(int type) {
+    Add("JumpNodes", {{"nickname", "a"}, {"nickname2", "b"}, {"MapX1", 7}, {"MapY1", 4},
+                      {"MapX2", 8}, {"MapY2", 4}, {"PosX1", 0.5}, {"PosY1", 0.5},
+                      {"PosX2", 0.25}, {"PosY2", 0.75}, {"Type", type}});
+  }
+  void Lane() {
+    Add("TradeLanes", {{"nickname", "a"}, {"nickname2", "b"}, {"realname", "Jetty"},
+                       {"realname2", "Harbour"}, {"MapX1", 7}, {"MapY1", 4}, {"MapX2", 7},
+                       {"MapY2", 4}, {"PosX1", 0.1}, {"PosY1", 0.2}, {"PosX2", 0.3},
+                       {"PosY2", 0.4}});
+  }
+  void Dock(std::string_view nickname, std::string_view loadout, int x = 7, int y = 4) {
+    Add("DockObjects", {{"nickname", nickname}, {"loadout", loadout}, {"MapX", x}, {"MapY", y},
+                        {"PosX", 0.5}, {"PosY", 0.5}});
+  }
+
+  void Zoom(const ZoomRectangle& rectangle) { state.Zoom.Reset(rectangle); }
+
+  MapDrawing Draw() {
+    const MapOptions options =
+        switches.value_or(MapOptions::Defaults(state.Zoom.Current().IsZoomed()));
+    return DrawMap(universe, state,
+                   {formWidth, formHeight, options, measure, panel, "StarMapPic"});
+  }
+
+  // Names of the controls in their stacking, runs of the same name once.
+  static std::vector<std::string> Layers(const MapDrawing& drawing) {
+    std::vector<std::string> layers;
+    for (const Control& control : drawing.Controls) {
+      if (layers.empty() || layers.back() != control.Name) layers.push_back(control.Name);
+    }
+    return layers;
+  }
+  static ControlList Named(const MapDrawing& drawing, std::string_view name) {
+    ControlList found;
+    for (const Control& control : drawing.Controls) {
+      if (control.Name == name) found.push_back(control);
+    }
+    return found;
+  }
+
+  int formWidth = 24000;
+  int formHeight = 18000;
+  std::optional<MapOptions> switches;
+  MapState state;
+  FixedTextMeasure measure;
+  FixedLanguage english{0};
+  PanelContent panel = PanelTexts(english);
+};
+
+constexpr ZoomRectangle kTwoCells{7, 4, 8, 4};
+
+TEST_F(Redraw, TheWholeGridIsStackedFromTheTileToThePanel) {
+  Jump(kJumpGate);
+  Lane();
+  Dock("dock", "depot");
+
+  EXPECT_THAT(Layers(Draw()), ElementsAre("Hintergrund", "StarMapPic", "SysmapLabel", "Line1",
+                                          "Rahmen", "MenuFrame"));
+}
+
+TEST_F(Redraw, AZoomedMapIsStackedFromTheTilesToThePanel) {
+  Zoom(kTwoCells);
+  Jump(kJumpGate);
+  Lane();
+  Dock("dock", "depot");
+
+  EXPECT_THAT(Layers(Draw()), ElementsAre("Hintergrund", "SysMapGfx", "Blanko", "SysmapLabel",
+                                          "Line1", "Image1", "Rahmen", "MenuFrame"));
+}
+
+TEST_F(Redraw, ThePaintedUniverseFollowsTheFrameAndNotTheCells) {
+  const MapDrawing drawing = Draw();
+
+  // 17450 / 18 x 17, as a 32-bit float
+  const Control universe = Named(drawing, "StarMapPic").at(0);
+  EXPECT_EQ(universe.Place, (Box{0, 0, 16480.5546875, 17450}));
+  // Its border: 16480.55 + 20 = 16500.55, rounded; the right corner is 315 wide.
+  EXPECT_EQ(Named(drawing, "Rahmen").at(2).Place.Right(), 16501);
+}
+
+TEST_F(Redraw, TheFreeSpaceDecidesWhereThePanelStands) {
+  // Frame 23800 x 17450, cells of 918: 23800 - 16524 - 100 and 17450 - 17442.
+  const MapDrawing drawing = Draw();
+
+  EXPECT_EQ(drawing.FreeRight, 7176);
+  EXPECT_EQ(drawing.FreeBelow, 8);
+  EXPECT_EQ(drawing.Panel, PanelPlace::Right);
+  EXPECT_EQ(drawing.PanelBox, (Box{16624, 0, 7176, 17450}));
+}
+
+TEST_F(Redraw, MoreRoomBelowPutsThePanelBelow) {
+  formWidth = 10000;
+  formHeight = 20550;  // frame 9800 x 20000, cells of 544
+
+  const MapDrawing drawing = Draw();
+
+  EXPECT_EQ(drawing.Panel, PanelPlace::Below);
+  EXPECT_EQ(drawing.FreeBelow, 9664);  // 20000 - 19 x 544
+  EXPECT_EQ(drawing.PanelBox, (Box{0, 10336, 9800, 9664}));
+}
+
+TEST_F(Redraw, EqualRoomPutsThePanelBelow) {
+  Zoom({3, 3, 3, 3});
+  formWidth = 5300;  // frame 5100 wide and 5000 high: 5100 - 5000 - 100 = 0 = 5000 - 5000
+  formHeight = 5550;
+
+  const MapDrawing drawing = Draw();
+
+  EXPECT_EQ(drawing.FreeRight, 0);
+  EXPECT_EQ(drawing.FreeBelow, 0);
+  EXPECT_EQ(drawing.Panel, PanelPlace::Below);
+}
+
+TEST_F(Redraw, TheWholeGridHasNoIcons) {
+  Jump(kJumpGate);
+  Dock("dock", "depot");
+
+  EXPECT_THAT(Named(Draw(), "Image1"), IsEmpty());
+}
+
+TEST_F(Redraw, AGateLineIsSolidWhiteAndNamesItsSystems) {
+  Jump(kJumpGate);
+
+  const Control line = Named(Draw(), "Line1").at(0);
+
+  EXPECT_EQ(line.Style, LineStyle::Solid);
+  EXPECT_EQ(line.BorderColor.Text(), "0xFFFFFF");
+  EXPECT_EQ(line.Tag, "Lantern <-> Ember");
+  EXPECT_EQ(line.Index, 1);
+  // Cells of 918: 7 x 918 + 459, 4 x 918 + 459, 8 x 918 + 229.5, 4 x 918 + 688.5
+  EXPECT_EQ(line.Ends, (LineEnds{6885.0F, 4131.0F, 7573.5F, 4360.5F}));
+}
+
+TEST_F(Redraw, AHoleLineIsDottedGrey) {
+  Jump(kJumpHole);
+
+  const Control line = Named(Draw(), "Line1").at(0);
+
+  EXPECT_EQ(line.Style, LineStyle::Dotted);
+  EXPECT_EQ(line.BorderColor.Text(), "0x808080");
+}
+
+TEST_F(Redraw, LanesAreBlueAndFollowTheJumpLines) {
+  Lane();
+  Jump(kJumpGate);
+
+  const ControlList lines = Named(Draw(), "Line1");
+
+  ASSERT_EQ(lines.size(), 2u);
+  EXPECT_EQ(lines[1].Index, 2);
+  EXPECT_EQ(lines[1].BorderColor.Text(), "0xFF0000");
+  EXPECT_EQ(lines[1].Tag, "Jetty <-> Harbour");
+}
+
+TEST_F(Redraw, JumpLinesComeInTheOrderOfTheirKind) {
+  Jump(kJumpHole);
+  Jump(kJumpGate);
+
+  const ControlList lines = Named(Draw(), "Line1");
+
+  EXPECT_EQ(lines.at(0).Style, LineStyle::Solid);
+  EXPECT_EQ(lines.at(1).Style, LineStyle::Dotted);
+}
+
+TEST_F(Redraw, AConnectionOfAnotherKindHasNoLineButGateIcons) {
+  Zoom(kTwoCells);
+  Jump(2);
+
+  const MapDrawing drawing = Draw();
+
+  EXPECT_THAT(Named(drawing, "Line1"), IsEmpty());
+  const ControlList icons = Named(drawing, "Image1");
+  ASSERT_EQ(icons.size(), 2u);
+  EXPECT_EQ(icons[0].Picture, "Jumpgate");
+  EXPECT_THAT(*icons[0].Tag, ::testing::StartsWith("\r\n  Jumpgate\r\n"));
+}
+
+TEST_F(Redraw, EachEndOfAConnectionTellsWhereItIsAndWhereItLeads) {
+  Zoom(kTwoCells);
+  Jump(kJumpHole);
+
+  const ControlList icons = Named(Draw(), "Image1");
+
+  // 8 x 0.25 - 0.35 = 1.65; 8 x 0.75 - 0.5 = 5.5
+  EXPECT_EQ(icons.at(0).Tag,
+            "\r\n  Jumphole\r\n  Lantern [X=D.6/Y=4.5] TO\r\n  Ember [X=B.6/Y=6.5]");
+  EXPECT_EQ(icons.at(1).Tag,
+            "\r\n  Jumphole\r\n  Ember [X=B.6/Y=6.5] TO\r\n  Lantern [X=D.6/Y=4.5]");
+  EXPECT_EQ(icons.at(1).Picture, "JumpHole");
+}
+
+TEST_F(Redraw, IconsStayWhenAllLinesAreOff) {
+  Zoom(kTwoCells);
+  switches = MapOptions{};
+  Jump(kJumpGate);
+  Lane();
+  Dock("dock", "depot");
+
+  const MapDrawing drawing = Draw();
+
+  EXPECT_THAT(Named(drawing, "Line1"), IsEmpty());
+  EXPECT_EQ(Named(drawing, "Image1").size(), 3u);
+}
+
+TEST_F(Redraw, AnIconIsCentredOnItsPointAndShrinksWithTheColumns) {
+  Dock("dock", "depot");
+  const auto iconOf = [&](const ZoomRectangle& rectangle) {
+    Zoom(rectangle);
+    return Named(Draw(), "Image1").at(0).Place;
+  };
+
+  // One cell of 17450: its middle is 8725. Six columns: cells of 23800 / 6 = 3966.67, rounded
+  // to 3967, the middle 1983.5; not 33 twips but 40.
+  EXPECT_EQ(iconOf({7, 4, 7, 4}), (Box{8625, 8625, 200, 200}));
+  EXPECT_EQ(iconOf({7, 4, 12, 4}), (Box{1963.5, 1963.5, 40, 40}));
+  EXPECT_EQ(iconOf({7, 4, 9, 4}).Width, static_cast<double>(static_cast<float>(200.0 / 3)));
+}
+
+TEST_F(Redraw, OnlyObjectsOfTheRectangleHaveIcons) {
+  Zoom(kTwoCells);
+  Dock("inside", "SECRET_wreck", 8, 4);
+  Dock("outside", "depot", 9, 4);
+
+  const ControlList icons = Named(Draw(), "Image1");
+
+  ASSERT_EQ(icons.size(), 1u);
+  EXPECT_EQ(icons[0].Tag, "inside");
+  EXPECT_EQ(icons[0].Picture, "NavyFighter");
+}
+
+TEST_F(Redraw, LabelsNameTheSystemsOfTheRectangle) {
+  Zoom({8, 4, 9, 5});
+
+  const ControlList labels = Named(Draw(), "SysmapLabel");
+
+  ASSERT_EQ(labels.size(), 1u);
+  EXPECT_EQ(labels[0].Caption, "Ember");
+  EXPECT_EQ(labels[0].Index, 8 + 18 * 4);
+  EXPECT_EQ(labels[0].FontSize, 10);
+  EXPECT_EQ(labels[0].ForeColor->Text(), "0x00CCCC");
+  EXPECT_EQ(labels[0].BackColor->Text(), "0x400000");
+}
+
+TEST_F(Redraw, ANameShrinksUntilItFitsItsCell) {
+  // 15 characters of 12 twips a point in a cell of 918: 5 points are 900, 6 are 1080.
+  state.Names.Set({7, 4}, "Fifteen letters");
+
+  EXPECT_EQ(Named(Draw(), "SysmapLabel").at(0).FontSize, 5);
+}
+
+TEST_F(Redraw, ANameThatNeverFitsIsShownAtSizeOne) {
+  state.Names.Set({7, 4}, std::string(100, 'x'));
+
+  EXPECT_EQ(Named(Draw(), "SysmapLabel").at(0).FontSize, 1);
+}
+
+TEST_F(Redraw, TheBackgroundIsTiledOneTileFurtherThanTheFrame) {
+  Zoom(kTwoCells);
+  formWidth = 200 + 5000;
+  formHeight = 550 + 3000;
+
+  const ControlList tiles = Named(Draw(), "Hintergrund");
+
+  // Three tiles of 1920 cover 5000, two rows cover 3000, and one more tile begins a third row.
+  ASSERT_EQ(tiles.size(), 7u);
+  EXPECT_EQ(tiles[2].Place, (Box{3840, 0, 1920, 1920}));
+  EXPECT_EQ(tiles[3].Place, (Box{0, 1920, 1920, 1920}));
+  EXPECT_EQ(tiles[6].Place, (Box{0, 3840, 1920, 1920}));
+}
+
+TEST_F(Redraw, TilesStayWhenTheMapIsWholeAgain) {
+  Zoom(kTwoCells);
+  Draw();
+  Zoom({});
+
+  EXPECT_GT(Named(Draw(), "Hintergrund").size(), 1u);
+}
+
+TEST_F(Redraw, FillersCoverEveryCellWithoutASystem) {
+  Zoom(kTwoCells);
+
+  const ControlList fillers = Named(Draw(), "Blanko");
+
+  ASSERT_EQ(fillers.size(), 18u * 19 - 2);
+  EXPECT_EQ(fillers.front().Index, 1);
+  // Columns first: the second filler is cell 0, 1.
+  EXPECT_EQ(fillers[1].Place.Left, fillers[0].Place.Left);
+  EXPECT_GT(fillers[1].Place.Top, fillers[0].Place.Top);
+}
+
+TEST_F(Redraw, SystemPicturesStandInTheirCellsWhereverTheyLie) {
+  Zoom(kTwoCells);
+
+  const ControlList pictures = Named(Draw(), "SysMapGfx");
+
+  ASSERT_EQ(pictures.size(), 47u);
+  // "7, 4" belongs to cell 8, 6; cells of 23800 / 2.
+  EXPECT_EQ(pictures[0].Tag, "7, 4");
+  EXPECT_EQ(pictures[0].Place, (Box{11900, 23800, 11900, 11900}));
+}
+
+TEST_F(Redraw, TheBorderOfAZoomedMapSurroundsTheShownCells) {
+  Zoom(kTwoCells);
+
+  const ControlList border = Named(Draw(), "Rahmen");
+
+  EXPECT_EQ(border.at(7).Place.Right(), 2 * 11900 + 100);
+  EXPECT_EQ(border.at(7).Place.Bottom(), 11900);
+}
+
+class Print : public Redraw {
+ protected:
+  Print() { state.PrintMode = true; }
+};
+
+TEST_F(Print, PaperIsWhiteWithBlackNamesAndGates) {
+  Jump(kJumpGate);
+  Jump(kJumpHole);
+
+  const MapDrawing drawing = Draw();
+
+  EXPECT_EQ(drawing.FrameColor.Text(), "0xFFFFFF");
+  EXPECT_EQ(Named(drawing, "SysmapLabel").at(0).ForeColor->Text(), "0x000000");
+  EXPECT_EQ(Named(drawing, "Line1").at(0).BorderColor.Text(), "0x000000");
+  EXPECT_EQ(Named(drawing, "Line1").at(1).BorderColor.Text(), "0x808080");
+}
+
+TEST_F(Print, PicturesTilesFillersAndBordersAreLeftOutAndThePanelLiesAtTheBack) {
+  Zoom(kTwoCells);
+  formHeight = 40000;
+  formWidth = 90000;
+  switches = MapOptions::Defaults(true);
+  Jump(kJumpGate);
+  Dock("dock", "depot");
+
+  EXPECT_THAT(Layers(Draw()), ElementsAre("MenuFrame", "SysmapLabel", "Line1", "Image1"));
+}
+
+TEST_F(Print, ThereIsNoPanelBelow) {
+  Zoom(kTwoCells);
+  formWidth = 12000;
+  formHeight = 18000;
+
+  EXPECT_EQ(Draw().Panel, PanelPlace::None);
+}
+
+TEST_F(Redraw, ADatabaseWithoutRowsGivesAMapWithoutLines) {
+  Zoom(kTwoCells);
+
+  const MapDrawing drawing = Draw();
+
+  EXPECT_THAT(Named(drawing, "Line1"), IsEmpty());
+  EXPECT_THAT(Named(drawing, "Image1"), IsEmpty());
+  EXPECT_THAT(log.Failures(), IsEmpty());
+}
+
+TEST_F(Redraw, ACellBeyondTheGridIsAFailureOnceForEachStatement) {
+  Add("JumpNodes", {{"nickname", "a"}, {"MapX1", 18}, {"MapY1", 4}, {"MapX2", 8}, {"MapY2", 4},
+                    {"PosX1", 0.5}, {"PosY1", 0.5}, {"PosX2", 0.5}, {"PosY2", 0.5},
+                    {"Type", kJumpGate}});
+
+  Draw();
+
+  for (const FailureEntry& entry : log.Failures()) {
+    EXPECT_EQ(entry.What.Number, 9);
+    EXPECT_EQ(entry.Source, "OrrerixMain.Form_Resize");
+  }
+  EXPECT_EQ(log.Failures().size(), 2u);  // the line's first end, and its name
+}
+
+}  // namespace
+}  // namespace orrerix

@@ -1,0 +1,141 @@
+// SPDX-License-Identifier: MIT
+#include "map/side_panel.h"
+
+#include <gmock/gmock.h>
+
+#include "map/borders.h"
+
+namespace orrerix {
+namespace {
+
+const Control* Find(const ControlList& list, std::string_view name, std::optional<int> index) {
+  for (const Control& control : list) {
+    if (control.Name == name && control.Index == index) return &control;
+    if (const Control* inner = Find(control.Children, name, index)) return inner;
+  }
+  return nullptr;
+}
+
+class Panel : public ::testing::Test {
+ protected:
+  SidePanel LayOut(double width, double height = 17450, bool open = false) {
+    return LayOutPanelRight({0, 0, width, height}, content, MapOptions::Defaults(false), open,
+                            measure);
+  }
+
+  FixedLanguage english{0};
+  PanelContent content = PanelTexts(english);
+  FixedTextMeasure measure;
+};
+
+TEST_F(Panel, FiveToolsShareTheWidth) {
+  // (7100 - 100) / 5 = 1400
+  const SidePanel panel = LayOut(7100);
+
+  EXPECT_EQ(Find(panel.Controls, "StationSearch", 0)->Place, (Box{50, 50, 1400, 1400}));
+  EXPECT_EQ(Find(panel.Controls, "StationSearch", 4)->Place, (Box{5650, 50, 1400, 1400}));
+}
+
+TEST_F(Panel, OptionsStandBelowTheToolsAndTheInfoBoxBelowThem) {
+  const SidePanel panel = LayOut(7100);
+
+  const Control& options = *Find(panel.Controls, "MenuFrame", 1);
+  const Control& info = *Find(panel.Controls, "MenuFrame", 2);
+  EXPECT_EQ(options.Place.Top, 1500);
+  EXPECT_EQ(info.Place.Top, options.Place.Bottom());
+  EXPECT_EQ(info.Place.Bottom(), 17450);
+  EXPECT_EQ(info.Place.Left, options.Place.Left);
+}
+
+TEST_F(Panel, SwitchesAreThereOnlyWhenUnfolded) {
+  EXPECT_EQ(Find(LayOut(7100).Controls, "SetImage", 0), nullptr);
+
+  const SidePanel open = LayOut(7100, 17450, true);
+
+  EXPECT_EQ(*Find(open.Controls, "SetImage", 0)->Picture, "check_off.svg");
+  EXPECT_EQ(*Find(open.Controls, "SetImage", 5)->Picture, "check_on.svg");
+  EXPECT_EQ(*Find(open.Controls, "SetLabel", 4)->Caption, "Tradelane Lines");
+}
+
+TEST_F(Panel, AWidePanelHasItsSwitchesInTwoColumns) {
+  const SidePanel open = LayOut(7100, 17450, true);
+
+  const Box first = Find(open.Controls, "SetImage", 0)->Place;
+  const Box second = Find(open.Controls, "SetImage", 1)->Place;
+  const Box third = Find(open.Controls, "SetImage", 2)->Place;
+  EXPECT_EQ(second.Top, first.Top);
+  EXPECT_GT(second.Left, first.Left);
+  EXPECT_EQ(third.Left, first.Left);
+  EXPECT_EQ(third.Top, first.Top + 495);
+}
+
+TEST_F(Panel, ANarrowPanelHasItsSwitchesInOneColumn) {
+  const SidePanel open = LayOut(2000, 17450, true);
+
+  const Box first = Find(open.Controls, "SetImage", 0)->Place;
+  const Box second = Find(open.Controls, "SetImage", 1)->Place;
+  EXPECT_EQ(second.Left, first.Left);
+  EXPECT_EQ(second.Top, first.Top + 495);
+}
+
+TEST_F(Panel, TheLanguageStandsInTheCornerOfTheCaption) {
+  const SidePanel panel = LayOut(7100);
+
+  const Box caption = Find(panel.Controls, "ShowOptionsLabel", std::nullopt)->Place;
+  const Control& language = *Find(panel.Controls, "SetLabel", 6);
+  EXPECT_EQ(*language.Caption, "English");
+  EXPECT_EQ(language.Place.Right(), caption.Right());
+  EXPECT_EQ(language.Place.Bottom(), caption.Bottom());
+}
+
+TEST_F(Panel, TheHeadBandKeepsItsProportions) {
+  const SidePanel panel = LayOut(8175);
+
+  // The info box is 8175 - 60 = 8115 wide.
+  EXPECT_EQ(Find(panel.Controls, "ITACImage", 0)->Place, (Box{0, 60, 8115, 615}));
+}
+
+TEST_F(Panel, NewsThatFitsDoesNotScroll) {
+  EXPECT_FALSE(LayOut(7100).NewsScrolls);
+}
+
+TEST_F(Panel, NewsThatReachesTheSloganScrolls) {
+  for (int i = 0; i < 100; ++i) content.News.push_back({"News", "", ""});
+
+  EXPECT_TRUE(LayOut(7100).NewsScrolls);
+}
+
+TEST_F(Panel, TheLogoShrinksAndIsCentredWhereThePanelIsLow) {
+  const SidePanel panel = LayOut(7100, 5000);
+
+  const Box info = Find(panel.Controls, "MenuFrame", 2)->Place;
+  const Box logo = Find(panel.Controls, "ImageClan", std::nullopt)->Place;
+  EXPECT_LT(logo.Width, info.Width);
+  EXPECT_DOUBLE_EQ(logo.Left, info.Width / 2 - logo.Width / 2);
+}
+
+TEST_F(Panel, ATinyPanelHasNoNegativeSizes) {
+  const SidePanel panel = LayOut(10, 10, true);
+
+  const std::function<void(const ControlList&)> check = [&](const ControlList& list) {
+    for (const Control& control : list) {
+      EXPECT_GE(control.Place.Width, 0) << control.Name;
+      EXPECT_GE(control.Place.Height, 0) << control.Name;
+      check(control.Children);
+    }
+  };
+  check(panel.Controls);
+}
+
+TEST_F(Panel, TheReducedPanelShowsNewsAndLogo) {
+  const SidePanel panel = LayOutPanelBelow({0, 9000, 12000, 3000}, content);
+
+  EXPECT_EQ(Find(panel.Controls, "MenuFrame", 2)->Place, (Box{0, 0, 12000, 3000}));
+  EXPECT_EQ(Find(panel.Controls, "InfoBoxLabel", 0)->Place.Top, 0);
+  // 3000 - 100 high, 4 : 3; its right edge 50 twips from the panel's.
+  EXPECT_DOUBLE_EQ(Find(panel.Controls, "ImageClan", std::nullopt)->Place.Height, 2900);
+  EXPECT_EQ(Find(panel.Controls, "StationSearch", 0), nullptr);
+}
+
+}  // namespace
+}  // namespace orrerix
