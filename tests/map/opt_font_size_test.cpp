@@ -23,8 +23,13 @@ TEST(OptFontSize, ATextWithRoomGrowsToTheLastSizeThatFits) {
 }
 
 TEST(OptFontSize, ATextThatIsTooWideShrinksToTheLargestSizeThatFits) {
-  EXPECT_EQ(SizeFor(20, 840), 7);
+  // From 9 down to 5, then up by ones to 8, which is too wide, and one back.
   EXPECT_EQ(SizeFor(9, 959), 7);
+}
+
+TEST(OptFontSize, ASearchThatStepsDownToOneEndsThere) {
+  // From 20 down to 10, which is too wide, then to 1.
+  EXPECT_EQ(SizeFor(20, 840), 1);
 }
 
 TEST(OptFontSize, ATextThatDoesNotFitAtOneGivesOne) {

@@ -97,8 +97,8 @@ TEST_F(Redraw, ThePaintedUniverseFollowsTheFrameAndNotTheCells) {
   const MapDrawing drawing = Draw();
 
   // 17450 / 18 x 17, as a 32-bit float
-  const Control universe = Named(drawing, "StarMapPic").at(0);
-  EXPECT_EQ(universe.Place, (Box{0, 0, 16480.5546875, 17450}));
+  const Control painted = Named(drawing, "StarMapPic").at(0);
+  EXPECT_EQ(painted.Place, (Box{0, 0, 16480.5546875, 17450}));
   // Its border: 16480.55 + 20 = 16500.55, rounded; the right corner is 315 wide.
   EXPECT_EQ(Named(drawing, "Rahmen").at(2).Place.Right(), 16501);
 }

@@ -52,8 +52,8 @@ TEST_F(Panel, SwitchesAreThereOnlyWhenUnfolded) {
 
   const SidePanel open = LayOut(7100, 17450, true);
 
-  EXPECT_EQ(*Find(open.Controls, "SetImage", 0)->Picture, "check_off.svg");
-  EXPECT_EQ(*Find(open.Controls, "SetImage", 5)->Picture, "check_on.svg");
+  EXPECT_EQ(*Find(open.Controls, "SetImage", 0)->Picture, "tools/check_off.svg");
+  EXPECT_EQ(*Find(open.Controls, "SetImage", 5)->Picture, "tools/check_on.svg");
   EXPECT_EQ(*Find(open.Controls, "SetLabel", 4)->Caption, "Tradelane Lines");
 }
 

@@ -1,0 +1,238 @@
+// SPDX-License-Identifier: MIT
+// The command line as a script meets it: words in, answer and exit code out.
+#include <array>
+#include <cstdio>
+#include <fstream>
+#include <sstream>
+
+#include <gmock/gmock.h>
+#include <nlohmann/json.hpp>
+
+#include "demo/demo_game.h"
+#include "support/temp_folder.h"
+
+namespace orrerix {
+namespace {
+
+namespace fs = std::filesystem;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+
+struct Answer {
+  int ExitCode = -1;
+  std::string Output;
+  std::string Errors;
+  nlohmann::json Json() const { return nlohmann::json::parse(Output); }
+};
+
+std::string Content(const fs::path& file) {
+  std::ifstream stream(file, std::ios::binary);
+  std::ostringstream content;
+  content << stream.rdbuf();
+  return content.str();
+}
+
+class CommandLine : public ::testing::Test {
+ protected:
+  Answer Run(const std::string& words) {
+    const fs::path errors = folder.Path() / "errors.txt";
+    const std::string command =
+        std::string(ORRERIX_CLI) + " " + words + " 2>" + errors.string();
+    Answer answer;
+    FILE* pipe = popen(command.c_str(), "r");
+    std::array<char, 4096> buffer{};
+    while (const std::size_t read = fread(buffer.data(), 1, buffer.size(), pipe)) {
+      answer.Output.append(buffer.data(), read);
+    }
+    answer.ExitCode = WEXITSTATUS(pclose(pipe));
+    answer.Errors = Content(errors);
+    return answer;
+  }
+
+  fs::path Game() {
+    const fs::path game = folder.Path() / "game";
+    WriteDemoGame(game, 5);
+    return game;
+  }
+  std::string Database() const { return "--database " + (folder.Path() / "u.fl").string(); }
+  Answer Import(const std::string& more = "") {
+    return Run("import --game " + Game().string() + " " + Database() + " " + more);
+  }
+
+  TempFolder folder;
+};
+
+TEST_F(CommandLine, VersionsAreTold) {
+  const Answer answer = Run("--version");
+
+  EXPECT_EQ(answer.ExitCode, 0);
+  EXPECT_EQ(answer.Output, "orrerix-cli 1.0.0\n");
+}
+
+TEST_F(CommandLine, WrongWordsAreWrongUsage) {
+  for (const char* words : {"", "dance", "import", "import --game x --loud", "name", "name five",
+                            "--language it name 5", "--on-failure maybe name 5",
+                            "scene --size 12 --database x"}) {
+    const Answer answer = Run(words);
+    EXPECT_EQ(answer.ExitCode, 2) << words;
+    EXPECT_THAT(answer.Output, IsEmpty()) << words;
+  }
+}
+
+TEST_F(CommandLine, AnImportTellsTablesLogAndFailures) {
+  const Answer answer = Import("--json --log " + (folder.Path() / "log.txt").string());
+
+  ASSERT_EQ(answer.ExitCode, 0) << answer.Errors;
+  const nlohmann::json json = answer.Json();
+  EXPECT_EQ(json["tables"]["Systems"], 5);
+  EXPECT_EQ(json["tables"]["Version"], 1);
+  EXPECT_EQ(json["database"], (folder.Path() / "u.fl").string());
+  EXPECT_THAT(json["failures"], IsEmpty());
+  EXPECT_GE(json["seconds"], 0);
+  EXPECT_GT(json["log_lines"], 0);
+  EXPECT_THAT(Content(folder.Path() / "log.txt"), HasSubstr("Cant find file: ["));
+}
+
+TEST_F(CommandLine, WithoutALogFileTheLinesStandInTheAnswer) {
+  EXPECT_THAT(Import().Output, HasSubstr("Cant find file: ["));
+}
+
+TEST_F(CommandLine, StrictTellsThatTheLogHasLines) {
+  EXPECT_EQ(Import("--strict").ExitCode, 3);
+}
+
+TEST_F(CommandLine, ProgressIsNotShownWhereThereIsNoTerminal) {
+  EXPECT_THAT(Import().Errors, IsEmpty());
+}
+
+TEST_F(CommandLine, AnOlderUniverseFileIsReplaced) {
+  folder.Write("u.fl", "no database");
+
+  EXPECT_EQ(Import().ExitCode, 0);
+  EXPECT_EQ(Run("name 5 " + Database()).Output, "(5)\n");
+}
+
+TEST_F(CommandLine, AFolderThatIsNoGameCannotBeImported) {
+  const Answer answer = Run("import --game " + folder.Path().string() + " " + Database());
+
+  EXPECT_EQ(answer.ExitCode, 1);
+  EXPECT_THAT(answer.Errors, HasSubstr(folder.Path().string()));
+  EXPECT_FALSE(fs::exists(folder.Path() / "u.fl"));
+}
+
+TEST_F(CommandLine, AMissingSaveFolderIsToldByName) {
+  const Answer answer =
+      Run("import --game " + Game().string() + " --database " +
+          (folder.Path() / "nowhere" / "u.fl").string());
+
+  EXPECT_EQ(answer.ExitCode, 1);
+  EXPECT_THAT(answer.Errors, HasSubstr("nowhere"));
+}
+
+TEST_F(CommandLine, AFailureIsPrintedInTheDialogsWordsAndCounted) {
+  const fs::path game = Game();
+  folder.Write("game/DATA/MISSIONS/mbases.ini", "[Systems]\r\nnickname = x\r\n");
+
+  const Answer answer = Run("import --json --log " + (folder.Path() / "log.txt").string() +
+                            " --game " + game.string() + " " + Database());
+
+  EXPECT_EQ(answer.ExitCode, 0);
+  ASSERT_EQ(answer.Json()["failures"].size(), 1u);
+  EXPECT_EQ(answer.Json()["failures"][0]["number"], 3010);
+  EXPECT_EQ(answer.Json()["failures"][0]["source"], "OrrerixMain.ReadINI");
+  EXPECT_THAT(answer.Errors, HasSubstr("3010 in OrrerixMain.ReadINI Line 0"));
+  EXPECT_THAT(answer.Errors, HasSubstr("OK = Resume Function behind Error."));
+}
+
+TEST_F(CommandLine, CancelGivesAFailedRoutineUpAndGoesOn) {
+  const fs::path game = Game();
+  folder.Write("game/DATA/MISSIONS/mbases.ini",
+               "[Systems]\r\nnickname = x\r\n[mroom]\r\nnickname = bar\r\n");
+
+  const Answer answer = Run("import --on-failure cancel --json --log " +
+                            (folder.Path() / "log.txt").string() + " --game " + game.string() +
+                            " " + Database());
+
+  EXPECT_EQ(answer.ExitCode, 0);
+  EXPECT_FALSE(answer.Json()["tables"].contains("mroom"));
+}
+
+TEST_F(CommandLine, AUniverseThatIsMissingOrUnfinishedIsTold) {
+  EXPECT_EQ(Run("name 5 " + Database()).ExitCode, 1);
+
+  folder.Write("u.fl", "no database");
+
+  const Answer answer = Run("scene " + Database());
+  EXPECT_EQ(answer.ExitCode, 1);
+  EXPECT_THAT(answer.Errors, HasSubstr("u.fl"));
+}
+
+TEST_F(CommandLine, NamesAndCardsComeByNumber) {
+  Import();
+
+  EXPECT_EQ(Run("name 65536 " + Database()).Output, "(65536)\n");
+  EXPECT_EQ(Run("card 131077 --json " + Database()).Json()["text"].is_string(), true);
+  EXPECT_EQ(Run("card 5 " + Database()).Output, "5 - 5\n");
+}
+
+TEST_F(CommandLine, ASceneTellsFrameCellsAndControls) {
+  Import();
+
+  const nlohmann::json scene = Run("scene --json " + Database()).Json();
+
+  EXPECT_EQ(scene["form"]["Width"], 24000);
+  EXPECT_EQ(scene["frame"]["Height"], 17450);
+  EXPECT_EQ(scene["zoom"], (nlohmann::json{0, 0, 17, 18}));
+  EXPECT_EQ(scene["depth"], 0);
+  EXPECT_EQ(scene["zoomed"], false);
+  EXPECT_EQ(scene["cell"]["Width"], 918);
+  EXPECT_EQ(scene["panel"], "right");
+  EXPECT_EQ(scene["controls"].back()["control"], "MenuFrame");
+}
+
+TEST_F(CommandLine, ASceneHeedsItsWords) {
+  Import();
+
+  const nlohmann::json scene =
+      Run("scene --json --size 12000x9000 --zoom 7,5,8,6 --options 000000 --print " + Database())
+          .Json();
+
+  EXPECT_EQ(scene["form"]["Height"], 9000);
+  EXPECT_EQ(scene["zoomed"], true);
+  EXPECT_EQ(scene["frame"]["BackColor"], "0xFFFFFF");
+  for (const auto& control : scene["controls"]) EXPECT_NE(control["control"], "SysmapLabel");
+}
+
+TEST_F(CommandLine, RectanglesAndSwitchesThatMakeNoSenseAreWrongUsage) {
+  Import();
+
+  for (const char* words : {"--zoom 0,0,18,18", "--zoom 5,0,4,3", "--zoom 1,2,3", "--zoom a,b,c,d",
+                            "--options 01234", "--options 000002", "--options 0000000"}) {
+    EXPECT_EQ(Run(std::string("scene ") + words + " " + Database()).ExitCode, 2) << words;
+  }
+}
+
+TEST_F(CommandLine, CommonOptionsMayStandBeforeTheVerb) {
+  Import();
+
+  EXPECT_EQ(Run(Database() + " --json name 5").Json()["text"], "(5)");
+}
+
+TEST_F(CommandLine, TheGameFolderStaysAsItIs) {
+  const fs::path game = Game();
+  const auto listing = [&] {
+    std::map<std::string, std::string> files;
+    for (const auto& entry : fs::recursive_directory_iterator(game)) {
+      files[entry.path().string()] = entry.is_regular_file() ? Content(entry.path()) : "";
+    }
+    return files;
+  };
+  const auto before = listing();
+
+  Run("import --game " + game.string() + " " + Database());
+
+  EXPECT_EQ(listing(), before);
+}
+
+}  // namespace
+}  // namespace orrerix

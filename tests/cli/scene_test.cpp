@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: MIT
+#include "cli/scene.h"
+
+#include <gtest/gtest.h>
+
+#include "cli/scene_json.h"
+
+namespace orrerix {
+namespace {
+
+TEST(SceneWords, ASizeIsTwoWholeNumbers) {
+  const Extent extent = ParseExtent("24000x18000");
+
+  EXPECT_EQ(extent.Width, 24000);
+  EXPECT_EQ(extent.Height, 18000);
+}
+
+TEST(SceneWords, AnythingElseIsWrongUsage) {
+  for (const char* text : {"", "24000", "24000x", "x18000", "axb", "1x2x3", "-1x5", "1,2", "1x2 "}) {
+    EXPECT_THROW(ParseExtent(text), WrongUsage) << text;
+  }
+}
+
+TEST(SceneJson, WholeNumbersAreWrittenAsSuchAndOthersInFull) {
+  Control icon = MakePicture("Image1", 3, {1.5, 2, 40, 40}, "Jumpgate");
+  icon.Tag = "li01_to_li02";
+
+  EXPECT_EQ(ControlJson(icon).dump(),
+            "{\"control\":\"Image1\",\"index\":3,\"Left\":1.5,\"Top\":2,\"Width\":40,"
+            "\"Height\":40,\"Picture\":\"Jumpgate\",\"Tag\":\"li01_to_li02\"}");
+}
+
+TEST(SceneJson, AControlThatIsNoArrayHasTheIndexNull) {
+  const Control universe = MakePicture("StarMapPic", std::nullopt, {}, "StarMapPic");
+
+  EXPECT_TRUE(ControlJson(universe)["index"].is_null());
+}
+
+TEST(SceneJson, ALineTellsItsEndsAndItsStyle) {
+  Control line;
+  line.Kind = ControlKind::Line;
+  line.Name = "Line1";
+  line.Index = 1;
+  line.Ends = {0.1F, 2, 3, 4};
+  line.Style = LineStyle::Dotted;
+  line.BorderColor = {0x808080};
+
+  const nlohmann::ordered_json json = ControlJson(line);
+
+  EXPECT_EQ(json["X1"], static_cast<double>(0.1F));
+  EXPECT_EQ(json["Y2"], 4);
+  EXPECT_EQ(json["BorderStyle"], 3);
+  EXPECT_EQ(json["BorderColor"], "0x808080");
+  EXPECT_FALSE(json.contains("Left"));
+}
+
+}  // namespace
+}  // namespace orrerix
