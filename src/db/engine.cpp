@@ -40,6 +40,16 @@ void Run(Connection& connection, const std::string& statement) {
   }
 }
 
+// A text in the quotes of the engine's language, inner quotes doubled.
+std::string TextLiteral(const std::string& text) {
+  std::string literal = "'";
+  for (char c : text) {
+    if (c == '\'') literal += c;
+    literal += c;
+  }
+  return literal + "'";
+}
+
 template <typename Open>
 Database Guarded(FailureSink& sink, Open&& open) {
   std::optional<Failure> failed;
@@ -86,7 +96,7 @@ void DBEngine::CompactDatabase(FailureSink& sink, const fs::path& from, const fs
   Database source = OpenDatabase(sink, from);
   if (!source.IsOpen()) return;
   if (source.FreePages(sink) > 0) {
-    source.Execute(sink, "VACUUM INTO '{}'", {to.string()});
+    source.ExecuteNative(sink, "VACUUM INTO " + TextLiteral(to.string()));
     return;
   }
   source.Close();

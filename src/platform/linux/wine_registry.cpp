@@ -2,6 +2,7 @@
 #include "platform/linux/wine_registry.h"
 
 #include <algorithm>
+#include <cctype>
 #include <cstdlib>
 #include <fstream>
 
@@ -63,11 +64,9 @@ std::string ReadEscaped(std::string_view& line, char end) {
 }
 
 std::optional<RegistryValue> ReadValue(std::string_view data) {
-  for (const std::string_view prefix : {"\"", "str(2):\""}) {
-    if (data.starts_with(prefix)) {
-      data.remove_prefix(prefix.size());
-      return ReadEscaped(data, '"');
-    }
+  if (data.starts_with("\"")) {
+    data.remove_prefix(1);
+    return ReadEscaped(data, '"');
   }
   if (data.starts_with("dword:")) {
     const std::string digits(data.substr(6, 8));

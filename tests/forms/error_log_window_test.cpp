@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: MIT
+#include "forms/error_log_window.h"
+
+#include "form_fixture.h"
+
+namespace orrerix {
+namespace {
+
+class ErrorLogWindowTest : public FormFixture {
+ protected:
+  QString TextOf(const char* box) { return Find<QPlainTextEdit>(window, box).toPlainText(); }
+
+  void Fail() {
+    bool cancelled = false;
+    log.AddDataError("OrrerixMain.GetName", {6, "Overflow", "Orrerix"}, "", cancelled);
+  }
+
+  bool importing = false;
+  ErrorLogWindow window{log, [this] { return importing; }};
+};
+
+TEST_F(ErrorLogWindowTest, ItComesWithTheFirstLine) {
+  EXPECT_FALSE(window.isVisible());
+
+  log.AddErrorLine("Cant find file: [x]");
+
+  EXPECT_TRUE(window.isVisible());
+  EXPECT_EQ(window.windowTitle(), "FL-Orrerix Error Logfile.");
+  EXPECT_EQ(TextOf("Text1"),
+            "FreeLancer-Files Error Logfile\n=======================\n\nCant find file: [x]");
+  EXPECT_FALSE(Find(window, "Text2").isVisible());
+  EXPECT_FALSE(Find(window, "Label1_1").isVisible());
+}
+
+TEST_F(ErrorLogWindowTest, TheCaretStandsAtTheEnd) {
+  for (int i = 0; i < 100; ++i) log.AddErrorLine("line");
+
+  EXPECT_TRUE(Find<QPlainTextEdit>(window, "Text1").textCursor().atEnd());
+}
+
+TEST_F(ErrorLogWindowTest, AProgramErrorBringsTheLowerHalf) {
+  Fail();
+
+  EXPECT_TRUE(Find(window, "Text2").isVisible());
+  EXPECT_TRUE(Find(window, "Label1_1").isVisible());
+  EXPECT_TRUE(TextOf("Text2").contains("\n--> 6 in OrrerixMain.GetName Line 0\n"));
+  EXPECT_EQ(Find(window, "Label1_1").geometry().bottom() + 1,
+            Find(window, "Text2").geometry().top());
+}
+
+TEST_F(ErrorLogWindowTest, TheDataLogFillsTheWindowUntilThen) {
+  log.AddErrorLine("line");
+  window.resize(800, 600);
+  PassEvents();
+
+  // 2 x 120 twips less than the outer width, 2 x 240 + 300 less than the outer height
+  EXPECT_EQ(Find(window, "Text1").size(), window.frameGeometry().size() - QSize(16, 52));
+}
+
+TEST_F(ErrorLogWindowTest, DuringAnImportClosingHidesItWithItsText) {
+  importing = true;
+  log.AddErrorLine("one");
+
+  window.close();
+  EXPECT_FALSE(window.isVisible());
+  log.AddErrorLine("two");
+
+  EXPECT_TRUE(window.isVisible());
+  EXPECT_TRUE(TextOf("Text1").endsWith("\none\ntwo"));
+}
+
+TEST_F(ErrorLogWindowTest, OutsideAnImportClosingIsForGood) {
+  log.AddErrorLine("one");
+
+  window.close();
+  log.AddErrorLine("two");
+
+  EXPECT_FALSE(window.isVisible());
+  EXPECT_FALSE(TextOf("Text1").contains("one"));
+}
+
+TEST_F(ErrorLogWindowTest, ItTakesNoFocus) {
+  EXPECT_TRUE(window.testAttribute(Qt::WA_ShowWithoutActivating));
+}
+
+}  // namespace
+}  // namespace orrerix

@@ -1,0 +1,89 @@
+// SPDX-License-Identifier: MIT
+#include "forms/map_screen.h"
+
+#include "db/schema.h"
+#include "form_fixture.h"
+#include "support/universe_fixture.h"
+
+namespace orrerix {
+namespace {
+
+class MapScreenTest : public UniverseFixture {
+ protected:
+  MapScreenTest() {
+    Add("Systems", {{"nickname", "Li01"}, {"realname", "New York"}, {"pos", "8, 10"}});
+    form.resize(800, 600);
+    form.show();
+    map.LoadFormTXT();
+    map.InitDataUsage(universe);
+  }
+
+  bool Shows(std::string_view control) const {
+    for (const Control& shown : map.Drawing().Controls) {
+      if (shown.Name == control) return true;
+    }
+    return false;
+  }
+
+  TempFolder folder;
+  PictureStore pictures;
+  QWidget form;
+  Settings settings{log, folder.Path(), JetVersionOption::Version30};
+  FixedLanguage texts{0};
+  MapScreen map{pictures, settings, texts, &form};
+};
+
+TEST_F(MapScreenTest, TheFrameStandsWhereTheFormLeavesRoomForIt) {
+  map.Redraw(universe, 12000, 9000);
+
+  // 12000 - 200 by 9000 - 550 twips at 50, 50, without the pixels that are reached in part only
+  const QRect frame = Find(form, "SysmapFrame").geometry();
+  EXPECT_TRUE(map.Frame().isVisible());
+  EXPECT_EQ(frame.topLeft(), QPoint(3, 3));
+  EXPECT_EQ(frame.size(), QSize(786, 563));
+}
+
+TEST_F(MapScreenTest, TheSwitchesOfTheWholeGridComeFromTheFirstSet) {
+  settings.ReadSetting("LANG");
+  settings.WriteSettingValue("SET1-5", "0");
+  map.Redraw(universe, 12000, 9000);
+  EXPECT_FALSE(Shows("SysmapLabel"));
+
+  settings.WriteSettingValue("SET1-5", "1");
+  map.Redraw(universe, 12000, 9000);
+  EXPECT_TRUE(Shows("SysmapLabel"));
+}
+
+TEST_F(MapScreenTest, AZoomedMapHasItsOwnSwitches) {
+  settings.ReadSetting("LANG");
+  settings.WriteSettingValue("SET2-1", "0");
+  map.State().Zoom.PushZoomStack({7, 9, 9, 11});
+
+  map.Redraw(universe, 12000, 9000);
+
+  EXPECT_FALSE(Shows("SysMapGfx"));
+  EXPECT_TRUE(Shows("Blanko"));
+}
+
+TEST_F(MapScreenTest, NamesAreReadOnce) {
+  db.Execute(mustWork, "UPDATE Systems SET realname = 'Elsewhere'");
+
+  map.InitDataUsage(universe);
+
+  EXPECT_EQ(map.State().Names.Of({8, 10}), "New York");
+}
+
+TEST_F(MapScreenTest, ThePlayersOwnStarMapTakesThePlaceOfThePaintedOne) {
+  map.ReplaceStarMap("/folder/SysMap.jpg");
+
+  map.Redraw(universe, 12000, 9000);
+
+  std::optional<std::string> picture;
+  for (const Control& control : map.Drawing().Controls) {
+    if (control.Name == "StarMapPic") picture = control.Picture;
+  }
+  EXPECT_EQ(picture, "/folder/SysMap.jpg");
+}
+
+}  // namespace
+}  // namespace orrerix

@@ -1,0 +1,119 @@
+// SPDX-License-Identifier: MIT
+#include "picture/picture_store.h"
+
+#include <gtest/gtest.h>
+
+#include "support/temp_folder.h"
+
+namespace orrerix {
+namespace {
+
+// A picture file of one colour.
+class PictureStoreTest : public ::testing::Test {
+ protected:
+  QString Plain(QColor color, QSize size = {10, 10}) {
+    QImage image(size, QImage::Format_RGB32);
+    image.fill(color);
+    const QString file =
+        QString::fromStdString((folder.Path() / (color.name().toStdString() + ".png")).string());
+    image.save(file);
+    return file;
+  }
+
+  QImage Canvas(double devicePixelRatio = 1) const {
+    QImage image(QSize(60, 60) * devicePixelRatio, QImage::Format_RGB32);
+    image.setDevicePixelRatio(devicePixelRatio);
+    image.fill(Qt::black);
+    return image;
+  }
+
+  TempFolder folder;
+  PictureStore store;
+};
+
+TEST_F(PictureStoreTest, APictureIsStretchedOverItsPlace) {
+  QImage canvas = Canvas();
+  QPainter painter(&canvas);
+
+  store.Draw(painter, Plain(Qt::red), {5, 10, 30, 20});
+  painter.end();
+
+  EXPECT_EQ(canvas.pixelColor(5, 10), QColor(Qt::red));
+  EXPECT_EQ(canvas.pixelColor(34, 29), QColor(Qt::red));
+  EXPECT_EQ(canvas.pixelColor(35, 29), QColor(Qt::black));
+  EXPECT_EQ(canvas.pixelColor(34, 30), QColor(Qt::black));
+}
+
+TEST_F(PictureStoreTest, NeighboursMeetWithoutASeamBetweenPixels) {
+  QImage canvas = Canvas();
+  QPainter painter(&canvas);
+  painter.setRenderHint(QPainter::Antialiasing);
+
+  store.Draw(painter, Plain(Qt::red), {0, 0, 10.4, 10});
+  store.Draw(painter, Plain(Qt::blue), {10.4, 0, 10.4, 10});
+  painter.end();
+
+  EXPECT_EQ(canvas.pixelColor(9, 5), QColor(Qt::red));
+  EXPECT_EQ(canvas.pixelColor(10, 5), QColor(Qt::blue));
+  EXPECT_EQ(canvas.pixelColor(20, 5), QColor(Qt::blue));
+  EXPECT_EQ(canvas.pixelColor(21, 5), QColor(Qt::black));
+}
+
+TEST_F(PictureStoreTest, OnAFineScreenTheScreensOwnPixelsCount) {
+  QImage canvas = Canvas(2);
+  QPainter painter(&canvas);
+  painter.translate(0.5, 0);
+
+  store.Draw(painter, Plain(Qt::red), {0, 0, 10, 10});
+  painter.end();
+
+  // Half a logical pixel is a whole one of the screen.
+  EXPECT_EQ(canvas.pixelColor(0, 5), QColor(Qt::black));
+  EXPECT_EQ(canvas.pixelColor(1, 5), QColor(Qt::red));
+  EXPECT_EQ(canvas.pixelColor(20, 5), QColor(Qt::red));
+  EXPECT_EQ(canvas.pixelColor(21, 5), QColor(Qt::black));
+}
+
+TEST_F(PictureStoreTest, OfAHiddenPictureOnlyTheSeenPartIsDrawn) {
+  QImage canvas = Canvas();
+  QPainter painter(&canvas);
+
+  store.Draw(painter, Plain(Qt::red), {0, 0, 50, 50}, {0, 0, 3, 50});
+  painter.end();
+
+  EXPECT_EQ(canvas.pixelColor(2, 25), QColor(Qt::red));
+  EXPECT_EQ(canvas.pixelColor(3, 25), QColor(Qt::black));
+}
+
+TEST_F(PictureStoreTest, ThePaintersOwnTransformationStays) {
+  QImage canvas = Canvas();
+  QPainter painter(&canvas);
+  painter.translate(3, 4);
+  const QTransform before = painter.worldTransform();
+
+  store.Draw(painter, Plain(Qt::red), {0, 0, 10, 10});
+
+  EXPECT_EQ(painter.worldTransform(), before);
+}
+
+TEST_F(PictureStoreTest, DrawingsHaveTheSizeTheyAreAskedFor) {
+  EXPECT_EQ(store.NaturalSize(":/pictures/icons/jumpgate.svg"), QSize(40, 40));
+  EXPECT_EQ(store.Scaled(":/pictures/icons/jumpgate.svg", {13, 13}).size(), QSize(13, 13));
+}
+
+TEST_F(PictureStoreTest, AFileThatIsNoPictureDrawsNothing) {
+  const QString file = QString::fromStdString(folder.Write("SysMap.jpg", "no picture").string());
+  QImage canvas = Canvas();
+  const QImage before = canvas;
+  QPainter painter(&canvas);
+
+  store.Draw(painter, file, {0, 0, 10, 10});
+  store.Draw(painter, "/nowhere.png", {0, 0, 10, 10});
+  painter.end();
+
+  EXPECT_EQ(canvas, before);
+  EXPECT_TRUE(store.NaturalSize(file).isEmpty());
+}
+
+}  // namespace
+}  // namespace orrerix

@@ -1,0 +1,142 @@
+// SPDX-License-Identifier: MIT
+#include "shell/language.h"
+
+#include <filesystem>
+#include <string>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "shell/language_texts.h"
+#include "support/failure_sinks.h"
+#include "support/fake_message_boxes.h"
+#include "support/temp_folder.h"
+
+namespace orrerix {
+namespace {
+
+namespace fs = std::filesystem;
+using ::testing::IsEmpty;
+using ::testing::Not;
+using ::testing::SizeIs;
+
+class LanguageFile : public ::testing::Test {
+ protected:
+  FailTest mustWork;
+  FakeMessageBoxes messages;
+  ErrorLog log{messages, AppVersion{1, 0, 0}};
+  TempFolder folder;
+  Language language{log, folder.Path(), JetVersionOption::Version30};
+};
+
+TEST_F(LanguageFile, IsFilledByTheFirstText) {
+  EXPECT_EQ(language.TXT(3), "Jumpgate Lines");
+
+  EXPECT_EQ(language.Path(), folder.Path() / "FLOX-Language.mdb");
+  EXPECT_TRUE(fs::exists(language.Path()));
+  EXPECT_THAT(log.Failures(), IsEmpty());
+}
+
+TEST_F(LanguageFile, HasTenTablesOfWhichThreeAreFilled) {
+  language.InitLanguages();
+
+  Database file = DBEngine::OpenDatabase(mustWork, language.Path());
+  const auto tables = file.TableDefs(mustWork);
+  ASSERT_THAT(tables, SizeIs(10));
+  for (std::size_t i = 0; i < tables.size(); ++i) {
+    EXPECT_EQ(tables[i].Name, "Lang" + std::to_string(i));
+    Recordset rows = file.OpenRecordset(mustWork, "SELECT * FROM " + tables[i].Name);
+    EXPECT_EQ(rows.RecordCount(), i < 3 ? 29u : 0u);
+  }
+  EXPECT_EQ(tables[0].Fields[0].Type, FieldType::Integer);
+  EXPECT_EQ(tables[0].Fields[1].Size, 255u);
+  EXPECT_TRUE(tables[0].Fields[1].AllowZeroLength);
+}
+
+TEST_F(LanguageFile, GivesEveryTextInTheCurrentLanguage) {
+  for (std::int16_t current = 0; current < 3; ++current) {
+    language.CurrentLanguage = current;
+    for (const LanguageText& text : LanguageTexts()) {
+      EXPECT_EQ(language.TXT(text.ID), TextIn(current, text.ID));
+    }
+  }
+}
+
+TEST_F(LanguageFile, AMissingTextIsNoFailure) {
+  EXPECT_EQ(language.TXT(29), "?????");
+  EXPECT_EQ(language.TXT(-1), "?????");
+  EXPECT_THAT(log.Failures(), IsEmpty());
+}
+
+TEST_F(LanguageFile, LanguagesThatAreEmptyHaveNoTexts) {
+  for (const int current : {3, 6, 7, 9}) {
+    language.CurrentLanguage = static_cast<std::int16_t>(current);
+    EXPECT_EQ(language.TXT(0), "?????");
+  }
+  EXPECT_THAT(log.Failures(), IsEmpty());
+}
+
+TEST_F(LanguageFile, ATextIsWrittenOverTheOneThatStands) {
+  language.InitLanguages();
+
+  language.SetLanguage(3, "a", "", "c");
+
+  EXPECT_EQ(language.TXT(3), "a");
+  language.CurrentLanguage = 1;
+  EXPECT_EQ(language.TXT(3), "");
+  Database file = DBEngine::OpenDatabase(mustWork, language.Path());
+  EXPECT_EQ(file.OpenRecordset(mustWork, "SELECT * FROM Lang0").RecordCount(), 29u);
+}
+
+TEST_F(LanguageFile, EditsAreGoneBehindTheNextStart) {
+  language.InitLanguages();
+  language.SetLanguage(3, "a", "b", "c");
+  language.SetLanguage(100, "x", "y", "z");
+
+  language.InitLanguages();
+
+  EXPECT_EQ(language.TXT(3), "Jumpgate Lines");
+  EXPECT_EQ(language.TXT(100), "x");
+}
+
+TEST_F(LanguageFile, AFileThatLacksATableFailsForEachTextAndIsNotRepaired) {
+  language.InitLanguages();
+  DBEngine::OpenDatabase(mustWork, language.Path()).Execute(mustWork, "DROP TABLE Lang1");
+  language.CurrentLanguage = 1;
+
+  language.TXT(3);
+  language.TXT(4);
+  ASSERT_THAT(log.Failures(), SizeIs(2));
+  EXPECT_EQ(log.Failures()[1].Source, "Settings.TXT");
+  EXPECT_EQ(log.Failures()[1].Info, "While reading setting: 4");
+
+  language.InitLanguages();
+  Database file = DBEngine::OpenDatabase(mustWork, language.Path());
+  EXPECT_FALSE(file.HasTable("Lang1"));
+}
+
+TEST_F(LanguageFile, CancelInAFailureGivesAnEmptyText) {
+  folder.Write("FLOX-Language.mdb", std::string(5000, 'x'));
+  messages.Answer = MessageAnswer::Cancel;
+
+  EXPECT_EQ(language.TXT(3), "");
+  EXPECT_THAT(log.Failures(), SizeIs(1));
+}
+
+TEST_F(LanguageFile, AFolderThatIsNotThereIsAFailure) {
+  Language nowhere(log, folder.Path() / "none", JetVersionOption::Version30);
+  messages.Answer = MessageAnswer::Cancel;
+
+  EXPECT_EQ(nowhere.TXT(3), "");
+  ASSERT_THAT(log.Failures(), Not(IsEmpty()));
+  EXPECT_EQ(log.Failures()[0].Source, "Settings.CreateLanguageFile");
+  EXPECT_EQ(log.Failures()[0].Info, "While creating language database");
+}
+
+TEST(AFixedLanguage, NeedsNoFile) {
+  EXPECT_EQ(FixedLanguage(2).TXT(26), "Prix");
+  EXPECT_EQ(FixedLanguage(7).TXT(26), "?????");
+}
+
+}  // namespace
+}  // namespace orrerix
