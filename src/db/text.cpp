@@ -29,12 +29,12 @@ char UpperAscii(char c) {
 
 template <typename Ascii, typename Simple>
 std::string MapCase(std::string_view text, Ascii ascii, Simple simple) {
-  std::string mapped(text);
+  std::string mapped;
   if (IsAscii(text)) {
-    std::transform(mapped.begin(), mapped.end(), mapped.begin(), ascii);
+    mapped.resize(text.size());
+    std::transform(text.begin(), text.end(), mapped.begin(), ascii);
     return mapped;
   }
-  mapped.clear();
   for (std::size_t at = 0; at < text.size();) {
     const std::size_t start = at;
     const char32_t from = NextCodePoint(text, at);

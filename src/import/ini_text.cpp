@@ -2,7 +2,6 @@
 #include "import/ini_text.h"
 
 #include <algorithm>
-#include <cstring>
 #include <optional>
 
 #include "db/text.h"
@@ -61,9 +60,7 @@ std::string UpperAscii(std::string_view text) {
 }
 
 std::size_t FindText(std::string_view text, std::string_view part) {
-  const void* found = memmem(text.data(), text.size(), part.data(), part.size());
-  if (found == nullptr) return std::string_view::npos;
-  return static_cast<std::size_t>(static_cast<const char*>(found) - text.data());
+  return text.find(part);
 }
 
 std::string_view FindINIValue(std::string_view text, std::string_view upperText,
@@ -103,8 +100,11 @@ std::string RemoveComments(std::string_view text) {
 
 void FixCrLf(std::string& text) {
   if (text.size() > 2 && !LineEndsAreWhole(text)) text = WithLineEnds(text);
-  const std::size_t run = FindText(text, "  =");
-  if (run != std::string_view::npos) ShrinkBlanksBeforeSigns(text, run);
+  for (std::size_t sign = text.find('='); sign != std::string::npos;
+       sign = text.find('=', sign + 1)) {
+    if (sign < 2 || text[sign - 1] != ' ' || text[sign - 2] != ' ') continue;
+    return ShrinkBlanksBeforeSigns(text, sign - 2);
+  }
 }
 
 }  // namespace orrerix

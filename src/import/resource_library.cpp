@@ -243,31 +243,27 @@ std::map<std::uint32_t, std::string> ResourceLibrary::Strings() const {
 
 std::string FromUtf16(std::string_view bytes) {
   std::string text;
-  text.reserve(bytes.size() / 2);
-  char32_t high = 0;
-  const auto flush = [&text, &high] {
-    if (high != 0) text += '?';
-    high = 0;
+  text.reserve(bytes.size() / 2 + 1);
+  const auto unitAt = [bytes](std::size_t i) {
+    const char32_t low = static_cast<unsigned char>(bytes[i]);
+    return i + 1 < bytes.size() ? low | (char32_t{static_cast<unsigned char>(bytes[i + 1])} << 8)
+                                : low;
   };
   for (std::size_t i = 0; i < bytes.size(); i += 2) {
-    const char32_t low = static_cast<unsigned char>(bytes[i]);
-    const char32_t unit =
-        i + 1 < bytes.size() ? low | (char32_t{static_cast<unsigned char>(bytes[i + 1])} << 8) : low;
-    if (high != 0 && unit >= 0xDC00 && unit < 0xE000) {
-      AppendUtf8(text, 0x10000 + ((high - 0xD800) << 10) + (unit - 0xDC00));
-      high = 0;
-      continue;
-    }
-    flush();
+    const char32_t unit = unitAt(i);
     if (unit < 0x80) {
       text += static_cast<char>(unit);
-    } else if (unit >= 0xD800 && unit < 0xDC00) {
-      high = unit;
+      continue;
+    }
+    const bool isHigh = unit >= 0xD800 && unit < 0xDC00;
+    const char32_t low = isHigh && i + 2 < bytes.size() ? unitAt(i + 2) : 0;
+    if (low >= 0xDC00 && low < 0xE000) {
+      AppendUtf8(text, 0x10000 + ((unit - 0xD800) << 10) + (low - 0xDC00));
+      i += 2;
     } else {
-      AppendUtf8(text, unit);  // a lone low half becomes "?" there
+      AppendUtf8(text, unit);  // half of a pair becomes "?" there
     }
   }
-  flush();
   return text;
 }
 

@@ -119,7 +119,7 @@ ControlList Switches(double frameWidth, double top, const PanelContent& content,
     const double rowTop = top + row * kOptionLabel.Height;
     const bool on = options.On[static_cast<std::size_t>(i)];
     Control check = MakePicture("SetImage", i, {left, rowTop, kCheckSize, kCheckSize},
-                                on ? "check_on.svg" : "check_off.svg");
+                                on ? "tools/check_on.svg" : "tools/check_off.svg");
     check.Tag = on ? "1" : "0";
     switches.push_back(std::move(check));
     switches.push_back(Label("SetLabel", i,

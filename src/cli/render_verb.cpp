@@ -1,0 +1,145 @@
+// SPDX-License-Identifier: MIT
+// render: the map as a picture file.
+#include <QApplication>
+#include <QFile>
+#include <QImage>
+#include <QPainter>
+#include <QPdfWriter>
+#include <QSvgGenerator>
+#include <memory>
+
+#include <fmt/format.h>
+
+#include "cli/scene.h"
+#include "cli/verbs.h"
+#include "picture/map_scene.h"
+#include "picture/twips.h"
+
+namespace orrerix {
+namespace {
+
+struct RenderOptions {
+  SceneOptions Scene;
+  std::string File;
+  std::string Pixels;
+};
+
+// Qt's fonts and pictures; never a display. One that is there already serves as well.
+class OffscreenQt {
+ public:
+  OffscreenQt() {
+    if (QCoreApplication::instance() != nullptr) return;
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    application_ = std::make_unique<QApplication>(argc_, argv_);
+  }
+
+ private:
+  char name_[12] = "orrerix-cli";
+  char* argv_[2] = {name_, nullptr};
+  int argc_ = 1;
+  std::unique_ptr<QApplication> application_;
+};
+
+// Renders the frame into a picture of `size`, as large as its proportions allow, in the middle;
+// what is left over takes the frame's colour.
+void Paint(MapScene& scene, QPaintDevice& device, QSizeF size) {
+  QPainter painter(&device);
+  painter.setRenderHint(QPainter::Antialiasing);
+  const QSizeF fitted = scene.sceneRect().size().scaled(size, Qt::KeepAspectRatio);
+  const QPointF corner((size.width() - fitted.width()) / 2, (size.height() - fitted.height()) / 2);
+  const QRectF frame(corner, fitted);
+  scene.render(&painter, frame, scene.sceneRect());
+  // Painted last: not every kind of file clips what leaves the frame.
+  painter.setRenderHint(QPainter::Antialiasing, false);
+  const QRectF whole(QPointF(0, 0), size);
+  for (const QRectF& rest : {QRectF(whole.topLeft(), QPointF(frame.left(), whole.bottom())),
+                             QRectF(QPointF(frame.right(), 0), whole.bottomRight()),
+                             QRectF(whole.topLeft(), QPointF(whole.right(), frame.top())),
+                             QRectF(QPointF(0, frame.bottom()), whole.bottomRight())}) {
+    if (!rest.isEmpty()) painter.fillRect(rest, scene.backgroundBrush());
+  }
+}
+
+void WritePng(MapScene& scene, const QString& file, QSize size) {
+  QImage image(size, QImage::Format_RGB32);
+  if (image.isNull()) throw CouldNot("the picture is too large");
+  Paint(scene, image, size);
+  if (!image.save(file, "PNG")) throw CouldNot("cannot write '" + file.toStdString() + "'");
+}
+
+void WriteSvg(MapScene& scene, const QString& file, QSize size) {
+  QSvgGenerator generator;
+  generator.setFileName(file);
+  generator.setSize(size);
+  generator.setViewBox(QRect(QPoint(0, 0), size));
+  generator.setTitle("FL Orrerix");
+  Paint(scene, generator, size);
+}
+
+void WritePdf(MapScene& scene, const QString& file, QSize size) {
+  constexpr int dotsPerInch = 96;  // a logical pixel is 15 twips of 1440 an inch
+  constexpr double pointsPerPixel = 72.0 / dotsPerInch;
+  QPdfWriter writer(file);
+  writer.setResolution(dotsPerInch);
+  writer.setPageSize(
+      QPageSize(QSizeF(size) * pointsPerPixel, QPageSize::Point, {}, QPageSize::ExactMatch));
+  writer.setPageMargins({});
+  writer.setTitle("FL Orrerix");
+  Paint(scene, writer, size);
+}
+
+void RequireWritable(const QString& file) {
+  QFile probe(file);
+  if (!probe.open(QIODevice::WriteOnly)) {
+    throw CouldNot(fmt::format("cannot write '{}'", file.toStdString()));
+  }
+}
+
+using Writer = void (*)(MapScene&, const QString&, QSize);
+
+Writer WriterOf(const QString& file) {
+  if (file.endsWith(".png", Qt::CaseInsensitive)) return WritePng;
+  if (file.endsWith(".svg", Qt::CaseInsensitive)) return WriteSvg;
+  if (file.endsWith(".pdf", Qt::CaseInsensitive)) return WritePdf;
+  throw WrongUsage(fmt::format("'{}' ends neither in .png, .svg nor .pdf", file.toStdString()));
+}
+
+QSize SizeOf(const RenderOptions& words, const MapScene& scene) {
+  if (words.Pixels.empty()) return scene.sceneRect().size().toSize();
+  const Extent extent = ParseExtent(words.Pixels);
+  return {extent.Width, extent.Height};
+}
+
+int RunRender(const CommonOptions& options, const RenderOptions& words) {
+  const QString file = QString::fromStdString(words.File);
+  const Writer write = WriterOf(file);
+  ParseExtent(words.Scene.Size);
+  if (!words.Pixels.empty()) ParseExtent(words.Pixels);
+  Database database = OpenUniverse(options);
+  PolicyMessageBoxes messages(options);
+  ErrorLog log(messages, CurrentVersion());
+  Universe universe{log, database};
+  const OffscreenQt qt;
+  PictureStore pictures;
+  MapScene scene(pictures);
+  scene.Show(DrawScene(universe, options, words.Scene).Drawing);
+  const QSize size = SizeOf(words, scene);
+  if (size.isEmpty()) throw WrongUsage("the picture would have no pixels");
+  RequireWritable(file);
+  write(scene, file, size);
+  return kDone;
+}
+
+}  // namespace
+
+void AddRenderVerb(CLI::App& app, const CommonOptions& options, Verb& run) {
+  auto words = std::make_shared<RenderOptions>();
+  CLI::App* verb = app.add_subcommand("render", "The map as a picture");
+  verb->add_option("FILE", words->File, "A file that ends in .png, .svg or .pdf")->required();
+  verb->add_option("--pixels", words->Pixels, "Size of the picture");
+  AddSceneOptions(*verb, words->Scene);
+  verb->callback(
+      [&options, &run, words] { run = [&options, words] { return RunRender(options, *words); }; });
+}
+
+}  // namespace orrerix

@@ -1,0 +1,143 @@
+// SPDX-License-Identifier: MIT
+#include "forms/error_log_window.h"
+
+#include <QCloseEvent>
+#include <QGuiApplication>
+#include <QScreen>
+#include <QScrollBar>
+#include <QTextCursor>
+#include <utility>
+
+#include "forms/form_geometry.h"
+#include "picture/form_font.h"
+#include "shell/error_log_layout.h"
+
+namespace orrerix {
+namespace {
+
+constexpr int kClientWidth = 7335;
+constexpr int kClientHeight = 5655;
+constexpr int kHeadingFont = 8;
+constexpr int kLogFont = 9;
+constexpr const char* kAuthorsMail = "authors@orrerix.invalid";
+
+QRect RectOf(const ControlPlace& place) {
+  return PixelRect(place.Left, place.Top, place.Width, place.Height);
+}
+
+void SetColors(QWidget& widget, QColor ground, QColor letters) {
+  QPalette palette = widget.palette();
+  palette.setColor(widget.backgroundRole(), ground);
+  palette.setColor(widget.foregroundRole(), letters);
+  widget.setPalette(palette);
+}
+
+}  // namespace
+
+ErrorLogWindow::ErrorLogWindow(ErrorLog& log, std::function<bool()> importing)
+    : log_(log),
+      importing_(std::move(importing)),
+      dataHeading_(AddHeading(
+          0, "Errors/Warnings in FreeLancer-Files (Information interresting for MODDERS):",
+          QColor(255, 255, 0))),
+      dataLog_(AddLog("Text1", QColor(255, 255, 128), QPlainTextEdit::WidgetWidth)),
+      programHeading_(AddHeading(1,
+                                 QStringLiteral("Errors in FL Orrerix while running (EMail that "
+                                                "to %1):")
+                                     .arg(kAuthorsMail),
+                                 QColor(255, 0, 0))),
+      programLog_(AddLog("Text2", QColor(255, 128, 0), QPlainTextEdit::NoWrap)) {
+  setObjectName("ErrorLog");
+  setWindowTitle("FL-Orrerix Error Logfile.");
+  // It comes up beside the work, not in its place.
+  setAttribute(Qt::WA_ShowWithoutActivating);
+  resize(PixelRect(0, 0, kClientWidth, kClientHeight).size());
+  programHeading_->hide();
+  programLog_.Box->hide();
+  log_.SetView(this);
+}
+
+ErrorLogWindow::~ErrorLogWindow() {
+  log_.SetView(nullptr);
+}
+
+QLabel* ErrorLogWindow::AddHeading(int index, const QString& caption, QColor letters) {
+  auto* label = new QLabel(caption, this);
+  label->setObjectName(QStringLiteral("Label1_%1").arg(index));
+  QFont font = FormFont(kHeadingFont);
+  font.setBold(true);
+  label->setFont(font);
+  label->setAutoFillBackground(true);
+  SetColors(*label, QColor(0, 0, 192), letters);
+  return label;
+}
+
+ErrorLogWindow::Log ErrorLogWindow::AddLog(const char* name, QColor letters,
+                                           QPlainTextEdit::LineWrapMode wrap) {
+  auto* box = new QPlainTextEdit(this);
+  box->setObjectName(name);
+  box->setFont(FormFont(kLogFont));
+  box->setReadOnly(true);
+  box->setUndoRedoEnabled(false);
+  box->setLineWrapMode(wrap);
+  QPalette palette = box->palette();
+  palette.setColor(QPalette::Base, QColor(0, 0, 128));
+  palette.setColor(QPalette::Text, letters);
+  box->setPalette(palette);
+  return {box, {}};
+}
+
+void ErrorLogWindow::ShowWindow() {
+  if (isHidden()) {
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    move(screen.bottomRight() - rect().bottomRight());
+  }
+  setWindowIcon(QGuiApplication::windowIcon());
+  TextsChanged();
+  show();
+}
+
+// The log only grows while its window lives, so that the new end is all there is to add.
+void ErrorLogWindow::ShowText(Log& log, const std::string& text) {
+  if (text == log.Shown) return;
+  if (text.starts_with(log.Shown)) {
+    QTextCursor end(log.Box->document());
+    end.movePosition(QTextCursor::End);
+    end.insertText(QString::fromStdString(text.substr(log.Shown.size())).remove('\r'));
+  } else {
+    log.Box->setPlainText(QString::fromStdString(text).remove('\r'));
+  }
+  log.Shown = text;
+  log.Box->moveCursor(QTextCursor::End);
+  // The last entry is read from the beginning of its lines.
+  log.Box->horizontalScrollBar()->setValue(0);
+}
+
+void ErrorLogWindow::TextsChanged() {
+  ShowText(dataLog_, log_.DataLog());
+  ShowText(programLog_, log_.ProgramLog());
+  FormResize();
+}
+
+void ErrorLogWindow::FormResize() {
+  const ErrorLogLayout layout =
+      LayOutErrorLog(OuterWidth(*this), OuterHeight(*this), log_.HasProgramError());
+  dataHeading_->setGeometry(RectOf(layout.DataHeading));
+  dataLog_.Box->setGeometry(RectOf(layout.DataLog));
+  programHeading_->setGeometry(RectOf(layout.ProgramHeading));
+  programLog_.Box->setGeometry(RectOf(layout.ProgramLog));
+  programHeading_->setVisible(layout.LowerHalfVisible);
+  programLog_.Box->setVisible(layout.LowerHalfVisible);
+}
+
+void ErrorLogWindow::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  FormResize();
+}
+
+void ErrorLogWindow::closeEvent(QCloseEvent* event) {
+  log_.QueryUnload(importing_());
+  event->accept();
+}
+
+}  // namespace orrerix

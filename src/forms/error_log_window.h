@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QWidget>
+#include <functional>
+#include <string>
+
+#include "shell/error_log.h"
+
+namespace orrerix {
+
+// Shows the two logs: the remarks on the game's files and, from the first one on, the program's own
+// failures below them.
+class ErrorLogWindow : public QWidget, public ErrorLogView {
+ public:
+  // `importing` tells whether an import runs: closing then only hides the window.
+  ErrorLogWindow(ErrorLog& log, std::function<bool()> importing);
+  ~ErrorLogWindow() override;
+
+  void ShowWindow() override;
+  void TextsChanged() override;
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+  void closeEvent(QCloseEvent* event) override;
+
+ private:
+  // A log's box with as much of its text as it shows.
+  struct Log {
+    QPlainTextEdit* Box;
+    std::string Shown;
+  };
+
+  QLabel* AddHeading(int index, const QString& caption, QColor letters);
+  Log AddLog(const char* name, QColor letters, QPlainTextEdit::LineWrapMode wrap);
+  static void ShowText(Log& log, const std::string& text);
+  void FormResize();
+
+  ErrorLog& log_;
+  std::function<bool()> importing_;
+  QLabel* dataHeading_;
+  Log dataLog_;
+  QLabel* programHeading_;
+  Log programLog_;
+};
+
+}  // namespace orrerix

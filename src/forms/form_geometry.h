@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+// Twips of forms and controls as Qt's whole pixels.
+#pragma once
+
+#include <QWidget>
+#include <cmath>
+
+#include "forms/import_screen_layout.h"
+#include "picture/twips.h"
+
+namespace orrerix {
+
+// Sides go to the nearest pixel, so that neighbours stay neighbours.
+inline QRect PixelRect(int left, int top, int width, int height) {
+  const auto pixel = [](int twips) { return static_cast<int>(std::lround(Pixels(twips))); };
+  return {QPoint(pixel(left), pixel(top)),
+          QSize(pixel(left + width) - pixel(left), pixel(top + height) - pixel(top))};
+}
+inline QRect PixelRect(const FormPlace& place) {
+  return PixelRect(place.Left, place.Top, place.Width, place.Height);
+}
+
+// Outer size of a form, frame and title included.
+inline int OuterWidth(const QWidget& form) {
+  return static_cast<int>(Twips(form.frameGeometry().width()));
+}
+inline int OuterHeight(const QWidget& form) {
+  return static_cast<int>(Twips(form.frameGeometry().height()));
+}
+
+}  // namespace orrerix

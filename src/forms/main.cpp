@@ -1,0 +1,114 @@
+// SPDX-License-Identifier: MIT
+// orrerix: the window.
+#include <QApplication>
+#include <QIcon>
+#include <algorithm>
+#include <string>
+#include <vector>
+
+#include <CLI/CLI.hpp>
+#include <fmt/format.h>
+
+#include "forms/program_run.h"
+#include "forms/program_style.h"
+#include "forms/qt_services.h"
+#include "platform/application_folder.h"
+#include "platform/game_path.h"
+#include "platform/native_registry.h"
+#include "shell/version.h"
+
+namespace {
+
+using namespace orrerix;
+
+struct Words {
+  std::string Game;
+  std::string SaveFolder;
+  std::string AppFolder;
+  std::string NewsUrl;
+  bool FindGame = false;
+  std::vector<std::string> Others;
+};
+
+void AddWords(CLI::App& app, Words& words) {
+  app.set_version_flag("--version", "orrerix " + CurrentVersion().Text());
+  app.add_option("--game", words.Game, "The game's folder");
+  app.add_option("--save-folder", words.SaveFolder, "Folder of the universe file");
+  app.add_option("--app-folder", words.AppFolder, "Folder of settings and language texts");
+  app.add_option("--news-url", words.NewsUrl, "Address of the news file");
+  app.add_flag("--find-game", words.FindGame,
+               "Print the game folder that a start finds by itself; exit code 1 if there is none");
+  app.add_option("words", words.Others, "\"debug\" shows every block that an import reads");
+}
+
+// A folder given by name is made if it is not there; those found by themselves are others' work.
+std::filesystem::path MadeFolder(const std::string& name) {
+  std::error_code ignored;
+  const std::filesystem::path folder = std::filesystem::absolute(name, ignored);
+  std::filesystem::create_directories(folder, ignored);
+  return folder;
+}
+
+StartPaths PathsOf(const Words& words) {
+  StartPaths paths;
+  paths.ApplicationFolder =
+      words.AppFolder.empty() ? ApplicationFolder() : MadeFolder(words.AppFolder);
+  paths.Executable = ExecutablePath();
+  if (!words.Game.empty()) paths.Game = words.Game;
+  if (!words.SaveFolder.empty()) paths.SaveFolder = MadeFolder(words.SaveFolder);
+  paths.Debugging =
+      std::find(words.Others.begin(), words.Others.end(), "debug") != words.Others.end();
+  return paths;
+}
+
+// Answers every question with OK and shows none.
+class NoMessageBoxes : public MessageBoxes {
+ public:
+  MessageAnswer Show(const Message&) override { return MessageAnswer::Ok; }
+};
+
+int PrintGame() {
+  NoMessageBoxes messages;
+  ErrorLog log(messages, CurrentVersion());
+  const auto native = NativeRegistry();
+  const GameFolder game(GameRegistry(log, *native).GetFLPath());
+  if (!game.FindFile(game.Text() + "\\exe\\Freelancer.exe")) return 1;
+  fmt::print("{}\n", game.Text());
+  return 0;
+}
+
+int RunProgram(int argc, char** argv, const StartPaths& paths) {
+  QApplication application(argc, argv);
+  QApplication::setApplicationName("orrerix");
+  QApplication::setApplicationDisplayName("");
+  QApplication::setQuitOnLastWindowClosed(false);
+  SetProgramStyle();
+  QApplication::setWindowIcon(QIcon(":/pictures/application.svg"));
+  DesktopMessageBoxes messages;
+  DesktopSound sound;
+  DesktopLinks links;
+  ErrorLog log(messages, CurrentVersion());
+  const auto native = NativeRegistry();
+  const GameRegistry registry(log, *native);
+  PictureStore pictures;
+  const FormParts parts{paths, CurrentVersion(), log, registry, messages, sound, links, pictures};
+  ProgramRun run(parts);
+  run.Start();
+  return QApplication::exec();
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  CLI::App app("The universe of a game folder as a star map");
+  Words words;
+  AddWords(app, words);
+  try {
+    app.parse(argc, argv);
+  } catch (const CLI::ParseError& error) {
+    return app.exit(error) == 0 ? 0 : 2;
+  }
+  if (words.FindGame) return PrintGame();
+  int qtArgc = 1;
+  return RunProgram(qtArgc, argv, PathsOf(words));
+}

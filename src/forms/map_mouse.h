@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "map/drawing_list.h"
+
+namespace orrerix {
+
+enum class PointerButton { None, Left, Right };
+
+// The mouse on the map frame.
+struct MapPointer {
+  double X = 0;  // twips from the frame's top left corner
+  double Y = 0;
+  PointerButton Button = PointerButton::None;  // pressed or released; of a move the one held down
+  const Control* Under = nullptr;  // topmost control that is no line; null on the bare frame
+};
+
+// Whoever acts on the mouse. The map as such only shows.
+class MapMouse {
+ public:
+  virtual ~MapMouse() = default;
+  virtual void MouseDown(const MapPointer&) {}
+  virtual void MouseMove(const MapPointer&) {}
+  virtual void MouseUp(const MapPointer&) {}
+};
+
+}  // namespace orrerix

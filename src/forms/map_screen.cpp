@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: MIT
+#include "forms/map_screen.h"
+
+#include <QTimer>
+#include <utility>
+
+#include "map/system_pictures.h"
+#include "picture/picture_files.h"
+#include "picture/twips.h"
+
+namespace orrerix {
+
+MapScreen::MapScreen(PictureStore& pictures, Settings& settings, TextSource& texts, QWidget* form)
+    : pictures_(pictures),
+      settings_(settings),
+      texts_(texts),
+      scene_(pictures),
+      frame_(new SysmapFrame(scene_, form)) {
+  frame_->hide();
+}
+
+void MapScreen::InitDataUsage(Universe& universe) {
+  if (std::exchange(namesRead_, true)) return;
+  state_.Zoom.Reset();
+  state_.Names = GetSystemNames(universe, texts_);
+  ReadAhead();
+}
+
+// The first zoom needs many pictures at once: they are read one by one while nothing else happens.
+void MapScreen::ReadAhead() {
+  auto* timer = new QTimer(frame_);
+  QObject::connect(timer, &QTimer::timeout, frame_, [this, timer, next = 0]() mutable {
+    pictures_.Read(PictureFile(MakePicture("SysMapGfx", next, {}, "SysMapGfx")));
+    if (++next == kSystemPictures) timer->deleteLater();
+  });
+  timer->start(0);
+}
+
+MapOptions MapScreen::ReadOptions() {
+  const bool zoomed = state_.Zoom.Current().IsZoomed();
+  MapOptions options;
+  for (int i = 0; i < kMapSwitches; ++i) {
+    options.On[static_cast<std::size_t>(i)] = IsOn(settings_.ReadSetting(SettingKey(zoomed, i)));
+  }
+  return options;
+}
+
+void MapScreen::Redraw(Universe& universe, int formWidth, int formHeight) {
+  MapDrawing drawing =
+      DrawMap(universe, state_, {formWidth, formHeight, ReadOptions(), measure_, panel_, starMap_});
+  // No pixel that the drawing does not reach to its far side.
+  const QRectF frame = Pixels(drawing.Frame);
+  frame_->setGeometry(QRect(frame.topLeft().toPoint(), QSize(static_cast<int>(frame.width()),
+                                                             static_cast<int>(frame.height()))));
+  scene_.Show(std::move(drawing));
+  frame_->show();
+}
+
+}  // namespace orrerix

@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+
+#include "forms/sysmap_frame.h"
+#include "map/redraw.h"
+#include "picture/qt_text_measure.h"
+#include "shell/language.h"
+#include "shell/settings.h"
+
+namespace orrerix {
+
+// The map on the main form, with all that it remembers between two redraws.
+class MapScreen {
+ public:
+  // Its widgets belong to `form`.
+  MapScreen(PictureStore& pictures, Settings& settings, TextSource& texts, QWidget* form);
+  MapScreen(const MapScreen&) = delete;
+  MapScreen& operator=(const MapScreen&) = delete;
+
+  // A file in the place of the painted universe.
+  void ReplaceStarMap(std::string file) { starMap_ = std::move(file); }
+
+  // Takes the captions over from the language in use.
+  void LoadFormTXT() { panel_ = PanelTexts(texts_); }
+
+  // Reads the systems' names; once, however often it is called.
+  void InitDataUsage(Universe& universe);
+
+  // One redraw of everything, on a form of this outer size (twips). Shows the frame.
+  void Redraw(Universe& universe, int formWidth, int formHeight);
+  void Hide() { frame_->hide(); }
+
+  MapState& State() { return state_; }
+  SysmapFrame& Frame() { return *frame_; }
+  const MapDrawing& Drawing() const { return scene_.Drawing(); }
+
+ private:
+  MapOptions ReadOptions();
+  void ReadAhead();
+
+  PictureStore& pictures_;
+  Settings& settings_;
+  TextSource& texts_;
+  QtTextMeasure measure_;
+  PanelContent panel_;
+  MapState state_;
+  bool namesRead_ = false;
+  std::string starMap_ = "StarMapPic";
+  MapScene scene_;
+  SysmapFrame* frame_;
+};
+
+}  // namespace orrerix

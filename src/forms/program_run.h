@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <memory>
+#include <optional>
+
+#include "forms/error_log_window.h"
+#include "forms/form_parts.h"
+#include "forms/loading.h"
+#include "forms/orrerix_main.h"
+
+namespace orrerix {
+
+// One run of the program, from the start form to the last window closed.
+class ProgramRun {
+ public:
+  explicit ProgramRun(const FormParts& parts);
+  ~ProgramRun();
+
+  // Shows the start form; everything else follows from its first focus.
+  void Start();
+
+  // Null before the start form has done its work.
+  OrrerixMain* Main() { return main_.get(); }
+  Loading& StartForm() { return loading_; }
+  ErrorLogWindow& LogWindow() { return errorLog_; }
+
+  // Called when the last window is gone; ends the event loop unless it is replaced.
+  std::function<void()> OnEnd;
+
+ private:
+  void FormGotFocus();
+  bool CheckEngine();
+  void LoadNews();
+  void LoadMain();
+  void ShowMain();
+  void ShowSpoiler();
+  void UnloadStartForms();
+  void UnloadApp();
+
+  const FormParts& parts_;
+  MemoryStatus memStart_;
+  std::optional<JetVersionOption> format_;
+  std::optional<Settings> settings_;
+  std::optional<Language> language_;
+  Loading loading_;
+  std::unique_ptr<OrrerixMain> main_;
+  ErrorLogWindow errorLog_;
+};
+
+}  // namespace orrerix

@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: MIT
+#include "forms/progress_shape.h"
+
+#include <QPainter>
+
+#include "picture/twips.h"
+
+namespace orrerix {
+
+ProgressShape::ProgressShape(Color border, Color fill, QWidget* parent)
+    : QWidget(parent), border_(ToQColor(border)), fill_(ToQColor(fill)) {
+  setAttribute(Qt::WA_OpaquePaintEvent);
+  setAttribute(Qt::WA_TransparentForMouseEvents);
+}
+
+void ProgressShape::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.fillRect(rect(), fill_);
+  painter.setPen(border_);
+  painter.drawRect(rect().adjusted(0, 0, -1, -1));
+}
+
+}  // namespace orrerix

@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+// The controls of a drawing list as items of a graphics scene.
+#pragma once
+
+#include <QGraphicsItem>
+#include <memory>
+
+#include "map/drawing_list.h"
+#include "picture/picture_store.h"
+
+namespace orrerix {
+
+// Shows one control; the control outlives its item. An item's origin is the top left corner of its
+// control, that of a line the corner of its parent.
+class ControlItem : public QGraphicsItem {
+ public:
+  ControlItem(const Control& control, QGraphicsItem* parent);
+
+  const Control& Shown() const { return control_; }
+
+  // The control behind an item; every item of a map scene has one.
+  static const Control& Of(const QGraphicsItem& item) {
+    return static_cast<const ControlItem&>(item).Shown();
+  }
+
+ private:
+  const Control& control_;
+};
+
+// Makes the item of a control, with those of its children. It belongs to the parent or, without
+// one, to the caller. Of a picture only what lies in `open`, in the parent's coordinates, can be
+// seen.
+QGraphicsItem* MakeControlItem(const Control& control, PictureStore& pictures, const QRectF& open,
+                               QGraphicsItem* parent);
+
+}  // namespace orrerix

@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+#include "picture/label_style.h"
+
+namespace orrerix {
+namespace {
+
+constexpr int kLanguageLabel = 6;
+
+// Off the border of the panel, off the cell's edge, off the switch before the text.
+constexpr double kBorderMargin = 8;
+constexpr double kNameMargin = 3;
+constexpr double kCheckMargin = 4;
+
+}  // namespace
+
+LabelStyle StyleOf(const Control& label) {
+  LabelStyle style;
+  if (label.Name == "SysmapLabel") {
+    style.Transparent = true;
+    style.Outlined = true;
+    style.MarginY = kNameMargin;
+  } else if (label.Name == "SetLabel" && label.Index == kLanguageLabel) {
+    style.Alignment = Qt::AlignRight | Qt::AlignBottom;
+    style.MarginX = kBorderMargin;
+    style.MarginY = kBorderMargin / 2;
+  } else if (label.Name == "SetLabel") {
+    style.Alignment = Qt::AlignLeft | Qt::AlignTop;
+    style.Wraps = true;
+    style.MarginX = kCheckMargin;
+  } else if (label.Name == "InfoBoxLabel") {
+    style.Outlined = true;
+  }
+  return style;
+}
+
+}  // namespace orrerix

@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <Qt>
+
+#include "map/drawing_list.h"
+
+namespace orrerix {
+
+// What a label's control does not carry because it never changes.
+struct LabelStyle {
+  double MarginX = 0;  // logical pixels kept free at the sides, at top and bottom
+  double MarginY = 0;
+  Qt::Alignment Alignment = Qt::AlignHCenter | Qt::AlignTop;
+  bool Wraps = false;  // at word ends, in a smaller font if it must; else it is cut with "..."
+  bool Transparent = false;  // its back colour is not painted
+  bool Outlined = false;     // dark round the letters, where the ground may be bright
+};
+
+LabelStyle StyleOf(const Control& label);
+
+}  // namespace orrerix

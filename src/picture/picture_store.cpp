@@ -1,0 +1,126 @@
+// SPDX-License-Identifier: MIT
+#include "picture/picture_store.h"
+
+#include <QFile>
+#include <QPaintEngine>
+#include <algorithm>
+#include <cmath>
+
+namespace orrerix {
+namespace {
+
+// Room for the scaled pictures of a large screen, in KiB.
+constexpr int kCacheRoom = 128 * 1024;
+
+// A picture of which less than one part in so many is seen.
+constexpr int kHiddenMostly = 4;
+
+qint64 AreaOf(QSize size) {
+  return static_cast<qint64>(size.width()) * size.height();
+}
+
+int CostOf(QSize size) {
+  constexpr qint64 bytesPerPixel = 4;
+  return static_cast<int>(std::max<qint64>(1, AreaOf(size) * bytesPerPixel / 1024));
+}
+
+bool IsRaster(const QPainter& painter) {
+  return painter.paintEngine() != nullptr &&
+         painter.paintEngine()->type() == QPaintEngine::Raster &&
+         painter.deviceTransform().type() <= QTransform::TxScale;
+}
+
+// The corner goes to the nearest pixel and the size to the next whole one: pictures of one size
+// stay of one size wherever they lie, and neighbours overlap by a pixel rather than part by one.
+QRect SnappedToPixels(const QRectF& place) {
+  constexpr double nothing = 0.01;
+  return {place.topLeft().toPoint(), QSize(static_cast<int>(std::ceil(place.width() - nothing)),
+                                           static_cast<int>(std::ceil(place.height() - nothing)))};
+}
+
+}  // namespace
+
+PictureStore::PictureStore() : scaled_(kCacheRoom) {}
+
+const PictureStore::Source& PictureStore::SourceOf(const QString& file) {
+  const auto found = sources_.find(file);
+  if (found != sources_.end()) return found->second;
+  Source source;
+  if (file.endsWith(".svg", Qt::CaseInsensitive)) {
+    source.Drawing = std::make_unique<QSvgRenderer>(file);
+    if (!source.Drawing->isValid()) source.Drawing.reset();
+  } else if (QImage image(file); !image.isNull()) {
+    // The formats that the painter blends without a conversion.
+    source.Image = image.convertToFormat(
+        image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32);
+  }
+  return sources_.emplace(file, std::move(source)).first->second;
+}
+
+QSize PictureStore::NaturalSize(const QString& file) {
+  const Source& source = SourceOf(file);
+  return source.Drawing ? source.Drawing->defaultSize() : source.Image.size();
+}
+
+QPixmap PictureStore::Render(const QString& file, QSize size) {
+  const Source& source = SourceOf(file);
+  if (source.Drawing) {
+    QImage image(size, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    source.Drawing->render(&painter, QRectF(QPointF(0, 0), size));
+    painter.end();
+    return QPixmap::fromImage(std::move(image));
+  }
+  if (source.Image.isNull()) return {};
+  return QPixmap::fromImage(
+      source.Image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+}
+
+QPixmap PictureStore::Scaled(const QString& file, QSize size) {
+  if (size.isEmpty()) return {};
+  const SizedFile key{file, size};
+  if (const QPixmap* known = scaled_.object(key)) return *known;
+  const QPixmap pixmap = Render(file, size);
+  scaled_.insert(key, new QPixmap(pixmap), CostOf(size));
+  return pixmap;
+}
+
+void PictureStore::DrawSource(QPainter& painter, const QString& file, const QRectF& place) {
+  const Source& source = SourceOf(file);
+  if (source.Drawing) {
+    source.Drawing->render(&painter, place);
+  } else if (!source.Image.isNull()) {
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.drawImage(place, source.Image);
+  }
+}
+
+void PictureStore::DrawPart(QPainter& painter, const QString& file, const QRect& target,
+                            const QRect& part) {
+  painter.save();
+  painter.setClipRect(part, Qt::IntersectClip);
+  DrawSource(painter, file, target);
+  painter.restore();
+}
+
+void PictureStore::Draw(QPainter& painter, const QString& file, const QRectF& place,
+                        const QRectF& seen) {
+  if (file.isEmpty() || place.isEmpty() || seen.isEmpty()) return;
+  if (!IsRaster(painter)) return DrawSource(painter, file, place);
+  const QTransform toDevice = painter.deviceTransform();
+  const QRect target = SnappedToPixels(toDevice.mapRect(place));
+  const QRect part = SnappedToPixels(toDevice.mapRect(seen)).intersected(target);
+  if (part.isEmpty()) return;
+  // Within these lines the painter's pixels are the device's own.
+  const QTransform world = painter.worldTransform();
+  painter.setWorldTransform(toDevice.inverted() * world);
+  if (AreaOf(part.size()) * kHiddenMostly < AreaOf(target.size())) {
+    DrawPart(painter, file, target, part);
+  } else {
+    painter.drawPixmap(target.topLeft(), Scaled(file, target.size()));
+  }
+  painter.setWorldTransform(world);
+}
+
+}  // namespace orrerix

@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: MIT
+// All pictures that the windows show, read once and kept in the sizes in use.
+#pragma once
+
+#include <QCache>
+#include <QImage>
+#include <QPainter>
+#include <QPixmap>
+#include <QString>
+#include <QSvgRenderer>
+#include <memory>
+#include <unordered_map>
+
+namespace orrerix {
+
+class PictureStore {
+ public:
+  PictureStore();
+  PictureStore(const PictureStore&) = delete;
+  PictureStore& operator=(const PictureStore&) = delete;
+
+  // Draws a picture stretched over `place` (the painter's coordinates). On a raster device it
+  // goes to whole pixels, so that it is sharp and neighbours meet without a seam; on a vector
+  // device a drawing stays a drawing. A file that is no picture draws nothing. Of a picture that is
+  // hidden for the most part only `seen` is worked out.
+  void Draw(QPainter& painter, const QString& file, const QRectF& place, const QRectF& seen);
+  void Draw(QPainter& painter, const QString& file, const QRectF& place) {
+    Draw(painter, file, place, place);
+  }
+
+  // The picture in a size in device pixels.
+  QPixmap Scaled(const QString& file, QSize size);
+
+  // Its own size; empty if the file is no picture.
+  QSize NaturalSize(const QString& file);
+
+  // Reads a picture that will be needed soon.
+  void Read(const QString& file) { SourceOf(file); }
+
+ private:
+  // One of the two, or neither for a file that is no picture.
+  struct Source {
+    QImage Image;
+    std::unique_ptr<QSvgRenderer> Drawing;
+  };
+  struct SizedFile {
+    QString File;
+    QSize Size;
+    bool operator==(const SizedFile&) const = default;
+    friend size_t qHash(const SizedFile& key, size_t seed = 0) {
+      return qHashMulti(seed, key.File, key.Size.width(), key.Size.height());
+    }
+  };
+
+  const Source& SourceOf(const QString& file);
+  QPixmap Render(const QString& file, QSize size);
+  void DrawSource(QPainter& painter, const QString& file, const QRectF& place);
+  void DrawPart(QPainter& painter, const QString& file, const QRect& target, const QRect& part);
+
+  std::unordered_map<QString, Source> sources_;
+  QCache<SizedFile, QPixmap> scaled_;
+};
+
+}  // namespace orrerix
