@@ -99,9 +99,9 @@ class Translator {
   Statement TakeResult() {
     const bool plain = !compound_ && !grouped_;
     if (!plain) result_.Table.clear();
-    if (ordered_ && plain) result_.Sql += ", rowid";
+    if (ordered_ && plain) result_.Sql += ", _rowid_";
     // An index that serves the query would give the rows in its own order.
-    if (isQuery_ && !ordered_ && !result_.Table.empty()) result_.Sql += " ORDER BY rowid";
+    if (isQuery_ && !ordered_ && !result_.Table.empty()) result_.Sql += " ORDER BY _rowid_";
     return std::move(result_);
   }
 
@@ -147,7 +147,7 @@ class Translator {
       AddParameter({});
       ++at_;
     } else if (symbol == "*" && withRowid_ && selected_ && result_.Table.empty()) {
-      result_.Sql += "*, rowid";
+      result_.Sql += "*, _rowid_";
       selected_ = false;
     } else {
       if (symbol == "," && inFrom_) compound_ = true;

@@ -31,8 +31,8 @@ struct Statement {
 // text, elsewhere one of a number.
 //
 // What changes: texts compare without regard to the case of ASCII letters, "ORDER BY ucase(x)"
-// orders like "ORDER BY x", rows that tie keep the order of insertion, and the functions "left",
-// "right" and "isnull" get names that the engine takes. With `withRowid` a "SELECT *" gets a last
+// orders like "ORDER BY x", rows that tie, and those of a query without an order, come in the order
+// of insertion, and the functions "left", "right" and "isnull" get names that the engine takes. With `withRowid` a "SELECT *" gets a last
 // column with the number of the row.
 //
 // A quote that is not closed, text behind the statement, comments and NULs are syntax errors.

@@ -159,6 +159,24 @@ void Recordset::Assign(std::optional<std::size_t> field, Value value) {
   assigned_[*field] = true;
 }
 
+void Recordset::SetFieldText(std::string_view field, std::string_view text) {
+  const auto found = FindField(field);
+  if (editing_ == Editing::None || !found) return;
+  Assignment assignment = AssignTo(table_->Fields[*found], table_->Name, text);
+  if (assignment.Refused && assignment.Refused->Number == failure_number::kFieldTooSmall) {
+    GrowField(*found, Len(text));
+    assignment = AssignTo(table_->Fields[*found], table_->Name, text);
+  }
+  if (!assignment.Refused) Assign(found, std::move(assignment.Kept));
+}
+
+// Other recordsets may share the definition and keep the old one.
+void Recordset::GrowField(std::size_t field, std::size_t size) {
+  auto grown = std::make_shared<TableDef>(*table_);
+  grown->Fields[field].Size = size;
+  table_ = std::move(grown);
+}
+
 void Recordset::AddNew() {
   if (!editable_) {
     if (sink_ != nullptr) {
@@ -253,7 +271,7 @@ void Recordset::Rewrite() {
   if (assignments.empty()) return;
   StatementLoan update(connection_->Prepare("UPDATE " + QuoteName(table_->Name) + " SET " +
                                             assignments +
-                                            fmt::format(" WHERE rowid = ?{}", edited_.size() + 1)));
+                                            fmt::format(" WHERE _rowid_ = ?{}", edited_.size() + 1)));
   for (std::size_t i = 0; i < edited_.size(); ++i) {
     if (assigned_[i]) Bind(update.get(), static_cast<int>(i) + 1, edited_[i]);
   }

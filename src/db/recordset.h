@@ -78,6 +78,10 @@ class Recordset {
   FieldRef operator[](std::string_view field);
   FieldRef operator[](std::size_t field);
 
+  // Assigns a text to the row being edited. A Text field that is too small for it grows first, for
+  // this recordset; a file does not mind. Whatever else is wrong is passed over.
+  void SetFieldText(std::string_view field, std::string_view text);
+
   // Begins a new row, or the change of the current one. An edit that is open is dropped.
   void AddNew();
   void Edit();
@@ -97,6 +101,7 @@ class Recordset {
                 RecordsetType type);
   Value Read(std::optional<std::size_t> field) const;
   void Assign(std::optional<std::size_t> field, Value value);
+  void GrowField(std::size_t field, std::size_t size);
   std::optional<std::size_t> FindField(std::string_view name) const;
   bool KeyHoldsNull() const;
   void Insert();

@@ -190,9 +190,11 @@ void OrrerixMain::ShowMap() {
   importScreen_->hide();
   Routine routine(parts_.Log, "OrrerixMain.Form_Resize");
   routine.Run([&] {
+    const bool isFirstMap = !std::exchange(mapShown_, true);
+    const bool warns = isFirstMap && IsWarningWanted(routine, UniverseFile());
     Universe universe{parts_.Log, copy_.Of(routine, UniverseFile())};
     map_.InitDataUsage(universe);
-    if (!std::exchange(mapShown_, true) && OnFirstMap) OnFirstMap();
+    if (warns && OnFirstMap) OnFirstMap();
     map_.Redraw(universe, OuterWidth(*this), OuterHeight(*this));
   });
 }

@@ -68,6 +68,19 @@ UniverseState ExamineUniverse(FailureSink& routine, const fs::path& saveFolder,
   return fs::exists(file, error) ? UniverseState::Undeletable : UniverseState::Absent;
 }
 
+bool IsWarningWanted(FailureSink& routine, const fs::path& universeFile) {
+  Database universe = DBEngine::OpenDatabase(routine, universeFile);
+  constexpr std::string_view rows = "SELECT * FROM OXWarning";
+  if (universe.OpenRecordset(routine, rows).AtEnd()) {
+    Recordset warning = universe.OpenTable(routine, "OXWarning");
+    warning.AddNew();
+    warning["off"] = false;
+    warning.Update();
+  }
+  Recordset warning = universe.OpenRecordset(routine, rows);
+  return warning.AtEnd() || warning["off"].Get().Number() == 0;
+}
+
 fs::path SaveFolderBelow(const fs::path& personalFolder) {
   const auto found = FindFolder(personalFolder, "\\My Games\\Freelancer\\Accts\\SinglePlayer");
   return found.value_or(personalFolder / "My Games" / "Freelancer" / "Accts" / "SinglePlayer");

@@ -29,6 +29,10 @@ enum class UniverseState {
 UniverseState ExamineUniverse(FailureSink& routine, const std::filesystem::path& saveFolder,
                               const AppVersion& version);
 
+// Whether the warning before the first map is to be shown: its switch in the universe file is off
+// unless the user has set it. The switch's row is made on first display.
+bool IsWarningWanted(FailureSink& routine, const std::filesystem::path& universeFile);
+
 // The save folder's part below the personal folder, "\My Games\Freelancer\Accts\SinglePlayer", as
 // a real path. The game makes this folder; with a folder of another case on disk that one counts.
 std::filesystem::path SaveFolderBelow(const std::filesystem::path& personalFolder);

@@ -45,7 +45,7 @@ TEST(QueryText, PlacesBecomeParameters) {
   constexpr std::string_view text = "SELECT * FROM a WHERE x = '{}' AND y = {}";
 
   EXPECT_EQ(Template(text).Sql,
-            "SELECT * FROM a WHERE x = ?1 COLLATE NOCASE AND y = ?2 ORDER BY rowid");
+            "SELECT * FROM a WHERE x = ?1 COLLATE NOCASE AND y = ?2 ORDER BY _rowid_");
   EXPECT_THAT(Bound(text, {"fox", 5}), ElementsAre(Value("fox"), Value(5)));
 }
 
@@ -65,7 +65,7 @@ TEST(QueryText, AValueWithAQuoteIsWrittenAsItIs) {
   EXPECT_EQ(text, "SELECT * FROM a WHERE x = 'b' OR 'c' = 'c' AND y = 5");
   EXPECT_EQ(Translated(text).Sql,
             "SELECT * FROM a WHERE x = 'b' COLLATE NOCASE OR 'c' COLLATE NOCASE = 'c' COLLATE "
-            "NOCASE AND y = 5 ORDER BY rowid");
+            "NOCASE AND y = 5 ORDER BY _rowid_");
 }
 
 TEST(QueryText, AnOpenQuoteIsASyntaxError) {
@@ -102,15 +102,15 @@ TEST(QueryText, NamesTheTableOfAPlainQueryOnly) {
 }
 
 TEST(QueryText, AsksForTheRowsNumberIfTold) {
-  EXPECT_EQ(Translated("SELECT * FROM a", true).Sql, "SELECT *, rowid FROM a ORDER BY rowid");
-  EXPECT_EQ(Translated("SELECT * FROM a").Sql, "SELECT * FROM a ORDER BY rowid");
+  EXPECT_EQ(Translated("SELECT * FROM a", true).Sql, "SELECT *, _rowid_ FROM a ORDER BY _rowid_");
+  EXPECT_EQ(Translated("SELECT * FROM a").Sql, "SELECT * FROM a ORDER BY _rowid_");
 }
 
 TEST(QueryText, RowsOfOneTableKeepTheirInsertionOrder) {
-  EXPECT_EQ(Translated("SELECT x FROM a ORDER BY x;").Sql, "SELECT x FROM a ORDER BY x, rowid");
+  EXPECT_EQ(Translated("SELECT x FROM a ORDER BY x;").Sql, "SELECT x FROM a ORDER BY x, _rowid_");
   EXPECT_EQ(Translated("SELECT x FROM a ORDER BY x, y").Sql,
-            "SELECT x FROM a ORDER BY x, y, rowid");
-  EXPECT_EQ(Translated("SELECT x FROM a;").Sql, "SELECT x FROM a ORDER BY rowid");
+            "SELECT x FROM a ORDER BY x, y, _rowid_");
+  EXPECT_EQ(Translated("SELECT x FROM a;").Sql, "SELECT x FROM a ORDER BY _rowid_");
 }
 
 TEST(QueryText, OtherStatementsGetNoOrder) {

@@ -140,6 +140,35 @@ TEST_F(OpenRecordset, AFailedAssignmentLeavesTheFieldAsItWas) {
   EXPECT_EQ(All(mustWork)["sized"].Get(), "abc");
 }
 
+TEST_F(OpenRecordset, AFieldGrowsForATextThatIsSetWhateverItsLength) {
+  Add("a", "sized", "12345");
+  Recordset rows = All(failures, RecordsetType::Dynaset);
+
+  rows.Edit();
+  rows.SetFieldText("sized", "Süßholz");
+  EXPECT_EQ(rows["sized"].Get(), Value("Süßholz"));
+  rows["sized"] = "12345678";  // one more than the field has grown to
+  rows.Update();
+
+  EXPECT_THAT(failures.Numbers(), ElementsAre(3163));
+  EXPECT_EQ(All(mustWork)["sized"].Get(), Value("Süßholz"));
+}
+
+TEST_F(OpenRecordset, AnyOtherTroubleOfSettingATextIsPassedOver) {
+  Add("a", "filled", "x");
+  Recordset rows = All(failures, RecordsetType::Dynaset);
+
+  rows.SetFieldText("filled", "nothing is edited");
+  rows.Edit();
+  rows.SetFieldText("filled", "");
+  rows.SetFieldText("missing", "x");
+  rows.SetFieldText("byte", "256");
+
+  EXPECT_THAT(failures.Failures, IsEmpty());
+  EXPECT_EQ(rows["filled"].Get(), Value("x"));
+  EXPECT_TRUE(rows["byte"].IsNull());
+}
+
 TEST_F(OpenRecordset, AnEmptyTextNamesItsTableAndField) {
   Recordset rows = db.OpenTable(failures, "t");
   rows.AddNew();

@@ -233,5 +233,39 @@ TEST(MissingExecutable, IsToldLineByLine) {
             "To fix it - REINSTALL FreeLancer! (or type the Path in...)");
 }
 
+class SpoilerSwitch : public Startup {
+ protected:
+  SpoilerSwitch() {
+    Database database = DBEngine::CreateDatabase(mustWork, file, JetVersionOption::Version30);
+    database.CreateTable(mustWork, FixedTables()[0]);
+  }
+  std::size_t Rows() {
+    Database database = DBEngine::OpenDatabase(mustWork, file);
+    return database.OpenRecordset(mustWork, "SELECT * FROM OXWarning").RecordCount();
+  }
+};
+
+TEST_F(SpoilerSwitch, TheFirstDisplayMakesItsRowAndWantsTheWarning) {
+  EXPECT_TRUE(IsWarningWanted(mustWork, file));
+
+  EXPECT_EQ(Rows(), 1u);
+}
+
+TEST_F(SpoilerSwitch, LaterDisplaysKeepTheRow) {
+  IsWarningWanted(mustWork, file);
+
+  EXPECT_TRUE(IsWarningWanted(mustWork, file));
+  EXPECT_EQ(Rows(), 1u);
+}
+
+TEST_F(SpoilerSwitch, AWarningThatIsSwitchedOffIsNotWanted) {
+  {
+    Database database = DBEngine::OpenDatabase(mustWork, file);
+    database.Execute(mustWork, "INSERT INTO OXWarning VALUES (1)");
+  }
+
+  EXPECT_FALSE(IsWarningWanted(mustWork, file));
+}
+
 }  // namespace
 }  // namespace orrerix
