@@ -28,6 +28,7 @@ int Run(int argc, char** argv) {
   AddImportVerb(app, options, run);
   AddSceneVerb(app, options, run);
   AddTextVerbs(app, options, run);
+  AddHoverVerb(app, options, run);
 #ifdef ORRERIX_WITH_QT
   AddRenderVerb(app, options, run);
 #endif

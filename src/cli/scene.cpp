@@ -1,8 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "cli/scene.h"
 
+#include <algorithm>
 #include <charconv>
-#include <vector>
+
+#include "db/text.h"
+#include "info/hover_box.h"
+#include "map/gestures.h"
 
 namespace orrerix {
 namespace {
@@ -46,6 +50,68 @@ MapOptions ParseSwitches(const std::string& text, bool zoomed) {
   return options;
 }
 
+// The map through gestures, redrawn as the window would redraw it.
+class SceneMap {
+ public:
+  SceneMap(Universe& universe, const CommonOptions& options, const SceneOptions& words)
+      : universe_(universe),
+        words_(words),
+        form_(ParseExtent(words.Size)),
+        texts_(options.LanguageNumber()),
+        panel_(PanelTexts(texts_)) {
+    state_.Zoom.Reset(ParseZoom(words.Zoom));
+    state_.Names = GetSystemNames(universe, texts_);
+  }
+
+  Scene Draw() {
+    for (const Gesture& gesture : words_.Gestures) Play(gesture);
+    state_.PrintMode = words_.Print;
+    MapDrawing drawing = Redraw();
+    if (!words_.Hover.empty()) Hover(drawing);
+    return {form_, state_.Zoom.Current(), state_.Zoom.ZoomDepth(), std::move(drawing)};
+  }
+
+ private:
+  MapDrawing Redraw() {
+    const MapOptions switches = ParseSwitches(words_.Switches, state_.Zoom.Current().IsZoomed());
+    return DrawMap(universe_, state_,
+                   {form_.Width, form_.Height, switches, measure_, panel_, "StarMapPic"});
+  }
+
+  // Every gesture meets a map that was drawn: background tiles stay from one to the next.
+  void Play(const Gesture& gesture) {
+    const MapDrawing drawing = Redraw();
+    MapGestures mouse(state_);
+    if (const Drag* drag = std::get_if<Drag>(&gesture)) {
+      mouse.MouseDown(drag->X1, drag->Y1);
+      mouse.MouseUp(PointerButton::Left, drawing.Cells, drag->X2, drag->Y2);
+    } else {
+      mouse.MouseUp(PointerButton::Right, drawing.Cells, 0, 0);
+    }
+  }
+
+  void Hover(MapDrawing& drawing) {
+    const auto icon = std::find_if(
+        drawing.Controls.begin(), drawing.Controls.end(), [this](const Control& control) {
+          return control.Name == "Image1" && Ucase(*control.Tag) == Ucase(words_.Hover);
+        });
+    if (icon == drawing.Controls.end()) {
+      throw CouldNot("the map as it is shown has no icon of '" + words_.Hover + "'");
+    }
+    HoverBox hover = OpenHoverBox(universe_, state_.Names, texts_, measure_, drawing, *icon);
+    *icon = std::move(hover.Icon);
+    for (Control& control : hover.Box) drawing.Controls.push_back(std::move(control));
+  }
+
+  Universe& universe_;
+  const SceneOptions& words_;
+  Extent form_;
+  FixedLanguage texts_;
+  PanelContent panel_;
+  FixedTextMeasure measure_;
+  MapState state_;
+};
+
 }  // namespace
 
 void AddSceneOptions(CLI::App& verb, SceneOptions& scene) {
@@ -55,6 +121,25 @@ void AddSceneOptions(CLI::App& verb, SceneOptions& scene) {
   verb.add_flag("--print", scene.Print, "As drawn for the printer");
 }
 
+void AddMouseOptions(CLI::App& verb, SceneOptions& scene) {
+  verb.add_option("--drag", "Zooms in with the left button: X1,Y1,X2,Y2 in twips; repeatable")
+      ->expected(1)
+      ->take_all();
+  verb.add_flag("--back")->description("Goes back with the right button; repeatable");
+  verb.add_option("--hover", scene.Hover, "Nickname of the object under the mouse");
+}
+
+void ReadGestures(const CLI::App& verb, SceneOptions& scene) {
+  std::size_t drags = 0;
+  for (const CLI::Option* option : verb.parse_order()) {
+    if (option->check_name("--back")) scene.Gestures.push_back(Back{});
+    if (!option->check_name("--drag")) continue;
+    const std::vector<int> ends = ParseNumbers(option->results().at(drags++), ',', 4);
+    scene.Gestures.push_back(Drag{static_cast<float>(ends[0]), static_cast<float>(ends[1]),
+                                  static_cast<float>(ends[2]), static_cast<float>(ends[3])});
+  }
+}
+
 Extent ParseExtent(const std::string& text) {
   const std::vector<int> sides = ParseNumbers(text, 'x', 2);
   if (sides[0] < 0 || sides[1] < 0) throw WrongUsage("'" + text + "' is no size");
@@ -62,20 +147,7 @@ Extent ParseExtent(const std::string& text) {
 }
 
 Scene DrawScene(Universe& universe, const CommonOptions& options, const SceneOptions& words) {
-  Scene scene{ParseExtent(words.Size), ParseZoom(words.Zoom), 0, {}};
-  const MapOptions switches = ParseSwitches(words.Switches, scene.Visible.IsZoomed());
-  FixedLanguage texts(options.LanguageNumber());
-  MapState state;
-  state.Zoom.Reset(scene.Visible);
-  state.Names = GetSystemNames(universe, texts);
-  state.PrintMode = words.Print;
-  const FixedTextMeasure measure;
-  const PanelContent panel = PanelTexts(texts);
-  scene.Drawing =
-      DrawMap(universe, state,
-              {scene.Form.Width, scene.Form.Height, switches, measure, panel, "StarMapPic"});
-  scene.Depth = state.Zoom.ZoomDepth();
-  return scene;
+  return SceneMap(universe, options, words).Draw();
 }
 
 }  // namespace orrerix

@@ -2,8 +2,9 @@
 // One picture of the map as the command line's words ask for it.
 #pragma once
 
-#include <optional>
 #include <string>
+#include <variant>
+#include <vector>
 
 #include <CLI/CLI.hpp>
 
@@ -12,16 +13,33 @@
 
 namespace orrerix {
 
+// The mouse on the map before it is told: a drag with the left button, or a right click.
+struct Drag {
+  float X1;
+  float Y1;
+  float X2;
+  float Y2;
+};
+struct Back {};
+using Gesture = std::variant<Drag, Back>;
+
 // The words, as they were given.
 struct SceneOptions {
   std::string Size = "24000x18000";
   std::string Zoom;
   std::string Switches;
   bool Print = false;
+  std::vector<Gesture> Gestures;  // in their order
+  std::string Hover;              // nickname of the object under the mouse
 };
 
 // Adds the options that scene and render share.
 void AddSceneOptions(CLI::App& verb, SceneOptions& scene);
+
+// Adds those of the mouse. Gestures are not in `scene` before ReadGestures was called on the parsed
+// verb, which throws WrongUsage for a drag that is not four whole numbers.
+void AddMouseOptions(CLI::App& verb, SceneOptions& scene);
+void ReadGestures(const CLI::App& verb, SceneOptions& scene);
 
 // A width and a height out of "WxH", both at least 0. Throws WrongUsage.
 struct Extent {
@@ -38,7 +56,8 @@ struct Scene {
 };
 
 // Draws the map of a universe with the fixed text measure. Throws WrongUsage for a rectangle beyond
-// the grid or with its ends swapped, and for switches that are not six digits 0 or 1.
+// the grid or with its ends swapped, and for switches that are not six digits 0 or 1; CouldNot if
+// the object under the mouse has no icon.
 Scene DrawScene(Universe& universe, const CommonOptions& options, const SceneOptions& words);
 
 }  // namespace orrerix

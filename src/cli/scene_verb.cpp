@@ -46,7 +46,9 @@ void AddSceneVerb(CLI::App& app, const CommonOptions& options, Verb& run) {
   auto words = std::make_shared<SceneOptions>();
   CLI::App* verb = app.add_subcommand("scene", "The drawing list of the map, in twips");
   AddSceneOptions(*verb, *words);
-  verb->callback([&options, &run, words] {
+  AddMouseOptions(*verb, *words);
+  verb->callback([&options, &run, words, verb] {
+    ReadGestures(*verb, *words);
     run = [&options, words] { return RunScene(options, *words); };
   });
 }

@@ -9,13 +9,14 @@
 #include "import/resource_strings.h"
 
 namespace orrerix {
-namespace {
 
-void Answer(const CommonOptions& options, const std::string& text) {
+void AnswerText(const CommonOptions& options, const std::string& text) {
   if (!options.Json) return fmt::print("{}\n", text);
   const nlohmann::json answer = {{"text", text}};
   fmt::print("{}\n", answer.dump(2, ' ', false, nlohmann::json::error_handler_t::replace));
 }
+
+namespace {
 
 // A verb that looks a number up.
 template <typename LookUp>
@@ -30,7 +31,7 @@ void AddNumberVerb(CLI::App& app, const CommonOptions& options, Verb& run, const
       PolicyMessageBoxes messages(options);
       ErrorLog log(messages, CurrentVersion());
       Universe universe{log, database};
-      Answer(options, lookUp(universe, *number));
+      AnswerText(options, lookUp(universe, *number));
       return kDone;
     };
   });

@@ -12,11 +12,15 @@
 
 namespace orrerix {
 
+// Answers with one text: as it is, or as {"text": ...}.
+void AnswerText(const CommonOptions& options, const std::string& text);
+
 // Each of these adds a verb to the command line; `run` is set to it when its word is parsed.
 using Verb = std::function<int()>;
 void AddImportVerb(CLI::App& app, const CommonOptions& options, Verb& run);
 void AddSceneVerb(CLI::App& app, const CommonOptions& options, Verb& run);
 void AddTextVerbs(CLI::App& app, const CommonOptions& options, Verb& run);
+void AddHoverVerb(CLI::App& app, const CommonOptions& options, Verb& run);
 void AddRenderVerb(CLI::App& app, const CommonOptions& options, Verb& run);
 
 }  // namespace orrerix

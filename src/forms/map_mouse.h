@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "map/drawing_list.h"
+#include "map/gestures.h"
 
 namespace orrerix {
-
-enum class PointerButton { None, Left, Right };
 
 // The mouse on the map frame.
 struct MapPointer {

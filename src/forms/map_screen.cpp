@@ -4,6 +4,7 @@
 #include <QTimer>
 #include <utility>
 
+#include "map/option_switches.h"
 #include "map/system_pictures.h"
 #include "picture/picture_files.h"
 #include "picture/twips.h"
@@ -37,12 +38,7 @@ void MapScreen::ReadAhead() {
 }
 
 MapOptions MapScreen::ReadOptions() {
-  const bool zoomed = state_.Zoom.Current().IsZoomed();
-  MapOptions options;
-  for (int i = 0; i < kMapSwitches; ++i) {
-    options.On[static_cast<std::size_t>(i)] = IsOn(settings_.ReadSetting(SettingKey(zoomed, i)));
-  }
-  return options;
+  return ReadMapOptions(settings_, state_.Zoom.Current().IsZoomed());
 }
 
 void MapScreen::Redraw(Universe& universe, int formWidth, int formHeight) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The command line as a script meets it: words in, answer and exit code out.
 #include <array>
+#include <cctype>
 #include <cstdio>
 #include <fstream>
 #include <sstream>
@@ -15,6 +16,7 @@ namespace orrerix {
 namespace {
 
 namespace fs = std::filesystem;
+using ::testing::EndsWith;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 
@@ -57,6 +59,18 @@ class CommandLine : public ::testing::Test {
   std::string Database() const { return "--database " + (folder.Path() / "u.fl").string(); }
   Answer Import(const std::string& more = "") {
     return Run("import --game " + Game().string() + " " + Database() + " " + more);
+  }
+
+  // Nickname of an object that a map of nearly all cells shows.
+  std::string FirstObject() {
+    const nlohmann::json scene = Run("scene --json --zoom 0,0,17,17 " + Database()).Json();
+    for (const auto& control : scene["controls"]) {
+      if (control["control"] != "Image1") continue;
+      if (control["Picture"] != "Jumpgate" && control["Picture"] != "JumpHole") {
+        return control["Tag"];
+      }
+    }
+    return {};
   }
 
   TempFolder folder;
@@ -210,6 +224,111 @@ TEST_F(CommandLine, RectanglesAndSwitchesThatMakeNoSenseAreWrongUsage) {
                             "--options 01234", "--options 000002", "--options 0000000"}) {
     EXPECT_EQ(Run(std::string("scene ") + words + " " + Database()).ExitCode, 2) << words;
   }
+}
+
+TEST_F(CommandLine, AHoverEndsWithTheNicknameAsTheMapHasIt) {
+  Import();
+  const std::string nickname = FirstObject();
+  std::string upper = nickname;
+  for (char& c : upper) c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
+
+  const Answer answer = Run("hover " + upper + " " + Database());
+
+  EXPECT_EQ(answer.ExitCode, 0);
+  EXPECT_THAT(answer.Output, HasSubstr(" [X="));
+  EXPECT_THAT(answer.Output, EndsWith(nickname + "\n"));
+  EXPECT_EQ(Run("hover --json " + upper + " " + Database()).Json()["text"].get<std::string>() + "\n",
+            answer.Output);
+}
+
+TEST_F(CommandLine, AHoverOverSomethingUnknownGivesItsNickname) {
+  Import();
+
+  EXPECT_EQ(Run("hover nowhere " + Database()).Output, "nowhere\n");
+  EXPECT_EQ(Run("hover " + Database()).ExitCode, 2);
+}
+
+TEST_F(CommandLine, GesturesArePlayedInTheirOrder) {
+  Import();
+  const auto scene = [&](const std::string& words) {
+    return Run("scene --json " + words + " " + Database()).Json();
+  };
+
+  // Cells of 918 twips: columns 7 and 8, rows 4 and 5; then cells of 8725, the first of them.
+  const std::string first = "--drag 6500,3700,8200,5500 ";
+  const std::string second = "--drag=100,100,200,200 ";
+  EXPECT_EQ(scene(first)["zoom"], (nlohmann::json{7, 4, 8, 5}));
+  EXPECT_EQ(scene(first + second)["zoom"], (nlohmann::json{7, 4, 7, 4}));
+  EXPECT_EQ(scene(first + second)["depth"], 2);
+  EXPECT_EQ(scene(first + "--back " + second)["zoom"], (nlohmann::json{0, 0, 0, 0}));
+  EXPECT_EQ(scene(first + "--back --back " + second + "--back")["depth"], 0);
+  EXPECT_EQ(scene("--drag -900,-900,100,100")["zoom"], (nlohmann::json{0, 0, 0, 0}));
+}
+
+TEST_F(CommandLine, BackFromARectangleOfTheWordsThereIsNothing) {
+  Import();
+
+  const nlohmann::json scene = Run("scene --json --zoom 7,5,8,6 --back " + Database()).Json();
+
+  EXPECT_EQ(scene["zoom"], (nlohmann::json{7, 5, 8, 6}));
+  EXPECT_EQ(scene["depth"], 0);
+}
+
+TEST_F(CommandLine, TilesOfAZoomedMapStayOnTheWholeGrid) {
+  Import();
+  const auto tiles = [&](const std::string& words) {
+    int count = 0;
+    const nlohmann::json scene = Run("scene --json " + words + " " + Database()).Json();
+    for (const auto& control : scene["controls"]) count += control["control"] == "Hintergrund";
+    return count;
+  };
+
+  EXPECT_EQ(tiles(""), 1);
+  EXPECT_GT(tiles("--drag 500,500,700,700 --back"), 1);
+}
+
+TEST_F(CommandLine, ADragThatIsNotFourNumbersIsWrongUsage) {
+  Import();
+
+  for (const char* words : {"--drag 1,2,3", "--drag 1,2,3,x", "--drag", "--drag 1,2,3,4 5,6,7,8"}) {
+    EXPECT_EQ(Run(std::string("scene ") + words + " " + Database()).ExitCode, 2) << words;
+  }
+}
+
+TEST_F(CommandLine, AHoverEnlargesTheIconAndShowsItsBoxInFront) {
+  Import();
+  const std::string nickname = FirstObject();
+
+  const nlohmann::json scene =
+      Run("scene --json --zoom 0,0,17,17 --hover " + nickname + " " + Database()).Json();
+
+  const nlohmann::json& controls = scene["controls"];
+  ASSERT_GE(controls.size(), 2u);
+  const nlohmann::json& shape = controls[controls.size() - 2];
+  const nlohmann::json& text = controls.back();
+  EXPECT_EQ(shape["control"], "Shape1");
+  EXPECT_EQ(text["control"], "InfoText");
+  EXPECT_EQ(text["Caption"].get<std::string>() + "\n",
+            Run("hover " + nickname + " " + Database()).Output);
+  int hovered = 0;
+  for (const auto& control : controls) {
+    if (control["control"] != "Image1" || control["Width"] != 600) continue;
+    ++hovered;
+    EXPECT_EQ(control["Tag"], nickname);
+    EXPECT_EQ(shape["Tag"], std::to_string(control["index"].get<int>()) + ",40");
+  }
+  EXPECT_EQ(hovered, 1);
+}
+
+TEST_F(CommandLine, AnObjectWithoutAnIconCannotBeHoveredOver) {
+  Import();
+
+  // The whole grid has no icons.
+  const Answer answer = Run("scene --hover " + FirstObject() + " " + Database());
+
+  EXPECT_EQ(answer.ExitCode, 1);
+  EXPECT_THAT(answer.Errors, HasSubstr(FirstObject()));
+  EXPECT_THAT(answer.Output, IsEmpty());
 }
 
 TEST_F(CommandLine, CommonOptionsMayStandBeforeTheVerb) {

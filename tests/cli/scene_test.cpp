@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "cli/scene.h"
 
+#include <algorithm>
+
 #include <gtest/gtest.h>
 
 #include "cli/scene_json.h"
@@ -19,6 +21,34 @@ TEST(SceneWords, AnythingElseIsWrongUsage) {
   for (const char* text : {"", "24000", "24000x", "x18000", "axb", "1x2x3", "-1x5", "1,2", "1x2 "}) {
     EXPECT_THROW(ParseExtent(text), WrongUsage) << text;
   }
+}
+
+// The gestures of a verb that was given these words.
+std::vector<Gesture> GesturesOf(std::vector<std::string> words) {
+  CLI::App verb;
+  SceneOptions scene;
+  AddMouseOptions(verb, scene);
+  std::reverse(words.begin(), words.end());  // the parser takes them from the back
+  verb.parse(std::move(words));
+  ReadGestures(verb, scene);
+  return std::move(scene.Gestures);
+}
+
+TEST(SceneWords, GesturesKeepTheOrderOfTheWords) {
+  const std::vector<Gesture> gestures =
+      GesturesOf({"--back", "--drag", "1,2,3,4", "--back", "--drag=-5,6,7,8", "--back"});
+
+  ASSERT_EQ(gestures.size(), 5u);
+  EXPECT_TRUE(std::holds_alternative<Back>(gestures[0]));
+  EXPECT_EQ(std::get<Drag>(gestures[1]).Y2, 4);
+  EXPECT_TRUE(std::holds_alternative<Back>(gestures[2]));
+  EXPECT_EQ(std::get<Drag>(gestures[3]).X1, -5);
+  EXPECT_TRUE(std::holds_alternative<Back>(gestures[4]));
+}
+
+TEST(SceneWords, ADragHasTwoPlaces) {
+  EXPECT_THROW(GesturesOf({"--drag", "1,2,3"}), WrongUsage);
+  EXPECT_THROW(GesturesOf({"--drag", "1,2,3,4,5"}), WrongUsage);
 }
 
 TEST(SceneJson, WholeNumbersAreWrittenAsSuchAndOthersInFull) {

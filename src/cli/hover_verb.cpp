@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: MIT
+#include <memory>
+
+#include "cli/verbs.h"
+#include "info/hover_text.h"
+
+namespace orrerix {
+namespace {
+
+int RunHover(const CommonOptions& options, const std::string& nickname) {
+  Database database = OpenUniverse(options);
+  PolicyMessageBoxes messages(options);
+  ErrorLog log(messages, CurrentVersion());
+  Universe universe{log, database};
+  FixedLanguage texts(options.LanguageNumber());
+  const CellNames names = GetSystemNames(universe, texts);
+  AnswerText(options, HoverText(universe, names, texts, IconTag(universe, nickname)));
+  return kDone;
+}
+
+}  // namespace
+
+void AddHoverVerb(CLI::App& app, const CommonOptions& options, Verb& run) {
+  auto nickname = std::make_shared<std::string>();
+  CLI::App* verb = app.add_subcommand("hover", "What the box beside an object's icon says");
+  verb->add_option("NICKNAME", *nickname, "The object's nickname")->required();
+  verb->callback([&options, &run, nickname] {
+    run = [&options, nickname] { return RunHover(options, *nickname); };
+  });
+}
+
+}  // namespace orrerix

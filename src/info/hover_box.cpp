@@ -1,0 +1,100 @@
+// SPDX-License-Identifier: MIT
+#include "info/hover_box.h"
+
+#include <utility>
+
+#include <fmt/format.h>
+
+#include "db/number_text.h"
+#include "map/numeric.h"
+
+namespace orrerix {
+namespace {
+
+constexpr Color kBoxBack{0x400000};
+constexpr Color kBoxText{0x00CCCC};
+constexpr int kMargin = 150;   // between the box's sides and its text
+constexpr int kIconGap = 100;  // between icon and box
+constexpr double kSmallestLeft = 100;
+
+// Adds to a 16-bit size, or leaves it as it is and fails.
+void Grow(Routine& routine, int& size, int grown) {
+  routine.Try([&] {
+    const auto fits = ToInteger(grown);
+    if (!fits) throw RuntimeFailure(failure_number::kOverflow);
+    size = *fits;
+  });
+}
+
+// The right edge of what a box may cover.
+double RoomFor(const MapDrawing& drawing) {
+  return drawing.Panel == PanelPlace::Right ? drawing.PanelBox.Left : drawing.Frame.Width;
+}
+
+ControlList BoxControls(const Box& place, std::string text, std::string tag) {
+  Control shape = MakeFrame("Shape1", std::nullopt, place, kBoxBack);
+  shape.Tag = std::move(tag);
+  const Box inner{static_cast<float>(place.Left + kMargin), static_cast<float>(place.Top + kMargin),
+                  place.Width - 2 * kMargin, place.Height - 2 * kMargin};
+  Control info = MakeLabel("InfoText", std::nullopt, inner, std::move(text));
+  info.FontSize = kBoxFont;
+  info.ForeColor = kBoxText;
+  info.BackColor = kBoxBack;
+  return {std::move(shape), std::move(info)};
+}
+
+}  // namespace
+
+HoverBox OpenHoverBox(Universe& universe, const CellNames& names, TextSource& texts,
+                      const TextMeasure& measure, const MapDrawing& drawing, const Control& icon) {
+  HoverBox hover{icon, {}};
+  Routine routine(universe.Log, "OrrerixMain.Image1_MouseMove");
+  routine.Run([&] {
+    std::string tag = fmt::format("{},{}", icon.Index.value_or(0), NumberText(icon.Place.Width));
+    hover.Icon.Place.Width = kHoveredIcon;
+    hover.Icon.Place.Height = kHoveredIcon;
+    std::string text = icon.Tag.value_or("");
+    WriteHoverText(routine, universe, names, texts, text);
+    const TextExtent extent = MeasureLines(routine, text, measure, kBoxFont);
+    hover.Box = BoxControls(HoverBoxPlace(hover.Icon.Place, extent, drawing), std::move(text),
+                            std::move(tag));
+  });
+  return hover;
+}
+
+Control RestoredIcon(Control icon, std::string_view shapeTag) {
+  const std::size_t comma = shapeTag.find(',');
+  if (comma == std::string_view::npos) return icon;
+  const auto size = static_cast<float>(Val(shapeTag.substr(comma + 1)));
+  icon.Place.Width = icon.Place.Height = size;
+  return icon;
+}
+
+TextExtent MeasureLines(Routine& routine, std::string_view text, const TextMeasure& measure,
+                        int fontSize) {
+  constexpr std::string_view lineEnd = "\r\n";
+  TextExtent extent;
+  if (text.ends_with(lineEnd)) text.remove_suffix(lineEnd.size());
+  while (true) {
+    const std::size_t end = text.find(lineEnd);
+    const std::string_view line = text.substr(0, end);
+    const int width = measure.TextWidth(line, fontSize);
+    if (width > extent.Width) Grow(routine, extent.Width, width);
+    Grow(routine, extent.Height, extent.Height + measure.TextHeight(line, fontSize));
+    if (end == std::string_view::npos) return extent;
+    text.remove_prefix(end + lineEnd.size());
+  }
+}
+
+Box HoverBoxPlace(const Box& icon, const TextExtent& text, const MapDrawing& drawing) {
+  Box box{icon.Left, 0, static_cast<double>(text.Width + 2 * kMargin),
+          static_cast<double>(text.Height + 2 * kMargin)};
+  const bool above = icon.Top > drawing.Frame.Height / 2;
+  box.Top = static_cast<float>(above ? icon.Top - kIconGap - box.Height : icon.Bottom() + kIconGap);
+  if (box.Right() > RoomFor(drawing)) {
+    box.Left = static_cast<float>(MAX(kSmallestLeft, icon.Right() - box.Width));
+  }
+  return box;
+}
+
+}  // namespace orrerix

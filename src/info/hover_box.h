@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+// The box beside an icon under the mouse.
+#pragma once
+
+#include "info/hover_text.h"
+#include "map/redraw.h"
+
+namespace orrerix {
+
+// Width and height of a hovered icon, twips.
+inline constexpr float kHoveredIcon = 600;
+
+// Size of the box's letters, points.
+inline constexpr int kBoxFont = 9;
+
+struct HoverBox {
+  Control Icon;     // the icon at its larger size; its corner stays
+  ControlList Box;  // Shape1 and InfoText, to be shown in front; empty if the user gave it up
+};
+
+// Opens the box of an icon of the last drawing. `measure` is that of the box's own font. Shape1's
+// tag holds the icon's index and its own width, so that the icon gets them back.
+HoverBox OpenHoverBox(Universe& universe, const CellNames& names, TextSource& texts,
+                      const TextMeasure& measure, const MapDrawing& drawing, const Control& icon);
+
+// The icon at the size that the tag of its box keeps for it.
+Control RestoredIcon(Control icon, std::string_view shapeTag);
+
+// Size of a text of several lines, twips.
+struct TextExtent {
+  int Width = 0;   // of the longest line
+  int Height = 0;  // of all lines
+};
+
+// Measures line by line; lines end in CR LF. Sizes end at 32,767: what would go beyond is a failure
+// of `routine`, and left out.
+TextExtent MeasureLines(Routine& routine, std::string_view text, const TextMeasure& measure,
+                        int fontSize);
+
+// Where the box stands: below the icon, or above it in the lower half of the map; flush with the
+// icon's left side, or with its right side where the panel would be in the way.
+Box HoverBoxPlace(const Box& icon, const TextExtent& text, const MapDrawing& drawing);
+
+}  // namespace orrerix

@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: MIT
+#include "map/option_switches.h"
+
+#include <utility>
+
+#include <fmt/format.h>
+
+#include "db/number_text.h"
+#include "map/game_sounds.h"
+#include "shell/routine.h"
+
+namespace orrerix {
+namespace {
+
+constexpr int kLanguageLabel = 6;
+constexpr int kHighestLanguage = 2;
+
+std::string IndexText(int which) {
+  return fmt::format("Index: {}", which);
+}
+
+}  // namespace
+
+MapOptions ReadMapOptions(Settings& settings, bool zoomed) {
+  MapOptions options;
+  for (int i = 0; i < kMapSwitches; ++i) {
+    options.On[static_cast<std::size_t>(i)] = IsOn(settings.ReadSetting(SettingKey(zoomed, i)));
+  }
+  return options;
+}
+
+bool OptionSwitches::ShowOptionsLabelMouseMove(bool searchPanelOpen) {
+  if (searchPanelOpen) return false;
+  return !std::exchange(state_.OptionsOpen, true);
+}
+
+SwitchAnswer OptionSwitches::SetImageClick(int which, const MapOptions& shown) {
+  SwitchAnswer answer;
+  Routine routine(log_, "OrrerixMain.SetImage_Click", IndexText(which));
+  routine.Run([&] {
+    answer.Sound = kSwitchSound;
+    routine.Try([&] {
+      if (which < 0 || which >= kMapSwitches) {
+        throw RuntimeFailure(failure_number::kSubscriptOutOfRange);
+      }
+      const bool on = !shown.On[static_cast<std::size_t>(which)];
+      settings_.WriteSettingValue(SettingKey(state_.Zoom.Current().IsZoomed(), which),
+                                  on ? "1" : "0");
+    });
+    answer.UnloadObjects = true;
+    answer.Redraw = true;
+  });
+  return answer;
+}
+
+SwitchAnswer OptionSwitches::SetLabelClick(int which, const MapOptions& shown) {
+  SwitchAnswer answer;
+  Routine routine(log_, "OrrerixMain.SetLabel_Click", IndexText(which));
+  routine.Run(
+      [&] { answer = which == kLanguageLabel ? NextLanguage() : SetImageClick(which, shown); });
+  return answer;
+}
+
+// The languages are gone through downwards, from the first one to the last.
+SwitchAnswer OptionSwitches::NextLanguage() {
+  const int below = language_.CurrentLanguage - 1;
+  language_.CurrentLanguage = static_cast<std::int16_t>(below < 0 ? kHighestLanguage : below);
+  settings_.WriteSettingValue("LANG", NumberText(std::int64_t{language_.CurrentLanguage}));
+  SwitchAnswer answer;
+  answer.LoadFormTXT = true;
+  answer.Redraw = true;
+  return answer;
+}
+
+}  // namespace orrerix

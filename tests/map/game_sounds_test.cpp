@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: MIT
+#include "map/game_sounds.h"
+
+#include <gmock/gmock.h>
+
+#include "support/fake_message_boxes.h"
+#include "support/temp_folder.h"
+
+namespace orrerix {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+struct FakeSound : SoundPlayer {
+  std::vector<std::filesystem::path> Played;
+  void Play(const std::filesystem::path& file) override { Played.push_back(file); }
+  void Beep() override {}
+};
+
+class GameSounds : public ::testing::Test {
+ protected:
+  void Play() { PlaySoundfile(log, player, GameFolder(folder.Path().string()), kZoomSound); }
+
+  FakeMessageBoxes messages;
+  ErrorLog log{messages, AppVersion{1, 0, 0}};
+  TempFolder folder;
+  FakeSound player;
+};
+
+TEST_F(GameSounds, AreFoundBelowTheGameFolderInWhateverCase) {
+  const auto file = folder.Write("Data/audio/SOUNDS/ui/UI_nav_map_fade.wav", "RIFF");
+
+  Play();
+
+  EXPECT_THAT(player.Played, ElementsAre(file));
+}
+
+TEST_F(GameSounds, AreSilentWhereTheirFileIsMissing) {
+  Play();
+
+  EXPECT_THAT(player.Played, IsEmpty());
+  EXPECT_THAT(log.Failures(), IsEmpty());
+  EXPECT_THAT(messages.Shown, IsEmpty());
+}
+
+}  // namespace
+}  // namespace orrerix

@@ -1,0 +1,160 @@
+// SPDX-License-Identifier: MIT
+#include "map/option_switches.h"
+
+#include <gmock/gmock.h>
+
+#include "support/failure_sinks.h"
+#include "support/fake_message_boxes.h"
+#include "support/temp_folder.h"
+
+namespace orrerix {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+using ::testing::SizeIs;
+
+constexpr int kTradeLanes = 4;
+
+class Switches : public ::testing::Test {
+ protected:
+  Switches() { settings.CreateSettings(); }
+
+  void Zoom() { state.Zoom.Reset({7, 4, 8, 5}); }
+  SwitchAnswer Click(int which) {
+    return switches.SetImageClick(which, ReadMapOptions(settings, state.Zoom.Current().IsZoomed()));
+  }
+  SwitchAnswer ClickLabel(int which) {
+    return switches.SetLabelClick(which, ReadMapOptions(settings, state.Zoom.Current().IsZoomed()));
+  }
+
+  FakeMessageBoxes messages;
+  ErrorLog log{messages, AppVersion{1, 0, 0}};
+  TempFolder folder;
+  Settings settings{log, folder.Path(), JetVersionOption::Version30};
+  Language language{log, folder.Path(), JetVersionOption::Version30};
+  MapState state;
+  OptionSwitches switches{log, settings, language, state};
+};
+
+TEST_F(Switches, EachViewHasItsOwnSet) {
+  EXPECT_THAT(ReadMapOptions(settings, false).On,
+              ElementsAre(false, false, true, true, true, true));
+  EXPECT_THAT(ReadMapOptions(settings, true).On, ElementsAre(true, true, true, true, true, true));
+}
+
+TEST_F(Switches, ASettingThatIsNoNumberCountsAsOff) {
+  settings.WriteSettingValue("SET2-3", "yes");
+  settings.WriteSettingValue("SET2-4", "");
+  settings.WriteSettingValue("SET2-5", " 2x");
+
+  EXPECT_THAT(ReadMapOptions(settings, true).On, ElementsAre(true, true, true, false, false, true));
+}
+
+TEST_F(Switches, SettingsThatCannotBeReadCountAsOff) {
+  Settings nowhere(log, folder.Path() / "nowhere", JetVersionOption::Version30);
+
+  EXPECT_THAT(ReadMapOptions(nowhere, true).On,
+              ElementsAre(false, false, false, false, false, false));
+}
+
+TEST_F(Switches, AClickTurnsOneOverAndStoresIt) {
+  const SwitchAnswer answer = Click(kTradeLanes);
+
+  EXPECT_EQ(settings.ReadSetting("SET1-4"), "0");
+  EXPECT_EQ(answer.Sound, R"(\DATA\AUDIO\SOUNDS\UI\ui_item_select.wav)");
+  EXPECT_TRUE(answer.UnloadObjects);
+  EXPECT_TRUE(answer.Redraw);
+  EXPECT_FALSE(answer.LoadFormTXT);
+
+  Click(kTradeLanes);
+
+  EXPECT_EQ(settings.ReadSetting("SET1-4"), "1");
+}
+
+TEST_F(Switches, AClickInAZoomedMapLeavesTheWholeGridsSetAlone) {
+  Zoom();
+
+  Click(kTradeLanes);
+
+  EXPECT_EQ(settings.ReadSetting("SET2-4"), "0");
+  EXPECT_EQ(settings.ReadSetting("SET1-4"), "1");
+}
+
+TEST_F(Switches, AClickOnTheWholeGridLeavesTheOtherSetAlone) {
+  Click(0);
+
+  EXPECT_EQ(settings.ReadSetting("SET1-0"), "1");
+  EXPECT_EQ(settings.ReadSetting("SET2-0"), "1");
+}
+
+TEST_F(Switches, WhatThePanelShowsIsTurnedOverNotWhatIsStored) {
+  MapOptions shown = ReadMapOptions(settings, false);
+  settings.WriteSettingValue("SET1-4", "0");
+
+  switches.SetImageClick(kTradeLanes, shown);
+
+  EXPECT_EQ(settings.ReadSetting("SET1-4"), "0");
+}
+
+TEST_F(Switches, AClickOnACaptionIsAClickOnItsBox) {
+  const SwitchAnswer answer = ClickLabel(5);
+
+  EXPECT_EQ(settings.ReadSetting("SET1-5"), "0");
+  EXPECT_TRUE(answer.UnloadObjects);
+}
+
+TEST_F(Switches, TheLanguagesAreGoneThroughDownwards) {
+  const SwitchAnswer answer = ClickLabel(6);
+
+  EXPECT_EQ(language.CurrentLanguage, 2);
+  EXPECT_EQ(settings.ReadSetting("LANG"), "2");
+  EXPECT_TRUE(answer.LoadFormTXT);
+  EXPECT_TRUE(answer.Redraw);
+  EXPECT_FALSE(answer.UnloadObjects);
+  EXPECT_EQ(answer.Sound, "");
+}
+
+TEST_F(Switches, ThreeClicksOnTheLanguageReturnToTheStart) {
+  std::vector<int> languages;
+  for (int i = 0; i < 3; ++i) {
+    ClickLabel(6);
+    languages.push_back(language.CurrentLanguage);
+  }
+
+  EXPECT_THAT(languages, ElementsAre(2, 1, 0));
+  EXPECT_EQ(settings.ReadSetting("LANG"), "0");
+}
+
+TEST_F(Switches, AFailureNamesTheIndex) {
+  const SwitchAnswer answer = switches.SetImageClick(6, {});
+
+  ASSERT_THAT(log.Failures(), SizeIs(1));
+  EXPECT_EQ(log.Failures()[0].Source, "OrrerixMain.SetImage_Click");
+  EXPECT_EQ(log.Failures()[0].Info, "Index: 6");
+  EXPECT_EQ(log.Failures()[0].What.Number, 9);
+  EXPECT_TRUE(answer.Redraw);
+}
+
+TEST_F(Switches, CancelBehindAFailureLeavesTheMapAsItIs) {
+  messages.Answer = MessageAnswer::Cancel;
+
+  const SwitchAnswer answer = switches.SetImageClick(6, {});
+
+  EXPECT_FALSE(answer.UnloadObjects);
+  EXPECT_FALSE(answer.Redraw);
+}
+
+TEST_F(Switches, TouchingTheCaptionUnfoldsTheOptionsOnce) {
+  EXPECT_TRUE(switches.ShowOptionsLabelMouseMove(false));
+  EXPECT_TRUE(state.OptionsOpen);
+  EXPECT_FALSE(switches.ShowOptionsLabelMouseMove(false));
+}
+
+TEST_F(Switches, WhileTheSearchPanelIsOpenTheOptionsStayFolded) {
+  EXPECT_FALSE(switches.ShowOptionsLabelMouseMove(true));
+  EXPECT_FALSE(state.OptionsOpen);
+}
+
+}  // namespace
+}  // namespace orrerix
