@@ -138,7 +138,11 @@ class ImportRun {
     host_.Yield();
   }
 
+  // In a transaction of its own: a process that dies while the rows before it are written must not
+  // leave a file that looks finished.
   void StampVersion() {
+    database_.Commit(routine_);
+    database_.Begin(routine_);
     database_.CreateTable(routine_, VersionTable());
     Recordset version = database_.OpenTable(routine_, "Version");
     version.AddNew();
