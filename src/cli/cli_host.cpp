@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "cli/cli_host.h"
 
-#include <unistd.h>
-
 #include <algorithm>
 #include <cstdio>
 
 #include <fmt/format.h>
 
 #include "import/progress.h"
+#include "platform/terminal.h"
 #include "platform/tick_count.h"
 
 namespace orrerix {
@@ -28,7 +27,7 @@ std::string LastLine(std::string_view text) {
 }  // namespace
 
 CliHost::CliHost(MessageBoxes& messages, bool quiet)
-    : messages_(messages), shown_(!quiet && isatty(STDERR_FILENO) != 0) {}
+    : messages_(messages), shown_(!quiet && IsErrorShownOnTerminal()) {}
 
 CliHost::~CliHost() {
   if (shown_) fmt::print(stderr, "\r\033[K");

@@ -38,10 +38,8 @@ class DockStage {
   void Append(Recordset& object) {
     const MapCell cell = grid_.FindCell(object["sys_nick"].Get().Text());
     const double scale = SystemScale(routine_, universe_, cell);
-    ObjectPosition position;
-    routine_.Try([&] { position = ParsePosition(object["pos"].Get().Text()); });
-    routine_.Try([&] { place_.X = MapFraction(position.A, scale); });
-    routine_.Try([&] { place_.Y = MapFraction(position.C, scale); });
+    const ObjectPosition position =
+        PlaceObject(routine_, object["pos"].Get().Text(), scale, place_);
 
     docks_.AddNew();
     docks_["nickname"] = object["nickname"].Get();

@@ -47,13 +47,13 @@ class JumpStage {
     std::string system = target;
     routine_.Try([&] { system = RequireBeforeComma(target); });
     Locate(to_, system);
-    Place(from_, object["pos"].Get().Text());
+    PlaceObject(routine_, object["pos"].Get().Text(), from_.Scale, from_.Place);
 
     to_.Nickname = TargetNickname(target);
     to_.Place = {};
     Recordset found = ObjectNamed(routine_, universe_, to_.Nickname);
     if (found.AtEnd()) return;
-    Place(to_, TargetPosition(found));
+    PlaceObject(routine_, TargetPosition(found), to_.Scale, to_.Place);
     to_.Nickname = found["nickname"].Get().Text();
     if (IsRecorded(to_.Nickname)) return;
     Append(object["jump_effect"].Get().Text());
@@ -62,13 +62,6 @@ class JumpStage {
   void Locate(JumpEnd& end, std::string_view system) {
     end.Cell = grid_.FindCell(system);
     end.Scale = SystemScale(routine_, universe_, end.Cell);
-  }
-
-  void Place(JumpEnd& end, const std::string& pos) {
-    ObjectPosition position;
-    routine_.Try([&] { position = ParsePosition(pos); });
-    routine_.Try([&] { end.Place.X = MapFraction(position.A, end.Scale); });
-    routine_.Try([&] { end.Place.Y = MapFraction(position.C, end.Scale); });
   }
 
   // The second of the parts of `GoTo`.

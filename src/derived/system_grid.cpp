@@ -76,4 +76,13 @@ double MapFraction(std::int32_t units, double scale) {
   return ((*threefold / 4.0) * scale + 100000) / 200000;
 }
 
+ObjectPosition PlaceObject(Routine& routine, std::string_view pos, double scale,
+                           CellFraction& place) {
+  ObjectPosition position;
+  routine.Try([&] { position = ParsePosition(pos); });
+  routine.Try([&] { place.X = MapFraction(position.A, scale); });
+  routine.Try([&] { place.Y = MapFraction(position.C, scale); });
+  return position;
+}
+
 }  // namespace orrerix

@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "import/universe.h"
+#include "shell/routine.h"
 
 namespace orrerix {
 
@@ -66,5 +67,10 @@ ObjectPosition ParsePosition(std::string_view pos);
 // (((units * 3) / 4) * scale + 100000) / 200000. The product with 3 is one of whole numbers, and
 // throws 6 outside 32 bits.
 double MapFraction(std::int32_t units, double scale);
+
+// Takes an object's place over from the text of its `pos`, step by step: a part that fails stays as
+// it was in `place`. Gives the numbers of the position, all 0 where it cannot be read.
+ObjectPosition PlaceObject(Routine& routine, std::string_view pos, double scale,
+                           CellFraction& place);
 
 }  // namespace orrerix

@@ -77,10 +77,7 @@ class LaneStage {
   void TakeEnd(LaneEnd& end, Recordset& ring) {
     end.Cell = grid_.FindCell(ring["sys_nick"].Get().Text());
     const double scale = SystemScale(routine_, universe_, end.Cell);
-    ObjectPosition position;
-    routine_.Try([&] { position = ParsePosition(ring["pos"].Get().Text()); });
-    routine_.Try([&] { end.Place.X = MapFraction(position.A, scale); });
-    routine_.Try([&] { end.Place.Y = MapFraction(position.C, scale); });
+    PlaceObject(routine_, ring["pos"].Get().Text(), scale, end.Place);
     end.RealName = ring["realspacename"].Get().Text();
     if (end.RealName.empty()) end.RealName = "Unknown";
   }

@@ -43,8 +43,7 @@ bool IsOfQt(std::string_view header) {
 }
 
 bool MayUseLinux(std::string_view file) {
-  return file.starts_with("platform/linux/") ||
-         file == "cli/cli_host.cpp";  // asks whether someone reads its progress
+  return file.starts_with("platform/linux/");
 }
 
 bool IsOfLinux(std::string_view header) {
