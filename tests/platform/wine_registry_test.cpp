@@ -124,15 +124,15 @@ TEST_F(Prefix, TurnsPathsIntoRealOnes) {
 }
 
 TEST_F(Prefix, IsTheOneOfTheEnvironmentOrTheHomeFolders) {
-  const EnvironmentVariable home("HOME", "/home/fox");
+  const EnvironmentVariable home("HOME", "/players/fox");
   {
     const EnvironmentVariable prefix("WINEPREFIX", "/games/prefix");
     EXPECT_EQ(WineRegistry::DefaultPrefix(), "/games/prefix");
   }
   const EnvironmentVariable empty("WINEPREFIX", "");
-  EXPECT_EQ(WineRegistry::DefaultPrefix(), "/home/fox/.wine");
+  EXPECT_EQ(WineRegistry::DefaultPrefix(), "/players/fox/.wine");
   const EnvironmentVariable none("WINEPREFIX", std::nullopt);
-  EXPECT_EQ(WineRegistry::DefaultPrefix(), "/home/fox/.wine");
+  EXPECT_EQ(WineRegistry::DefaultPrefix(), "/players/fox/.wine");
 }
 
 }  // namespace
