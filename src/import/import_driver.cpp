@@ -41,8 +41,6 @@ class ImportRun {
     ReadDataFiles();
     CleanUp();
     Read("\\data\\missions\\mbases.ini", "[GF_NPC]");
-    import_.Sections.WriteTo(routine_, database_);
-    import_.Sections = {};
     CleanUp();
     Derive(stages);
     StampVersion();
@@ -90,8 +88,8 @@ class ImportRun {
 
   // Names are known only now that the libraries are read.
   void NameSystems() {
-    for (Recordset systems = database_.OpenRecordset(routine_, "SELECT * from Systems", {},
-                                                     RecordsetType::Dynaset);
+    for (Recordset systems =
+             database_.OpenRecordset(routine_, "SELECT * from Systems", {}, RecordsetType::Dynaset);
          !systems.AtEnd(); systems.MoveNext()) {
       systems.Edit();
       routine_.Try([&] {
@@ -159,11 +157,11 @@ class ImportRun {
       fs::rename(File(), build, error);
       if (error) {
         throw Failure{failure_number::kPathFileAccess,
-                      fmt::format("Path/File access error: cannot rename '{}': {}",
-                                  File().string(), error.message())};
+                      fmt::format("Path/File access error: cannot rename '{}': {}", File().string(),
+                                  error.message())};
       }
     });
-    CrunchTXTFields(log_, build, File(), order_.Format);
+    CrunchTXTFields(log_, build, File(), order_.Format, import_.Sections);
     fs::remove(build, error);
     database_ = DBEngine::OpenDatabase(routine_, File());
   }
@@ -181,8 +179,7 @@ class ImportRun {
 bool ImportGame(ErrorLog& log, ImportHost& host, Database& database, const ImportOrder& order,
                 const std::vector<DerivedStage>& stages) {
   Routine routine(log, "OrrerixMain.Command1_Click", "While getting Data from FreeLancer");
-  return routine.Run(
-      [&] { ImportRun(log, host, database, order, routine).Run(stages); });
+  return routine.Run([&] { ImportRun(log, host, database, order, routine).Run(stages); });
 }
 
 }  // namespace orrerix
