@@ -43,7 +43,6 @@ class ImportRun {
     Read("\\data\\missions\\mbases.ini", "[GF_NPC]");
     CleanUp();
     Derive(stages);
-    StampVersion();
     Crunch();
   }
 
@@ -136,16 +135,17 @@ class ImportRun {
     host_.Yield();
   }
 
-  // In a transaction of its own: a process that dies while the rows before it are written must not
-  // leave a file that looks finished.
-  void StampVersion() {
-    database_.Commit(routine_);
-    database_.Begin(routine_);
-    database_.CreateTable(routine_, VersionTable());
-    Recordset version = database_.OpenTable(routine_, "Version");
+  // The build file is stamped under its own name: a process that dies before all is crunched leaves
+  // no file that looks finished.
+  void StampVersion(const fs::path& build) {
+    Database file = DBEngine::OpenDatabase(routine_, build);
+    file.UseForBuilding(routine_);
+    file.CreateTable(routine_, VersionTable());
+    Recordset version = file.OpenTable(routine_, "Version");
     version.AddNew();
     version["Version"] = order_.Version.Stamp();
     version.Update();
+    file.Close();
   }
 
   void Crunch() {
@@ -161,6 +161,7 @@ class ImportRun {
                                   error.message())};
       }
     });
+    StampVersion(build);
     CrunchTXTFields(log_, build, File(), order_.Format, import_.Sections);
     fs::remove(build, error);
     database_ = DBEngine::OpenDatabase(routine_, File());

@@ -180,8 +180,8 @@ class ResourceTree {
 std::string_view StringInBlock(std::string_view block, std::uint32_t index) {
   for (std::uint32_t i = 0;; ++i) {
     if (block.size() < 2) return {};
-    const std::size_t bytes = 2 * (static_cast<unsigned char>(block[0]) +
-                                   256U * static_cast<unsigned char>(block[1]));
+    const std::size_t bytes =
+        2 * (static_cast<unsigned char>(block[0]) + 256U * static_cast<unsigned char>(block[1]));
     block.remove_prefix(2);
     if (block.size() < bytes) return {};
     if (i == index) return block.substr(0, bytes);
@@ -207,8 +207,8 @@ std::string AsSystemText(std::string_view utf16) {
   return system;
 }
 
-// Appends the ASCII characters at the front of a UTF-16 text, which most texts consist of. Gives the
-// number of their bytes.
+// Appends the ASCII characters at the front of a UTF-16 text, which most texts consist of. Gives
+// the number of their bytes.
 std::size_t AppendAsciiUnits(std::string& text, std::string_view utf16) {
   std::size_t end = 0;
   while (end + 1 < utf16.size() && static_cast<signed char>(utf16[end]) >= 0 &&
