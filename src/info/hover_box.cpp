@@ -12,6 +12,7 @@ namespace orrerix {
 namespace {
 
 constexpr Color kBoxBack{0x400000};
+constexpr Color kBoxBorder{0xB08040};
 constexpr Color kBoxText{0x00CCCC};
 constexpr int kMargin = 150;   // between the box's sides and its text
 constexpr int kIconGap = 100;  // between icon and box
@@ -33,6 +34,8 @@ double RoomFor(const MapDrawing& drawing) {
 
 ControlList BoxControls(const Box& place, std::string text, std::string tag) {
   Control shape = MakeFrame("Shape1", std::nullopt, place, kBoxBack);
+  shape.Shape = ShapeForm::RoundedRectangle;
+  shape.BorderColor = kBoxBorder;
   shape.Tag = std::move(tag);
   const Box inner{static_cast<float>(place.Left + kMargin), static_cast<float>(place.Top + kMargin),
                   place.Width - 2 * kMargin, place.Height - 2 * kMargin};
