@@ -7,12 +7,16 @@ namespace orrerix {
 namespace {
 
 constexpr Color kBoxBack{0x400000};
+constexpr Color kBoxBorder{0xB08040};
 constexpr Color kBoxText{0x00CCCC};
 
 }  // namespace
 
-Control BoxShape(const Box& place) {
-  return MakeFrame("Shape1", std::nullopt, place, kBoxBack);
+Control BoxShape(const Box& place, ShapeForm form) {
+  Control shape = MakeFrame("Shape1", std::nullopt, place, kBoxBack);
+  shape.Shape = form;
+  shape.BorderColor = kBoxBorder;
+  return shape;
 }
 
 Control BoxText(const Box& place, std::string text) {

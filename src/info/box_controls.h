@@ -13,7 +13,7 @@ namespace orrerix {
 inline constexpr int kBoxFont = 9;
 
 // Shape1 and InfoText at their places on the map frame.
-Control BoxShape(const Box& place);
+Control BoxShape(const Box& place, ShapeForm form);
 Control BoxText(const Box& place, std::string text);
 
 // The right edge of what a box may cover, twips: the panel's left side, or the frame's width where

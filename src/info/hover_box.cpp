@@ -25,7 +25,7 @@ void Grow(Routine& routine, int& size, int grown) {
 }
 
 ControlList BoxControls(const Box& place, std::string text, std::string tag) {
-  Control shape = BoxShape(place);
+  Control shape = BoxShape(place, ShapeForm::RoundedRectangle);
   shape.Tag = std::move(tag);
   const Box inner{static_cast<float>(place.Left + kMargin), static_cast<float>(place.Top + kMargin),
                   place.Width - 2 * kMargin, place.Height - 2 * kMargin};

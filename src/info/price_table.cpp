@@ -12,8 +12,7 @@
 namespace orrerix {
 namespace {
 
-// From here every search ends at the largest size that fits.
-constexpr int kDesignFont = 1;
+constexpr int kSampleFont = 10;
 
 constexpr Color kHeadBack{0x400000};
 constexpr Color kHeadText{0x00FFFF};
@@ -53,6 +52,20 @@ std::string TradeName(Routine& routine, Universe& universe, std::string_view key
 std::string RowName(Routine& routine, Universe& universe, const PriceItem& item, StationMode mode) {
   return IsTrade(item, mode) ? TradeName(routine, universe, item.Good)
                              : RealComName(universe, item.Good);
+}
+
+// A size that fits, near the largest one: from there the search for that is short, and sure.
+int FittingFont(std::string_view text, const TextMeasure& measure, int width, int height) {
+  const auto share = [](int room, int taken) {
+    return taken > 0 ? kSampleFont * room / taken : kSampleFont;
+  };
+  int size = MAXI(1, MINI(share(width, measure.TextWidth(text, kSampleFont)),
+                          share(height, measure.TextHeight(text, kSampleFont))));
+  while (size > 1 &&
+         (measure.TextWidth(text, size) > width || measure.TextHeight(text, size) > height)) {
+    --size;
+  }
+  return size;
 }
 
 class TableWriter {
@@ -109,8 +122,11 @@ class TableWriter {
   // A label in the largest font that fits it.
   Control& AddLabel(const char* name, int index, const Box& box, std::string caption, Color back) {
     Control label = MakeLabel(name, index, box, std::move(caption));
-    label.FontSize = OptFontSize(*label.Caption, measure_, kDesignFont, WholeTwips(box.Width),
-                                 WholeTwips(box.Height));
+    const int width = WholeTwips(box.Width);
+    const int height = WholeTwips(box.Height);
+    label.FontSize =
+        OptFontSize(*label.Caption, measure_, FittingFont(*label.Caption, measure_, width, height),
+                    width, height);
     label.ForeColor = kRowText;
     label.BackColor = back;
     return controls_.emplace_back(std::move(label));

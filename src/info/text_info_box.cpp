@@ -37,7 +37,7 @@ ControlList ShowTextInfoBox(ErrorLog& log, const std::string& text, const TextMe
     const double room = RoomForBox(drawing);
     const double width = MINI<double>(WidestLine(text, measure) + kRoomBesideText, room);
     const Box place{MAXI(0.0, room - width), 0, width, drawing.Frame.Height};
-    box.push_back(BoxShape(place));
+    box.push_back(BoxShape(place, ShapeForm::Rectangle));
     box.push_back(BoxText({place.Left + kTextLeft, place.Top + kTextTop, Inner(place.Width, 450),
                            Inner(place.Height, 300)},
                           text));
