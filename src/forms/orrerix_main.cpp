@@ -44,7 +44,9 @@ OrrerixMain::OrrerixMain(const FormParts& parts, Settings& settings, Language& l
       importScreen_(new ImportScreen(parts.Pictures, this)),
       map_(parts.Pictures, settings, language, this),
       play_(map_, *this, parts.Log, settings, language, parts.Sound),
-      stations_(parts.Pictures),
+      search_(map_, *this, play_, parts.Log, language),
+      stations_({parts.Log, parts.Pictures, parts.Sound, language, map_.State().Names,
+                 [this](Routine& routine) { return OpenUniverse(routine); }}),
       host_(*this, *importScreen_, parts.Messages, parts.Log, startMemory, parts.Paths.Debugging) {
   setObjectName("OrrerixMain");
   setMinimumSize(kSmallestForm);
@@ -229,8 +231,8 @@ void OrrerixMain::StationSearchClick(int index) {
   routine.Run([&] {
     if (index == printTool) {
       PrintTheMap();
-    } else if (OnStationSearch) {
-      OnStationSearch(index);
+    } else {
+      search_.StationSearchClick(static_cast<SearchType>(index));
     }
   });
 }

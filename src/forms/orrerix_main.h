@@ -12,6 +12,7 @@
 #include "forms/map_form.h"
 #include "forms/map_play.h"
 #include "forms/map_screen.h"
+#include "forms/search_play.h"
 #include "forms/station_windows.h"
 #include "forms/window_host.h"
 
@@ -46,9 +47,6 @@ class OrrerixMain : public QWidget, private MapForm {
   // Asked for once before the first map; the program's own warnings stand here.
   std::function<void()> OnFirstMap;
 
-  // Called for a click on a tool icon that opens the search panel: its index, 0 to 3.
-  std::function<void(int)> OnStationSearch;
-
   MapScreen& Map() { return map_; }
   MapPlay& Play() { return play_; }
   const StationWindows& Stations() const { return stations_; }
@@ -62,7 +60,7 @@ class OrrerixMain : public QWidget, private MapForm {
   void LoadFormTXT() override;
   Universe OpenUniverse(Routine& routine) override;
   GameFolder Game() const override;
-  bool SearchPanelOpen() const override { return false; }  // there is no panel yet
+  bool SearchPanelOpen() const override { return search_.Visible(); }
   void ShowStation(const std::string& nickname, const std::string& picture) override;
   void StationSearchClick(int index) override;
 
@@ -95,6 +93,7 @@ class OrrerixMain : public QWidget, private MapForm {
   ImportScreen* importScreen_;
   MapScreen map_;
   MapPlay play_;
+  SearchPlay search_;
   StationWindows stations_;
   WindowHost host_;
 };

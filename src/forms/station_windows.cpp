@@ -6,7 +6,7 @@
 namespace orrerix {
 
 void StationWindows::Open(const std::string& nickname, const std::string& picture) {
-  windows_.push_back(std::make_unique<StationInfo>(pictures_, nickname, picture));
+  windows_.push_back(std::make_unique<StationInfo>(parts_, nickname, picture));
   StationInfo* window = windows_.back().get();
   window->OnClosed = [this, window] { Forget(window); };
   window->show();

@@ -3,6 +3,7 @@
 
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "forms/station_info.h"
@@ -12,7 +13,7 @@ namespace orrerix {
 // The station windows that stand open, any number side by side.
 class StationWindows {
  public:
-  explicit StationWindows(PictureStore& pictures) : pictures_(pictures) {}
+  explicit StationWindows(StationParts parts) : parts_(std::move(parts)) {}
 
   // Shows one more. It is freed when it is closed, or with this.
   void Open(const std::string& nickname, const std::string& picture);
@@ -25,7 +26,7 @@ class StationWindows {
  private:
   void Forget(const StationInfo* window);
 
-  PictureStore& pictures_;
+  const StationParts parts_;
   std::vector<std::unique_ptr<StationInfo>> windows_;
 };
 

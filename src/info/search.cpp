@@ -2,7 +2,6 @@
 #include "info/search.h"
 
 #include "db/text.h"
-#include "shell/routine.h"
 
 namespace orrerix {
 namespace {
@@ -135,6 +134,16 @@ std::vector<SearchRow> SellersOf(Universe& universe, SearchType type, const Sear
     }
   });
   return found;
+}
+
+std::optional<JumpTarget> JumpTargetOf(Routine& routine, Universe& universe,
+                                       std::string_view nickname) {
+  Recordset dock = universe.DB.OpenRecordset(
+      routine, "SELECT * from DockObjects WHERE ucase(nickname) = '{}'", {Ucase(nickname)});
+  if (dock.AtEnd()) return std::nullopt;
+  return JumpTarget{dock["nickname"].Get().Text(),
+                    {static_cast<int>(dock["mapx"].Get().Number()),
+                     static_cast<int>(dock["mapy"].Get().Number())}};
 }
 
 std::optional<InfoType> InfoTypeOf(SearchType type) {

@@ -7,8 +7,10 @@
 #include <string_view>
 #include <vector>
 
+#include "derived/system_grid.h"
 #include "import/universe.h"
 #include "info/info_text.h"
+#include "shell/routine.h"
 
 namespace orrerix {
 
@@ -36,5 +38,13 @@ std::vector<SearchRow> SellersOf(Universe& universe, SearchType type, const Sear
 
 // What the info box tells of a row; places have none.
 std::optional<InfoType> InfoTypeOf(SearchType type);
+
+// A place as the map has it, whatever the case of `nickname`.
+struct JumpTarget {
+  std::string Nickname;
+  MapCell Cell;
+};
+std::optional<JumpTarget> JumpTargetOf(Routine& routine, Universe& universe,
+                                       std::string_view nickname);
 
 }  // namespace orrerix
