@@ -25,6 +25,8 @@ class StationInfo : public QWidget {
   void closeEvent(QCloseEvent* event) override;
 
  private:
+  void Place();
+
   std::string nick_;
   std::string picture_;
 };
