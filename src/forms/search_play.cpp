@@ -118,7 +118,10 @@ void SearchPlay::Jump(const std::string& nickname) {
     const auto target = JumpTargetOf(routine, universe, nickname);
     if (!target) return;
     const MapCell& cell = target->Cell;
-    if (play_.PushZoomStack({cell.X, cell.Y, cell.X, cell.Y})) form_.FormResize();
+    const ZoomRectangle square{cell.X, cell.Y, cell.X, cell.Y};
+    if (!square.IsValid())
+      return routine.Fail(RuntimeFailure(failure_number::kSubscriptOutOfRange));
+    if (play_.PushZoomStack(square)) form_.FormResize();
     const ControlList& controls = screen_.Drawing().Controls;
     const auto icon = std::find_if(controls.begin(), controls.end(), [&](const Control& control) {
       return control.Name == "Image1" && control.Tag == target->Nickname;

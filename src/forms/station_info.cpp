@@ -90,8 +90,8 @@ void StationInfo::Place() {
   constexpr int kept = 400;  // twips of the screen's height
   const QRect all = screen()->geometry();
   const int third = all.width() / 3;
-  setGeometry(all.left() + 2 * third, all.top(), third,
-              all.height() - static_cast<int>(Pixels(kept)));
+  move(all.left() + 2 * third, all.top());
+  resize(third, all.height() - static_cast<int>(Pixels(kept)));
 }
 
 Wording StationInfo::Words() const {

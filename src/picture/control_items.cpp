@@ -134,7 +134,7 @@ class LabelItem : public ControlItem {
     if (style_.Wraps) {
       while (points > kSmallestFont && !Fits(caption, box)) font_ = FormFont(--points);
     } else if (style_.Lines) {
-      caption.remove('\r');
+      caption.replace("\r\n", QString(QChar::LineSeparator));
     } else {
       caption = QFontMetricsF(font_).elidedText(caption, Qt::ElideRight, box.width() + 1);
     }

@@ -36,7 +36,9 @@ class FakeLinks : public LinkOpener {
 class FakePrinters : public Printers {
  public:
   std::filesystem::path File;
+  std::function<void()> OnAsked;
   std::optional<PrintTarget> DefaultPrinter() override {
+    if (OnAsked) OnAsked();
     if (File.empty()) return std::nullopt;
     return PrintTarget{{}, File};
   }
