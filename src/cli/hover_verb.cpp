@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <memory>
 
+#include "cli/opened_universe.h"
 #include "cli/verbs.h"
 #include "info/hover_text.h"
 
@@ -8,13 +9,10 @@ namespace orrerix {
 namespace {
 
 int RunHover(const CommonOptions& options, const std::string& nickname) {
-  Database database = OpenUniverse(options);
-  PolicyMessageBoxes messages(options);
-  ErrorLog log(messages, CurrentVersion());
-  Universe universe{log, database};
-  FixedLanguage texts(options.LanguageNumber());
-  const CellNames names = GetSystemNames(universe, texts);
-  AnswerText(options, HoverText(universe, names, texts, IconTag(universe, nickname)));
+  OpenedUniverse universe(options);
+  const CellNames names = GetSystemNames(universe.Data, universe.Texts);
+  AnswerText(options,
+             HoverText(universe.Data, names, universe.Texts, IconTag(universe.Data, nickname)));
   return kDone;
 }
 

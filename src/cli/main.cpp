@@ -29,6 +29,9 @@ int Run(int argc, char** argv) {
   AddSceneVerb(app, options, run);
   AddTextVerbs(app, options, run);
   AddHoverVerb(app, options, run);
+  AddSearchVerbs(app, options, run);
+  AddInfoVerb(app, options, run);
+  AddStationVerb(app, options, run);
 #ifdef ORRERIX_WITH_QT
   AddRenderVerb(app, options, run);
 #endif

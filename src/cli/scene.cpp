@@ -4,8 +4,10 @@
 #include <algorithm>
 #include <charconv>
 
+#include "cli/verbs.h"
 #include "db/text.h"
 #include "info/hover_box.h"
+#include "info/text_info_box.h"
 #include "map/gestures.h"
 
 namespace orrerix {
@@ -34,7 +36,8 @@ ZoomRectangle ParseZoom(const std::string& text) {
   const std::vector<int> sides = ParseNumbers(text, ',', 4);
   const ZoomRectangle rectangle{sides[0], sides[1], sides[2], sides[3]};
   if (!rectangle.IsValid()) {
-    throw WrongUsage("the rectangle '" + text + "' does not lie in the grid of columns 0 to 17 "
+    throw WrongUsage("the rectangle '" + text +
+                     "' does not lie in the grid of columns 0 to 17 "
                      "and rows 0 to 18");
   }
   return rectangle;
@@ -48,6 +51,20 @@ MapOptions ParseSwitches(const std::string& text, bool zoomed) {
   MapOptions options;
   for (std::size_t i = 0; i < options.On.size(); ++i) options.On[i] = text[i] == '1';
   return options;
+}
+
+struct InfoWord {
+  InfoType Type;
+  std::string Nickname;
+};
+
+InfoWord ParseInfo(const std::string& text) {
+  const std::size_t colon = text.find(':');
+  const auto kind = InfoKinds().find(text.substr(0, colon));
+  if (colon == std::string::npos || kind == InfoKinds().end()) {
+    throw WrongUsage("'" + text + "' is not ship, equipment or group, a colon and a nickname");
+  }
+  return {kind->second, text.substr(colon + 1)};
 }
 
 // The map through gestures, redrawn as the window would redraw it.
@@ -68,6 +85,7 @@ class SceneMap {
     state_.PrintMode = words_.Print;
     MapDrawing drawing = Redraw();
     if (!words_.Hover.empty()) Hover(drawing);
+    if (!words_.Info.empty()) ShowInfo(drawing);
     return {form_, state_.Zoom.Current(), state_.Zoom.ZoomDepth(), std::move(drawing)};
   }
 
@@ -103,6 +121,19 @@ class SceneMap {
     for (Control& control : hover.Box) drawing.Controls.push_back(std::move(control));
   }
 
+  // The large box is the hover box in another place; without a text neither is seen.
+  void ShowInfo(MapDrawing& drawing) {
+    const InfoWord info = ParseInfo(words_.Info);
+    ControlList box = ShowInfoTextType(universe_, Wording{texts_, {}}, measure_, drawing,
+                                       info.Nickname, info.Type);
+    std::erase_if(drawing.Controls, [&](const Control& control) {
+      const bool isShape = control.Name == "Shape1";
+      if (isShape && !box.empty()) box.front().Tag = control.Tag;
+      return isShape || control.Name == "InfoText";
+    });
+    for (Control& control : box) drawing.Controls.push_back(std::move(control));
+  }
+
   Universe& universe_;
   const SceneOptions& words_;
   Extent form_;
@@ -127,6 +158,7 @@ void AddMouseOptions(CLI::App& verb, SceneOptions& scene) {
       ->take_all();
   verb.add_flag("--back")->description("Goes back with the right button; repeatable");
   verb.add_option("--hover", scene.Hover, "Nickname of the object under the mouse");
+  verb.add_option("--info", scene.Info, "The large info box about TYPE:NICKNAME");
 }
 
 void ReadGestures(const CLI::App& verb, SceneOptions& scene) {

@@ -31,13 +31,14 @@ struct SceneOptions {
   bool Print = false;
   std::vector<Gesture> Gestures;  // in their order
   std::string Hover;              // nickname of the object under the mouse
+  std::string Info;               // "TYPE:NICKNAME" of the large info box
 };
 
 // Adds the options that scene and render share.
 void AddSceneOptions(CLI::App& verb, SceneOptions& scene);
 
-// Adds those of the mouse. Gestures are not in `scene` before ReadGestures was called on the parsed
-// verb, which throws WrongUsage for a drag that is not four whole numbers.
+// Adds those of the mouse and the boxes. Gestures are not in `scene` before ReadGestures was called
+// on the parsed verb, which throws WrongUsage for a drag that is not four whole numbers.
 void AddMouseOptions(CLI::App& verb, SceneOptions& scene);
 void ReadGestures(const CLI::App& verb, SceneOptions& scene);
 

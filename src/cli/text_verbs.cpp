@@ -5,6 +5,8 @@
 #include <fmt/format.h>
 #include <nlohmann/json.hpp>
 
+#include "cli/json_text.h"
+#include "cli/opened_universe.h"
 #include "cli/verbs.h"
 #include "import/resource_strings.h"
 
@@ -13,7 +15,7 @@ namespace orrerix {
 void AnswerText(const CommonOptions& options, const std::string& text) {
   if (!options.Json) return fmt::print("{}\n", text);
   const nlohmann::json answer = {{"text", text}};
-  fmt::print("{}\n", answer.dump(2, ' ', false, nlohmann::json::error_handler_t::replace));
+  PrintJson(answer);
 }
 
 namespace {
@@ -27,11 +29,8 @@ void AddNumberVerb(CLI::App& app, const CommonOptions& options, Verb& run, const
   verb->add_option("NUMBER", *number, "The text's number")->required();
   verb->callback([&options, &run, number, lookUp] {
     run = [&options, number, lookUp] {
-      Database database = OpenUniverse(options);
-      PolicyMessageBoxes messages(options);
-      ErrorLog log(messages, CurrentVersion());
-      Universe universe{log, database};
-      AnswerText(options, lookUp(universe, *number));
+      OpenedUniverse universe(options);
+      AnswerText(options, lookUp(universe.Data, *number));
       return kDone;
     };
   });
@@ -40,10 +39,9 @@ void AddNumberVerb(CLI::App& app, const CommonOptions& options, Verb& run, const
 }  // namespace
 
 void AddTextVerbs(CLI::App& app, const CommonOptions& options, Verb& run) {
-  AddNumberVerb(app, options, run, "name", "The name of a number",
-                [](Universe& universe, std::int32_t number) {
-                  return GetName(universe, number, "");
-                });
+  AddNumberVerb(
+      app, options, run, "name", "The name of a number",
+      [](Universe& universe, std::int32_t number) { return GetName(universe, number, ""); });
   AddNumberVerb(app, options, run, "card", "The info text of a number", GetInfo);
 }
 

@@ -4,16 +4,25 @@
 #pragma once
 
 #include <functional>
+#include <map>
 #include <string>
 
 #include <CLI/CLI.hpp>
 
 #include "cli/options.h"
+#include "info/info_text.h"
+#include "map/drawing_list.h"
 
 namespace orrerix {
 
 // Answers with one text: as it is, or as {"text": ...}.
 void AnswerText(const CommonOptions& options, const std::string& text);
+
+// One line about a control, for people.
+void PrintControl(const Control& control);
+
+// The words for what info texts are about.
+const std::map<std::string, InfoType>& InfoKinds();
 
 // Each of these adds a verb to the command line; `run` is set to it when its word is parsed.
 using Verb = std::function<int()>;
@@ -21,6 +30,9 @@ void AddImportVerb(CLI::App& app, const CommonOptions& options, Verb& run);
 void AddSceneVerb(CLI::App& app, const CommonOptions& options, Verb& run);
 void AddTextVerbs(CLI::App& app, const CommonOptions& options, Verb& run);
 void AddHoverVerb(CLI::App& app, const CommonOptions& options, Verb& run);
+void AddSearchVerbs(CLI::App& app, const CommonOptions& options, Verb& run);
+void AddInfoVerb(CLI::App& app, const CommonOptions& options, Verb& run);
+void AddStationVerb(CLI::App& app, const CommonOptions& options, Verb& run);
 void AddRenderVerb(CLI::App& app, const CommonOptions& options, Verb& run);
 
 }  // namespace orrerix

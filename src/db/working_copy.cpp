@@ -35,6 +35,7 @@ constexpr std::array kLookups = {
     Lookup{"BaseGoodPrices", "ucase(GoodNick) COLLATE NOCASE"},
     Lookup{"Groups", "ucase(NickName) COLLATE NOCASE"},
     Lookup{"Ships", "ucase(NickName) COLLATE NOCASE"},
+    Lookup{"Ships", "ucase(packagename) COLLATE NOCASE"},
     Lookup{"Loadout_Cargo", "ucase(NickName) COLLATE NOCASE"},
     Lookup{"GF_NPC", "ucase(BaseNick) COLLATE NOCASE"},
     Lookup{"GF_NPC", "ucase(bribe) COLLATE NOCASE"},

@@ -10,6 +10,7 @@
 #include "platform/links.h"
 #include "platform/memory_status.h"
 #include "platform/message_box.h"
+#include "platform/printer.h"
 #include "platform/sound.h"
 #include "shell/error_log.h"
 #include "shell/game_registry.h"
@@ -35,6 +36,7 @@ struct FormParts {
   MessageBoxes& Messages;
   SoundPlayer& Sound;
   LinkOpener& Links;
+  Printers& Printing;
   PictureStore& Pictures;
 
   // The game folder as the start finds it.

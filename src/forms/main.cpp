@@ -87,11 +87,13 @@ int RunProgram(int argc, char** argv, const StartPaths& paths) {
   DesktopMessageBoxes messages;
   DesktopSound sound;
   DesktopLinks links;
+  DesktopPrinters printers;
   ErrorLog log(messages, CurrentVersion());
   const auto native = NativeRegistry();
   const GameRegistry registry(log, *native);
   PictureStore pictures;
-  const FormParts parts{paths, CurrentVersion(), log, registry, messages, sound, links, pictures};
+  const FormParts parts{paths, CurrentVersion(), log,     registry, messages, sound,
+                        links, printers,         pictures};
   ProgramRun run(parts);
   run.Start();
   return QApplication::exec();

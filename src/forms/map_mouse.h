@@ -10,7 +10,9 @@ struct MapPointer {
   double X = 0;  // twips from the frame's top left corner
   double Y = 0;
   PointerButton Button = PointerButton::None;  // pressed or released; of a move the one held down
+  bool OthersHeld = false;         // buttons besides the one that is pressed or released
   const Control* Under = nullptr;  // topmost control that is no line; null on the bare frame
+  bool OnPanel = false;            // that control is the panel, or a part of it
 };
 
 // Whoever acts on the mouse. The map as such only shows.

@@ -42,8 +42,9 @@ MapOptions MapScreen::ReadOptions() {
 }
 
 void MapScreen::Redraw(Universe& universe, int formWidth, int formHeight) {
+  options_ = ReadOptions();
   MapDrawing drawing =
-      DrawMap(universe, state_, {formWidth, formHeight, ReadOptions(), measure_, panel_, starMap_});
+      DrawMap(universe, state_, {formWidth, formHeight, options_, measure_, panel_, starMap_});
   // No pixel that the drawing does not reach to its far side.
   const QRectF frame = Pixels(drawing.Frame);
   frame_->setGeometry(QRect(frame.topLeft().toPoint(), QSize(static_cast<int>(frame.width()),

@@ -34,7 +34,11 @@ class MapScreen {
 
   MapState& State() { return state_; }
   SysmapFrame& Frame() { return *frame_; }
+  MapScene& Scene() { return scene_; }
   const MapDrawing& Drawing() const { return scene_.Drawing(); }
+
+  // The switches as the last redraw has read them: what the panel shows.
+  const MapOptions& Options() const { return options_; }
 
  private:
   MapOptions ReadOptions();
@@ -46,6 +50,7 @@ class MapScreen {
   QtTextMeasure measure_;
   PanelContent panel_;
   MapState state_;
+  MapOptions options_;
   bool namesRead_ = false;
   std::string starMap_ = "StarMapPic";
   MapScene scene_;

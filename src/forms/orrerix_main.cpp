@@ -7,9 +7,12 @@
 #include <QTimer>
 #include <utility>
 
+#include <fmt/format.h>
+
 #include "db/number_text.h"
 #include "derived/stages.h"
 #include "forms/form_geometry.h"
+#include "forms/print_form.h"
 #include "import/import_driver.h"
 #include "platform/game_path.h"
 #include "shell/routine.h"
@@ -40,6 +43,10 @@ OrrerixMain::OrrerixMain(const FormParts& parts, Settings& settings, Language& l
       format_(format),
       importScreen_(new ImportScreen(parts.Pictures, this)),
       map_(parts.Pictures, settings, language, this),
+      play_(map_, *this, parts.Log, settings, language, parts.Sound),
+      search_(map_, *this, play_, parts.Log, language),
+      stations_({parts.Log, parts.Pictures, parts.Sound, language, map_.State().Names,
+                 [this](Routine& routine) { return OpenUniverse(routine); }}),
       host_(*this, *importScreen_, parts.Messages, parts.Log, startMemory, parts.Paths.Debugging) {
   setObjectName("OrrerixMain");
   setMinimumSize(kSmallestForm);
@@ -148,8 +155,12 @@ void OrrerixMain::PlaceForImport() {
       ImportWindowPlace(static_cast<int>(Twips(screenRect.width())),
                         static_cast<int>(Twips(screenRect.height())), MemFrame::DesignHeight);
   const QRect outer = PixelRect(place).translated(screenRect.topLeft());
-  const QSize decoration = frameGeometry().size() - size();
   setWindowState(windowState() & ~Qt::WindowMaximized);
+  SetOuterGeometry(outer);
+}
+
+void OrrerixMain::SetOuterGeometry(const QRect& outer) {
+  const QSize decoration = frameGeometry().size() - size();
   move(outer.topLeft());
   resize(outer.size() - decoration);
 }
@@ -192,11 +203,63 @@ void OrrerixMain::ShowMap() {
   routine.Run([&] {
     const bool isFirstMap = !std::exchange(mapShown_, true);
     const bool warns = isFirstMap && IsWarningWanted(routine, UniverseFile());
-    Universe universe{parts_.Log, copy_.Of(routine, UniverseFile())};
+    Universe universe = OpenUniverse(routine);
     map_.InitDataUsage(universe);
     if (warns && OnFirstMap) OnFirstMap();
-    map_.Redraw(universe, OuterWidth(*this), OuterHeight(*this));
+    const bool prints = printSide_ > 0;
+    map_.Redraw(universe, prints ? printSide_ : OuterWidth(*this),
+                prints ? printSide_ : OuterHeight(*this));
+    play_.MapRedrawn();
   });
+}
+
+Universe OrrerixMain::OpenUniverse(Routine& routine) {
+  return {parts_.Log, copy_.Of(routine, UniverseFile())};
+}
+
+GameFolder OrrerixMain::Game() const {
+  return GameFolder(GameFolderText());
+}
+
+void OrrerixMain::ShowStation(const std::string& nickname, const std::string& picture) {
+  stations_.Open(nickname, picture);
+}
+
+void OrrerixMain::StationSearchClick(int index) {
+  constexpr int printTool = 4;
+  Routine routine(parts_.Log, "OrrerixMain.StationSearch_Click", fmt::format("Index: {}", index));
+  routine.Run([&] {
+    if (index == printTool) {
+      PrintTheMap();
+    } else {
+      search_.StationSearchClick(static_cast<SearchType>(index));
+    }
+  });
+}
+
+void OrrerixMain::PrintTheMap() {
+  if (printSide_ > 0) return;
+  const auto yield = [] { QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents); };
+  Routine routine(parts_.Log, "OrrerixMain.PrintTheMap");
+  routine.Run([&] {
+    const Qt::WindowStates state = windowState();
+    const QRect place = state == Qt::WindowNoState ? geometry() : normalGeometry();
+    setWindowState(Qt::WindowNoState);
+    map_.State().PrintMode = true;
+    const QRect screenRect = screen()->geometry();
+    printSide_ = static_cast<int>(Twips(screenRect.height()));
+    SetOuterGeometry({screenRect.topLeft(), QSize(screenRect.height(), screenRect.height())});
+    FormResize();
+    yield();
+    routine.Try([&] { PrintForm(map_.Scene(), parts_.Printing.DefaultPrinter()); });
+    yield();
+    map_.State().PrintMode = false;
+    printSide_ = 0;
+    setGeometry(place);
+    setWindowState(state);
+    FormResize();
+  });
+  printSide_ = 0;
 }
 
 void OrrerixMain::closeEvent(QCloseEvent* event) {
@@ -207,6 +270,7 @@ void OrrerixMain::closeEvent(QCloseEvent* event) {
     return;
   }
   event->accept();
+  stations_.CloseAll();
   if (OnQueryUnload) OnQueryUnload();
 }
 

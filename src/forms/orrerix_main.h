@@ -9,14 +9,18 @@
 #include "db/working_copy.h"
 #include "forms/form_parts.h"
 #include "forms/import_screen.h"
+#include "forms/map_form.h"
+#include "forms/map_play.h"
 #include "forms/map_screen.h"
+#include "forms/search_play.h"
+#include "forms/station_windows.h"
 #include "forms/window_host.h"
 
 namespace orrerix {
 
 // The main form. It shows one of three screens, decided anew in every Form_Resize: first run,
 // importing, or the map.
-class OrrerixMain : public QWidget {
+class OrrerixMain : public QWidget, private MapForm {
  public:
   OrrerixMain(const FormParts& parts, Settings& settings, Language& language,
               const MemoryStatus& startMemory, JetVersionOption format);
@@ -29,7 +33,11 @@ class OrrerixMain : public QWidget {
   void ShowMaximised();
 
   // The one redraw of the form; whoever changes what the map shows calls it.
-  void FormResize();
+  void FormResize() override;
+
+  // Prints the map as it is shown, on white paper: the form is a square of the screen's height
+  // meanwhile. Behind a failure that the user cancels it stays one, drawn for print.
+  void PrintTheMap();
 
   bool Importing() const { return importing_; }
 
@@ -40,6 +48,8 @@ class OrrerixMain : public QWidget {
   std::function<void()> OnFirstMap;
 
   MapScreen& Map() { return map_; }
+  MapPlay& Play() { return play_; }
+  const StationWindows& Stations() const { return stations_; }
 
  protected:
   void resizeEvent(QResizeEvent* event) override;
@@ -47,7 +57,13 @@ class OrrerixMain : public QWidget {
   void closeEvent(QCloseEvent* event) override;
 
  private:
-  void LoadFormTXT();
+  void LoadFormTXT() override;
+  Universe OpenUniverse(Routine& routine) override;
+  GameFolder Game() const override;
+  bool SearchPanelOpen() const override { return search_.Visible(); }
+  void ShowStation(const std::string& nickname, const std::string& picture) override;
+  void StationSearchClick(int index) override;
+
   std::filesystem::path UniverseFile() const { return saveFolder_ / "Orrerix.fl"; }
   std::string GameFolderText() const;
   void LookForGame();
@@ -56,6 +72,7 @@ class OrrerixMain : public QWidget {
   void PlaceForImport();
   void ShowImportScreen();
   void ShowMap();
+  void SetOuterGeometry(const QRect& outer);
 
   const FormParts& parts_;
   Settings& settings_;
@@ -71,9 +88,13 @@ class OrrerixMain : public QWidget {
   bool lookQueued_ = false;   // for the game, from the event loop
   bool complaining_ = false;  // that the game is missing
   bool mapShown_ = false;
+  int printSide_ = 0;  // twips of the form's sides while it prints; else 0
 
   ImportScreen* importScreen_;
   MapScreen map_;
+  MapPlay play_;
+  SearchPlay search_;
+  StationWindows stations_;
   WindowHost host_;
 };
 

@@ -7,6 +7,7 @@
 #include <QDesktopServices>
 #include <QMediaDevices>
 #include <QMessageBox>
+#include <QPrinterInfo>
 #include <QSoundEffect>
 #include <QUrl>
 
@@ -70,16 +71,31 @@ void DesktopLinks::Open(const std::string& address) {
   QDesktopServices::openUrl(QUrl(QString::fromStdString(address)));
 }
 
+std::optional<PrintTarget> DesktopPrinters::DefaultPrinter() {
+  const QString printer = QPrinterInfo::defaultPrinterName();
+  if (printer.isEmpty()) return std::nullopt;
+  return PrintTarget{printer.toStdString(), {}};
+}
+
 DesktopSound::DesktopSound() = default;
 DesktopSound::~DesktopSound() = default;
+
+QSoundEffect& DesktopSound::EffectOf(const std::filesystem::path& file) {
+  auto& effect = effects_[file];
+  if (!effect) {
+    effect = std::make_unique<QSoundEffect>();
+    effect->setSource(QUrl::fromLocalFile(QString::fromStdString(file.string())));
+  }
+  return *effect;
+}
 
 void DesktopSound::Play(const std::filesystem::path& file) {
   const QAudioDevice device = QMediaDevices::defaultAudioOutput();
   if (device.isNull()) return;
-  if (!effect_) effect_ = std::make_unique<QSoundEffect>(device);
-  effect_->stop();
-  effect_->setSource(QUrl::fromLocalFile(QString::fromStdString(file.string())));
-  effect_->play();
+  if (last_ != nullptr) last_->stop();
+  last_ = &EffectOf(file);
+  if (last_->audioDevice() != device) last_->setAudioDevice(device);
+  last_->play();
 }
 
 void DesktopSound::Beep() {

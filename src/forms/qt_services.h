@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: MIT
-// Questions, links and sounds, done by the desktop.
+// Questions, links, printers and sounds, done by the desktop.
 #pragma once
 
+#include <map>
 #include <memory>
 
 #include "platform/links.h"
 #include "platform/message_box.h"
+#include "platform/printer.h"
 #include "platform/sound.h"
 
 class QSoundEffect;
@@ -23,6 +25,11 @@ class DesktopLinks : public LinkOpener {
   void Open(const std::string& address) override;
 };
 
+class DesktopPrinters : public Printers {
+ public:
+  std::optional<PrintTarget> DefaultPrinter() override;
+};
+
 class DesktopSound : public SoundPlayer {
  public:
   DesktopSound();
@@ -32,7 +39,10 @@ class DesktopSound : public SoundPlayer {
   void Beep() override;
 
  private:
-  std::unique_ptr<QSoundEffect> effect_;  // made with the first sound
+  QSoundEffect& EffectOf(const std::filesystem::path& file);
+
+  std::map<std::filesystem::path, std::unique_ptr<QSoundEffect>> effects_;  // read once
+  QSoundEffect* last_ = nullptr;
 };
 
 }  // namespace orrerix

@@ -11,8 +11,6 @@
 namespace orrerix {
 namespace {
 
-constexpr Color kBoxBack{0x400000};
-constexpr Color kBoxText{0x00CCCC};
 constexpr int kMargin = 150;   // between the box's sides and its text
 constexpr int kIconGap = 100;  // between icon and box
 constexpr double kSmallestLeft = 100;
@@ -26,21 +24,12 @@ void Grow(Routine& routine, int& size, int grown) {
   });
 }
 
-// The right edge of what a box may cover.
-double RoomFor(const MapDrawing& drawing) {
-  return drawing.Panel == PanelPlace::Right ? drawing.PanelBox.Left : drawing.Frame.Width;
-}
-
 ControlList BoxControls(const Box& place, std::string text, std::string tag) {
-  Control shape = MakeFrame("Shape1", std::nullopt, place, kBoxBack);
+  Control shape = BoxShape(place, ShapeForm::RoundedRectangle);
   shape.Tag = std::move(tag);
   const Box inner{static_cast<float>(place.Left + kMargin), static_cast<float>(place.Top + kMargin),
                   place.Width - 2 * kMargin, place.Height - 2 * kMargin};
-  Control info = MakeLabel("InfoText", std::nullopt, inner, std::move(text));
-  info.FontSize = kBoxFont;
-  info.ForeColor = kBoxText;
-  info.BackColor = kBoxBack;
-  return {std::move(shape), std::move(info)};
+  return {std::move(shape), BoxText(inner, std::move(text))};
 }
 
 }  // namespace
@@ -72,18 +61,13 @@ Control RestoredIcon(Control icon, std::string_view shapeTag) {
 
 TextExtent MeasureLines(Routine& routine, std::string_view text, const TextMeasure& measure,
                         int fontSize) {
-  constexpr std::string_view lineEnd = "\r\n";
   TextExtent extent;
-  if (text.ends_with(lineEnd)) text.remove_suffix(lineEnd.size());
-  while (true) {
-    const std::size_t end = text.find(lineEnd);
-    const std::string_view line = text.substr(0, end);
+  ForEachLine(text, [&](std::string_view line) {
     const int width = measure.TextWidth(line, fontSize);
     if (width > extent.Width) Grow(routine, extent.Width, width);
     Grow(routine, extent.Height, extent.Height + measure.TextHeight(line, fontSize));
-    if (end == std::string_view::npos) return extent;
-    text.remove_prefix(end + lineEnd.size());
-  }
+  });
+  return extent;
 }
 
 Box HoverBoxPlace(const Box& icon, const TextExtent& text, const MapDrawing& drawing) {
@@ -91,7 +75,7 @@ Box HoverBoxPlace(const Box& icon, const TextExtent& text, const MapDrawing& dra
           static_cast<double>(text.Height + 2 * kMargin)};
   const bool above = icon.Top > drawing.Frame.Height / 2;
   box.Top = static_cast<float>(above ? icon.Top - kIconGap - box.Height : icon.Bottom() + kIconGap);
-  if (box.Right() > RoomFor(drawing)) {
+  if (box.Right() > RoomForBox(drawing)) {
     box.Left = static_cast<float>(MAX(kSmallestLeft, icon.Right() - box.Width));
   }
   return box;

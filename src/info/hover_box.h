@@ -2,6 +2,7 @@
 // The box beside an icon under the mouse.
 #pragma once
 
+#include "info/box_controls.h"
 #include "info/hover_text.h"
 #include "map/redraw.h"
 
@@ -9,9 +10,6 @@ namespace orrerix {
 
 // Width and height of a hovered icon, twips.
 inline constexpr float kHoveredIcon = 600;
-
-// Size of the box's letters, points.
-inline constexpr int kBoxFont = 9;
 
 struct HoverBox {
   Control Icon;     // the icon at its larger size; its corner stays

@@ -5,6 +5,7 @@
 #include "derived/commodity_names.h"
 #include "derived/lookup.h"
 #include "derived/owner_names.h"
+#include "info/object_coords.h"
 
 namespace orrerix {
 namespace {
@@ -25,13 +26,6 @@ Recordset Named(FailureSink& routine, Universe& universe, std::string_view table
 // Ammunition is traded with its gun, whose nickname it carries with an ending.
 bool IsAmmo(std::string_view upperCargo) {
   return Right(upperCargo, kAmmoEnd.size()) == kAmmoEnd;
-}
-
-std::string CoordsOf(Universe& universe, const CellNames& names, Recordset& dock) {
-  const MapCell cell{static_cast<int>(dock["mapx"].Get().Number()),
-                     static_cast<int>(dock["mapy"].Get().Number())};
-  const CellFraction point{dock["posx"].Get().Number(), dock["posy"].Get().Number()};
-  return CoordsToMapCoords(universe.Log, names, cell, point);
 }
 
 // Amount times price; nothing if either is Null.

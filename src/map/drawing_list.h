@@ -46,6 +46,9 @@ struct LineEnds {
   bool operator==(const LineEnds&) const = default;
 };
 
+// The numbers of what a shape draws.
+enum class ShapeForm { Rectangle = 0, RoundedRectangle = 4 };
+
 enum class ControlKind { Line, Picture, Label, Frame };
 
 // One visible control. What a kind has no use for stays empty.
@@ -54,8 +57,8 @@ struct Control {
   std::string Name;          // of the control or its array
   std::optional<int> Index;  // within the array
 
-  Box Place;       // all kinds but lines
-  LineEnds Ends;   // lines
+  Box Place;      // all kinds but lines
+  LineEnds Ends;  // lines
   LineStyle Style = LineStyle::Solid;
   Color BorderColor;
 
@@ -63,6 +66,7 @@ struct Control {
   std::optional<int> FontSize;  // points
   std::optional<Color> ForeColor;
   std::optional<Color> BackColor;
+  std::optional<ShapeForm> Shape;      // of a frame that is a shape, with an outline in BorderColor
   std::optional<std::string> Picture;  // name of the control or file that it comes from
   std::optional<std::string> Tag;
   std::optional<std::string> ToolTip;

@@ -20,6 +20,9 @@ enum class MapSwitch {
 
 inline constexpr int kMapSwitches = 6;
 
+// Index of the label behind those of the switches: it names the language in use.
+inline constexpr int kLanguageLabel = 6;
+
 struct MapOptions {
   std::array<bool, kMapSwitches> On{};
 

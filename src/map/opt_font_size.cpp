@@ -4,6 +4,7 @@
 #include <cmath>
 #include <cstdlib>
 
+#include "db/number_text.h"
 #include "map/numeric.h"
 
 namespace orrerix {
@@ -16,13 +17,12 @@ int HalfStep(int step) {
   return MAXI(1, static_cast<int>(std::floor(step / 2.0)));
 }
 
-}  // namespace
-
-int OptFontSize(std::string_view text, const TextMeasure& measure, int size, int maxWidth) {
-  const auto fits = [&](int points) { return measure.TextWidth(text, points) <= maxWidth; };
+// Walks in steps until a step of one down ends at a size that fits.
+template <typename Fits>
+int SearchSize(const Fits& fits, int size, int firstStep) {
   bool up = fits(size + 1);
   if (!up && fits(size)) return size;
-  int step = up ? HalfStep(size) : -HalfStep(size);
+  int step = up ? firstStep : -firstStep;
   while (true) {
     if (size + step > kLargestSize) return size;  // a text without width fits any size
     size = MAXI(1, size + step);
@@ -36,6 +36,22 @@ int OptFontSize(std::string_view text, const TextMeasure& measure, int size, int
     }
     if (size == 1) return 1;
   }
+}
+
+}  // namespace
+
+int OptFontSize(std::string_view text, const TextMeasure& measure, int size, int maxWidth) {
+  const auto fits = [&](int points) { return measure.TextWidth(text, points) <= maxWidth; };
+  return SearchSize(fits, size, HalfStep(size));
+}
+
+int OptFontSize(std::string_view text, const TextMeasure& measure, int size, int maxWidth,
+                int maxHeight) {
+  const auto fits = [&](int points) {
+    return measure.TextWidth(text, points) <= maxWidth &&
+           measure.TextHeight(text, points) <= maxHeight;
+  };
+  return SearchSize(fits, size, MAXI(1, static_cast<int>(RoundToEven(size / 2.0))));
 }
 
 }  // namespace orrerix

@@ -12,7 +12,6 @@
 namespace orrerix {
 namespace {
 
-constexpr int kLanguageLabel = 6;
 constexpr int kHighestLanguage = 2;
 
 std::string IndexText(int which) {

@@ -23,7 +23,6 @@ constexpr int kInnerRight = 20;
 constexpr int kCheckSize = 225;
 constexpr int kCheckLeft = 120;
 constexpr Box kOptionLabel{0, 0, 1095, 495};
-constexpr int kLanguageLabel = 6;
 constexpr int kShowOptionsHeight = 495;
 constexpr int kNewsHeight = 270;
 constexpr int kSloganFont = 10;

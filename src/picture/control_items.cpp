@@ -130,9 +130,11 @@ class LabelItem : public ControlItem {
     text_.setTextOption(option);
     text_.setTextWidth(box.width());
     int points = label.FontSize.value_or(kDesignFont);
-    font_ = FormFont(points);
+    font_ = style_.FixedWidth ? FixedFont(points) : FormFont(points);
     if (style_.Wraps) {
       while (points > kSmallestFont && !Fits(caption, box)) font_ = FormFont(--points);
+    } else if (style_.Lines) {
+      caption.replace("\r\n", QString(QChar::LineSeparator));
     } else {
       caption = QFontMetricsF(font_).elidedText(caption, Qt::ElideRight, box.width() + 1);
     }
@@ -160,6 +162,23 @@ class LabelItem : public ControlItem {
   QFont font_;
   QStaticText text_;
   QPointF corner_;
+};
+
+// A filled outline.
+class ShapeItem : public ControlItem {
+ public:
+  using ControlItem::ControlItem;
+
+  QRectF boundingRect() const override { return BoxOf(Shown()); }
+  void paint(QPainter* painter, const QStyleOptionGraphicsItem*, QWidget*) override {
+    constexpr double corner = 8;
+    constexpr double halfPen = 0.5;
+    painter->setPen(QPen(ToQColor(Shown().BorderColor), 2 * halfPen));
+    painter->setBrush(ToQColor(Shown().BackColor.value_or(Color{})));
+    const double radius = Shown().Shape == ShapeForm::RoundedRectangle ? corner : 0;
+    const QRectF outline = boundingRect().adjusted(halfPen, halfPen, -halfPen, -halfPen);
+    painter->drawRoundedRect(outline, radius, radius);
+  }
 };
 
 // Clips its children to its box.
@@ -200,6 +219,7 @@ QGraphicsItem* MakeControlItem(const Control& control, PictureStore& pictures, c
     case ControlKind::Label:
       return new LabelItem(control, parent);
     case ControlKind::Frame:
+      if (control.Shape) return new ShapeItem(control, parent);
       return new FrameItem(control, pictures, parent);
     case ControlKind::Picture:
       break;

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "picture/label_style.h"
 
+#include "map/map_options.h"
+
 namespace orrerix {
 namespace {
-
-constexpr int kLanguageLabel = 6;
 
 // Off the border of the panel, off the cell's edge, off the switch before the text.
 constexpr double kBorderMargin = 8;
@@ -29,6 +29,11 @@ LabelStyle StyleOf(const Control& label) {
     style.MarginX = kCheckMargin;
   } else if (label.Name == "InfoBoxLabel") {
     style.Outlined = true;
+  } else if (label.Name == "InfoText") {
+    style.Alignment = Qt::AlignLeft | Qt::AlignTop;
+    style.FixedWidth = true;
+    style.Lines = true;
+    style.Transparent = true;
   }
   return style;
 }

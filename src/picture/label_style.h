@@ -12,7 +12,9 @@ struct LabelStyle {
   double MarginX = 0;  // logical pixels kept free at the sides, at top and bottom
   double MarginY = 0;
   Qt::Alignment Alignment = Qt::AlignHCenter | Qt::AlignTop;
-  bool Wraps = false;  // at word ends, in a smaller font if it must; else it is cut with "..."
+  bool FixedWidth = false;  // letters of one width
+  bool Lines = false;       // it has lines of its own; each is shown as far as the label reaches
+  bool Wraps = false;       // at word ends, in a smaller font if it must; else it is cut with "..."
   bool Transparent = false;  // its back colour is not painted
   bool Outlined = false;     // dark round the letters, where the ground may be bright
 };

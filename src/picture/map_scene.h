@@ -2,11 +2,23 @@
 #pragma once
 
 #include <QGraphicsScene>
+#include <array>
+#include <vector>
 
 #include "map/redraw.h"
 #include "picture/picture_store.h"
 
 namespace orrerix {
+
+// What stands in front of all that a drawing has, back to front.
+enum class FrontLayer { Box, CellCursor, RubberBand };
+inline constexpr std::size_t kFrontLayers = 3;
+
+// A control that the mouse points at.
+struct ControlHit {
+  const Control* Shown = nullptr;  // null on the bare frame
+  bool OnPanel = false;            // it is the panel, or a part of it
+};
 
 // The map frame of a drawing list, in logical pixels from its top left corner. Views, printer and
 // picture files render it.
@@ -15,19 +27,38 @@ class MapScene : public QGraphicsScene {
   explicit MapScene(PictureStore& pictures, QObject* parent = nullptr);
   ~MapScene() override;
 
-  // Shows a new list in the place of the one before.
+  // Shows a new list in the place of the one before. What stands in front stays.
   void Show(MapDrawing drawing);
+
+  // Fills one of the layers in front, in the place of what it held.
+  void ShowInFront(FrontLayer layer, ControlList controls);
+
+  // An element of a control array of the drawing; null if there is none.
+  const Control* Find(std::string_view name, int index) const;
+
+  // Shows a control of the drawing in another size or place; it is known by name and index. One
+  // that the drawing does not have changes nothing.
+  void Replace(const Control& control);
 
   const MapDrawing& Drawing() const { return drawing_; }
 
-  // The topmost control at a point that is not a line; null on the bare frame.
-  const Control* ControlAt(QPointF point) const;
+  // The topmost control at a point that is not a line.
+  ControlHit HitAt(QPointF point) const;
+  const Control* ControlAt(QPointF point) const { return HitAt(point).Shown; }
 
  private:
   QRectF OpenPart() const;
+  void MakeFrontItems(FrontLayer layer);
+
+  struct Layer {
+    ControlList Controls;
+    std::vector<QGraphicsItem*> Items;
+  };
 
   PictureStore& pictures_;
   MapDrawing drawing_;
+  std::vector<QGraphicsItem*> items_;  // of the drawing's controls, one for one
+  std::array<Layer, kFrontLayers> front_;
 };
 
 }  // namespace orrerix

@@ -3,7 +3,6 @@
 
 #include <cmath>
 
-#include "picture/form_font.h"
 #include "picture/twips.h"
 
 namespace orrerix {
@@ -19,7 +18,7 @@ int WholeTwipsUp(double pixels) {
 const QFontMetricsF& QtTextMeasure::MetricsOf(int fontSize) const {
   const auto found = metrics_.find(fontSize);
   if (found != metrics_.end()) return found->second;
-  return metrics_.emplace(fontSize, QFontMetricsF(FormFont(fontSize))).first->second;
+  return metrics_.emplace(fontSize, QFontMetricsF(font_(fontSize))).first->second;
 }
 
 int QtTextMeasure::TextWidth(std::string_view text, int fontSize) const {

@@ -38,8 +38,7 @@ class CommandLine : public ::testing::Test {
  protected:
   Answer Run(const std::string& words) {
     const fs::path errors = folder.Path() / "errors.txt";
-    const std::string command =
-        std::string(ORRERIX_CLI) + " " + words + " 2>" + errors.string();
+    const std::string command = std::string(ORRERIX_CLI) + " " + words + " 2>" + errors.string();
     Answer answer;
     FILE* pipe = popen(command.c_str(), "r");
     std::array<char, 4096> buffer{};
@@ -84,9 +83,9 @@ TEST_F(CommandLine, VersionsAreTold) {
 }
 
 TEST_F(CommandLine, WrongWordsAreWrongUsage) {
-  for (const char* words : {"", "dance", "import", "import --game x --loud", "name", "name five",
-                            "--language it name 5", "--on-failure maybe name 5",
-                            "scene --size 12 --database x"}) {
+  for (const char* words :
+       {"", "dance", "import", "import --game x --loud", "name", "name five",
+        "--language it name 5", "--on-failure maybe name 5", "scene --size 12 --database x"}) {
     const Answer answer = Run(words);
     EXPECT_EQ(answer.ExitCode, 2) << words;
     EXPECT_THAT(answer.Output, IsEmpty()) << words;
@@ -135,9 +134,8 @@ TEST_F(CommandLine, AFolderThatIsNoGameCannotBeImported) {
 }
 
 TEST_F(CommandLine, AMissingSaveFolderIsToldByName) {
-  const Answer answer =
-      Run("import --game " + Game().string() + " --database " +
-          (folder.Path() / "nowhere" / "u.fl").string());
+  const Answer answer = Run("import --game " + Game().string() + " --database " +
+                            (folder.Path() / "nowhere" / "u.fl").string());
 
   EXPECT_EQ(answer.ExitCode, 1);
   EXPECT_THAT(answer.Errors, HasSubstr("nowhere"));
@@ -163,9 +161,9 @@ TEST_F(CommandLine, CancelGivesAFailedRoutineUpAndGoesOn) {
   folder.Write("game/DATA/MISSIONS/mbases.ini",
                "[Systems]\r\nnickname = x\r\n[mroom]\r\nnickname = bar\r\n");
 
-  const Answer answer = Run("import --on-failure cancel --json --log " +
-                            (folder.Path() / "log.txt").string() + " --game " + game.string() +
-                            " " + Database());
+  const Answer answer =
+      Run("import --on-failure cancel --json --log " + (folder.Path() / "log.txt").string() +
+          " --game " + game.string() + " " + Database());
 
   EXPECT_EQ(answer.ExitCode, 0);
   EXPECT_FALSE(answer.Json()["tables"].contains("mroom"));
@@ -237,8 +235,9 @@ TEST_F(CommandLine, AHoverEndsWithTheNicknameAsTheMapHasIt) {
   EXPECT_EQ(answer.ExitCode, 0);
   EXPECT_THAT(answer.Output, HasSubstr(" [X="));
   EXPECT_THAT(answer.Output, EndsWith(nickname + "\n"));
-  EXPECT_EQ(Run("hover --json " + upper + " " + Database()).Json()["text"].get<std::string>() + "\n",
-            answer.Output);
+  EXPECT_EQ(
+      Run("hover --json " + upper + " " + Database()).Json()["text"].get<std::string>() + "\n",
+      answer.Output);
 }
 
 TEST_F(CommandLine, AHoverOverSomethingUnknownGivesItsNickname) {
@@ -329,6 +328,117 @@ TEST_F(CommandLine, AnObjectWithoutAnIconCannotBeHoveredOver) {
   EXPECT_EQ(answer.ExitCode, 1);
   EXPECT_THAT(answer.Errors, HasSubstr(FirstObject()));
   EXPECT_THAT(answer.Output, IsEmpty());
+}
+
+TEST_F(CommandLine, ASearchListsWhatThePanelLists) {
+  ASSERT_EQ(Import().ExitCode, 0);
+
+  const nlohmann::json ships = Run("search ship '' --json " + Database()).Json();
+  ASSERT_FALSE(ships.empty());
+  const std::string name = ships[0]["realname"];
+  const Answer found = Run("search ship '" + name + "' " + Database());
+
+  EXPECT_EQ(found.ExitCode, 0);
+  EXPECT_THAT(found.Output, HasSubstr(ships[0]["nickname"].get<std::string>() + "\t" + name));
+  EXPECT_EQ(Run("search wreck x " + Database()).ExitCode, 2);
+}
+
+TEST_F(CommandLine, ASearchTextThatBreaksItsStatementFindsNothingAndIsDone) {
+  ASSERT_EQ(Import().ExitCode, 0);
+
+  const Answer answer = Run("search place \"'\" --json " + Database());
+
+  EXPECT_EQ(answer.ExitCode, 0);
+  EXPECT_EQ(answer.Json(), nlohmann::json::array());
+  EXPECT_THAT(answer.Errors, HasSubstr("3075"));
+}
+
+TEST_F(CommandLine, SellersAreThoseOfTheListedRow) {
+  ASSERT_EQ(Import().ExitCode, 0);
+  const nlohmann::json ships = Run("search ship '' --json " + Database()).Json();
+  const std::string nickname = ships[0]["nickname"];
+
+  const Answer sellers = Run("sellers ship " + nickname + " --json " + Database());
+
+  EXPECT_EQ(sellers.ExitCode, 0);
+  for (const auto& place : sellers.Json()) {
+    EXPECT_EQ(Run("hover " + place["nickname"].get<std::string>() + " " + Database()).ExitCode, 0);
+    EXPECT_THAT(place["realname"].get<std::string>(), ::testing::Not(IsEmpty()));
+  }
+  EXPECT_EQ(Run("sellers ship nowhere " + Database()).ExitCode, 1);
+  EXPECT_EQ(Run("sellers place nowhere " + Database()).ExitCode, 2);
+}
+
+TEST_F(CommandLine, AnInfoTextIsThatOfTheBox) {
+  ASSERT_EQ(Import().ExitCode, 0);
+  const nlohmann::json ships = Run("search ship '' --json " + Database()).Json();
+  const std::string nickname = ships[0]["nickname"];
+
+  const std::string text = Run("info ship " + nickname + " --json " + Database()).Json()["text"];
+  const nlohmann::json scene =
+      Run("scene --json --info ship:" + nickname + " " + Database()).Json();
+
+  EXPECT_THAT(text, ::testing::StartsWith("\r\n   Price: "));
+  const nlohmann::json& controls = scene["controls"];
+  ASSERT_GE(controls.size(), 2u);
+  EXPECT_EQ(controls[controls.size() - 2]["control"], "Shape1");
+  EXPECT_EQ(controls[controls.size() - 1]["control"], "InfoText");
+  EXPECT_EQ(controls[controls.size() - 1]["Caption"], text);
+}
+
+TEST_F(CommandLine, WithoutAnInfoThereIsNoBox) {
+  ASSERT_EQ(Import().ExitCode, 0);
+
+  EXPECT_EQ(Run("info group nowhere --json " + Database()).Json()["text"], "");
+  const Answer scene = Run("scene --info group:nowhere " + Database());
+  EXPECT_EQ(scene.ExitCode, 0);
+  EXPECT_THAT(scene.Output, ::testing::Not(HasSubstr("Shape1")));
+  EXPECT_EQ(Run("scene --info nowhere " + Database()).ExitCode, 2);
+  EXPECT_EQ(Run("scene --info wreck:nowhere " + Database()).ExitCode, 2);
+}
+
+TEST_F(CommandLine, TheInfoBoxTakesThePlaceOfTheHoverBox) {
+  ASSERT_EQ(Import().ExitCode, 0);
+  const std::string nickname = FirstObject();
+  const nlohmann::json groups = Run("search bribe '' --json " + Database()).Json();
+  const std::string words = "scene --json --zoom 0,0,17,17 --hover " + nickname +
+                            " --info group:" + groups[0]["nickname"].get<std::string>() + " " +
+                            Database();
+
+  const nlohmann::json controls = Run(words).Json()["controls"];
+
+  int shapes = 0;
+  for (const auto& control : controls) {
+    if (control["control"] != "Shape1") continue;
+    ++shapes;
+    EXPECT_EQ(control["Top"], 0);
+    EXPECT_TRUE(control.contains("Tag"));  // the icon's own size is not forgotten
+  }
+  EXPECT_EQ(shapes, 1);
+}
+
+TEST_F(CommandLine, AStationTellsItsWindowsData) {
+  ASSERT_EQ(Import().ExitCode, 0);
+  const std::string nickname = FirstObject();
+
+  const nlohmann::json station =
+      Run("station " + nickname + " --json --layout 8000x12000 --mode I " + Database()).Json();
+
+  for (const char* key : {"caption", "info", "base", "prices", "ships", "equipment", "controls"}) {
+    EXPECT_TRUE(station.contains(key)) << key;
+  }
+  ASSERT_EQ(station["controls"].size(), 1u);
+  EXPECT_EQ(station["controls"][0]["control"], "InfoText");
+  EXPECT_FALSE(Run("station " + nickname + " --json " + Database()).Json().contains("controls"));
+}
+
+TEST_F(CommandLine, ViewsWithoutPricesNeedALayout) {
+  ASSERT_EQ(Import().ExitCode, 0);
+
+  EXPECT_EQ(Run("station nowhere --mode I " + Database()).ExitCode, 2);
+  EXPECT_EQ(Run("station nowhere --mode x " + Database()).ExitCode, 2);
+  EXPECT_EQ(Run("station nowhere --layout 12 " + Database()).ExitCode, 2);
+  EXPECT_EQ(Run("station nowhere --mode '$' " + Database()).ExitCode, 0);
 }
 
 TEST_F(CommandLine, CommonOptionsMayStandBeforeTheVerb) {

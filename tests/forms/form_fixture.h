@@ -32,6 +32,18 @@ class FakeLinks : public LinkOpener {
   void Open(const std::string& address) override { Opened.push_back(address); }
 };
 
+// A machine whose only printer writes PDF files; without a file it has none.
+class FakePrinters : public Printers {
+ public:
+  std::filesystem::path File;
+  std::function<void()> OnAsked;
+  std::optional<PrintTarget> DefaultPrinter() override {
+    if (OnAsked) OnAsked();
+    if (File.empty()) return std::nullopt;
+    return PrintTarget{{}, File};
+  }
+};
+
 // A machine on which no installer has ever run.
 class EmptyRegistry : public Registry {
  public:
@@ -87,8 +99,9 @@ class FormFixture : public ::testing::Test {
   GameRegistry registry{log, noRegistry};
   FakeSound sound;
   FakeLinks links;
+  FakePrinters printers;
   PictureStore pictures;
-  FormParts parts{paths, {1, 0, 0}, log, registry, messages, sound, links, pictures};
+  FormParts parts{paths, {1, 0, 0}, log, registry, messages, sound, links, printers, pictures};
 };
 
 }  // namespace orrerix

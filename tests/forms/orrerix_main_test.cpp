@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "forms/orrerix_main.h"
 
+#include <QScreen>
 #include <QTest>
 #include <QTimer>
+#include <algorithm>
 #include <optional>
 
 #include "demo/demo_game.h"
@@ -193,6 +195,161 @@ TEST_F(OrrerixMainTest, ThePlayersStarMapIsFoundInTheApplicationFolder) {
     if (control.Name == "StarMapPic") picture = control.Picture.value_or("");
   }
   EXPECT_EQ(picture, (folder.Path() / "SysMap.jpg").string());
+}
+
+// The main form with the map of a demo game, and printers that look at it while it prints.
+class OrrerixMainMapTest : public OrrerixMainTest {
+ protected:
+  void SetUp() override {
+    WriteGame();
+    printers.File = folder.Path() / "map.pdf";
+    Load();
+    ASSERT_TRUE(WaitUntil([&] { return ShowsMap(); }));
+    printers.OnAsked = [this] {
+      printed = form->Map().Drawing();
+      printedSize = form->frameGeometry().size();
+      wasPrintMode = form->Map().State().PrintMode;
+    };
+  }
+
+  bool Prints(std::string_view control) const {
+    return std::any_of(printed.Controls.begin(), printed.Controls.end(),
+                       [&](const Control& shown) { return shown.Name == control; });
+  }
+
+  // The first system of the map, zoomed into.
+  void ZoomIn() {
+    for (const Control& control : form->Map().Drawing().Controls) {
+      if (control.Name != "SysmapLabel") continue;
+      const auto x = static_cast<float>(control.Place.Left + 30);
+      const auto y = static_cast<float>(control.Place.Top + 30);
+      form->Play().SysmapFrameMouseDown(x, y);
+      form->Play().SysmapFrameMouseUp(PointerButton::Left, x, y);
+      return;
+    }
+  }
+
+  // Index of an object's icon.
+  int StationIcon() {
+    for (const Control& control : form->Map().Drawing().Controls) {
+      if (control.Name == "Image1" && control.Picture == "Planet1") return *control.Index;
+    }
+    return -1;
+  }
+
+  MapDrawing printed;
+  QSize printedSize;
+  bool wasPrintMode = false;
+};
+
+TEST_F(OrrerixMainMapTest, AClickOnAnIconOpensAStationWindowAndTheyCloseWithTheForm) {
+  ZoomIn();
+  const int index = StationIcon();
+  ASSERT_GT(index, 0);
+
+  form->Play().Image1Click(index);
+  form->Play().Image1Click(index);
+
+  ASSERT_EQ(form->Stations().Windows().size(), 2U);
+  EXPECT_EQ(form->Stations().Windows()[0]->Picture(), "Planet1");
+  EXPECT_EQ(sound.Played.back().filename(), "ui_open_infocard_button.wav");
+  form->close();
+  EXPECT_TRUE(form->Stations().Windows().empty());
+}
+
+TEST_F(OrrerixMainMapTest, FourToolsOpenTheSearchPanelAndTheLastOnePrints) {
+  const auto& panel = Find(*form, "StSearchFrame");
+  for (int i = 0; i < 4; ++i) {
+    QTest::keyClick(&Find(*form, qPrintable(QStringLiteral("StationSearch_%1").arg(i))),
+                    Qt::Key_Return);
+    EXPECT_TRUE(panel.isVisible()) << i;
+    // Places fill one list, all other searches two.
+    EXPECT_EQ(Find(*form, "SubSearch").isVisible(), i > 0) << i;
+    QTest::mouseClick(&Find(*form, "StSearchClose"), Qt::LeftButton);
+    EXPECT_FALSE(panel.isVisible()) << i;
+  }
+
+  QTest::keyClick(&Find(*form, "StationSearch_4"), Qt::Key_Return);
+
+  EXPECT_FALSE(panel.isVisible());
+  EXPECT_TRUE(std::filesystem::exists(printers.File));
+}
+
+TEST_F(OrrerixMainMapTest, TheWholeMapIsPrintedOnWhiteFromASquareForm) {
+  form->PrintTheMap();
+
+  const int side = form->screen()->geometry().height();
+  EXPECT_TRUE(wasPrintMode);
+  EXPECT_EQ(printedSize, QSize(side, side));
+  EXPECT_EQ(printed.Frame.Width, side * 15 - 200);
+  EXPECT_EQ(printed.Frame.Height, side * 15 - 550);
+  EXPECT_EQ(printed.FrameColor, Color{0xFFFFFF});
+  EXPECT_FALSE(Prints("StarMapPic"));
+  EXPECT_FALSE(Prints("Rahmen"));
+  EXPECT_GT(std::filesystem::file_size(printers.File), 1000U);
+}
+
+TEST_F(OrrerixMainMapTest, AZoomedMapIsPrintedWithItsIconsAndWithoutFillers) {
+  ZoomIn();
+  ASSERT_EQ(settings.ReadSetting("SET2-0"), "1");
+
+  form->PrintTheMap();
+
+  EXPECT_TRUE(printed.Zoomed);
+  EXPECT_TRUE(Prints("Image1"));
+  EXPECT_FALSE(Prints("Blanko"));
+  EXPECT_FALSE(Prints("SysMapGfx"));
+  EXPECT_FALSE(Prints("Hintergrund"));
+}
+
+TEST_F(OrrerixMainMapTest, BehindAPrintTheFormIsMaximisedAgainWithTheSameMap) {
+  ZoomIn();
+  const ZoomRectangle visible = form->Map().State().Zoom.Current();
+  ASSERT_TRUE(form->isMaximized());
+
+  form->PrintTheMap();
+  PassEvents();
+
+  EXPECT_TRUE(form->isMaximized());
+  EXPECT_FALSE(form->Map().State().PrintMode);
+  EXPECT_EQ(form->Map().State().Zoom.Current(), visible);
+  EXPECT_EQ(form->Map().Drawing().Frame.Width, form->frameGeometry().width() * 15 - 200);
+  EXPECT_EQ(form->Map().Drawing().FrameColor, Color{});
+}
+
+TEST_F(OrrerixMainMapTest, BehindAPrintAFormOfItsOwnSizeHasItAgain) {
+  form->showNormal();
+  form->setGeometry(40, 50, 700, 500);
+  PassEvents();
+
+  form->PrintTheMap();
+  PassEvents();
+
+  EXPECT_FALSE(form->isMaximized());
+  EXPECT_EQ(form->geometry(), QRect(40, 50, 700, 500));
+}
+
+TEST_F(OrrerixMainMapTest, WithoutAPrinterTheUserIsToldAndTheFormIsRestored) {
+  printers.File.clear();
+
+  form->PrintTheMap();
+
+  ASSERT_EQ(messages.Shown.size(), 1U);
+  EXPECT_NE(messages.Shown[0].Text.find("482 in OrrerixMain.PrintTheMap"), std::string::npos);
+  EXPECT_NE(messages.Shown[0].Text.find("this computer has no printer"), std::string::npos);
+  EXPECT_FALSE(form->Map().State().PrintMode);
+  EXPECT_TRUE(form->isMaximized());
+}
+
+TEST_F(OrrerixMainMapTest, GivenUpBehindAFailureTheFormStaysSquareAndInPrint) {
+  printers.File.clear();
+  messages.Answer = MessageAnswer::Cancel;
+
+  form->PrintTheMap();
+
+  EXPECT_TRUE(form->Map().State().PrintMode);
+  EXPECT_FALSE(form->isMaximized());
+  EXPECT_EQ(form->frameGeometry().width(), form->frameGeometry().height());
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/sysmap_frame.h"
 
+#include <QMouseEvent>
 #include <QTest>
 
 #include "form_fixture.h"
@@ -15,6 +16,13 @@ class Listener : public MapMouse {
   void MouseDown(const MapPointer& pointer) override { Down.push_back(pointer); }
   void MouseMove(const MapPointer& pointer) override { Moved.push_back(pointer); }
   void MouseUp(const MapPointer& pointer) override { Up.push_back(pointer); }
+};
+
+// Remembers what the keyboard did.
+class KeyListener : public MapKeys {
+ public:
+  std::vector<MapKey> Keys;
+  void KeyDown(MapKey key) override { Keys.push_back(key); }
 };
 
 class SysmapFrameTest : public FormFixture {
@@ -70,6 +78,51 @@ TEST_F(SysmapFrameTest, TheSecondPressOfADoubleClickCounts) {
 
   // The first press and both releases are events of their own.
   EXPECT_EQ(listener.Down.size(), 1U);
+}
+
+TEST_F(SysmapFrameTest, AReleaseOutsideTheFrameIsToldWhereItIs) {
+  QTest::mousePress(frame.viewport(), Qt::LeftButton, {}, {100, 50});
+  QTest::mouseRelease(frame.viewport(), Qt::LeftButton, {}, {-20, 300});
+
+  ASSERT_EQ(listener.Up.size(), 1U);
+  EXPECT_EQ(listener.Up[0].X, -300);
+  EXPECT_EQ(listener.Up[0].Y, 4500);
+}
+
+TEST_F(SysmapFrameTest, TwoButtonsAtOnceAreNeitherAndTheFirstToGoSaysSo) {
+  QMouseEvent move(QEvent::MouseMove, QPointF(9, 9), QPointF(9, 9), Qt::NoButton,
+                   Qt::LeftButton | Qt::RightButton, {});
+  QApplication::sendEvent(frame.viewport(), &move);
+  QMouseEvent release(QEvent::MouseButtonRelease, QPointF(9, 9), QPointF(9, 9), Qt::RightButton,
+                      Qt::LeftButton, {});
+  QApplication::sendEvent(frame.viewport(), &release);
+
+  EXPECT_EQ(listener.Moved.back().Button, PointerButton::None);
+  EXPECT_EQ(listener.Up.back().Button, PointerButton::Right);
+  EXPECT_TRUE(listener.Up.back().OthersHeld);
+}
+
+TEST_F(SysmapFrameTest, FractionsOfAPixelAreTold) {
+  QMouseEvent move(QEvent::MouseMove, QPointF(10.5, 20.25), QPointF(10.5, 20.25), Qt::NoButton,
+                   Qt::NoButton, {});
+  QApplication::sendEvent(frame.viewport(), &move);
+
+  EXPECT_EQ(listener.Moved.back().X, 157.5);
+  EXPECT_EQ(listener.Moved.back().Y, 303.75);
+}
+
+TEST_F(SysmapFrameTest, KeysAreToldByWhatTheyMean) {
+  KeyListener keys;
+  frame.SetKeys(&keys);
+  for (const auto key : {Qt::Key_Left, Qt::Key_Right, Qt::Key_Up, Qt::Key_Down, Qt::Key_Return,
+                         Qt::Key_Enter, Qt::Key_Backspace, Qt::Key_Escape, Qt::Key_A}) {
+    QTest::keyClick(&frame, key);
+  }
+  frame.SetKeys(nullptr);
+
+  EXPECT_EQ(keys.Keys,
+            (std::vector{MapKey::Left, MapKey::Right, MapKey::Up, MapKey::Down, MapKey::ZoomIn,
+                         MapKey::ZoomIn, MapKey::GoBack, MapKey::GoBack}));
 }
 
 }  // namespace

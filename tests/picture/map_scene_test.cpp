@@ -147,6 +147,99 @@ TEST_F(MapSceneTest, ControlsInsideAFrameAreFoundThere) {
   EXPECT_EQ(scene.ControlAt({65, 15})->Name, "StationSearch");
 }
 
+TEST_F(MapSceneTest, PartsOfThePanelAreToldApartFromTheMap) {
+  Control panel = MakeFrame("MenuFrame", 0, {750, 0, 750, 1500}, {});
+  panel.Children = {MakePicture("StationSearch", 2, {150, 150, 150, 150}, "tools/print.svg")};
+  drawing.Controls = {MakePicture("Image1", 3, {0, 0, 300, 300}, "Jumpgate"), panel};
+  scene.Show(drawing);
+
+  EXPECT_TRUE(scene.HitAt({65, 15}).OnPanel);
+  EXPECT_TRUE(scene.HitAt({90, 90}).OnPanel);
+  EXPECT_FALSE(scene.HitAt({10, 10}).OnPanel);
+  EXPECT_FALSE(scene.HitAt({40, 90}).OnPanel);
+}
+
+TEST_F(MapSceneTest, WhatStandsInFrontStaysThroughANewListUntilItIsTakenAway) {
+  scene.ShowInFront(FrontLayer::Box, {Rectangle({0, 0, 750, 750}, {0x0000FF})});
+  drawing.Controls = {Rectangle({0, 0, 1500, 1500}, {0xFF0000})};
+
+  EXPECT_EQ(Rendered().pixelColor(10, 10), QColor(Qt::red));
+  scene.ShowInFront(FrontLayer::Box, {});
+  EXPECT_EQ(Rendered().pixelColor(10, 10), QColor(Qt::blue));
+}
+
+TEST_F(MapSceneTest, TheLayersInFrontKeepTheirOrder) {
+  scene.ShowInFront(FrontLayer::RubberBand, {Rectangle({0, 0, 750, 750}, {0x0000FF})});
+  scene.ShowInFront(FrontLayer::Box, {Rectangle({0, 0, 1500, 1500}, {0x00FF00})});
+
+  const QImage image = Rendered();
+
+  EXPECT_EQ(image.pixelColor(10, 10), QColor(Qt::red));
+  EXPECT_EQ(image.pixelColor(90, 90), QColor(Qt::green));
+}
+
+TEST_F(MapSceneTest, AControlThatIsReplacedKeepsItsPlaceInTheStack) {
+  Control back = Rectangle({0, 0, 150, 150}, {0x0000FF});
+  back.Index = 1;
+  drawing.Controls = {back, Rectangle({0, 0, 750, 750}, {0xFF0000})};
+  scene.Show(drawing);
+
+  back.Place = {0, 0, 1500, 1500};
+  scene.Replace(back);
+
+  ASSERT_NE(scene.Find("Frame", 1), nullptr);
+  EXPECT_EQ(scene.Find("Frame", 1)->Place.Width, 1500);
+  EXPECT_EQ(scene.ControlAt({10, 10})->Index, 0);
+  EXPECT_EQ(scene.ControlAt({90, 90})->Index, 1);
+}
+
+TEST_F(MapSceneTest, ReplacingWhatIsNotThereChangesNothing) {
+  drawing.Controls = {Rectangle({0, 0, 750, 750}, {0xFF0000})};
+  scene.Show(drawing);
+
+  scene.Replace(MakePicture("Image1", 7, {0, 0, 600, 600}, "Jumpgate"));
+
+  EXPECT_EQ(scene.Find("Image1", 7), nullptr);
+  EXPECT_EQ(scene.ControlAt({90, 90}), nullptr);
+}
+
+TEST_F(MapSceneTest, AShapeHasAnOutlineAndRoundOrSquareCorners) {
+  Control shape = MakeFrame("Shape1", std::nullopt, {150, 150, 750, 750}, {0x0000FF});
+  shape.BorderColor = {0x00FF00};
+  shape.Shape = ShapeForm::RoundedRectangle;
+  drawing.Controls = {shape};
+  const QImage rounded = Rendered();
+  drawing.Controls[0].Shape = ShapeForm::Rectangle;
+  const QImage square = Rendered();
+
+  EXPECT_EQ(rounded.pixelColor(35, 35), QColor(Qt::red));
+  EXPECT_EQ(rounded.pixelColor(35, 10), QColor(Qt::green));
+  EXPECT_EQ(rounded.pixelColor(10, 10), QColor(Qt::black));
+  EXPECT_EQ(square.pixelColor(10, 10), QColor(Qt::green));
+}
+
+TEST_F(MapSceneTest, TheTextOfABoxHasItsLines) {
+  Control text = MakeLabel("InfoText", std::nullopt, {0, 0, 1500, 1500}, "M\r\n\r\nM");
+  text.FontSize = 9;
+  text.ForeColor = Color{0xFFFFFF};
+  drawing.Controls = {text};
+
+  const QImage image = Rendered();
+
+  // Letters of 12 pixels: two rows of them with an empty one between.
+  const auto isEmpty = [&](int top, int bottom) {
+    for (int y = top; y < bottom; ++y) {
+      for (int x = 0; x < 100; ++x) {
+        if (image.pixelColor(x, y) != QColor(Qt::black)) return false;
+      }
+    }
+    return true;
+  };
+  EXPECT_FALSE(isEmpty(0, 14));
+  EXPECT_TRUE(isEmpty(16, 26));
+  EXPECT_FALSE(isEmpty(28, 44));
+}
+
 TEST_F(MapSceneTest, ANewListReplacesTheOneBefore) {
   drawing.Controls = {Rectangle({0, 0, 1500, 1500}, {0x0000FF})};
   scene.Show(drawing);

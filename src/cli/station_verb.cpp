@@ -1,0 +1,126 @@
+// SPDX-License-Identifier: MIT
+#include <memory>
+
+#include <fmt/format.h>
+
+#include "cli/json_text.h"
+#include "cli/opened_universe.h"
+#include "cli/scene.h"
+#include "cli/scene_json.h"
+#include "cli/verbs.h"
+#include "info/price_table.h"
+#include "info/station_layout.h"
+
+namespace orrerix {
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+struct StationWords {
+  std::string Nickname;
+  std::string Mode = "#";
+  std::string Layout;  // "WxH"; empty for none
+};
+
+// Everything that is told of a place.
+struct StationAnswer {
+  StationData Data;
+  std::vector<std::string> Names;  // of the rows of the price table
+  std::optional<ControlList> Controls;
+};
+
+StationMode ModeOf(const StationWords& words) {
+  const auto mode = static_cast<StationMode>(words.Mode.front());
+  const bool prices = mode == StationMode::Prices || mode == StationMode::Trades;
+  if (!prices && words.Layout.empty()) {
+    throw WrongUsage("mode '" + words.Mode + "' needs --layout");
+  }
+  return mode;
+}
+
+StationAnswer ReadAnswer(OpenedUniverse& universe, const StationWords& words, StationMode mode) {
+  const CellNames names = GetSystemNames(universe.Data, universe.Texts);
+  StationAnswer answer;
+  answer.Data = ReadStation(universe.Data, names, universe.Texts, words.Nickname, mode);
+  answer.Names = PriceRowNames(universe.Data, answer.Data, mode);
+  if (!words.Layout.empty()) {
+    const Extent form = ParseExtent(words.Layout);
+    answer.Controls = LayOutStation(universe.Data, Wording{universe.Texts, {}}, FixedTextMeasure(),
+                                    {answer.Data, mode, form.Width, form.Height});
+  }
+  return answer;
+}
+
+Json ForSaleJson(const std::vector<ForSale>& items, const char* nickname) {
+  Json json = Json::array();
+  for (const ForSale& item : items) {
+    json.push_back({{nickname, item.Nickname}, {"realname", item.RealName}});
+  }
+  return json;
+}
+
+Json AnswerJson(const StationAnswer& answer) {
+  const StationData& data = answer.Data;
+  Json json = {{"caption", data.Caption}, {"info", data.Info}, {"base", data.Base}};
+  json["prices"] = Json::array();
+  for (std::size_t i = 0; i < data.Prices.size(); ++i) {
+    const PriceItem& item = data.Prices[i];
+    json["prices"].push_back({{"group", item.Group},
+                              {"good", item.Good},
+                              {"name", answer.Names[i]},
+                              {"price", item.Price},
+                              {"difference", item.Difference}});
+  }
+  json["ships"] = ForSaleJson(data.Ships, "packagename");
+  json["equipment"] = ForSaleJson(data.Equipment, "nickname");
+  if (answer.Controls) {
+    json["controls"] = Json::array();
+    for (const Control& control : *answer.Controls) {
+      json["controls"].push_back(ControlJson(control));
+    }
+  }
+  return json;
+}
+
+void PrintText(const StationAnswer& answer) {
+  const StationData& data = answer.Data;
+  fmt::print("{}\n{}\n", data.Caption, data.Info);
+  for (std::size_t i = 0; i < data.Prices.size(); ++i) {
+    const PriceItem& item = data.Prices[i];
+    fmt::print("{}\t{}\t{}\t{}\n", item.Group, answer.Names[i], item.Price, item.Difference);
+  }
+  for (const auto* items : {&data.Ships, &data.Equipment}) {
+    for (const ForSale& item : *items) fmt::print("{}\t{}\n", item.Nickname, item.RealName);
+  }
+  if (answer.Controls) {
+    for (const Control& control : *answer.Controls) PrintControl(control);
+  }
+}
+
+int RunStation(const CommonOptions& options, const StationWords& words) {
+  const StationMode mode = ModeOf(words);
+  if (!words.Layout.empty()) ParseExtent(words.Layout);
+  OpenedUniverse universe(options);
+  const StationAnswer answer = ReadAnswer(universe, words, mode);
+  if (options.Json) {
+    PrintJson(AnswerJson(answer));
+  } else {
+    PrintText(answer);
+  }
+  return kDone;
+}
+
+}  // namespace
+
+void AddStationVerb(CLI::App& app, const CommonOptions& options, Verb& run) {
+  auto words = std::make_shared<StationWords>();
+  CLI::App* verb = app.add_subcommand("station", "What the station window shows of an object");
+  verb->add_option("NICKNAME", words->Nickname, "The object's nickname")->required();
+  verb->add_option("--mode", words->Mode, "The view")
+      ->check(CLI::IsMember({"#", "$", "I", "2", "3"}));
+  verb->add_option("--layout", words->Layout, "Outer size of the window, twips: WxH");
+  verb->callback(
+      [&options, &run, words] { run = [&options, words] { return RunStation(options, *words); }; });
+}
+
+}  // namespace orrerix

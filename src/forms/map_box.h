@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "info/hover_box.h"
+#include "picture/map_scene.h"
+
+namespace orrerix {
+
+// The one box on the map: Shape1 with InfoText on it. As a rounded rectangle it is the hover box of
+// an icon, which is larger while it is up.
+class MapBox {
+ public:
+  // `scene` must outlive this.
+  explicit MapBox(MapScene& scene) : scene_(scene) {}
+
+  bool Visible() const { return !shown_.empty(); }
+  bool IsHoverBox() const;
+
+  // Shows a hover box with its icon. One that the user gave up shows the icon alone.
+  void ShowHover(const HoverBox& hover);
+
+  // Shows Shape1 and InfoText in the place of what is shown.
+  void Show(ControlList box);
+
+  // Hides the box, whichever it is. An icon keeps its size.
+  void Hide() { Show({}); }
+
+  // Hides a hover box and gives its icon its own size again.
+  void EndHover();
+
+  // The map was drawn anew, with all icons in their own size: a hover box is over, any other stays.
+  void MapRedrawn();
+
+ private:
+  MapScene& scene_;
+  ControlList shown_;
+};
+
+}  // namespace orrerix

@@ -1,0 +1,248 @@
+// SPDX-License-Identifier: MIT
+#include "forms/map_play.h"
+
+#include <utility>
+
+#include "map/game_sounds.h"
+#include "shell/routine.h"
+
+namespace orrerix {
+
+MapPlay::MapPlay(MapScreen& screen, MapForm& form, ErrorLog& log, Settings& settings,
+                 Language& language, SoundPlayer& sound)
+    : screen_(screen),
+      form_(form),
+      log_(log),
+      language_(language),
+      sound_(sound),
+      gestures_(screen.State()),
+      switches_(log, settings, language, screen.State()),
+      box_(screen.Scene()),
+      panelKeys_(screen.Frame(),
+                 [this](std::string_view name, int index) { PanelKeyClick(name, index); }) {
+  screen_.Frame().SetMouse(this);
+  screen_.Frame().SetKeys(this);
+}
+
+MapPlay::~MapPlay() {
+  screen_.Frame().SetMouse(nullptr);
+  screen_.Frame().SetKeys(nullptr);
+}
+
+void MapPlay::MapRedrawn() {
+  box_.MapRedrawn();
+  ShowCursor();
+  panelKeys_.Follow(screen_.Drawing());
+}
+
+void MapPlay::Play(std::string_view sound) {
+  if (!sound.empty()) PlaySoundfile(log_, sound_, form_.Game(), sound);
+}
+
+// The map's own events.
+
+void MapPlay::SysmapFrameMouseDown(float x, float y) {
+  gestures_.MouseDown(x, y);
+}
+
+void MapPlay::SysmapFrameMouseMove(PointerButton held, float x, float y) {
+  Routine routine(log_, "OrrerixMain.SysmapFrame_MouseMove");
+  routine.Run([&] {
+    MoveAnswer answer = gestures_.MouseMove(held, x, y, box_.IsHoverBox());
+    if (answer.Redraw) form_.FormResize();
+    if (answer.EndHover) box_.EndHover();
+    if (!answer.RubberBand.empty()) {
+      screen_.Scene().ShowInFront(FrontLayer::RubberBand, std::move(answer.RubberBand));
+    }
+  });
+}
+
+void MapPlay::SysmapFrameMouseUp(PointerButton released, float x, float y) {
+  Routine routine(log_, "OrrerixMain.SysmapFrame_MouseUp");
+  routine.Run([&] {
+    screen_.Scene().ShowInFront(FrontLayer::RubberBand, {});
+    const ReleaseAnswer answer = gestures_.MouseUp(released, screen_.Drawing().Cells, x, y);
+    if (answer.Beep) sound_.Beep();
+    Play(answer.Sound);
+    if (answer.Redraw) form_.FormResize();
+  });
+}
+
+bool MapPlay::PushZoomStack(const ZoomRectangle& rectangle) {
+  const ZoomChange change = screen_.State().Zoom.PushZoomStack(rectangle);
+  if (change == ZoomChange::Beep) sound_.Beep();
+  if (change == ZoomChange::Changed) Play(kZoomSound);
+  return change == ZoomChange::Changed;
+}
+
+// Icons.
+
+void MapPlay::Image1MouseMove(int index) {
+  if (box_.Visible()) return;
+  const Control* icon = screen_.Scene().Find("Image1", index);
+  if (icon == nullptr) return;
+  Routine routine(log_, "OrrerixMain.Image1_MouseMove");
+  routine.Run([&] {
+    Play(kHoverSound);
+    Universe universe = form_.OpenUniverse(routine);
+    box_.ShowHover(OpenHoverBox(universe, screen_.State().Names, language_, boxMeasure_,
+                                screen_.Drawing(), *icon));
+  });
+}
+
+void MapPlay::Image1Click(int index) {
+  const Control* icon = screen_.Scene().Find("Image1", index);
+  if (icon == nullptr) return;
+  // The map may be drawn anew while the window opens.
+  const std::string nickname = icon->Tag.value_or("");
+  const std::string picture = icon->Picture.value_or("");
+  Routine routine(log_, "OrrerixMain.Image1_Click");
+  routine.Run([&] {
+    Universe universe = form_.OpenUniverse(routine);
+    if (!OpensStation(universe, nickname)) return;
+    form_.ShowStation(nickname, picture);
+    Play(kStationSound);
+  });
+}
+
+// The panel.
+
+void MapPlay::ShowOptionsLabelMouseMove() {
+  if (switches_.ShowOptionsLabelMouseMove(form_.SearchPanelOpen())) form_.FormResize();
+}
+
+void MapPlay::SetImageClick(int index) {
+  Follow(switches_.SetImageClick(index, screen_.Options()));
+}
+
+void MapPlay::SetLabelClick(int index) {
+  Follow(switches_.SetLabelClick(index, screen_.Options()));
+}
+
+void MapPlay::Follow(const SwitchAnswer& answer) {
+  Play(answer.Sound);
+  if (answer.LoadFormTXT) form_.LoadFormTXT();
+  if (answer.Redraw) form_.FormResize();
+}
+
+void MapPlay::PanelClick(std::string_view name, int index) {
+  if (name == "StationSearch") form_.StationSearchClick(index);
+  if (name == "SetImage") SetImageClick(index);
+  if (name == "SetLabel") SetLabelClick(index);
+}
+
+// The keyboard touches nothing in passing: it unfolds and folds the options by a click.
+void MapPlay::PanelKeyClick(std::string_view name, int index) {
+  if (name == "ShowOptionsLabel") return FoldOrUnfold();
+  PanelClick(name, index);
+}
+
+void MapPlay::FoldOrUnfold() {
+  if (!std::exchange(screen_.State().OptionsOpen, false)) return ShowOptionsLabelMouseMove();
+  form_.FormResize();
+}
+
+// The mouse.
+
+MapPlay::Target MapPlay::TargetOf(const MapPointer& pointer) {
+  if (pointer.Under == nullptr) return {};
+  const Control& control = *pointer.Under;
+  if (pointer.OnPanel) return {Part::Panel, control.Name, control.Index.value_or(0)};
+  if (control.Name == "Image1") return {Part::Icon, {}, control.Index.value_or(0)};
+  return {};
+}
+
+void MapPlay::MouseDown(const MapPointer& pointer) {
+  cursor_.Hide();
+  ShowCursor();
+  if (!pointer.OthersHeld || !pressed_) pressed_ = TargetOf(pointer);
+  if (pressed_->Of == Part::Map) {
+    SysmapFrameMouseDown(static_cast<float>(pointer.X), static_cast<float>(pointer.Y));
+  }
+}
+
+void MapPlay::MouseMove(const MapPointer& pointer) {
+  const Target target = pressed_ ? *pressed_ : TargetOf(pointer);
+  switch (target.Of) {
+    case Part::Map:
+      return SysmapFrameMouseMove(pointer.Button, static_cast<float>(pointer.X),
+                                  static_cast<float>(pointer.Y));
+    case Part::Icon:
+      return Image1MouseMove(target.Index);
+    case Part::Panel:
+      if (target.Name == "ShowOptionsLabel") ShowOptionsLabelMouseMove();
+      return;
+  }
+}
+
+void MapPlay::MouseUp(const MapPointer& pointer) {
+  if (!pressed_) return;
+  const Target target = *pressed_;
+  if (!pointer.OthersHeld) pressed_.reset();
+  if (target.Of == Part::Map) {
+    SysmapFrameMouseUp(pointer.Button, static_cast<float>(pointer.X),
+                       static_cast<float>(pointer.Y));
+  } else if (pointer.Button == PointerButton::Left && target == TargetOf(pointer)) {
+    Click(target);
+  }
+}
+
+void MapPlay::Click(const Target& target) {
+  if (target.Of == Part::Icon) return Image1Click(target.Index);
+  PanelClick(target.Name, target.Index);
+}
+
+// The keyboard.
+
+void MapPlay::KeyDown(MapKey key) {
+  switch (key) {
+    case MapKey::Left:
+      cursor_.Move(-1, 0, Visible());
+      break;
+    case MapKey::Right:
+      cursor_.Move(1, 0, Visible());
+      break;
+    case MapKey::Up:
+      cursor_.Move(0, -1, Visible());
+      break;
+    case MapKey::Down:
+      cursor_.Move(0, 1, Visible());
+      break;
+    case MapKey::ZoomIn:
+      return ZoomInOnCursor();
+    case MapKey::GoBack:
+      return SysmapFrameMouseUp(PointerButton::Right, 0, 0);
+  }
+  ShowCursor();
+}
+
+// As a click into the middle of its cell.
+void MapPlay::ZoomInOnCursor() {
+  const auto cell = cursor_.Cell(Visible());
+  if (!cell) return;
+  const orrerix::Box box = screen_.Drawing().Cells.CellBox(cell->X, cell->Y);
+  const auto x = static_cast<float>(box.Left + box.Width / 2);
+  const auto y = static_cast<float>(box.Top + box.Height / 2);
+  SysmapFrameMouseDown(x, y);
+  SysmapFrameMouseUp(PointerButton::Left, x, y);
+}
+
+void MapPlay::ShowCursor() {
+  screen_.Scene().ShowInFront(FrontLayer::CellCursor,
+                              cursor_.Lines(screen_.Drawing().Cells, Visible()));
+  const auto cell = cursor_.Cell(Visible());
+  screen_.Frame().setAccessibleDescription(
+      cell ? QString::fromStdString(screen_.State().Names.Of(*cell)) : QString());
+}
+
+void MapPlay::FocusByTab() {
+  cursor_.Show(Visible());
+  ShowCursor();
+}
+
+void MapPlay::FocusLost() {
+  cursor_.Hide();
+  ShowCursor();
+}
+
+}  // namespace orrerix

@@ -1,0 +1,106 @@
+// SPDX-License-Identifier: MIT
+#include "forms/panel_keys.h"
+
+#include <QAbstractButton>
+#include <QKeyEvent>
+#include <QPainter>
+
+#include "map/map_options.h"
+#include "picture/twips.h"
+
+namespace orrerix {
+namespace {
+
+constexpr int kTools = 5;
+constexpr QRgb kFocusMark = 0xFF80FFFF;
+
+}  // namespace
+
+class PanelKeys::Key : public QAbstractButton {
+ public:
+  Key(const char* name, int index, QWidget* parent)
+      : QAbstractButton(parent), name_(name), index_(index) {
+    setObjectName(QStringLiteral("%1_%2").arg(name).arg(index));
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+    setFocusPolicy(Qt::TabFocus);
+    setCheckable(name_ == "SetImage");
+    hide();
+  }
+
+  bool Is(std::string_view name, int index) const { return name == name_ && index == index_; }
+
+  // `place` is that of the control, pixels of the frame.
+  void Follow(const Control& control, const QRectF& place) {
+    setGeometry(place.toAlignedRect());
+    setChecked(control.Tag == "1");
+    show();
+  }
+
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    if (!hasFocus()) return;
+    QPainter painter(this);
+    painter.setPen(QPen(QColor(kFocusMark), 2));
+    painter.drawRect(rect().adjusted(1, 1, -1, -1));
+  }
+
+  void keyPressEvent(QKeyEvent* event) override {
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) return click();
+    QAbstractButton::keyPressEvent(event);
+  }
+
+ private:
+  std::string_view name_;
+  int index_;
+};
+
+PanelKeys::PanelKeys(QAbstractScrollArea& frame, Activate activate) {
+  QWidget* parent = frame.viewport();
+  for (int i = 0; i < kTools; ++i) Add(parent, activate, "StationSearch", i);
+  Add(parent, activate, "ShowOptionsLabel", 0);
+  Add(parent, activate, "SetLabel", kLanguageLabel);
+  for (int i = 0; i < kMapSwitches; ++i) Add(parent, activate, "SetImage", i);
+}
+
+void PanelKeys::Add(QWidget* parent, const Activate& activate, const char* name, int index) {
+  keys_.push_back(new Key(name, index, parent));
+  QObject::connect(keys_.back(), &QAbstractButton::clicked, parent,
+                   [activate, name, index] { activate(name, index); });
+}
+
+void PanelKeys::Follow(const MapDrawing& drawing) {
+  std::set<Key*> gone(keys_.begin(), keys_.end());
+  for (const Control& control : drawing.Controls) {
+    if (control.Name != "MenuFrame") continue;
+    FollowControls(control.Children, Pixels(control.Place).topLeft(), gone);
+  }
+  for (Key* key : gone) key->hide();
+}
+
+// A switch is named by the label beside it.
+void PanelKeys::FollowControls(const ControlList& controls, const QPointF& corner,
+                               std::set<Key*>& gone) {
+  for (const Control& control : controls) {
+    const QRectF place = Pixels(control.Place).translated(corner);
+    FollowControls(control.Children, place.topLeft(), gone);
+    const int index = control.Index.value_or(0);
+    const QString caption =
+        QString::fromStdString(control.Caption.value_or(control.ToolTip.value_or("")));
+    if (Key* key = KeyOf(control.Name, index)) {
+      key->Follow(control, place);
+      key->setAccessibleName(caption);
+      gone.erase(key);
+    } else if (Key* box = KeyOf("SetImage", index); box != nullptr && control.Name == "SetLabel") {
+      box->setAccessibleName(caption);
+    }
+  }
+}
+
+PanelKeys::Key* PanelKeys::KeyOf(std::string_view name, int index) const {
+  for (Key* key : keys_) {
+    if (key->Is(name, index)) return key;
+  }
+  return nullptr;
+}
+
+}  // namespace orrerix

@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QAbstractScrollArea>
+#include <QPointF>
+#include <functional>
+#include <set>
+#include <string_view>
+#include <vector>
+
+#include "map/redraw.h"
+
+namespace orrerix {
+
+// Gives the panel's tools, switches and language a place in the order of the Tab key, and a name
+// for screen readers: one button over each, unseen but for the mark of the focus. The mouse goes
+// through them.
+class PanelKeys {
+ public:
+  // Told of Enter and Space: the control's name and its index, 0 without one.
+  using Activate = std::function<void(std::string_view name, int index)>;
+
+  // The buttons belong to `frame`.
+  PanelKeys(QAbstractScrollArea& frame, Activate activate);
+
+  // Puts them where the controls of a drawing are.
+  void Follow(const MapDrawing& drawing);
+
+ private:
+  class Key;
+
+  void Add(QWidget* parent, const Activate& activate, const char* name, int index);
+  void FollowControls(const ControlList& controls, const QPointF& corner, std::set<Key*>& gone);
+  Key* KeyOf(std::string_view name, int index) const;
+
+  std::vector<Key*> keys_;  // in the order of the Tab key
+};
+
+}  // namespace orrerix

@@ -1,0 +1,139 @@
+// SPDX-License-Identifier: MIT
+#include "forms/search_panel_view.h"
+
+#include <QKeyEvent>
+#include <QSignalBlocker>
+
+#include "forms/form_geometry.h"
+#include "picture/form_font.h"
+
+namespace orrerix {
+namespace {
+
+constexpr int kFont = 9;
+constexpr int kGap = 60;  // between text box and close button, twips
+
+QRect RectOf(const orrerix::Box& box) {
+  return PixelRect(static_cast<int>(box.Left), static_cast<int>(box.Top),
+                   static_cast<int>(box.Width), static_cast<int>(box.Height));
+}
+
+}  // namespace
+
+SearchPanelView::SearchPanelView(SearchEvents& events, QWidget* map)
+    : QFrame(map), events_(events) {
+  setObjectName("StSearchFrame");
+  setAutoFillBackground(true);
+  setFrameShape(QFrame::StyledPanel);
+  setFont(FormFont(kFont));
+  text_ = new QLineEdit(this);
+  text_->setObjectName("StSearchText");
+  text_->setAccessibleName("Search text");
+  text_->installEventFilter(this);
+  QObject::connect(text_, &QLineEdit::textChanged, this,
+                   [this](const QString& text) { events_.StSearchTextChange(text.toStdString()); });
+  close_ = new QToolButton(this);
+  close_->setObjectName("StSearchClose");
+  close_->setAccessibleName("Close the search");
+  close_->setText("\u00D7");
+  close_->setAutoRaise(true);
+  QObject::connect(close_, &QToolButton::clicked, this, [this] { events_.StSearchCloseClick(); });
+  subSearch_ = AddList("SubSearch", "Found");
+  QObject::connect(subSearch_, &QListWidget::currentRowChanged, this, [this](int row) {
+    if (row >= 0) events_.SubSearchClick(static_cast<std::size_t>(row));
+  });
+  list_ = AddList("StSearchList", "Places");
+  QObject::connect(list_, &QListWidget::currentRowChanged, this, [this](int row) {
+    if (row >= 0) events_.StSearchListClick(static_cast<std::size_t>(row));
+  });
+  QObject::connect(list_, &QListWidget::itemDoubleClicked, this,
+                   [this] { events_.StSearchListDblClick(); });
+  hide();
+}
+
+QListWidget* SearchPanelView::AddList(const char* name, const char* accessibleName) {
+  auto* list = new QListWidget(this);
+  list->setObjectName(name);
+  list->setAccessibleName(accessibleName);
+  list->setUniformItemSizes(true);
+  list->installEventFilter(this);
+  return list;
+}
+
+void SearchPanelView::Show(const SearchPanel& panel) {
+  if (!panel.Visible()) return hide();
+  setGeometry(RectOf(panel.Frame()));
+  const QRect textRect = RectOf(panel.TextBox());
+  text_->setGeometry(textRect);
+  const int gap = static_cast<int>(Pixels(kGap));
+  close_->setGeometry(textRect.right() + gap, textRect.top(), width() - textRect.right() - 2 * gap,
+                      textRect.height());
+  subSearch_->setGeometry(RectOf(panel.SubSearchBox()));
+  list_->setGeometry(RectOf(panel.ListBox()));
+  const QString typed = QString::fromStdString(panel.Text());
+  if (text_->text() != typed) {
+    const QSignalBlocker quiet(text_);
+    text_->setText(typed);
+  }
+  text_->setVisible(panel.TextVisible());
+  // Places fill the one list, which lies over the other.
+  subSearch_->setVisible(panel.SubSearchVisible() && panel.Type() != SearchType::Place);
+  Fill(*subSearch_, shownSubSearch_, panel.SubSearch());
+  Fill(*list_, shownList_, panel.List());
+  show();
+  raise();
+}
+
+void SearchPanelView::Fill(QListWidget& list, SearchList& shown, const SearchList& wanted) {
+  const QSignalBlocker quiet(&list);
+  if (shown.Rows != wanted.Rows) {
+    QStringList names;
+    for (const SearchRow& row : wanted.Rows) names << QString::fromStdString(row.RealName);
+    list.clear();
+    list.addItems(names);
+  }
+  shown = wanted;
+  list.setCurrentRow(wanted.Selected ? static_cast<int>(*wanted.Selected) : -1);
+}
+
+void SearchPanelView::Focus(SearchControl control) {
+  switch (control) {
+    case SearchControl::None:
+      return;
+    case SearchControl::Text:
+      return text_->setFocus();
+    case SearchControl::SubSearch:
+      return subSearch_->setFocus();
+    case SearchControl::List:
+      return list_->setFocus();
+  }
+}
+
+bool SearchPanelView::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::KeyPress) {
+    return KeyPress(watched, static_cast<QKeyEvent*>(event)->key());
+  }
+  return QFrame::eventFilter(watched, event);
+}
+
+bool SearchPanelView::KeyPress(QObject* control, int key) {
+  switch (key) {
+    case Qt::Key_Escape:
+      events_.StSearchCloseClick();
+      return true;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+      events_.EnterKey(control == text_        ? SearchControl::Text
+                       : control == subSearch_ ? SearchControl::SubSearch
+                                               : SearchControl::List);
+      return true;
+    case Qt::Key_Up:
+      return control == text_ && events_.MoveKey(-1);
+    case Qt::Key_Down:
+      return control == text_ && events_.MoveKey(1);
+    default:
+      return false;
+  }
+}
+
+}  // namespace orrerix

@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QFrame>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QToolButton>
+
+#include "info/search_panel.h"
+
+namespace orrerix {
+
+// What the user does in the search panel.
+class SearchEvents {
+ public:
+  virtual ~SearchEvents() = default;
+  virtual void StSearchTextChange(const std::string& text) = 0;
+  virtual void SubSearchClick(std::size_t row) = 0;
+  virtual void StSearchListClick(std::size_t row) = 0;
+  virtual void StSearchListDblClick() = 0;
+  virtual void StSearchCloseClick() = 0;
+
+  // Keys of the three controls. True if the key means nothing else.
+  virtual bool MoveKey(int by) = 0;
+  virtual void EnterKey(SearchControl in) = 0;
+};
+
+// The search panel's controls on the map: they show a SearchPanel and tell what is done to them.
+class SearchPanelView : public QFrame {
+ public:
+  // `events` must outlive this.
+  SearchPanelView(SearchEvents& events, QWidget* map);
+
+  // Shows the panel as it is now; hides it if it is closed.
+  void Show(const SearchPanel& panel);
+  void Focus(SearchControl control);
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  QListWidget* AddList(const char* name, const char* accessibleName);
+  void Fill(QListWidget& list, SearchList& shown, const SearchList& wanted);
+  bool KeyPress(QObject* control, int key);
+
+  SearchEvents& events_;
+  QLineEdit* text_;
+  QListWidget* subSearch_;
+  QListWidget* list_;
+  QToolButton* close_;
+  SearchList shownSubSearch_;
+  SearchList shownList_;
+};
+
+}  // namespace orrerix

@@ -1,0 +1,139 @@
+// SPDX-License-Identifier: MIT
+#include "forms/search_play.h"
+
+#include <algorithm>
+#include <utility>
+
+#include <fmt/format.h>
+
+#include "forms/form_geometry.h"
+#include "forms/locale_signs.h"
+#include "shell/routine.h"
+
+namespace orrerix {
+
+SearchPlay::SearchPlay(MapScreen& screen, MapForm& form, MapPlay& play, ErrorLog& log,
+                       Language& language)
+    : screen_(screen),
+      form_(form),
+      play_(play),
+      log_(log),
+      language_(language),
+      view_(new SearchPanelView(*this, &screen.Frame())),
+      infoText_(new TextBox("InfoText", &screen.Frame())) {
+  infoText_->setAccessibleName("Information");
+  infoText_->hide();
+}
+
+SearchPlay::~SearchPlay() = default;
+
+template <typename Event>
+SearchAnswer SearchPlay::Ask(const char* source, const std::string& info, const Event& event) {
+  SearchAnswer answer;
+  Routine routine(log_, source, info);
+  routine.Run([&] {
+    Universe universe = form_.OpenUniverse(routine);
+    const Wording words{language_, LocaleSigns()};
+    answer = event(SearchScope{universe, words, measure_, screen_.Drawing()});
+  });
+  return answer;
+}
+
+void SearchPlay::StationSearchClick(SearchType type) {
+  Follow(Ask("OrrerixMain.StationSearch_Click", fmt::format("Index: {}", static_cast<int>(type)),
+             [&](const SearchScope& scope) { return panel_.Open(scope, type); }));
+}
+
+void SearchPlay::StSearchTextChange(const std::string& text) {
+  Follow(Ask("OrrerixMain.StSearchText_Change", "",
+             [&](const SearchScope& scope) { return panel_.SetText(scope, text); }));
+}
+
+void SearchPlay::SubSearchClick(std::size_t row) {
+  Follow(Ask("OrrerixMain.SubSearch_Click", "",
+             [&](const SearchScope& scope) { return panel_.SelectSubSearch(scope, row); }));
+}
+
+void SearchPlay::StSearchListClick(std::size_t row) {
+  panel_.SelectList(row);
+}
+
+void SearchPlay::StSearchListDblClick() {
+  Follow(panel_.EnterInList());
+}
+
+void SearchPlay::StSearchCloseClick() {
+  Follow(panel_.Close());
+  screen_.Frame().setFocus();
+}
+
+bool SearchPlay::MoveKey(int by) {
+  SearchAnswer answer = Ask("OrrerixMain.StSearchText_KeyDown", "", [&](const SearchScope& scope) {
+    return panel_.MoveSelection(scope, by);
+  });
+  Follow(std::move(answer));
+  return true;
+}
+
+void SearchPlay::EnterKey(SearchControl in) {
+  switch (in) {
+    case SearchControl::Text:
+      return Follow(panel_.EnterInText());
+    case SearchControl::SubSearch:
+      return Follow(panel_.EnterInSubSearch());
+    case SearchControl::List:
+      return Follow(panel_.EnterInList());
+    case SearchControl::None:
+      return;
+  }
+}
+
+void SearchPlay::Follow(SearchAnswer answer) {
+  view_->Show(panel_);
+  if (answer.InfoBox) ShowInfo(std::move(*answer.InfoBox));
+  view_->Focus(answer.Focus);
+  if (answer.Jump) Jump(*answer.Jump);
+}
+
+// The map shows the box's shape; its text is a control of its own, to scroll and to copy from.
+void SearchPlay::ShowInfo(ControlList box) {
+  infoText_->hide();
+  if (box.empty()) return play_.Box().Hide();
+  const Control text = std::move(box.back());
+  box.pop_back();
+  play_.Box().Show(std::move(box));
+  infoText_->setGeometry(
+      PixelRect(static_cast<int>(text.Place.Left), static_cast<int>(text.Place.Top),
+                static_cast<int>(text.Place.Width), static_cast<int>(text.Place.Height)));
+  infoText_->Show(text.Caption.value_or(""));
+  infoText_->show();
+  infoText_->raise();
+  view_->raise();
+}
+
+void SearchPlay::Jump(const std::string& nickname) {
+  Routine routine(log_, "OrrerixMain.StSearchList_DblClick");
+  routine.Run([&] {
+    Universe universe = form_.OpenUniverse(routine);
+    const auto target = JumpTargetOf(routine, universe, nickname);
+    if (!target) return;
+    const MapCell& cell = target->Cell;
+    const ZoomRectangle square{cell.X, cell.Y, cell.X, cell.Y};
+    if (!square.IsValid())
+      return routine.Fail(RuntimeFailure(failure_number::kSubscriptOutOfRange));
+    if (play_.PushZoomStack(square)) form_.FormResize();
+    const ControlList& controls = screen_.Drawing().Controls;
+    const auto icon = std::find_if(controls.begin(), controls.end(), [&](const Control& control) {
+      return control.Name == "Image1" && control.Tag == target->Nickname;
+    });
+    play_.SysmapFrameMouseMove(PointerButton::None, 0, 0);
+    if (icon == controls.end()) {
+      return routine.Fail(RuntimeFailure(failure_number::kSubscriptOutOfRange));
+    }
+    const int index = icon->Index.value_or(0);
+    play_.Image1MouseMove(index);
+    play_.Image1Click(index);
+  });
+}
+
+}  // namespace orrerix

@@ -1,0 +1,217 @@
+// SPDX-License-Identifier: MIT
+#include "forms/station_info.h"
+
+#include <QCloseEvent>
+#include <QIcon>
+#include <QLabel>
+#include <QPushButton>
+#include <QScreen>
+#include <QShortcut>
+#include <QSignalBlocker>
+#include <algorithm>
+#include <utility>
+
+#include "forms/form_geometry.h"
+#include "forms/locale_signs.h"
+#include "picture/picture_files.h"
+
+namespace orrerix {
+namespace {
+
+constexpr int kIconPixels = 64;
+constexpr QRgb kGround = 0xFF000040;
+
+// Places of what stands in the left margin, twips.
+constexpr int kSide = 150;
+constexpr int kButton = kStationMargin - 2 * kSide;
+constexpr int kFirstMode = 1500;
+constexpr int kModeStep = kButton + 120;
+
+constexpr std::array<const char*, kModeButtons> kModeNames = {
+    "Prices and trades", "Information", "Ships for sale", "Equipment for sale"};
+
+}  // namespace
+
+StationInfo::StationInfo(const StationParts& parts, std::string nickname, std::string picture)
+    : parts_(parts), nick_(std::move(nickname)), picture_(std::move(picture)) {
+  setObjectName("StationInfo");
+  QPalette colors = palette();
+  colors.setColor(QPalette::Window, QColor(kGround));
+  setPalette(colors);
+  MakeDecoration();
+  MakeModes();
+  infoText_ = new TextBox("InfoText", this);
+  infoText_->setAccessibleName("Information");
+  prices_ = new PriceTableView(this);
+  searchFrame_ = new QGroupBox(this);
+  searchFrame_->setObjectName("SearchFrame");
+  searchFrame_->setFont(FormFont(kStationText));
+  searchList_ = new QListWidget(searchFrame_);
+  searchList_->setObjectName("SearchList");
+  searchList_->setFont(FormFont(kStationText));
+  searchList_->setAccessibleName("For sale");
+  QObject::connect(searchList_, &QListWidget::currentRowChanged, this,
+                   [this](int row) { SearchListClick(row); });
+  QObject::connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this,
+                   [this] { close(); });
+  Place();
+  FormInitialize();
+}
+
+void StationInfo::MakeDecoration() {
+  const QString file = PictureFile(MakePicture("Station", std::nullopt, {}, picture_));
+  setWindowIcon(QIcon(parts_.Pictures.Scaled(file, {kIconPixels, kIconPixels})));
+  auto* station = new QLabel(this);
+  station->setObjectName("Station");
+  const QRect place = PixelRect(kSide, kSide, kButton, kButton);
+  station->setGeometry(place);
+  station->setAlignment(Qt::AlignCenter);
+  const double ratio = devicePixelRatioF();
+  QPixmap pixmap = parts_.Pictures.Scaled(file, place.size() * ratio);
+  pixmap.setDevicePixelRatio(ratio);
+  station->setPixmap(pixmap);
+}
+
+void StationInfo::MakeModes() {
+  for (std::size_t i = 0; i < kModeButtons; ++i) {
+    auto* button = new QPushButton(this);
+    button->setObjectName(QStringLiteral("Mode_%1").arg(i));
+    button->setAccessibleName(kModeNames[i]);
+    button->setCheckable(true);
+    button->setGeometry(
+        PixelRect(kSide, kFirstMode + static_cast<int>(i) * kModeStep, kButton, kButton));
+    QObject::connect(button, &QPushButton::clicked, this, [this, i] { ModeClick(i); });
+    mode_[i] = button;
+  }
+}
+
+// The right-hand third of the screen.
+void StationInfo::Place() {
+  constexpr int kept = 400;  // twips of the screen's height
+  const QRect all = screen()->geometry();
+  const int third = all.width() / 3;
+  move(all.left() + 2 * third, all.top());
+  resize(third, all.height() - static_cast<int>(Pixels(kept)));
+}
+
+Wording StationInfo::Words() const {
+  return {parts_.Texts, LocaleSigns()};
+}
+
+void StationInfo::FormInitialize() {
+  Routine routine(parts_.Log, "StationInfo.Form_Initialize", "While initializing Station-Infos");
+  routine.Run([&] {
+    Universe universe = parts_.OpenUniverse(routine);
+    data_ = ReadStation(universe, parts_.Names, parts_.Texts, nick_, modes_.Mode());
+  });
+  setWindowTitle(QString::fromStdString(data_.Caption.empty() ? nick_ : data_.Caption));
+  ShowModes();
+  FormResize();
+}
+
+void StationInfo::ShowModes() {
+  const auto buttons = modes_.Buttons(data_, parts_.Texts);
+  for (std::size_t i = 0; i < kModeButtons; ++i) {
+    mode_[i]->setText(QString::fromStdString(buttons[i].Caption));
+    mode_[i]->setFont(FormFont(buttons[i].FontSize));
+    mode_[i]->setToolTip(buttons[i].ToolTip.empty() ? QString(kModeNames[i])
+                                                    : QString::fromStdString(buttons[i].ToolTip));
+  }
+  const StationMode mode = modes_.Mode();
+  mode_[0]->setChecked(mode == StationMode::Prices || mode == StationMode::Trades);
+  mode_[1]->setChecked(mode == StationMode::Info);
+  mode_[2]->setChecked(mode == StationMode::Ships);
+  mode_[3]->setChecked(mode == StationMode::Equipment);
+}
+
+void StationInfo::ModeClick(std::size_t button) {
+  Routine routine(parts_.Log, "StationInfo.Mode_Click");
+  routine.Run([&] {
+    switch (modes_.Click(button, data_)) {
+      case ModeAnswer::Beep:
+        parts_.Sound.Beep();
+        break;
+      case ModeAnswer::Resize:
+        FillList();
+        FormResize();
+        break;
+      case ModeAnswer::Read:
+        FormInitialize();
+        break;
+    }
+    ShowModes();
+  });
+}
+
+const std::vector<ForSale>& StationInfo::ForSaleRows() const {
+  return modes_.Mode() == StationMode::Ships ? data_.Ships : data_.Equipment;
+}
+
+void StationInfo::FillList() {
+  const StationMode mode = modes_.Mode();
+  if (mode != StationMode::Ships && mode != StationMode::Equipment) return;
+  const QSignalBlocker quiet(searchList_);
+  searchList_->clear();
+  for (const ForSale& item : ForSaleRows()) {
+    searchList_->addItem(QString::fromStdString(item.RealName));
+  }
+  searchList_->setCurrentRow(0);
+}
+
+void StationInfo::FormResize() {
+  Routine routine(parts_.Log, "StationInfo.Form_Resize", "While resizing objects in Shipinfo");
+  routine.Run([&] {
+    Universe universe = parts_.OpenUniverse(routine);
+    const bool isTable =
+        modes_.Mode() == StationMode::Prices || modes_.Mode() == StationMode::Trades;
+    const auto selected = static_cast<std::size_t>(std::max(0, searchList_->currentRow()));
+    const TextMeasure& measure = modes_.Mode() == StationMode::Info ? fixedMeasure_ : formMeasure_;
+    const ControlList controls =
+        LayOutStation(universe, Words(), measure,
+                      {data_, modes_.Mode(), OuterWidth(*this), OuterHeight(*this), selected});
+    prices_->setVisible(isTable);
+    infoText_->setVisible(!isTable);
+    searchFrame_->setVisible(!isTable && modes_.Mode() != StationMode::Info);
+    if (isTable) return prices_->Show(controls);
+    for (const Control& control : controls) ShowControl(control);
+  });
+}
+
+// What reaches beyond the window's inner edge would hide its scroll bars.
+void StationInfo::ShowControl(const Control& control) {
+  const Box& box = control.Place;
+  const QRect place = PixelRect(static_cast<int>(box.Left), static_cast<int>(box.Top),
+                                static_cast<int>(box.Width), static_cast<int>(box.Height));
+  if (control.Name == "InfoText") {
+    infoText_->setGeometry(place & rect());
+    infoText_->Show(control.Caption.value_or(""));
+  } else if (control.Name == "SearchFrame") {
+    searchFrame_->setGeometry(place & rect());
+    searchFrame_->setTitle(QString::fromStdString(control.Caption.value_or("")));
+  } else if (control.Name == "SearchList") {
+    searchList_->setGeometry(place & searchFrame_->rect());
+  }
+}
+
+void StationInfo::SearchListClick(int row) {
+  const auto& rows = ForSaleRows();
+  if (row < 0 || static_cast<std::size_t>(row) >= rows.size()) return;
+  Routine routine(parts_.Log, "StationInfo.SearchList_Click", "While searching in Shipinfo");
+  routine.Run([&] {
+    Universe universe = parts_.OpenUniverse(routine);
+    infoText_->Show(
+        ForSaleText(universe, Words(), modes_.Mode(), rows[static_cast<std::size_t>(row)]));
+  });
+}
+
+void StationInfo::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  FormResize();
+}
+
+void StationInfo::closeEvent(QCloseEvent* event) {
+  event->accept();
+  if (OnClosed) OnClosed();
+}
+
+}  // namespace orrerix

@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT
+#include "forms/text_box.h"
+
+#include "picture/form_font.h"
+
+namespace orrerix {
+namespace {
+
+constexpr int kFont = 9;
+constexpr QRgb kGround = 0xFF000040;
+constexpr QRgb kLetters = 0xFFCCCC00;
+
+}  // namespace
+
+TextBox::TextBox(const char* name, QWidget* parent) : QPlainTextEdit(parent) {
+  setObjectName(name);
+  setFont(FixedFont(kFont));
+  setReadOnly(true);
+  setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+  setTabChangesFocus(true);
+  setUndoRedoEnabled(false);
+  setFrameShape(QFrame::NoFrame);
+  document()->setDocumentMargin(0);
+  setTabStopDistance(8 * QFontMetricsF(font()).horizontalAdvance(' '));
+  QPalette colors = palette();
+  colors.setColor(QPalette::Base, QColor(kGround));
+  colors.setColor(QPalette::Text, QColor(kLetters));
+  setPalette(colors);
+}
+
+void TextBox::Show(const std::string& text) {
+  setPlainText(QString::fromStdString(text).remove('\r'));
+}
+
+}  // namespace orrerix

@@ -1,0 +1,159 @@
+// SPDX-License-Identifier: MIT
+#include "info/equipment_text.h"
+
+#include <cmath>
+
+#include "db/text.h"
+#include "import/resource_strings.h"
+#include "info/table_row.h"
+
+namespace orrerix {
+namespace {
+
+constexpr int kPriceText = 26;
+constexpr int kAmmoText = 16;
+
+// The program's arithmetic ends at the largest number.
+double Finite(double number) {
+  if (!std::isfinite(number)) throw RuntimeFailure(failure_number::kOverflow);
+  return number;
+}
+
+// Ammunition that is sold along with a gun: "nickname, count".
+struct FreeAmmo {
+  std::string Nickname;
+  double Count = 0;
+};
+
+// Without a comma the nickname is empty and the whole text the count.
+FreeAmmo ParseFreeAmmo(const std::string& text) {
+  const std::size_t comma = text.find(',');
+  if (comma == std::string::npos) return {"", Val(text)};
+  return {std::string(Trim(text.substr(0, comma))), Val(text.substr(comma + 1))};
+}
+
+class EquipmentWriter {
+ public:
+  EquipmentWriter(Routine& routine, Universe& universe, const Wording& wording,
+                  std::string_view nickname, std::string& text)
+      : routine_(routine),
+        universe_(universe),
+        wording_(wording),
+        nickname_(nickname),
+        text_(text) {}
+
+  void WriteGood() {
+    TableRow good(routine_, universe_, "Goods", "nickname", nickname_);
+    if (!good.Found()) return;
+    std::int32_t total = 0;
+    routine_.Try([&] { total = good["price"].RequireLong(); });
+    std::int32_t count = 0;
+    std::string ammoPrice;
+    if (const std::string free = good.Text("free_ammo"); !free.empty()) {
+      const FreeAmmo ammo = ParseFreeAmmo(free);
+      TableRow ammoGood(routine_, universe_, "Goods", "nickname", ammo.Nickname);
+      if (ammoGood.Found()) {
+        count = routine_.Long(ammo.Count);
+        ammoPrice = ammoGood.Text("price");
+        routine_.Try([&] { total = WithAmmo(total, count, ammoGood["price"].RequireLong()); });
+      }
+    }
+    Line([&] {
+      return "   " + wording_.Texts.TXT(kPriceText) + ": " +
+             NumberText(static_cast<std::int64_t>(total)) + "  -  " +
+             GetChangeInfo(universe_, good["ids_info"].RequireLong());
+    });
+    if (count <= 0) return;
+    Line([&] {
+      return " incl. " + NumberText(static_cast<std::int64_t>(count)) + " X " +
+             wording_.Texts.TXT(kAmmoText) + " á $" + ammoPrice;
+    });
+  }
+
+  void WriteShield() {
+    TableRow shield(routine_, universe_, "shieldgenerator", "nickname", nickname_);
+    if (!shield.Found()) return;
+    Blank([&] { return "            Max-Capacity: " + Fmt2(shield.Val("max_capacity")); });
+    Line([&] { return " Rebuild Power usage / s: " + Fmt0(shield.Val("rebuild_power_draw")); });
+    Line([&] { return " Regeneration per second: " + Fmt2(shield.Val("regeneration_rate")); });
+    Blank([&] { return "             Shield-Type: " + shield.Text("shield_type"); });
+    Line([&] { return "        Needed Hardpoint: " + shield.Text("hp_type"); });
+  }
+
+  void WriteGun() {
+    TableRow gun(routine_, universe_, "gun", "nickname", nickname_);
+    if (!gun.Found()) return;
+    const double refire = gun.Val("refire_delay");
+    Blank([&] {
+      if (refire == 0) throw RuntimeFailure(failure_number::kDivisionByZero);
+      return "          Refire-Rate: " + Fmt2(refire) + " = " + Fmt2(1 / refire) +
+             " Shots per second";
+    });
+    Line([&] { return "          Power-Usage: " + Fmt2(gun.Val("power_usage")); });
+    Line([&] { return "     Projectile-Speed: " + Fmt0(gun.Val("muzzle_velocity")); });
+    Line([&] { return "     Needed Hardpoint: " + gun.Text("hp_gun_type"); });
+    WriteShot(gun, refire);
+  }
+
+ private:
+  void WriteShot(TableRow& gun, double refire) {
+    TableRow shot(routine_, universe_, "munition", "nickname", gun.Text("projectile_archetype"));
+    if (!shot.Found()) return;
+    const double life = shot.Val("lifetime");
+    const double speed = gun.Val("muzzle_velocity");
+    const double hull = shot.Val("hull_damage");
+    const double energy = shot.Val("energy_damage");
+    Blank([&] {
+      return "             LifeTime: " + Fmt2(life) + " = " + Fmt0(speed * life) + " Range";
+    });
+    Line([&] { return "          Hull-Damage: " + ShotAndSecond(hull * refire, hull); });
+    Line([&] {
+      return energy != 0 ? " Energy/Shield-Damage: " + ShotAndSecond(energy * refire, energy)
+                         : "        Shield-Damage: " + ShotAndSecond(hull * refire / 2, hull / 2);
+    });
+  }
+
+  static std::int32_t WithAmmo(std::int32_t total, std::int32_t count, std::int32_t price) {
+    const auto sum = ToLong(total + static_cast<double>(count) * price);
+    if (!sum) throw RuntimeFailure(failure_number::kOverflow);
+    return *sum;
+  }
+
+  // One line of the text is one step.
+  template <typename Content>
+  void Line(const Content& content) {
+    routine_.Try([&] { text_ += "\r\n" + content(); });
+  }
+  template <typename Content>
+  void Blank(const Content& content) {
+    routine_.Try([&] { text_ += "\r\n\r\n" + content(); });
+  }
+
+  std::string Fmt2(double number) const {
+    return FormatGrouped(Finite(number), 2, wording_.Separators);
+  }
+  std::string Fmt0(double number) const {
+    return FormatGrouped(Finite(number), 0, wording_.Separators);
+  }
+  std::string ShotAndSecond(double shot, double second) const {
+    return Fmt2(shot) + " = " + Fmt0(second) + " per second";
+  }
+
+  Routine& routine_;
+  Universe& universe_;
+  const Wording& wording_;
+  std::string_view nickname_;
+  std::string& text_;
+};
+
+}  // namespace
+
+void WriteEquipmentText(Routine& routine, Universe& universe, const Wording& wording,
+                        std::string_view nickname, std::string& text) {
+  EquipmentWriter writer(routine, universe, wording, nickname, text);
+  writer.WriteGood();
+  writer.WriteShield();
+  writer.WriteGun();
+}
+
+}  // namespace orrerix

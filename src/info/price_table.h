@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: MIT
+// The price table of a station window.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "info/station_data.h"
+#include "map/drawing_list.h"
+#include "map/text_measure.h"
+#include "shell/routine.h"
+
+namespace orrerix {
+
+// What each row is called: a good by its name; a trade by good, system and station, without the
+// station where the map lacks it.
+std::vector<std::string> PriceRowNames(Universe& universe, const StationData& data,
+                                       StationMode mode);
+
+// Heads and rows of the three groups, one below the other within `place`, each text in the largest
+// font that fits its label. Rows are numbered from 1 through all groups; each has a name, a price
+// and a difference.
+ControlList PriceTable(Routine& routine, Universe& universe, TextSource& texts,
+                       const TextMeasure& measure, const StationData& data, StationMode mode,
+                       const Box& place);
+
+}  // namespace orrerix

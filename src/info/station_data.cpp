@@ -1,0 +1,128 @@
+// SPDX-License-Identifier: MIT
+#include "info/station_data.h"
+
+#include "db/text.h"
+#include "derived/lookup.h"
+#include "derived/owner_names.h"
+#include "import/resource_strings.h"
+#include "info/object_coords.h"
+#include "info/station_market.h"
+
+namespace orrerix {
+namespace {
+
+constexpr std::string_view kLineEnd = "\r\n";
+constexpr std::string_view kTwoLineEnds = "\r\n\r\n";
+constexpr int kOwnerText = 23;
+constexpr std::string_view kDockringStart = "Dockring:";
+constexpr std::size_t kBaseEndLength = 5;  // "_Base" behind a planet's nickname
+
+class StationReader {
+ public:
+  StationReader(Routine& routine, Universe& universe, const CellNames& names, TextSource& texts,
+                std::string_view nickname, StationData& data)
+      : routine_(routine),
+        universe_(universe),
+        names_(names),
+        texts_(texts),
+        nickname_(nickname),
+        data_(data) {}
+
+  void Run(StationMode mode) {
+    data_.Base = nickname_;
+    Recordset object = ObjectNamed(routine_, universe_, nickname_);
+    if (!object.AtEnd()) {
+      const std::string base(Trim(object["dock_with"].Get().Text()));
+      if (!base.empty()) data_.Base = base;
+    }
+    if (Recordset dock = RowOnMap(); !dock.AtEnd()) {
+      WriteTexts(dock, object);
+      data_.Prices = ReadPrices(routine_, universe_, nickname_, data_.Base, mode);
+    }
+    data_.Ships = ShipsForSale(routine_, universe_, nickname_, data_.Base);
+    data_.Equipment = EquipmentForSale(routine_, universe_, nickname_, data_.Base);
+  }
+
+ private:
+  Recordset RowOnMap() {
+    return universe_.DB.OpenRecordset(
+        routine_, "SELECT * from DockObjects WHERE ucase(nickname) = '{}'", {Ucase(nickname_)});
+  }
+
+  void WriteTexts(Recordset& dock, Recordset& object) {
+    const std::string realname = dock["realname"].Get().Text();
+    data_.Caption = realname + "  " + CoordsOf(universe_, names_, dock);
+    const std::string reputation =
+        object.AtEnd() ? std::string() : object["reputation"].Get().Text();
+    if (!reputation.empty()) {
+      data_.Caption +=
+          "  " + texts_.TXT(kOwnerText) + ": " + GetOwnerShortName(universe_, reputation);
+    }
+    data_.Info = std::string(kLineEnd) + data_.Caption + std::string(kTwoLineEnds);
+    if (object.AtEnd()) return;
+    AddInfo(object);
+    if (Contains(data_.Info, "CLASS")) AddSecondHalf(object);
+    if (realname.starts_with(kDockringStart)) AddPlanet(object);
+    if (!reputation.empty()) AddOwner(reputation);
+  }
+
+  void AddInfo(Recordset& object) {
+    routine_.Try([&] {
+      data_.Info += GetChangeInfo(universe_, object["ids_info"].RequireLong());
+      data_.Info += kTwoLineEnds;
+    });
+  }
+
+  // The game keeps the second half of some texts under the next number.
+  void AddSecondHalf(Recordset& object) {
+    routine_.Try([&] {
+      const double next = object["ids_info"].RequireLong() + 1.0;
+      data_.Info += GetChangeInfo(universe_, routine_.Long(next));
+      data_.Info += kTwoLineEnds;
+    });
+  }
+
+  // A docking ring tells of its planet, too, and has the planet's market.
+  void AddPlanet(Recordset& ring) {
+    std::string planetName;
+    const bool named = routine_.Try([&] { planetName = PlanetOf(ring["dock_with"].Get().Text()); });
+    if (!named) return;
+    Recordset planet = ObjectNamed(routine_, universe_, planetName);
+    if (planet.AtEnd()) return;
+    data_.Base = planetName;
+    AddInfo(planet);
+    if (Contains(Ucase(data_.Info), "DIAMETER")) AddSecondHalf(planet);
+  }
+
+  static std::string PlanetOf(const std::string& base) {
+    const std::size_t length = Len(base);
+    if (length < kBaseEndLength) throw RuntimeFailure(failure_number::kInvalidProcedureCall);
+    return std::string(Left(base, length - kBaseEndLength));
+  }
+
+  void AddOwner(const std::string& reputation) {
+    data_.Info += GetOwnerName(universe_, reputation);
+    data_.Info += kTwoLineEnds;
+    data_.Info += GetOwnerInfo(universe_, reputation);
+    data_.Info += kLineEnd;
+  }
+
+  Routine& routine_;
+  Universe& universe_;
+  const CellNames& names_;
+  TextSource& texts_;
+  std::string_view nickname_;
+  StationData& data_;
+};
+
+}  // namespace
+
+StationData ReadStation(Universe& universe, const CellNames& names, TextSource& texts,
+                        std::string_view nickname, StationMode mode) {
+  StationData data;
+  Routine routine(universe.Log, "StationInfo.Form_Initialize", "While initializing Station-Infos");
+  routine.Run([&] { StationReader(routine, universe, names, texts, nickname, data).Run(mode); });
+  return data;
+}
+
+}  // namespace orrerix

@@ -1,0 +1,137 @@
+// SPDX-License-Identifier: MIT
+#include "info/station_layout.h"
+
+#include <utility>
+
+#include "info/info_text.h"
+#include "info/price_table.h"
+#include "info/ship_text.h"
+#include "info/text_wrap.h"
+#include "map/numeric.h"
+#include "shell/routine.h"
+
+namespace orrerix {
+namespace {
+
+constexpr int kSelectShipText = 24;
+constexpr int kSelectEquipmentText = 25;
+constexpr int kGap = 50;        // between the left margin and a view
+constexpr int kBelow = 200;     // what a view leaves of the window's height
+constexpr int kListLeft = 120;  // of SearchList in its frame
+constexpr int kListTop = 240;
+constexpr int kListMargin = 200;  // beside the longest row
+constexpr int kWrapMargin = 300;  // of the info text
+constexpr Color kText{0x00CCCC};
+constexpr Color kBack{0x400000};
+
+Control InfoText(const Box& place, std::string text) {
+  Control info = MakeLabel("InfoText", std::nullopt, place, std::move(text));
+  info.FontSize = kStationText;
+  info.ForeColor = kText;
+  info.BackColor = kBack;
+  return info;
+}
+
+// Sizes of what a view has at its disposal, whole twips.
+struct Room {
+  int Width;
+  int Height;
+};
+
+Room RoomOf(const StationView& view) {
+  return {MAXI(0, WholeTwips(view.FormWidth - (kStationMargin + kGap))),
+          MAXI(0, WholeTwips(view.FormHeight - kBelow))};
+}
+
+ControlList InfoView(const TextMeasure& measure, const StationView& view) {
+  const Room room = RoomOf(view);
+  const Box place{kStationMargin + kGap, 0, static_cast<double>(room.Width),
+                  static_cast<double>(room.Height)};
+  return {
+      InfoText(place, WrapText(view.Data.Info, measure, kStationText, room.Width - kWrapMargin))};
+}
+
+ControlList ListView(Universe& universe, const Wording& wording, const TextMeasure& measure,
+                     const StationView& view) {
+  const Room room = RoomOf(view);
+  const bool ships = view.Mode == StationMode::Ships;
+  const std::vector<ForSale>& rows = ships ? view.Data.Ships : view.Data.Equipment;
+  int widest = 0;
+  for (const ForSale& row : rows) {
+    widest = MAXI(widest, measure.TextWidth(row.RealName, kStationText));
+  }
+  const double listWidth = widest + kListMargin;
+  const double frameWidth = 2 * kListLeft + listWidth;
+  Control frame =
+      MakeFrame("SearchFrame", std::nullopt,
+                {kStationMargin, 0, frameWidth, static_cast<double>(room.Height)}, kBack);
+  frame.Caption = wording.Texts.TXT(ships ? kSelectShipText : kSelectEquipmentText);
+  frame.ForeColor = kText;
+  Control list =
+      MakeFrame("SearchList", std::nullopt,
+                {kListLeft, kListTop, listWidth, MAXI(0.0, room.Height - 2.0 * kListTop)}, kBack);
+  list.FontSize = kStationText;
+  list.ForeColor = kText;
+  std::string text;
+  if (view.Selected < rows.size()) {
+    text = ForSaleText(universe, wording, view.Mode, rows[view.Selected]);
+  }
+  const Box place{kStationMargin + frameWidth, 0, MAXI(0.0, room.Width - frameWidth),
+                  static_cast<double>(room.Height)};
+  return {std::move(frame), std::move(list), InfoText(place, std::move(text))};
+}
+
+void WriteShipForSale(Routine& routine, Universe& universe, std::string_view package,
+                      std::string& text) {
+  text = "\r\n";
+  TableRow ship(routine, universe, "Ships", "packagename", package);
+  if (!ship.Found()) return;
+  WriteShipHead(routine, universe, ship, text);
+  text += "\r\n\r\n Extra-Stats\r\n";
+  WriteShipFigures(routine, ship, text);
+}
+
+}  // namespace
+
+ControlList LayOutStation(Universe& universe, const Wording& wording, const TextMeasure& measure,
+                          const StationView& view) {
+  ControlList controls;
+  Routine routine(universe.Log, "StationInfo.Form_Resize", "While resizing objects in Shipinfo");
+  routine.Run([&] {
+    switch (view.Mode) {
+      case StationMode::Info:
+        controls = InfoView(measure, view);
+        return;
+      case StationMode::Ships:
+      case StationMode::Equipment:
+        controls = ListView(universe, wording, measure, view);
+        return;
+      case StationMode::Prices:
+      case StationMode::Trades: {
+        const Room room = RoomOf(view);
+        const Box place{kStationMargin + kGap, 0, static_cast<double>(room.Width),
+                        static_cast<double>(room.Height)};
+        controls =
+            PriceTable(routine, universe, wording.Texts, measure, view.Data, view.Mode, place);
+        return;
+      }
+    }
+  });
+  return controls;
+}
+
+std::string ForSaleText(Universe& universe, const Wording& wording, StationMode mode,
+                        const ForSale& item) {
+  std::string text;
+  Routine routine(universe.Log, "StationInfo.SearchList_Click", "While searching in Shipinfo");
+  routine.Run([&] {
+    if (mode == StationMode::Ships) {
+      WriteShipForSale(routine, universe, item.Nickname, text);
+    } else {
+      text = GetInfoTextType(universe, wording, item.Nickname, InfoType::Equipment);
+    }
+  });
+  return text;
+}
+
+}  // namespace orrerix

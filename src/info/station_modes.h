@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: MIT
+// The buttons at the left of a station window and what they switch between.
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <string>
+
+#include "info/station_data.h"
+
+namespace orrerix {
+
+inline constexpr std::size_t kModeButtons = 4;
+
+struct ModeButton {
+  std::string Caption;
+  int FontSize = 0;  // points
+  std::string ToolTip;
+};
+
+// What a click on a button asks of the window.
+enum class ModeAnswer {
+  Beep,    // nothing to show; the view stays
+  Resize,  // another view of the same data
+  Read     // the data anew, then the view
+};
+
+// The mode of a window. The price button names the price view that was entered last and opens the
+// other one.
+class StationModes {
+ public:
+  // As a window opens: the price view is prepared, the info text shown.
+  StationModes() = default;
+  explicit StationModes(StationMode mode) { Enter(mode); }
+
+  StationMode Mode() const { return mode_; }
+
+  // Buttons 0 to 3. `data` tells whether there are ships and equipment to list.
+  ModeAnswer Click(std::size_t button, const StationData& data);
+
+  std::array<ModeButton, kModeButtons> Buttons(const StationData& data, TextSource& texts) const;
+
+ private:
+  void Enter(StationMode mode);
+
+  StationMode mode_ = StationMode::Info;
+  StationMode priceMode_ = StationMode::Prices;
+};
+
+}  // namespace orrerix

@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+
+namespace orrerix {
+
+// Where a page goes.
+struct PrintTarget {
+  std::string Printer;         // the system's name of a printer
+  std::filesystem::path File;  // not empty: a PDF file in the printer's place
+};
+
+// Knows the printers of the machine.
+class Printers {
+ public:
+  virtual ~Printers() = default;
+
+  // The printer that the system prints on unless it is told otherwise; nothing if there is none.
+  virtual std::optional<PrintTarget> DefaultPrinter() = 0;
+};
+
+}  // namespace orrerix

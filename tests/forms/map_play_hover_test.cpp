@@ -1,0 +1,195 @@
+// SPDX-License-Identifier: MIT
+// Hovers and clicks on icons.
+#include <gmock/gmock.h>
+
+#include "map_play_fixture.h"
+
+namespace orrerix {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+using ::testing::SizeIs;
+
+// One cell of 8550 twips, icons of 200; the panel begins at 8550 + 100 twips.
+class MapPlayHoverTest : public MapPlayFixture {
+ protected:
+  MapPlayHoverTest() { Zoom({8, 10, 8, 10}); }
+
+  Box Hover(std::string_view nickname) {
+    Move(At(nickname));
+    return Shown("Shape1").empty() ? Box{} : Shown("Shape1").front()->Place;
+  }
+};
+
+TEST_F(MapPlayHoverTest, TheIconGrowsFromItsCornerAndItsBoxOpens) {
+  Hover("li01_nw_base");
+
+  // 0.1 x 8550 - 100
+  EXPECT_EQ(Icon("li01_nw_base").Place, (Box{755, 755, 600, 600}));
+  EXPECT_EQ(Shown("InfoText", 0)->Caption, "li01_nw_base");
+  EXPECT_EQ(Shown("Shape1", 0)->Shape, ShapeForm::RoundedRectangle);
+  EXPECT_THAT(Sounds(), ElementsAre("ui_secondary_window_open"));
+}
+
+TEST_F(MapPlayHoverTest, TheBoxKeepsClearOfTheIconInAllFourCorners) {
+  EXPECT_EQ(Hover("li01_nw_base").Top, 1455);  // 755 + 600 + 100
+  EXPECT_EQ(Hover("li01_nw_base").Left, 755);
+  Move({300, 300});
+
+  // A line as long as this does not fit between 7595 and the panel at 8650.
+  const Box ne = Hover("li01_ne_base");
+  EXPECT_EQ(ne.Top, 1455);
+  EXPECT_EQ(ne.Right(), 8195);  // 7595 + 600
+  Move({300, 300});
+
+  const Box sw = Hover("li01_sw_base");
+  EXPECT_EQ(sw.Bottom(), 7495);  // 7595 - 100
+  EXPECT_EQ(sw.Left, 755);
+  Move({300, 300});
+
+  const Box se = Hover("li01_se_base");
+  EXPECT_EQ(se.Bottom(), 7495);
+  EXPECT_EQ(se.Right(), 8195);  // 7595 + 600
+}
+
+TEST_F(MapPlayHoverTest, TheBoxIsAsLargeAsItsLettersOfOneWidthNeed) {
+  const Box box = Hover("li01_nw_base");
+
+  const QtTextMeasure measure(FixedFont);
+  EXPECT_EQ(box.Width, measure.TextWidth("li01_nw_base", 9) + 300);
+  EXPECT_EQ(box.Height, measure.TextHeight("li01_nw_base", 9) + 300);
+}
+
+TEST_F(MapPlayHoverTest, WhileABoxIsUpOtherIconsStayAsTheyAre) {
+  Hover("li01_nw_base");
+
+  Hover("li01_se_base");
+
+  EXPECT_EQ(Icon("li01_se_base").Place.Width, 200);
+  EXPECT_EQ(Shown("InfoText", 0)->Caption, "li01_nw_base");
+  EXPECT_THAT(Sounds(), SizeIs(1));
+}
+
+TEST_F(MapPlayHoverTest, AMoveOnTheMapEndsIt) {
+  Hover("li01_nw_base");
+
+  Move({300, 300});
+
+  EXPECT_THAT(Shown("Shape1"), IsEmpty());
+  EXPECT_THAT(Shown("InfoText"), IsEmpty());
+  EXPECT_EQ(Icon("li01_nw_base").Place, (Box{755, 755, 200, 200}));
+  EXPECT_EQ(redraws, 0);
+}
+
+TEST_F(MapPlayHoverTest, AMoveOntoTheBoxEndsIt) {
+  const Box box = Hover("li01_nw_base");
+
+  Move(Pixels(box).center().toPoint());
+
+  EXPECT_THAT(Shown("Shape1"), IsEmpty());
+}
+
+TEST_F(MapPlayHoverTest, AMoveOnThePanelLeavesItUp) {
+  Hover("li01_ne_base");
+
+  Move(OnPanel("StationSearch", 2));
+
+  EXPECT_THAT(Shown("Shape1"), SizeIs(1));
+}
+
+TEST_F(MapPlayHoverTest, ARedrawEndsItWithTheIconInItsOwnSize) {
+  Hover("li01_nw_base");
+
+  Redraw();
+
+  EXPECT_THAT(Shown("Shape1"), IsEmpty());
+  EXPECT_EQ(Icon("li01_nw_base").Place.Width, 200);
+}
+
+TEST_F(MapPlayHoverTest, AnotherBoxStaysThroughMovesAndRedrawsAndKeepsHoversAway) {
+  Control shape = MakeFrame("Shape1", std::nullopt, {5000, 0, 3650, 8550}, {0x400000});
+  shape.Shape = ShapeForm::Rectangle;
+  play.Box().Show({shape});
+
+  Move({100, 300});
+  Redraw();
+  Move(At("li01_nw_base"));
+
+  EXPECT_THAT(Shown("Shape1"), SizeIs(1));
+  EXPECT_EQ(Icon("li01_nw_base").Place.Width, 200);
+  play.Box().Hide();
+  EXPECT_THAT(Shown("Shape1"), IsEmpty());
+}
+
+TEST_F(MapPlayHoverTest, WithoutSoundFilesNothingIsSaidOfThem) {
+  std::filesystem::remove_all(folder.Path() / "DATA");
+
+  Hover("li01_nw_base");
+
+  EXPECT_THAT(Shown("Shape1"), SizeIs(1));
+  EXPECT_THAT(Sounds(), IsEmpty());
+  EXPECT_TRUE(messages.Shown.empty());
+}
+
+TEST_F(MapPlayHoverTest, AClickOnAnObjectOpensItsStation) {
+  Click(At("li01_nw_base"));
+
+  ASSERT_THAT(stations, SizeIs(1));
+  EXPECT_EQ(stations[0].first, "li01_nw_base");
+  EXPECT_EQ(stations[0].second, "WaterlooStation");
+  EXPECT_THAT(Sounds(), ElementsAre("ui_open_infocard_button"));
+  EXPECT_EQ(Visible(), (ZoomRectangle{8, 10, 8, 10}));
+}
+
+TEST_F(MapPlayHoverTest, EachClickOpensOneMore) {
+  Click(At("li01_nw_base"));
+  Click(At("li01_nw_base"));
+
+  EXPECT_THAT(stations, SizeIs(2));
+}
+
+TEST_F(MapPlayHoverTest, APressThatIsReleasedElsewhereIsNoClickAndNoDrag) {
+  Press(At("li01_nw_base"));
+  Move({300, 300});
+  Release({300, 300});
+
+  EXPECT_THAT(stations, IsEmpty());
+  EXPECT_EQ(sound.Beeps, 0);
+}
+
+TEST_F(MapPlayHoverTest, ARightClickOnAnIconIsNeitherAClickNorAStepBack) {
+  Click(At("li01_nw_base"), Qt::RightButton);
+
+  EXPECT_THAT(stations, IsEmpty());
+  EXPECT_EQ(Visible(), (ZoomRectangle{8, 10, 8, 10}));
+}
+
+TEST_F(MapPlayHoverTest, AnIconThatTheMapDoesNotKnowOpensNothing) {
+  const QPoint at = At("li01_nw_base");
+  db.Execute(mustWork, "DELETE FROM DockObjects");
+
+  Click(at);
+
+  EXPECT_THAT(stations, IsEmpty());
+  EXPECT_THAT(Sounds(), IsEmpty());
+}
+
+TEST_F(MapPlayHoverTest, IconsAnswerByTheirIndexAndUnknownOnesDoNothing) {
+  const int index = *Icon("li01_se_base").Index;
+
+  play.Image1MouseMove(0);
+  play.Image1Click(999);
+  EXPECT_THAT(Shown("Shape1"), IsEmpty());
+
+  play.SysmapFrameMouseMove(PointerButton::None, 0, 0);
+  play.Image1MouseMove(index);
+  play.Image1Click(index);
+
+  EXPECT_EQ(Shown("InfoText", 0)->Caption, "li01_se_base");
+  ASSERT_THAT(stations, SizeIs(1));
+  EXPECT_EQ(stations[0].first, "li01_se_base");
+}
+
+}  // namespace
+}  // namespace orrerix

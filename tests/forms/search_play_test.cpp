@@ -1,0 +1,174 @@
+// SPDX-License-Identifier: MIT
+#include "forms/search_play.h"
+
+#include <gmock/gmock.h>
+
+#include "map_play_fixture.h"
+
+namespace orrerix {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+using ::testing::SizeIs;
+
+// Gear is sold at one base of system Li01, whose bases are all called "Base".
+class SearchPlayTest : public MapPlayFixture {
+ protected:
+  SearchPlayTest() {
+    Add("DockObjects", {{"nickname", "quay"},
+                        {"realname", "Quay"},
+                        {"MapX", 3},
+                        {"MapY", 4},
+                        {"PosX", 0.5},
+                        {"PosY", 0.5},
+                        {"loadout", "space_station"}});
+    for (const char* name : {"beam", "lamp"}) {
+      Add("Goods", {{"nickname", name},
+                    {"realname", name},
+                    {"category", "equipment"},
+                    {"price", 5},
+                    {"ids_info", 0}});
+    }
+    Add("BaseGoods", {{"Base", "quay"}, {"GoodNick", "lamp"}});
+    Redraw();
+  }
+
+  template <typename Child = QWidget>
+  Child& Part(const char* name) {
+    return Find<Child>(map.Frame(), name);
+  }
+  QLineEdit& Text() { return Part<QLineEdit>("StSearchText"); }
+  QListWidget& Upper() { return Part<QListWidget>("SubSearch"); }
+  QListWidget& Lower() { return Part<QListWidget>("StSearchList"); }
+  bool InfoShown() { return Part("InfoText").isVisible(); }
+
+  SearchPlay search{map, Form(), play, log, language};
+};
+
+TEST_F(SearchPlayTest, PlacesAreFilteredAsTheUserTypes) {
+  search.StationSearchClick(SearchType::Place);
+  EXPECT_EQ(Lower().count(), 5);
+  EXPECT_FALSE(Upper().isVisible());
+
+  QTest::keyClicks(&Text(), "qu");
+
+  ASSERT_EQ(Lower().count(), 1);
+  EXPECT_EQ(Lower().item(0)->text(), "Quay");
+  EXPECT_EQ(Lower().currentRow(), 0);
+}
+
+TEST_F(SearchPlayTest, ThePanelStandsAtTheMapsRight) {
+  search.StationSearchClick(SearchType::Place);
+
+  // The frame is 14000 twips wide, the panel 4200, with 100 beside it: 9700 twips are 647 pixels.
+  EXPECT_EQ(Part("StSearchFrame").x(), 647);
+  EXPECT_EQ(Part("StSearchFrame").y(), 13);
+}
+
+TEST_F(SearchPlayTest, EquipmentIsListedWithItsBoxAndItsSellers) {
+  search.StationSearchClick(SearchType::Equipment);
+  EXPECT_EQ(Upper().count(), 2);
+  EXPECT_EQ(Lower().count(), 0);  // nobody sells the first
+  EXPECT_TRUE(InfoShown());
+
+  QTest::keyClick(&Text(), Qt::Key_Down);
+
+  EXPECT_EQ(Upper().currentRow(), 1);
+  ASSERT_EQ(Lower().count(), 1);
+  EXPECT_EQ(Lower().item(0)->text(), "Quay");
+}
+
+TEST_F(SearchPlayTest, AClickInTheUpperListShowsThatRow) {
+  search.StationSearchClick(SearchType::Equipment);
+
+  QTest::mouseClick(Upper().viewport(), Qt::LeftButton, {},
+                    Upper().visualItemRect(Upper().item(1)).center());
+
+  EXPECT_EQ(Lower().count(), 1);
+}
+
+TEST_F(SearchPlayTest, EnterOnAPlaceJumpsHoversAndOpensItsStation) {
+  search.StationSearchClick(SearchType::Place);
+  QTest::keyClicks(&Text(), "quay");
+
+  QTest::keyClick(&Text(), Qt::Key_Return);
+
+  EXPECT_FALSE(search.Visible());
+  EXPECT_EQ(Visible(), (ZoomRectangle{3, 4, 3, 4}));
+  EXPECT_EQ(Icon("quay").Place.Width, 600);
+  EXPECT_TRUE(play.Box().IsHoverBox());
+  EXPECT_THAT(stations, ElementsAre(testing::Pair("quay", testing::_)));
+}
+
+TEST_F(SearchPlayTest, EnterGoesThroughTheSellersToTheJump) {
+  search.StationSearchClick(SearchType::Equipment);
+  QTest::keyClicks(&Text(), "lamp");
+
+  QTest::keyClick(&Text(), Qt::Key_Return);
+  EXPECT_FALSE(Text().isVisible());
+  EXPECT_FALSE(Upper().isVisible());
+  EXPECT_THAT(stations, IsEmpty());
+  QTest::keyClick(&Lower(), Qt::Key_Return);
+
+  EXPECT_THAT(stations, SizeIs(1));
+  EXPECT_FALSE(InfoShown());
+}
+
+TEST_F(SearchPlayTest, ADoubleClickOnAPlaceJumpsToo) {
+  search.StationSearchClick(SearchType::Place);
+  const QPoint row = Lower().visualItemRect(Lower().item(4)).center();
+
+  QTest::mouseClick(Lower().viewport(), Qt::LeftButton, {}, row);
+  QTest::mouseDClick(Lower().viewport(), Qt::LeftButton, {}, row);
+
+  EXPECT_THAT(stations, ElementsAre(testing::Pair("quay", testing::_)));
+}
+
+TEST_F(SearchPlayTest, APlaceBesideTheGridIsAFailureAndTheMapStays) {
+  Add("DockObjects", {{"nickname", "void"}, {"realname", "Void"}, {"MapX", 50}, {"MapY", 4}});
+  search.StationSearchClick(SearchType::Place);
+  QTest::keyClicks(&Text(), "void");
+
+  QTest::keyClick(&Text(), Qt::Key_Return);
+
+  ASSERT_THAT(log.Failures(), SizeIs(1));
+  EXPECT_EQ(log.Failures()[0].Source, "OrrerixMain.StSearchList_DblClick");
+  EXPECT_EQ(log.Failures()[0].What.Number, 9);
+  EXPECT_THAT(stations, IsEmpty());
+}
+
+TEST_F(SearchPlayTest, EscapeAndTheCloseButtonHidePanelAndBox) {
+  search.StationSearchClick(SearchType::Equipment);
+  QTest::keyClick(&Text(), Qt::Key_Escape);
+  EXPECT_FALSE(search.Visible());
+  EXPECT_FALSE(InfoShown());
+  EXPECT_FALSE(play.Box().Visible());
+
+  search.StationSearchClick(SearchType::Equipment);
+  QTest::mouseClick(&Part("StSearchClose"), Qt::LeftButton);
+  EXPECT_FALSE(Part("StSearchFrame").isVisible());
+}
+
+TEST_F(SearchPlayTest, AQuoteIsAFailureAndThePanelGoesOn) {
+  search.StationSearchClick(SearchType::Place);
+
+  QTest::keyClicks(&Text(), "'");
+  EXPECT_EQ(Lower().count(), 0);
+  EXPECT_THAT(log.Failures(), SizeIs(1));
+  QTest::keyClick(&Text(), Qt::Key_Backspace);
+
+  EXPECT_EQ(Lower().count(), 5);
+}
+
+TEST_F(SearchPlayTest, EveryControlHasAnAccessibleName) {
+  search.StationSearchClick(SearchType::Equipment);
+
+  for (const char* name :
+       {"StSearchText", "SubSearch", "StSearchList", "StSearchClose", "InfoText"}) {
+    EXPECT_FALSE(Part(name).accessibleName().isEmpty()) << name;
+  }
+}
+
+}  // namespace
+}  // namespace orrerix

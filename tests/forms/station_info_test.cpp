@@ -1,0 +1,158 @@
+// SPDX-License-Identifier: MIT
+#include "forms/station_info.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QTest>
+
+#include "form_fixture.h"
+#include "support/station_fixture.h"
+
+namespace orrerix {
+namespace {
+
+// Pier Nine sells gold and a lamp; a mole in its system pays more for gold.
+class StationInfoTest : public StationFixture {
+ protected:
+  StationInfoTest() {
+    Place("pier", "Pier Nine");
+    Info(100, "A pier.");
+    Price("pier", "commodity_gold", 50, 2);
+    Price("mole", "commodity_gold", 90, 1);
+    Good("commodity_gold", "Gold", 40);
+    Add("commodity", {{"nickname", "commodity_gold"}, {"realname", "Gold"}});
+    Good("lamp", "Lamp", 12);
+    Good("beam", "Beam", 34);
+    Market("pier", "lamp");
+    Market("pier", "beam");
+  }
+
+  StationInfo& Window() {
+    if (!window_) {
+      window_ = std::make_unique<StationInfo>(
+          StationParts{log, pictures, sound, english, names, [this](Routine&) { return universe; }},
+          "pier", "Outpost");
+      window_->show();
+      PassEvents();
+    }
+    return *window_;
+  }
+  void ClickMode(int button) {
+    QTest::mouseClick(&Find(Window(), qPrintable(QStringLiteral("Mode_%1").arg(button))),
+                      Qt::LeftButton);
+  }
+  QString Text() { return Find<TextBox>(Window(), "InfoText").toPlainText(); }
+  PriceTableView& Prices() { return Find<PriceTableView>(Window(), "PriceTable"); }
+  QListWidget& List() { return Find<QListWidget>(Window(), "SearchList"); }
+
+  PictureStore pictures;
+  FakeSound sound;
+
+ private:
+  std::unique_ptr<StationInfo> window_;
+};
+
+TEST_F(StationInfoTest, ItOpensWithItsInfo) {
+  EXPECT_EQ(Window().Mode(), StationMode::Info);
+  EXPECT_EQ(Window().windowTitle(), "Pier Nine  Lantern [X=D.6/Y=4.5]");
+  EXPECT_TRUE(Text().contains("A pier."));
+  EXPECT_TRUE(Find(Window(), "InfoText").isVisible());
+  EXPECT_FALSE(Prices().isVisible());
+  EXPECT_FALSE(Find(Window(), "SearchFrame").isVisible());
+}
+
+TEST_F(StationInfoTest, ThePriceButtonShowsTradesAndThenPrices) {
+  ClickMode(0);
+  EXPECT_EQ(Window().Mode(), StationMode::Trades);
+  EXPECT_TRUE(Prices().isVisible());
+  EXPECT_FALSE(Find(Window(), "InfoText").isVisible());
+  EXPECT_EQ(Prices().model()->rowCount(), 5);  // three heads, gold, and gold at the mole
+
+  ClickMode(0);
+  EXPECT_EQ(Window().Mode(), StationMode::Prices);
+  EXPECT_EQ(Prices().model()->rowCount(), 4);
+  EXPECT_EQ(Prices().model()->index(1, 0).data().toString(), "Gold");
+  EXPECT_EQ(Prices().model()->index(1, 2).data().toString(), "10");
+}
+
+TEST_F(StationInfoTest, AnEmptyListOnlyBeeps) {
+  ClickMode(2);
+
+  EXPECT_EQ(sound.Beeps, 1);
+  EXPECT_EQ(Window().Mode(), StationMode::Info);
+  EXPECT_TRUE(Find(Window(), "InfoText").isVisible());
+}
+
+TEST_F(StationInfoTest, EquipmentIsListedBesideTheTextOfTheSelectedRow) {
+  ClickMode(3);
+  ASSERT_EQ(List().count(), 2);
+  EXPECT_EQ(List().currentRow(), 0);
+  EXPECT_TRUE(Text().contains("Price: 12"));
+
+  QTest::keyClick(&List(), Qt::Key_Down);
+
+  EXPECT_TRUE(Text().contains("Price: 34"));
+}
+
+TEST_F(StationInfoTest, AListTakesTypedLetters) {
+  ClickMode(3);
+
+  QTest::keyClicks(&List(), "be");
+
+  EXPECT_EQ(List().currentItem()->text(), "Beam");
+}
+
+TEST_F(StationInfoTest, ResizingTheWindowWrapsTheTextAnew) {
+  Window().resize(900, 500);
+  PassEvents();
+  const auto wide = Text().count('\n');
+
+  Window().resize(300, 500);
+  PassEvents();
+
+  EXPECT_GT(Text().count('\n'), wide);
+}
+
+TEST_F(StationInfoTest, AChosenRowOutlivesAResize) {
+  ClickMode(3);
+  List().setCurrentRow(1);
+
+  Window().resize(900, 500);
+  PassEvents();
+
+  EXPECT_EQ(List().currentRow(), 1);
+  EXPECT_TRUE(Text().contains("Price: 34"));
+}
+
+TEST_F(StationInfoTest, RowsOfPricesCanBeCopied) {
+  ClickMode(0);
+  Prices().selectRow(1);
+
+  QTest::keyClick(&Prices(), Qt::Key_C, Qt::ControlModifier);
+
+  EXPECT_EQ(QGuiApplication::clipboard()->text(), "Gold\t50\t10");
+}
+
+TEST_F(StationInfoTest, EscapeClosesIt) {
+  bool closed = false;
+  Window().OnClosed = [&] { closed = true; };
+  Window().activateWindow();
+  ASSERT_TRUE(WaitUntil([&] { return Window().isActiveWindow(); }));
+
+  QTest::keyClick(&Window(), Qt::Key_Escape);
+
+  EXPECT_TRUE(closed);
+  EXPECT_FALSE(Window().isVisible());
+}
+
+TEST_F(StationInfoTest, EveryControlHasAnAccessibleNameAndIsReachedByTab) {
+  for (const char* name :
+       {"Mode_0", "Mode_1", "Mode_2", "Mode_3", "InfoText", "PriceTable", "SearchList"}) {
+    QWidget& control = Find(Window(), name);
+    EXPECT_FALSE(control.accessibleName().isEmpty()) << name;
+    EXPECT_TRUE(control.focusPolicy() & Qt::TabFocus) << name;
+  }
+}
+
+}  // namespace
+}  // namespace orrerix

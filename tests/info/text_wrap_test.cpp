@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+#include "info/text_wrap.h"
+
+#include <gtest/gtest.h>
+
+namespace orrerix {
+namespace {
+
+// A character of one point is 12 twips wide.
+std::string Wrap(std::string_view text, int characters) {
+  return WrapText(text, FixedTextMeasure(), 1, characters * 12);
+}
+
+TEST(WrapText, ALineThatFitsKeepsABlankBeforeItsEnd) {
+  EXPECT_EQ(Wrap("ab cd", 20), "ab cd \r\n");
+}
+
+TEST(WrapText, AnEmptyTextStaysEmpty) {
+  EXPECT_EQ(Wrap("", 20), "");
+}
+
+TEST(WrapText, LineEndsStay) {
+  EXPECT_EQ(Wrap("\r\nab\r\n\r\ncd", 20), "\r\nab \r\n\r\ncd \r\n");
+}
+
+TEST(WrapText, BehindALineEndThatStandsAloneTheNextLineIsTakenAsItIs) {
+  EXPECT_EQ(Wrap("\r\n\r\nab", 20), "\r\n \r\nab \r\n");
+}
+
+TEST(WrapText, ALineThatIsAsWideAsTheBoxIsBroken) {
+  // "abc def" and its blank are 8 characters: not less than 8. The next word with its blank is 4,
+  // and 3 + 4 is less than 8.
+  EXPECT_EQ(Wrap("abc def", 9), "abc def \r\n");
+  EXPECT_EQ(Wrap("abc def", 8), "abc def\r\n");
+  EXPECT_EQ(Wrap("abc def", 7), "abc\r\ndef \r\n");
+}
+
+TEST(WrapText, WordsAreCollectedWhileTheyFit) {
+  EXPECT_EQ(Wrap("one two three four five", 10), "one two\r\nthree\r\nfour five\r\n");
+}
+
+TEST(WrapText, AWordThatIsTooWideStandsOnALineOfItsOwn) {
+  EXPECT_EQ(Wrap("a incomprehensible b", 6), "a\r\nincomprehensible\r\nb \r\n");
+}
+
+TEST(WrapText, WithoutRoomEachWordHasItsLine) {
+  EXPECT_EQ(Wrap("a b", -5), "a\r\nb\r\n");
+}
+
+}  // namespace
+}  // namespace orrerix
