@@ -9,30 +9,52 @@ namespace orrerix {
 
 namespace {
 
+// The halves are two buttons: a gap between them lets the ground through.
+constexpr double HalfGap = 3;
+constexpr double EdgeWidth = 1.6;
+
 QPainterPath Frame() {
   QPainterPath frame;
-  frame.addRoundedRect(QRectF(1, 1, LogoWidth - 2, LogoHeight - 2), 14, 14);
+  frame.addRoundedRect(QRectF(1, 1, LogoWidth - 2, LogoHeight - 2), 12, 12);
   return frame;
 }
 
 QPainterPath LowerLeft() {
-  QPainterPath half({0, 0});
-  half.lineTo(LogoWidth, LogoHeight);
-  half.lineTo(0, LogoHeight);
+  QPainterPath half({0, HalfGap});
+  half.lineTo(LogoWidth, LogoHeight + HalfGap);
+  half.lineTo(0, LogoHeight + HalfGap);
   half.closeSubpath();
-  return half;
+  return half.intersected(Frame());
 }
 
-void DrawSeam(QPainter& painter) {
-  const QPointF corner(LogoWidth, LogoHeight);
-  painter.setPen(QPen(QColor(20, 12, 4, 170), 4));
-  painter.drawLine(QPointF(0, 0), corner);
-  QLinearGradient gold(QPointF(0, 0), corner);
-  gold.setColorAt(0, QColor(150, 110, 50));
-  gold.setColorAt(0.5, QColor(255, 236, 180));
-  gold.setColorAt(1, QColor(150, 110, 50));
-  painter.setPen(QPen(gold, 1.8));
-  painter.drawLine(QPointF(0, 0), corner);
+QPainterPath UpperRight() {
+  QPainterPath half({0, -HalfGap});
+  half.lineTo(LogoWidth, LogoHeight - HalfGap);
+  half.lineTo(LogoWidth, -HalfGap);
+  half.closeSubpath();
+  return half.intersected(Frame());
+}
+
+void DrawEdge(QPainter& painter, const QPainterPath& half, QColor light, QColor shade) {
+  QLinearGradient metal(0, 0, LogoWidth, LogoHeight);
+  metal.setColorAt(0, shade);
+  metal.setColorAt(0.5, light);
+  metal.setColorAt(1, shade);
+  painter.setClipping(false);
+  painter.setBrush(Qt::NoBrush);
+  painter.setPen(QPen(metal, EdgeWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  painter.drawPath(half);
+}
+
+// The sign of a link: an arrow that leaves a corner, on a dark disc.
+void DrawLinkSign(QPainter& painter, QPointF middle, QColor color) {
+  painter.setPen(QPen(color, 1.2));
+  painter.setBrush(QColor(4, 8, 22, 190));
+  painter.drawEllipse(middle, 10, 10);
+  painter.setPen(QPen(color, 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  const QPointF tip = middle + QPointF(4, -4);
+  painter.drawLine(middle + QPointF(-4, 4), tip);
+  painter.drawPolyline(QPolygonF({tip + QPointF(-6, 0), tip, tip + QPointF(0, 6)}));
 }
 
 }  // namespace
@@ -43,17 +65,16 @@ QImage PaintLogo(int scale) {
   QPainter painter(&image);
   painter.setRenderHint(QPainter::Antialiasing);
   painter.scale(scale, scale);
-  const QPainterPath frame = Frame();
-  painter.setClipPath(frame);
+  painter.setClipPath(UpperRight());
   painter.drawImage(QRectF(0, 0, LogoWidth, LogoHeight), PaintLogoSky(scale));
-  painter.setClipPath(frame.intersected(LowerLeft()));
+  painter.setClipPath(LowerLeft());
   DrawLogoMachine(painter);
-  painter.setClipPath(frame);
-  DrawSeam(painter);
-  painter.setClipping(false);
-  painter.setBrush(Qt::NoBrush);
-  painter.setPen(QPen(QColor(176, 140, 76), 2));
-  painter.drawPath(frame);
+  const QColor brass(255, 226, 156);
+  const QColor sky(190, 226, 255);
+  DrawEdge(painter, LowerLeft(), brass, QColor(150, 110, 50));
+  DrawEdge(painter, UpperRight(), sky, QColor(70, 110, 180));
+  DrawLinkSign(painter, {22, LogoHeight - 22}, brass);
+  DrawLinkSign(painter, {LogoWidth - 22, 22}, sky);
   return image;
 }
 

@@ -17,7 +17,7 @@ QPointF PointOnRing(double radius, double turn) {
 
 // Night blue metal with the fine lines of a drawing on it.
 void DrawPlate(QPainter& painter) {
-  QLinearGradient metal(0, LogoHeight, 260, 40);
+  QLinearGradient metal(0, LogoHeight, 300, 20);
   metal.setColorAt(0, QColor(10, 20, 44));
   metal.setColorAt(1, QColor(26, 44, 78));
   painter.fillRect(QRectF(0, 0, LogoWidth, LogoHeight), metal);
@@ -74,11 +74,11 @@ void DrawRing(QPainter& painter, double radius) {
   QPainterPath ring(PointOnRing(radius, 0));
   for (int i = 1; i <= 180; ++i) ring.lineTo(PointOnRing(radius, i / 180.0));
   painter.setBrush(Qt::NoBrush);
-  painter.setPen(QPen(QColor(0, 0, 0, 100), 6));
+  painter.setPen(QPen(QColor(0, 0, 0, 100), 5));
   painter.drawPath(ring.translated(2, 4));
-  painter.setPen(QPen(QColor(74, 46, 16), 6));
+  painter.setPen(QPen(QColor(74, 46, 16), 5));
   painter.drawPath(ring);
-  painter.setPen(QPen(Brass(Middle, radius), 4.6));
+  painter.setPen(QPen(Brass(Middle, radius), 3.8));
   painter.drawPath(ring);
   painter.setPen(QPen(QColor(84, 54, 18, 200), 0.7));
   const int marks = static_cast<int>(radius / 58 * 36);
@@ -113,9 +113,9 @@ void DrawArm(QPainter& painter, QPointF end) {
 
 void DrawLogoMachine(QPainter& painter) {
   DrawPlate(painter);
-  DrawGear(painter, {62, 238}, 46, 26, 0.01);
-  DrawGear(painter, {133, 262}, 31, 18, 0.015);
-  DrawGear(painter, {24, 168}, 36, 20, 0.02);
+  DrawGear(painter, {78, 104}, 40, 24, 0.01);
+  DrawGear(painter, {139, 134}, 29, 18, 0.015);
+  DrawGear(painter, {24, 66}, 27, 16, 0.02);
   for (const OrreryRing& ring : OrreryRings) DrawRing(painter, ring.Radius);
   for (const OrreryRing& ring : OrreryRings) {
     DrawArm(painter, PointOnRing(ring.Radius, ring.Turn));

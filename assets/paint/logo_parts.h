@@ -8,8 +8,8 @@
 
 namespace orrerix {
 
-constexpr int LogoWidth = 400;
-constexpr int LogoHeight = 300;
+constexpr int LogoWidth = 640;
+constexpr int LogoHeight = 160;
 
 // One ring of the orrery and the world on it. Both halves of the emblem draw the same rings.
 struct OrreryRing {
@@ -19,9 +19,9 @@ struct OrreryRing {
 };
 
 constexpr std::array<OrreryRing, 4> OrreryRings{
-    {{58, 0.86, 6}, {96, 0.36, 9}, {136, 0.995, 12}, {174, 0.43, 8}}};
+    {{66, 0.86, 5}, {118, 0.38, 8}, {176, 0.965, 10}, {240, 0.44, 7}}};
 
-constexpr double SunRadius = 26;
+constexpr double SunRadius = 24;
 
 // The point of a ring at an angle in turns, on the tilted plane of the orrery.
 Spot OnRing(double radius, double turn);

@@ -60,16 +60,16 @@ void DrawWorlds(Canvas& canvas) {
     DrawPlanet(canvas, {OnRing(ring.Radius, ring.Turn), ring.World * 1.25, middle, kinds[i], false,
                         LogoSeed + i});
   }
-  DrawPlanet(canvas, {{292, 44}, 19, middle, PlanetKind::Giant, true, LogoSeed + 9});
+  DrawPlanet(canvas, {{524, 44}, 17, middle, PlanetKind::Giant, true, LogoSeed + 9});
 }
 
 }  // namespace
 
 Spot OnRing(double radius, double turn) {
-  constexpr double tilt = -0.30;
+  constexpr double tilt = -0.11;
   const double angle = turn * FullTurn;
   const double along = radius * std::cos(angle);
-  const double across = radius * 0.46 * std::sin(angle);
+  const double across = radius * 0.25 * std::sin(angle);
   return {LogoWidth / 2.0 + along * std::cos(tilt) - across * std::sin(tilt),
           LogoHeight / 2.0 + along * std::sin(tilt) + across * std::cos(tilt)};
 }

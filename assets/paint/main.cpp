@@ -3,35 +3,53 @@
 #include <QDir>
 #include <QGuiApplication>
 #include <QTextStream>
+#include <utility>
 
 #include "borders.h"
 #include "info_box.h"
 #include "logo.h"
 #include "space.h"
+#include "station_strip.h"
 #include "system_cells.h"
 
 namespace {
 
+// A finer picture is shown where each of its pixels is small: what a lower quality leaves out is
+// not seen there.
 constexpr int JpegQuality = 85;
+constexpr int FineJpegQuality = 76;
 
-// Writes pictures below one folder and remembers whether one could not be written.
+// Writes pictures of one scale below a folder and remembers whether one could not be written.
 class Gallery {
  public:
-  explicit Gallery(const QString& folder) : folder_(folder) {}
+  Gallery(const QString& folder, int scale, QString only)
+      : folder_(folder), scale_(scale), only_(std::move(only)) {}
 
   bool Complete() const { return complete_; }
 
-  void Hang(const QString& name, const QImage& picture) {
-    const QString path = folder_.filePath(name);
+  // `paint` answers the picture at a scale. Its name gets "@2x" and so on before its ending when
+  // the scale is not 1.
+  template <typename Paint>
+  void Hang(const QString& name, Paint paint) {
+    if (!name.startsWith(only_)) return;
+    const bool isJpeg = name.endsWith(QLatin1String(".jpg"));
+    const int quality = !isJpeg ? -1 : scale_ == 1 ? JpegQuality : FineJpegQuality;
+    const QString path = folder_.filePath(ScaledName(name));
     folder_.mkpath(QFileInfo(name).path());
-    if (picture.save(path, nullptr, name.endsWith(QLatin1String(".jpg")) ? JpegQuality : -1))
-      return;
+    if (paint(scale_).save(path, nullptr, quality)) return;
     QTextStream(stderr) << "cannot write " << path << '\n';
     complete_ = false;
   }
 
  private:
+  QString ScaledName(QString name) const {
+    if (scale_ == 1) return name;
+    return name.insert(name.lastIndexOf('.'), QStringLiteral("@%1x").arg(scale_));
+  }
+
   QDir folder_;
+  int scale_;
+  QString only_;
   bool complete_ = true;
 };
 
@@ -39,28 +57,29 @@ QString SystemName(int picture) {
   return QStringLiteral("systems/%1.jpg").arg(picture, 2, 10, QLatin1Char('0'));
 }
 
-void PaintSpace(Gallery& gallery, int scale) {
-  gallery.Hang(QStringLiteral("star_map.jpg"), orrerix::PaintUniverse(scale));
-  gallery.Hang(QStringLiteral("hintergrund.png"), orrerix::PaintBackgroundTile(scale));
-  gallery.Hang(QStringLiteral("blanko.jpg"), orrerix::PaintEmptySpace(scale));
+void PaintSpace(Gallery& gallery) {
+  gallery.Hang(QStringLiteral("star_map.jpg"), orrerix::PaintUniverse);
+  gallery.Hang(QStringLiteral("hintergrund.png"), orrerix::PaintBackgroundTile);
+  gallery.Hang(QStringLiteral("blanko.jpg"), orrerix::PaintEmptySpace);
   for (int i = 0; i < orrerix::SystemPictures; ++i) {
-    gallery.Hang(SystemName(i), orrerix::PaintSystem(i, scale));
+    gallery.Hang(SystemName(i), [i](int scale) { return orrerix::PaintSystem(i, scale); });
   }
 }
 
-void PaintBorders(Gallery& gallery, int scale) {
+void PaintBorders(Gallery& gallery) {
   for (int set = 0; set < orrerix::BorderSets; ++set) {
     for (int piece = 0; piece < orrerix::BorderPieces; ++piece) {
       gallery.Hang(QStringLiteral("rahmen/set%1_%2.png").arg(set).arg(piece),
-                   orrerix::PaintBorderPiece(set, piece, scale));
+                   [=](int scale) { return orrerix::PaintBorderPiece(set, piece, scale); });
     }
   }
 }
 
-void PaintPanel(Gallery& gallery, int scale) {
-  gallery.Hang(QStringLiteral("itac_head.png"), orrerix::PaintHeadBand(scale));
-  gallery.Hang(QStringLiteral("itac_background.jpg"), orrerix::PaintInfoBackground(scale));
-  gallery.Hang(QStringLiteral("logo.png"), orrerix::PaintLogo(scale));
+void PaintPanel(Gallery& gallery) {
+  gallery.Hang(QStringLiteral("itac_head.png"), orrerix::PaintHeadBand);
+  gallery.Hang(QStringLiteral("itac_background.jpg"), orrerix::PaintInfoBackground);
+  gallery.Hang(QStringLiteral("logo.png"), orrerix::PaintLogo);
+  gallery.Hang(QStringLiteral("station/strip.jpg"), orrerix::PaintStationStrip);
 }
 
 }  // namespace
@@ -74,14 +93,17 @@ int main(int argc, char** argv) {
   const QCommandLineOption scaleOption(QStringLiteral("scale"),
                                        QStringLiteral("pixels for each natural pixel, 1 to 4"),
                                        QStringLiteral("N"), QStringLiteral("1"));
-  parser.addOption(scaleOption);
+  const QCommandLineOption onlyOption(QStringLiteral("only"),
+                                      QStringLiteral("only pictures whose names begin so"),
+                                      QStringLiteral("NAME"));
+  parser.addOptions({scaleOption, onlyOption});
   parser.process(application);
   const int scale = parser.value(scaleOption).toInt();
   if (parser.positionalArguments().size() != 1 || scale < 1 || scale > 4) parser.showHelp(2);
 
-  Gallery gallery(parser.positionalArguments().constFirst());
-  PaintSpace(gallery, scale);
-  PaintBorders(gallery, scale);
-  PaintPanel(gallery, scale);
+  Gallery gallery(parser.positionalArguments().constFirst(), scale, parser.value(onlyOption));
+  PaintSpace(gallery);
+  PaintBorders(gallery);
+  PaintPanel(gallery);
   return gallery.Complete() ? 0 : 1;
 }

@@ -9,6 +9,16 @@ Point3 InNoise(GridPoint place, double frequency, double slice) {
   return {place.Column * frequency, place.Row * frequency, slice};
 }
 
+// Thin gas over a dark sky looks greyer than its palette; this gives it the hue back.
+Rgb Vivid(Rgb light) {
+  constexpr double chroma = 1.4;
+  const double grey = 0.2126 * light.R + 0.7152 * light.G + 0.0722 * light.B;
+  const auto channel = [grey](double value) {
+    return std::fmax(0.0, grey + (value - grey) * chroma);
+  };
+  return {channel(light.R), channel(light.G), channel(light.B)};
+}
+
 }  // namespace
 
 Nebula::Nebula(std::uint64_t seed)
@@ -35,7 +45,7 @@ Rgb Nebula::Light(GridPoint place, const Palette& palette, const GasView& view) 
   const double thick = here * here;
   const Rgb light = palette.Veil * (0.22 + 0.85 * here) + body * (0.42 * thick + 0.35 * rim) +
                     palette.Heart * (0.20 * thick * thick + 0.22 * rim * here);
-  return light * (palette.Bright * Clear(place, view));
+  return Vivid(light) * (palette.Bright * Clear(place, view));
 }
 
 double Nebula::Clear(GridPoint place, const GasView& view) const {

@@ -13,5 +13,6 @@ constexpr std::uint64_t TileSeed = 77;
 constexpr std::uint64_t EmptySeed = 78;
 constexpr std::uint64_t PanelSeed = 512;
 constexpr std::uint64_t LogoSeed = 1704;
+constexpr std::uint64_t StationSeed = 1610;
 
 }  // namespace orrerix

@@ -101,8 +101,8 @@ double InnerLight(Spot at) {
 void DrawGas(Canvas& canvas, int picture, const SystemPlan& plan, SplitMix64& dice) {
   const Nebula nebula(GasSeed);
   const GridPoint middle = MiddleOfSystem(picture);
-  const GasView view{dice.Range(0.95, 1.5), 7, dice.Range(-0.25, 0.30)};
-  const GasView wide{0.45, 5, 0.35};
+  const GasView view{dice.Range(0.95, 1.5), 7, dice.Range(-0.12, 0.34)};
+  const GasView wide{0.45, 6, 0.45};
   const Sun& sun = plan.Suns.front();
   canvas.Fill([&](Spot at) {
     const GridPoint place{middle.Column - 0.5 + at.X / SystemWidth,
@@ -110,8 +110,8 @@ void DrawGas(Canvas& canvas, int picture, const SystemPlan& plan, SplitMix64& di
     const Palette palette = PaletteAt(place);
     const double r = std::hypot(at.X - sun.Middle.X, at.Y - sun.Middle.Y) / 95;
     const Rgb lamp = Rgb{1, 1, 1} + sun.Color * (1.6 * sun.Glow / (1 + r * r));
-    const Rgb gas = nebula.Light(place, palette, view) * lamp * 0.50;
-    const Rgb far = nebula.Light(place, palette, wide) * 0.16;
+    const Rgb gas = nebula.Light(place, palette, view) * lamp * 0.58;
+    const Rgb far = nebula.Light(place, palette, wide) * 0.42;
     return FromScreen(0x03060F) + (gas + far) * InnerLight(at);
   });
 }

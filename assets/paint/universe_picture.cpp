@@ -38,7 +38,7 @@ void DrawGas(Canvas& canvas) {
     const GasView near{0.34, 7, settled * 1.3 - 0.65};
     const GasView far{0.13, 6, 0.1};
     const Rgb sky = FromScreen(0x03060E);
-    return sky + nebula.Light(place, palette, near) * (0.12 + 0.68 * settled) +
+    return sky + nebula.Light(place, palette, near) * (0.14 + 0.86 * settled) +
            distant.Light(place, palette, far) * 0.10;
   });
 }

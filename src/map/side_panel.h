@@ -31,7 +31,7 @@ struct PanelContent {
   std::array<std::string, 5> ToolTips;  // StationSearch(0) to (4)
   std::vector<NewsItem> News;           // element 0 is the program's own
   double LogoWidth = 4;                 // natural size of the logo, in any unit
-  double LogoHeight = 3;
+  double LogoHeight = 1;
 };
 
 // The captions from a language's texts, without news but the program's own line.

@@ -24,6 +24,9 @@ constexpr int kSmallestFont = 6;
 // Its edges may go to the next whole pixel.
 constexpr double kSnapMargin = 1;
 
+constexpr Color kTradeLaneBlue{0xFF0000};
+constexpr QColor kHalo(150, 190, 255, 190);
+
 QRectF BoxOf(const Control& control) {
   return {0, 0, Pixels(control.Place.Width), Pixels(control.Place.Height)};
 }
@@ -67,15 +70,26 @@ class LineItem : public ControlItem {
   }
 
   QRectF boundingRect() const override {
-    return QRectF(line_.p1(), line_.p2()).normalized().adjusted(-1, -1, 1, 1);
+    return QRectF(line_.p1(), line_.p2()).normalized().adjusted(-2, -2, 2, 2);
   }
   QPainterPath shape() const override { return {}; }
   void paint(QPainter* painter, const QStyleOptionGraphicsItem*, QWidget*) override {
-    painter->setPen(PenOf(Shown(), painter->device()->devicePixelRatioF()));
+    const double ratio = painter->device()->devicePixelRatioF();
+    if (Shown().BorderColor == kTradeLaneBlue) DrawHalo(*painter, ratio);
+    painter->setPen(PenOf(Shown(), ratio));
     painter->drawLine(line_);
   }
 
  private:
+  // Pure blue is hardly seen on a dark sky. Between two light edges it is, and whoever sees no
+  // blue tells a lane from a gate's line by them.
+  void DrawHalo(QPainter& painter, double devicePixelRatio) const {
+    QPen pen(kHalo, 3 * devicePixelRatio);
+    pen.setCosmetic(true);
+    painter.setPen(pen);
+    painter.drawLine(line_);
+  }
+
   // A pixel wide at every zoom; a logical one where the screen's own are finer.
   static QPen PenOf(const Control& control, double devicePixelRatio) {
     QPen pen(ToQColor(control.BorderColor), devicePixelRatio);

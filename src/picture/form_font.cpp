@@ -23,7 +23,7 @@ QFont Sized(const QStringList& families, int points) {
 }  // namespace
 
 QFont FormFont(int points) {
-  QFont font = Sized({"Arial", "Liberation Sans", "DejaVu Sans"}, points);
+  QFont font = Sized({"Liberation Sans", "Arial", "DejaVu Sans"}, points);
   font.setStyleHint(QFont::SansSerif);
   return font;
 }

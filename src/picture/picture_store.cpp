@@ -38,6 +38,12 @@ QRect SnappedToPixels(const QRectF& place) {
                                            static_cast<int>(std::ceil(place.height() - nothing)))};
 }
 
+QString VariantName(QString file, int scale) {
+  const auto ending = file.lastIndexOf('.');
+  if (scale == 1 || ending < 0) return file;
+  return file.insert(ending, QStringLiteral("@%1x").arg(scale));
+}
+
 // Halves a picture until another half would be nothing. All are made when the picture is read, so
 // that no new size has to look at more than four pixels for one of its own.
 std::vector<QImage> LevelsOf(QImage picture) {
@@ -81,8 +87,30 @@ QSize PictureStore::NaturalSize(const QString& file) {
   return source.Levels.empty() ? QSize() : source.Levels.front().size();
 }
 
+const std::vector<int>& PictureStore::ScalesOf(const QString& file) {
+  const auto found = scales_.find(file);
+  if (found != scales_.end()) return found->second;
+  std::vector<int> scales;
+  for (const int scale : {2, 3, 4}) {
+    const QString variant = VariantName(file, scale);
+    if (variant != file && QFile::exists(variant)) scales.push_back(scale);
+  }
+  return scales_.emplace(file, std::move(scales)).first->second;
+}
+
+QString PictureStore::VariantFor(const QString& file, QSize size) {
+  const QSize natural = NaturalSize(file);
+  int chosen = 1;
+  for (const int scale : ScalesOf(file)) {
+    const QSize covered = natural * chosen;
+    if (covered.width() >= size.width() && covered.height() >= size.height()) break;
+    chosen = scale;
+  }
+  return VariantName(file, chosen);
+}
+
 QPixmap PictureStore::Render(const QString& file, QSize size) {
-  const Source& source = SourceOf(file);
+  const Source& source = SourceOf(VariantFor(file, size));
   if (source.Drawing) {
     QImage image(size, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
@@ -111,8 +139,9 @@ QPixmap PictureStore::Scaled(const QString& file, QSize size) {
   return pixmap;
 }
 
-void PictureStore::DrawSource(QPainter& painter, const QString& file, const QRectF& place) {
-  const Source& source = SourceOf(file);
+void PictureStore::DrawSource(QPainter& painter, const QString& file, const QRectF& place,
+                              QSize pixels) {
+  const Source& source = SourceOf(VariantFor(file, pixels));
   if (source.Drawing) {
     source.Drawing->render(&painter, place);
   } else if (!source.Levels.empty()) {
@@ -125,15 +154,17 @@ void PictureStore::DrawPart(QPainter& painter, const QString& file, const QRect&
                             const QRect& part) {
   painter.save();
   painter.setClipRect(part, Qt::IntersectClip);
-  DrawSource(painter, file, target);
+  DrawSource(painter, file, target, target.size());
   painter.restore();
 }
 
 void PictureStore::Draw(QPainter& painter, const QString& file, const QRectF& place,
                         const QRectF& seen) {
   if (file.isEmpty() || place.isEmpty() || seen.isEmpty()) return;
-  if (!IsRaster(painter)) return DrawSource(painter, file, place);
   const QTransform toDevice = painter.deviceTransform();
+  if (!IsRaster(painter)) {
+    return DrawSource(painter, file, place, toDevice.mapRect(place).size().toSize());
+  }
   const QRect target = SnappedToPixels(toDevice.mapRect(place));
   const QRect part = SnappedToPixels(toDevice.mapRect(seen)).intersected(target);
   if (part.isEmpty()) return;

@@ -14,6 +14,9 @@
 
 namespace orrerix {
 
+// A picture file may have finer brothers, painted at two to four times its size: "name@2x.jpg"
+// beside "name.jpg". Whatever a picture is shown at, it is made out of the smallest of them that
+// need not be enlarged.
 class PictureStore {
  public:
   PictureStore();
@@ -28,6 +31,9 @@ class PictureStore {
   void Draw(QPainter& painter, const QString& file, const QRectF& place) {
     Draw(painter, file, place, place);
   }
+
+  // The file, or the brother of it, that a size in device pixels is made out of.
+  QString VariantFor(const QString& file, QSize size);
 
   // The picture in a size in device pixels, smoothly made out of the next larger level.
   QPixmap Scaled(const QString& file, QSize size);
@@ -57,11 +63,13 @@ class PictureStore {
   };
 
   const Source& SourceOf(const QString& file);
+  const std::vector<int>& ScalesOf(const QString& file);
   QPixmap Render(const QString& file, QSize size);
-  void DrawSource(QPainter& painter, const QString& file, const QRectF& place);
+  void DrawSource(QPainter& painter, const QString& file, const QRectF& place, QSize pixels);
   void DrawPart(QPainter& painter, const QString& file, const QRect& target, const QRect& part);
 
   std::unordered_map<QString, Source> sources_;
+  std::unordered_map<QString, std::vector<int>> scales_;  // of the brothers that a file has
   QCache<SizedFile, QPixmap> scaled_;
 };
 

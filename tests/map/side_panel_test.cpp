@@ -132,7 +132,7 @@ TEST_F(Panel, TheReducedPanelShowsNewsAndLogo) {
 
   EXPECT_EQ(Find(panel.Controls, "MenuFrame", 2)->Place, (Box{0, 0, 12000, 3000}));
   EXPECT_EQ(Find(panel.Controls, "InfoBoxLabel", 0)->Place.Top, 0);
-  // 3000 - 100 high, 4 : 3; its right edge 50 twips from the panel's.
+  // 3000 - 100 high, 4 : 1; its right edge 50 twips from the panel's.
   EXPECT_DOUBLE_EQ(Find(panel.Controls, "ImageClan", std::nullopt)->Place.Height, 2900);
   EXPECT_EQ(Find(panel.Controls, "StationSearch", 0), nullptr);
 }

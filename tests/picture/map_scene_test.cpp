@@ -111,6 +111,28 @@ TEST_F(MapSceneTest, OnAFineScreenTheyAreAsWideAsOnACoarseOne) {
   EXPECT_EQ(bright, 2);
 }
 
+// Blue alone is a seventh as bright as white; its edges are seen instead.
+TEST_F(MapSceneTest, ATradeLaneIsBlueBetweenLightEdges) {
+  drawing.Controls = {Line(0, 757, 1500, 757, {0xFF0000})};
+
+  const QImage image = Rendered();
+
+  EXPECT_EQ(image.pixelColor(50, 50), QColor(Qt::blue));
+  EXPECT_GT(image.pixelColor(50, 49).green(), 100);
+  EXPECT_GT(image.pixelColor(50, 51).green(), 100);
+  EXPECT_EQ(image.pixelColor(50, 48), QColor(Qt::black));
+  EXPECT_EQ(image.pixelColor(50, 52), QColor(Qt::black));
+}
+
+TEST_F(MapSceneTest, LinesOfJumpsHaveNoEdges) {
+  drawing.Controls = {Line(0, 757, 1500, 757, {0xFFFFFF})};
+
+  const QImage image = Rendered();
+
+  EXPECT_EQ(image.pixelColor(50, 49), QColor(Qt::black));
+  EXPECT_EQ(image.pixelColor(50, 51), QColor(Qt::black));
+}
+
 TEST_F(MapSceneTest, ADottedLineHasGaps) {
   Control line = Line(0, 750, 1500, 750, {0x808080});
   line.Style = LineStyle::Dotted;

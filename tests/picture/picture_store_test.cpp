@@ -136,6 +136,57 @@ TEST_F(PictureStoreTest, WhatIsClearInAPictureIsClearInAnySize) {
   }
 }
 
+// The picture in 10 by 10 pixels is red, that of twice the size green, that of four times blue.
+class PictureVariantsTest : public PictureStoreTest {
+ protected:
+  QString Save(const char* name, QColor color, QSize size) {
+    QImage image(size, QImage::Format_RGB32);
+    image.fill(color);
+    QString path = QString::fromStdString((folder.Path() / name).string());
+    image.save(path);
+    return path;
+  }
+
+  QColor ColorAt(QSize size) { return store.Scaled(file, size).toImage().pixelColor(1, 1); }
+
+  const QString file = Save("sky.png", Qt::red, {10, 10});
+  const QString twice = Save("sky@2x.png", Qt::green, {20, 20});
+  const QString fourTimes = Save("sky@4x.png", Qt::blue, {40, 40});
+};
+
+TEST_F(PictureVariantsTest, TheSmallestFileThatNeedNotBeEnlargedIsTaken) {
+  EXPECT_EQ(ColorAt({5, 5}), QColor(Qt::red));
+  EXPECT_EQ(ColorAt({10, 10}), QColor(Qt::red));
+  EXPECT_EQ(ColorAt({11, 10}), QColor(Qt::green));
+  EXPECT_EQ(ColorAt({20, 20}), QColor(Qt::green));
+  EXPECT_EQ(ColorAt({20, 21}), QColor(Qt::blue));
+}
+
+TEST_F(PictureVariantsTest, BeyondAllOfThemTheLargestIsEnlarged) {
+  EXPECT_EQ(store.VariantFor(file, {1000, 1000}), fourTimes);
+  EXPECT_EQ(store.Scaled(file, {100, 100}).size(), QSize(100, 100));
+}
+
+TEST_F(PictureVariantsTest, AFileWithoutBrothersServesEverySize) {
+  EXPECT_EQ(store.VariantFor(fourTimes, {1000, 1000}), fourTimes);
+}
+
+TEST_F(PictureVariantsTest, TheNaturalSizeIsThatOfTheFileItself) {
+  EXPECT_EQ(store.NaturalSize(file), QSize(10, 10));
+}
+
+TEST_F(PictureVariantsTest, AScreenOfTwiceThePixelsShowsThePictureOfTwiceTheSize) {
+  for (const int devicePixelRatio : {1, 2}) {
+    QImage canvas = Canvas(devicePixelRatio);
+    QPainter painter(&canvas);
+
+    store.Draw(painter, file, {0, 0, 10, 10});
+    painter.end();
+
+    EXPECT_EQ(canvas.pixelColor(3, 3), QColor(devicePixelRatio == 1 ? Qt::red : Qt::green));
+  }
+}
+
 TEST_F(PictureStoreTest, APictureOfOnePointHasEverySize) {
   const QString file = Plain(Qt::green, {1, 1});
 
