@@ -4,6 +4,7 @@
 #include <QPainter>
 
 #include "forms/form_geometry.h"
+#include "forms/tiled_ground.h"
 #include "picture/form_font.h"
 
 namespace orrerix {
@@ -103,7 +104,7 @@ void ImportScreen::HideProgress() {
 
 void ImportScreen::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  painter.drawTiledPixmap(rect(), pictures_.Scaled(":/pictures/hintergrund.png", {128, 128}));
+  PaintTiles(painter, rect(), pictures_);
 }
 
 }  // namespace orrerix

@@ -7,13 +7,14 @@
 #include <QTimer>
 #include <utility>
 
+#include "forms/tiled_ground.h"
 #include "picture/form_font.h"
 
 namespace orrerix {
 namespace {
 
-constexpr QSize kLogoSize{400, 300};
-constexpr QSize kFormSize{432, 392};
+constexpr QSize kLogoSize{640, 160};
+constexpr QSize kFormSize{672, 252};
 constexpr int kLogoTop = 16;
 constexpr int kYieldsBeforeClosing = 5;
 
@@ -67,7 +68,7 @@ void Loading::ShowClosing(const std::function<void()>& yield) {
 
 void Loading::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  painter.drawTiledPixmap(rect(), pictures_.Scaled(":/pictures/hintergrund.png", {128, 128}));
+  PaintTiles(painter, rect(), pictures_);
 }
 
 }  // namespace orrerix

@@ -26,6 +26,8 @@ constexpr int kSide = 150;
 constexpr int kButton = kStationMargin - 2 * kSide;
 constexpr int kFirstMode = 1500;
 constexpr int kModeStep = kButton + 120;
+constexpr int kOrnamentTop = kFirstMode + static_cast<int>(kModeButtons) * kModeStep + 300;
+constexpr int kStripHeight = 9000;
 
 constexpr std::array<const char*, kModeButtons> kModeNames = {
     "Prices and trades", "Information", "Ships for sale", "Equipment for sale"};
@@ -61,15 +63,23 @@ StationInfo::StationInfo(const StationParts& parts, std::string nickname, std::s
 void StationInfo::MakeDecoration() {
   const QString file = PictureFile(MakePicture("Station", std::nullopt, {}, picture_));
   setWindowIcon(QIcon(parts_.Pictures.Scaled(file, {kIconPixels, kIconPixels})));
-  auto* station = new QLabel(this);
-  station->setObjectName("Station");
-  const QRect place = PixelRect(kSide, kSide, kButton, kButton);
-  station->setGeometry(place);
-  station->setAlignment(Qt::AlignCenter);
+  ShowPicture("Image1", ":/pictures/station/strip.jpg",
+              PixelRect(0, 0, kStationMargin, kStripHeight));
+  ShowPicture("Image2", ":/pictures/station/ornament.svg",
+              PixelRect(kSide, kOrnamentTop, kButton, kButton));
+  ShowPicture("Station", file, PixelRect(kSide, kSide, kButton, kButton));
+}
+
+// A picture in front of those before it; the mouse goes through it.
+void StationInfo::ShowPicture(const char* name, const QString& file, const QRect& place) {
+  auto* label = new QLabel(this);
+  label->setObjectName(name);
+  label->setGeometry(place);
+  label->setAttribute(Qt::WA_TransparentForMouseEvents);
   const double ratio = devicePixelRatioF();
   QPixmap pixmap = parts_.Pictures.Scaled(file, place.size() * ratio);
   pixmap.setDevicePixelRatio(ratio);
-  station->setPixmap(pixmap);
+  label->setPixmap(pixmap);
 }
 
 void StationInfo::MakeModes() {

@@ -49,6 +49,7 @@ class StationInfo : public QWidget {
 
  private:
   void MakeDecoration();
+  void ShowPicture(const char* name, const QString& file, const QRect& place);
   void MakeModes();
   void Place();
   void FormInitialize();

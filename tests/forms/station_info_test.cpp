@@ -154,5 +154,18 @@ TEST_F(StationInfoTest, EveryControlHasAnAccessibleNameAndIsReachedByTab) {
   }
 }
 
+TEST_F(StationInfoTest, ItsMarginIsDecoratedBehindPictureAndButtons) {
+  const auto& strip = Find<QLabel>(Window(), "Image1");
+  const auto& ornament = Find<QLabel>(Window(), "Image2");
+
+  EXPECT_EQ(strip.geometry(), QRect(0, 0, 80, 600));
+  EXPECT_FALSE(strip.pixmap().isNull());
+  EXPECT_FALSE(ornament.pixmap().isNull());
+  EXPECT_GT(ornament.geometry().top(), Find(Window(), "Mode_3").geometry().bottom());
+  const QObjectList& children = Window().children();
+  EXPECT_LT(children.indexOf(&Find(Window(), "Image1")),
+            children.indexOf(&Find(Window(), "Station")));
+}
+
 }  // namespace
 }  // namespace orrerix

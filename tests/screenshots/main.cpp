@@ -1,0 +1,97 @@
+// SPDX-License-Identifier: MIT
+// orrerix-screenshots: pictures of all windows with a demo game, without a display.
+#include <QApplication>
+#include <QFile>
+#include <QTemporaryDir>
+#include <string>
+
+#include <CLI/CLI.hpp>
+#include <fmt/format.h>
+
+#include "contrast.h"
+#include "demo/demo_game.h"
+#include "forms/program_style.h"
+#include "forms/qt_services.h"
+#include "silent_services.h"
+#include "tour.h"
+
+namespace {
+
+using namespace orrerix;
+
+constexpr int kDemoSystems = 60;
+
+struct Words {
+  std::string Folder;
+  std::string Size = "1280x800";
+  double Scale = 1;
+  std::string Game;
+  bool Contrast = false;
+};
+
+// A screen of a size in device pixels, for a platform without any.
+void MakeScreen(const Words& words, const QString& folder) {
+  const auto by = words.Size.find('x');
+  const int width = std::stoi(words.Size.substr(0, by));
+  const int height = std::stoi(words.Size.substr(by + 1));
+  QFile file(folder + "/screen.json");
+  if (!file.open(QIODevice::WriteOnly)) throw std::runtime_error("no room for scratch files");
+  file.write(fmt::format(R"({{"screens":[{{"name":"screen","x":0,"y":0,"width":{},"height":{},)"
+                         R"("logicalDpi":96,"logicalBaseDpi":96,"dpr":1}}]}})",
+                         width, height)
+                 .c_str());
+  file.close();
+  qputenv("QT_QPA_PLATFORM", ("offscreen:configfile=" + file.fileName()).toUtf8());
+  qputenv("QT_SCALE_FACTOR", QByteArray::number(words.Scale));
+}
+
+bool TakeAll(const Words& words, const std::filesystem::path& scratch) {
+  StartPaths paths;
+  paths.ApplicationFolder = scratch;
+  paths.Executable = scratch / "orrerix";
+  paths.SaveFolder = scratch;
+  paths.Game = words.Game.empty() ? (scratch / "game").string() : words.Game;
+  if (words.Game.empty()) WriteDemoGame(*paths.Game, kDemoSystems);
+  DesktopMessageBoxes messages;
+  ErrorLog log(messages, CurrentVersion());
+  const NoRegistry noRegistry;
+  const GameRegistry registry(log, noRegistry);
+  NoSound sound;
+  NoLinks links;
+  NoPrinters printers;
+  PictureStore pictures;
+  const FormParts parts{paths, CurrentVersion(), log,     registry, messages, sound,
+                        links, printers,         pictures};
+  ProgramRun run(parts);
+  run.OnEnd = [] {};
+  Album album(QString::fromStdString(words.Folder));
+  ContrastReport contrast;
+  if (words.Contrast) {
+    album.OnTaken = [&](const QString& name, QWidget& window) { contrast.Measure(name, window); };
+  }
+  const bool complete = Tour(run, log, album).Go();
+  return contrast.Print() && complete;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  CLI::App app("Pictures of all windows");
+  Words words;
+  app.add_option("DIR", words.Folder, "Where the pictures go")->required();
+  app.add_option("--size", words.Size, "The screen, WIDTHxHEIGHT in its own pixels");
+  app.add_option("--scale", words.Scale, "Its scale factor");
+  app.add_option("--game", words.Game, "A game folder; default: a demo game");
+  app.add_flag("--contrast", words.Contrast,
+               "Print the contrast of all texts; exit code 1 if one is below 4.5 to 1");
+  CLI11_PARSE(app, argc, argv);
+  QTemporaryDir scratch;
+  MakeScreen(words, scratch.path());
+  int qtArgc = 1;
+  QApplication application(qtArgc, argv);
+  QApplication::setApplicationName("orrerix");
+  QApplication::setApplicationDisplayName("");
+  QApplication::setQuitOnLastWindowClosed(false);
+  SetProgramStyle();
+  return TakeAll(words, scratch.path().toStdString()) ? 0 : 1;
+}

@@ -1,0 +1,269 @@
+// SPDX-License-Identifier: MIT
+#include "tour.h"
+
+#include <QApplication>
+#include <QListWidget>
+#include <QTest>
+#include <QTimer>
+#include <chrono>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include <fmt/format.h>
+
+#include "picture/control_items.h"
+#include "picture/twips.h"
+
+namespace orrerix {
+namespace {
+
+void PassEvents() {
+  for (int i = 0; i < 5; ++i) QCoreApplication::processEvents();
+}
+
+template <typename Child>
+Child& ChildOf(QWidget& window, const char* name) {
+  if (auto* child = window.findChild<Child*>(name)) return *child;
+  throw std::runtime_error(fmt::format("there is no {}", name));
+}
+
+// The middle of the cells that have a name: where most is to be seen.
+QPointF MiddleOfLabels(const MapDrawing& drawing) {
+  QRectF all;
+  for (const Control& control : drawing.Controls) {
+    if (control.Name == "SysmapLabel") all |= QRectF(control.Place.Left, control.Place.Top, 1, 1);
+  }
+  return all.center();
+}
+
+// The named cell that is nearest to a point.
+const Control& NearestLabel(const MapDrawing& drawing, QPointF point) {
+  const Control* nearest = nullptr;
+  double least = 0;
+  for (const Control& control : drawing.Controls) {
+    if (control.Name != "SysmapLabel") continue;
+    const QPointF way = QPointF(control.Place.Left, control.Place.Top) - point;
+    const double distance = QPointF::dotProduct(way, way);
+    if (nearest != nullptr && distance >= least) continue;
+    nearest = &control;
+    least = distance;
+  }
+  if (nearest == nullptr) throw std::runtime_error("the map names no system");
+  return *nearest;
+}
+
+std::vector<int> Stations(const MapDrawing& drawing) {
+  std::vector<int> stations;
+  for (const Control& control : drawing.Controls) {
+    const std::string picture = control.Picture.value_or("");
+    if (control.Name == "Image1" && picture != "Jumpgate" && picture != "JumpHole") {
+      stations.push_back(control.Index.value_or(0));
+    }
+  }
+  return stations;
+}
+
+const char* ViewName(StationMode mode) {
+  switch (mode) {
+    case StationMode::Prices:
+      return "station-prices";
+    case StationMode::Trades:
+      return "station-trades";
+    case StationMode::Ships:
+      return "station-ships";
+    case StationMode::Equipment:
+      return "station-equipment";
+    default:
+      return "station-info";
+  }
+}
+
+}  // namespace
+
+bool Tour::Go() {
+  try {
+    TakeLoading();
+    TakeImport();
+    TakeMap();
+    TakeOptions();
+    TakeZoomed();
+    TakeHover();
+    TakeSearch();
+    TakeStation();
+    TakeErrorLog();
+    TakeFailure();
+  } catch (const std::runtime_error& error) {
+    fmt::print(stderr, "the tour ends: {}\n", error.what());
+    return false;
+  }
+  return album_.Complete();
+}
+
+void Tour::Wait(const char* what, const std::function<bool()>& isSo) {
+  const auto end = std::chrono::steady_clock::now() + std::chrono::minutes(5);
+  while (!isSo()) {
+    if (std::chrono::steady_clock::now() > end) throw std::runtime_error(what);
+    QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
+  }
+  PassEvents();
+}
+
+void Tour::TakeLoading() {
+  album_.Take("loading", run_.StartForm());
+}
+
+// In the middle of an import there is most to be seen.
+void Tour::TakeImport() {
+  bool taken = false;
+  QTimer timer;
+  QObject::connect(&timer, &QTimer::timeout, [&] {
+    OrrerixMain* main = run_.Main();
+    if (taken || main == nullptr || !main->Importing()) return;
+    const auto* inner = main->findChild<QWidget*>("Progress2");
+    const auto* whole = main->findChild<QWidget*>("Progress0");
+    if (inner == nullptr || !inner->isVisible() || inner->width() * 4 < whole->width()) return;
+    taken = true;
+    TakeMain("import");
+  });
+  timer.start(1);
+  run_.Start();
+  Wait("no map came",
+       [&] { return run_.Main() != nullptr && run_.Main()->Map().Frame().isVisible(); });
+  if (!taken) throw std::runtime_error("the import was too quick for a picture");
+}
+
+void Tour::TakeMap() {
+  TakeMain("map");
+  for (const int pictures : {0, 1}) Play().SetImageClick(pictures);
+  PassEvents();
+  TakeMain("map-pictures");
+  for (const int pictures : {0, 1}) Play().SetImageClick(pictures);
+}
+
+void Tour::TakeOptions() {
+  Play().ShowOptionsLabelMouseMove();
+  PassEvents();
+  TakeMain("map-options");
+  Play().SysmapFrameMouseMove(PointerButton::None, 0, 0);
+}
+
+// Around the system in the middle, `cells` to each side.
+void Tour::ZoomInto(int cells) {
+  const Control& label = NearestLabel(Drawing(), MiddleOfLabels(Drawing()));
+  const Box place = label.Place;
+  const double reach = cells * place.Width;
+  const auto from = [&](double corner) {
+    return static_cast<float>(std::max(10.0, corner + place.Width / 2 - reach));
+  };
+  const auto to = [&](double corner) {
+    return static_cast<float>(corner + place.Width / 2 + reach);
+  };
+  Play().SysmapFrameMouseDown(from(place.Left), from(place.Top));
+  Play().SysmapFrameMouseUp(PointerButton::Left, to(place.Left), to(place.Top));
+  PassEvents();
+}
+
+void Tour::ZoomOut() {
+  Play().SysmapFrameMouseDown(10, 10);
+  Play().SysmapFrameMouseUp(PointerButton::Right, 10, 10);
+  PassEvents();
+}
+
+void Tour::TakeZoomed() {
+  ZoomInto(2);
+  TakeMain("map-zoomed");
+  ZoomOut();
+  ZoomInto(0);
+  TakeMain("map-system");
+}
+
+void Tour::TakeHover() {
+  const std::vector<int> stations = Stations(Drawing());
+  if (stations.empty()) throw std::runtime_error("the system in the middle has no station");
+  Play().Image1MouseMove(stations.front());
+  PassEvents();
+  TakeMain("hover");
+  Play().SysmapFrameMouseMove(PointerButton::None, 0, 0);
+}
+
+void Tour::ClickPanel(std::string_view name, int index) {
+  SysmapFrame& frame = run_.Main()->Map().Frame();
+  for (const QGraphicsItem* item : frame.scene()->items()) {
+    const Control& control = ControlItem::Of(*item);
+    if (control.Name != name || control.Index != index) continue;
+    const QRectF box(0, 0, Pixels(control.Place.Width), Pixels(control.Place.Height));
+    QTest::mouseClick(frame.viewport(), Qt::LeftButton, {},
+                      item->mapToScene(box.center()).toPoint());
+    PassEvents();
+    return;
+  }
+  throw std::runtime_error(fmt::format("the panel has no {}({})", name, index));
+}
+
+void Tour::TakeSearch() {
+  ClickPanel("StationSearch", 0);
+  TakeMain("search-places");
+  ClickPanel("StationSearch", 1);
+  TakeMain("search-ships");
+  run_.Main()->findChild<QAbstractButton*>("StSearchClose")->click();
+  PassEvents();
+}
+
+// The first station of the map at which ships and equipment are sold; null if there is none.
+StationInfo* Tour::OpenRichStation() {
+  for (const int icon : Stations(Drawing())) {
+    Play().Image1Click(icon);
+    PassEvents();
+    const auto& windows = run_.Main()->Stations().Windows();
+    if (windows.empty()) continue;
+    StationInfo& station = *windows.back();
+    const auto sells = [&](const char* mode) {
+      return ChildOf<QAbstractButton>(station, mode).text() != "X";
+    };
+    if (sells("Mode_2") && sells("Mode_3")) return &station;
+    station.close();
+    PassEvents();
+  }
+  return nullptr;
+}
+
+void Tour::TakeStation() {
+  ZoomOut();
+  ZoomInto(3);
+  StationInfo* station = OpenRichStation();
+  if (station == nullptr) throw std::runtime_error("no station sells ships and equipment");
+  album_.Take("station-info", *station);
+  const auto take = [&](const char* mode) {
+    ChildOf<QAbstractButton>(*station, mode).click();
+    PassEvents();
+    album_.Take(ViewName(station->Mode()), *station);
+  };
+  for (const char* mode : {"Mode_0", "Mode_0", "Mode_2", "Mode_3"}) take(mode);
+  station->close();
+}
+
+void Tour::TakeErrorLog() {
+  if (!log_.LogWindowOpen()) log_.AddErrorLine("Cant find file: [\\DATA\\missing.ini]");
+  PassEvents();
+  album_.Take("error-log", run_.LogWindow());
+}
+
+void Tour::TakeFailure() {
+  QTimer timer;
+  QObject::connect(&timer, &QTimer::timeout, [&] {
+    QWidget* question = QApplication::activeModalWidget();
+    if (question == nullptr) return;
+    timer.stop();
+    album_.Take("failure", *question);
+    question->close();
+  });
+  timer.start(50);
+  bool cancelled = false;
+  log_.AddDataError("OrrerixMain.Form_Resize", {3021, "No current record.", "Orrerix"},
+                    "While calcing a border", cancelled);
+  PassEvents();
+  album_.Take("error-log-failures", run_.LogWindow());
+}
+
+}  // namespace orrerix

@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <functional>
+
+#include "album.h"
+#include "forms/program_run.h"
+
+namespace orrerix {
+
+// Shows every window of a run that has not been started yet, as a player would come to see it, and
+// takes pictures on the way. One function a window; a new window gets a new one in `Go`.
+class Tour {
+ public:
+  Tour(ProgramRun& run, ErrorLog& log, Album& album) : run_(run), log_(log), album_(album) {}
+
+  // False if a window did not come; standard error says which.
+  bool Go();
+
+ private:
+  void TakeLoading();
+  void TakeImport();
+  void TakeMap();
+  void TakeOptions();
+  void TakeZoomed();
+  void TakeHover();
+  void TakeSearch();
+  void TakeStation();
+  void TakeErrorLog();
+  void TakeFailure();
+
+  MapPlay& Play() { return run_.Main()->Play(); }
+  const MapDrawing& Drawing() { return run_.Main()->Map().Drawing(); }
+  void Wait(const char* what, const std::function<bool()>& isSo);
+  void TakeMain(const QString& name) { album_.Take(name, *run_.Main()); }
+  void ZoomInto(int cells);
+  void ZoomOut();
+  void ClickPanel(std::string_view name, int index);
+  StationInfo* OpenRichStation();
+
+  ProgramRun& run_;
+  ErrorLog& log_;
+  Album& album_;
+};
+
+}  // namespace orrerix
