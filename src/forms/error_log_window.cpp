@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "forms/form_geometry.h"
+#include "forms/outlined_label.h"
 #include "picture/form_font.h"
 #include "shell/error_log_layout.h"
 
@@ -62,7 +63,7 @@ ErrorLogWindow::~ErrorLogWindow() {
 }
 
 QLabel* ErrorLogWindow::AddHeading(int index, const QString& caption, QColor letters) {
-  auto* label = new QLabel(caption, this);
+  auto* label = new OutlinedLabel(caption, this);
   label->setObjectName(QStringLiteral("Label1_%1").arg(index));
   QFont font = FormFont(kHeadingFont);
   font.setBold(true);

@@ -17,6 +17,7 @@ namespace orrerix {
 namespace {
 
 constexpr int kColumns = 3;
+constexpr int kFigureMargin = 3;  // pixels between a figure and the column's end
 
 int Pixel(double twips) {
   return static_cast<int>(std::lround(Pixels(twips)));
@@ -36,7 +37,8 @@ class LabelDelegate : public QStyledItemDelegate {
     painter->fillRect(option.rect, index.data(Qt::BackgroundRole).value<QColor>());
     painter->setFont(index.data(Qt::FontRole).value<QFont>());
     painter->setPen(index.data(Qt::ForegroundRole).value<QColor>());
-    painter->drawText(option.rect, index.data(Qt::TextAlignmentRole).toInt() | Qt::TextSingleLine,
+    painter->drawText(option.rect.adjusted(0, 0, -kFigureMargin, 0),
+                      index.data(Qt::TextAlignmentRole).toInt() | Qt::TextSingleLine,
                       index.data().toString());
     if (option.state & QStyle::State_Selected) {
       painter->setPen(Qt::white);
@@ -144,8 +146,15 @@ void PriceTableView::Show(const ControlList& labels) {
       setColumnWidth(column, Pixel(head.Width) / kColumns);
     }
   }
+  // The labels reach to the window's outer edge; what its frame hides goes off the last column,
+  // so that figures end before it.
   const int left = Pixel(head.Left);
-  setGeometry(left, Pixel(head.Top), Pixel(head.Right()) - left, bottom - Pixel(head.Top));
+  const int edge = parentWidget() == nullptr ? Pixel(head.Right()) : parentWidget()->width();
+  const int width = std::min(Pixel(head.Right()), edge) - left;
+  const int hidden = Pixel(head.Right()) - left - width;
+  const int last = kColumns - 1;
+  setColumnWidth(last, std::max(0, columnWidth(last) - hidden));
+  setGeometry(left, Pixel(head.Top), width, bottom - Pixel(head.Top));
 }
 
 void PriceTableView::keyPressEvent(QKeyEvent* event) {

@@ -79,5 +79,21 @@ TEST_F(PriceTableViewTest, HeadsAloneFillTheWidth) {
   EXPECT_EQ(view.columnWidth(0) + view.columnWidth(1) + view.columnWidth(2), 600);
 }
 
+TEST_F(PriceTableViewTest, WhatTheWindowsFrameHidesGoesOffTheLastColumn) {
+  QWidget window;
+  window.resize(590, 400);
+  auto* inWindow = new PriceTableView(&window);
+
+  // 600 pixels: 400, 100 and 100
+  inWindow->Show({Label("PricesHead", 2, {0, 0, 9000, 450}, "a"),
+                  Label("PricesField0", 1, {0, 450, 6000, 450}, "Gold"),
+                  Label("PricesField1", 1, {6000, 450, 1500, 450}, "5"),
+                  Label("PricesField2", 1, {7500, 450, 1500, 450}, "1")});
+
+  EXPECT_EQ(inWindow->width(), 590);
+  EXPECT_EQ(inWindow->columnWidth(1), 100);
+  EXPECT_EQ(inWindow->columnWidth(2), 90);
+}
+
 }  // namespace
 }  // namespace orrerix

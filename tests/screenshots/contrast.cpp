@@ -10,6 +10,7 @@
 #include <QTableView>
 #include <algorithm>
 #include <cmath>
+#include <optional>
 #include <vector>
 
 #include <fmt/format.h>
@@ -56,7 +57,9 @@ void Collect(const ControlList& controls, QPointF parent, std::vector<PlacedLabe
   }
 }
 
+// Lines in front of letters would pass for their ground.
 void Ink(ControlList& controls, Color ink) {
+  std::erase_if(controls, [](const Control& c) { return c.Kind == ControlKind::Line; });
   for (Control& control : controls) {
     if (control.Kind == ControlKind::Label) control.ForeColor = ink;
     Ink(control.Children, ink);
@@ -96,7 +99,37 @@ std::vector<double> GroundOf(const QImage& white, const QImage& grey, const QRec
   return grounds;
 }
 
-// --- Controls with a ground of one colour.
+// The contrast of letters on the brightest tenth of their ground: most are to be easy to read.
+std::optional<double> RatioOn(std::vector<double> grounds, const QColor& letters) {
+  if (grounds.empty()) return std::nullopt;
+  const double ink = Luminance(letters.rgb());
+  const auto near = [ink](double a, double b) { return Ratio(ink, a) > Ratio(ink, b); };
+  std::sort(grounds.begin(), grounds.end(), near);
+  return Ratio(ink, grounds[grounds.size() * 9 / 10]);
+}
+
+// --- Labels of windows: they too are painted with two inks.
+
+QImage InkedLabel(QLabel& label, QColor ink) {
+  const QPalette before = label.palette();
+  QPalette palette = before;
+  palette.setColor(label.foregroundRole(), ink);
+  label.setPalette(palette);
+  QImage image = label.grab().toImage();
+  label.setPalette(before);
+  return image;
+}
+
+// None for a text that is cut off, or of a style that knows its own colours.
+std::optional<double> LabelRatio(QLabel& label) {
+  if (label.fontMetrics().horizontalAdvance(label.text()) > label.width()) return std::nullopt;
+  const QImage white = InkedLabel(label, QColor(255, 255, 255));
+  const QImage grey = InkedLabel(label, QColor(128, 128, 128));
+  return RatioOn(GroundOf(white, grey, white.rect()),
+                 label.palette().color(label.foregroundRole()));
+}
+
+// --- Other controls, which have a ground of one colour.
 
 // The ground is the colour that there is most of; the letters are what differs from it most.
 double PlainRatio(const QImage& image) {
@@ -155,12 +188,9 @@ void ContrastReport::Measure(const QString& picture, QWidget& window) {
     for (const auto& [label, place] : labels) {
       std::vector<double> grounds = GroundOf(
           white, grey, QRectF(place.topLeft() * ratio, place.size() * ratio).toAlignedRect());
-      if (grounds.empty()) continue;
-      // The brightest tenth of the ground counts: most letters are to be easy to read.
-      std::sort(grounds.begin(), grounds.end());
-      const double bright = grounds[grounds.size() * 9 / 10];
-      const QColor ink = ToQColor(label->ForeColor.value_or(Color{}));
-      Note(label->Name, Ratio(Luminance(ink.rgb()), bright), name + ": " + *label->Caption);
+      const auto contrast =
+          RatioOn(std::move(grounds), ToQColor(label->ForeColor.value_or(Color{})));
+      if (contrast) Note(label->Name, *contrast, name + ": " + *label->Caption);
     }
   }
   for (const QTableView* table : window.findChildren<QTableView*>()) {
@@ -171,6 +201,10 @@ void ContrastReport::Measure(const QString& picture, QWidget& window) {
     if (text.empty() || !widget->isVisible() || !widget->isEnabled()) continue;
     const std::string kind = widget->objectName().isEmpty() ? widget->metaObject()->className()
                                                             : widget->objectName().toStdString();
+    if (auto* label = qobject_cast<QLabel*>(widget)) {
+      if (const auto contrast = LabelRatio(*label)) Note(name + " " + kind, *contrast, text);
+      continue;
+    }
     Note(name + " " + kind, PlainRatio(InsideOf(window, *widget)), text);
   }
 }

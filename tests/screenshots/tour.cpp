@@ -12,6 +12,8 @@
 
 #include <fmt/format.h>
 
+#include "map/map_coords.h"
+#include "map/system_pictures.h"
 #include "picture/control_items.h"
 #include "picture/twips.h"
 
@@ -37,19 +39,27 @@ QPointF MiddleOfLabels(const MapDrawing& drawing) {
   return all.center();
 }
 
-// The named cell that is nearest to a point.
+bool HasPicture(const Control& label) {
+  for (int i = 0; i < kSystemPictures; ++i) {
+    const MapCell cell = CellOfTag(SystemPictureTag(i));
+    if (label.Index == static_cast<int>(CellNames::Index(cell))) return true;
+  }
+  return false;
+}
+
+// The named cell with a picture that is nearest to a point.
 const Control& NearestLabel(const MapDrawing& drawing, QPointF point) {
   const Control* nearest = nullptr;
   double least = 0;
   for (const Control& control : drawing.Controls) {
-    if (control.Name != "SysmapLabel") continue;
+    if (control.Name != "SysmapLabel" || !HasPicture(control)) continue;
     const QPointF way = QPointF(control.Place.Left, control.Place.Top) - point;
     const double distance = QPointF::dotProduct(way, way);
     if (nearest != nullptr && distance >= least) continue;
     nearest = &control;
     least = distance;
   }
-  if (nearest == nullptr) throw std::runtime_error("the map names no system");
+  if (nearest == nullptr) throw std::runtime_error("no system of the map has a picture");
   return *nearest;
 }
 
