@@ -8,7 +8,6 @@
 #include "lettering.h"
 #include "noise.h"
 #include "seeds.h"
-#include "stars.h"
 
 namespace orrerix {
 
@@ -75,7 +74,8 @@ void DrawBandLines(QPainter& painter) {
   painter.fillRect(QRectF(0, BandHeight - 1, BandWidth, 1), QColor(2, 8, 30));
 }
 
-// The sky at the back of the info box, darker downwards.
+// The sky at the back of the info box, darker downwards. The box may be far wider than the picture,
+// so there is nothing round in it that would be drawn out: gas and orbits bear it.
 Rgb Backdrop(Spot at, const Noise& veil) {
   const double gas = Smooth(-0.4, 0.9, veil.Warped({at.X / 130, at.Y / 130, 0.2}, 6, 1.0));
   const double down = at.Y / 400;
@@ -89,12 +89,6 @@ void DrawOrbits(QPainter& painter) {
     const double radius = 40 + 46 * i;
     painter.setPen(QPen(QColor(90, 170, 230, 34 - 3 * i), i % 2 == 0 ? 1.4 : 0.7));
     painter.drawEllipse(QPointF(300, 0), radius, radius);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(QColor(150, 210, 250, 70 - 6 * i));
-    const double angle = 1.75 + 0.19 * i * (i % 2 == 0 ? 1 : 1.6);
-    painter.drawEllipse(QPointF(300 + radius * std::cos(angle), radius * std::sin(angle)), 2.5,
-                        2.5);
-    painter.setBrush(Qt::NoBrush);
   }
 }
 
@@ -118,8 +112,6 @@ QImage PaintInfoBackground(int scale) {
   Canvas canvas(300, 400, scale);
   const Noise veil(PanelSeed);
   canvas.Fill([&veil](Spot at) { return Backdrop(at, veil); });
-  SplitMix64 dice(PanelSeed);
-  DrawStars(canvas, {3, 0.02, 0.3, 1.4}, dice);
   QImage image = canvas.Expose();
   QPainter painter(&image);
   painter.setRenderHint(QPainter::Antialiasing);

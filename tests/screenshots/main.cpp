@@ -19,8 +19,6 @@ namespace {
 
 using namespace orrerix;
 
-constexpr int kDemoSystems = 60;
-
 struct Words {
   std::string Folder;
   std::string Size = "1280x800";
@@ -51,7 +49,7 @@ bool TakeAll(const Words& words, const std::filesystem::path& scratch) {
   paths.Executable = scratch / "orrerix";
   paths.SaveFolder = scratch;
   paths.Game = words.Game.empty() ? (scratch / "game").string() : words.Game;
-  if (words.Game.empty()) WriteDemoGame(*paths.Game, kDemoSystems);
+  if (words.Game.empty()) WriteDemoGame(*paths.Game);
   DesktopMessageBoxes messages;
   ErrorLog log(messages, CurrentVersion());
   const NoRegistry noRegistry;

@@ -123,20 +123,22 @@ void Tour::TakeLoading() {
   album_.Take("loading", run_.StartForm());
 }
 
-// In the middle of an import there is most to be seen.
+// Taken where the picture of the whole import and that of the stage in it can be told apart.
 void Tour::TakeImport() {
   bool taken = false;
   QTimer timer;
   QObject::connect(&timer, &QTimer::timeout, [&] {
     OrrerixMain* main = run_.Main();
     if (taken || main == nullptr || !main->Importing()) return;
-    const auto* inner = main->findChild<QWidget*>("Progress2");
-    const auto* whole = main->findChild<QWidget*>("Progress0");
-    if (inner == nullptr || !inner->isVisible() || inner->width() * 4 < whole->width()) return;
+    const int frame = ChildOf<QWidget>(*main, "Progress0").width();
+    const auto& overall = ChildOf<QWidget>(*main, "Progress1");
+    const int stage = ChildOf<QWidget>(*main, "Progress2").width();
+    if (!overall.isVisible() || overall.width() * 2 < frame) return;
+    if (stage * 4 < overall.width() || stage * 5 > overall.width() * 4) return;
     taken = true;
     TakeMain("import");
   });
-  timer.start(1);
+  timer.start(0);  // with every look at the events
   run_.Start();
   Wait("no map came",
        [&] { return run_.Main() != nullptr && run_.Main()->Map().Frame().isVisible(); });
