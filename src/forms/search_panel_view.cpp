@@ -56,6 +56,7 @@ QListWidget* SearchPanelView::AddList(const char* name, const char* accessibleNa
   list->setObjectName(name);
   list->setAccessibleName(accessibleName);
   list->setUniformItemSizes(true);
+  list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   list->installEventFilter(this);
   return list;
 }
