@@ -27,5 +27,8 @@ void RegisterImportBenchmarks(const std::vector<BenchGame>& games,
                               const std::filesystem::path& work);
 void RegisterRedrawBenchmarks(const std::vector<BenchGame>& games,
                               const std::filesystem::path& work);
+// Needs an application of Qt's.
+void RegisterPaintBenchmarks(const std::vector<BenchGame>& games,
+                             const std::filesystem::path& work);
 
 }  // namespace orrerix

@@ -124,10 +124,10 @@ void RegisterImportBenchmarks(const std::vector<BenchGame>& games, const fs::pat
         ("InsertSameRows/" + game.Name).c_str(),
         [game, work](benchmark::State& state) { InsertSameRows(state, game, work); })
         ->Unit(benchmark::kMillisecond);
-    benchmark::RegisterBenchmark(
-        ("Import/" + game.Name).c_str(),
-        [game, work](benchmark::State& state) { ImportAll(state, game, work); })
-        ->Unit(benchmark::kMillisecond);
+    benchmark::RegisterBenchmark(("Import/" + game.Name).c_str(), [game,
+                                                                   work](benchmark::State& state) {
+      ImportAll(state, game, work);
+    })->Unit(benchmark::kMillisecond);
   }
 }
 

@@ -1,4 +1,7 @@
 // SPDX-License-Identifier: MIT
+#ifdef ORRERIX_BENCH_PAINT
+#include <QApplication>
+#endif
 #include <benchmark/benchmark.h>
 
 #include "bench_games.h"
@@ -10,6 +13,11 @@ int main(int argc, char** argv) {
   const auto games = orrerix::BenchGames(work);
   orrerix::RegisterImportBenchmarks(games, work);
   orrerix::RegisterRedrawBenchmarks(games, work);
+#ifdef ORRERIX_BENCH_PAINT
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  const QApplication application(argc, argv);
+  orrerix::RegisterPaintBenchmarks(games, work);
+#endif
   benchmark::Initialize(&argc, argv);
   benchmark::RunSpecifiedBenchmarks();
   return 0;

@@ -20,7 +20,7 @@ def main(path):
         growth = (times["Import/demo500"] / 500) / (times["Import/demo40"] / 40)
         print(f"cost of a system in 500 against one in 40: {growth:.2f}")
     for name, time in times.items():
-        if name.startswith("DrawingList/"):
+        if name.startswith(("DrawingList/", "Redraw/", "FirstRedraw/")):
             print(f"{name}: {time:.2f} ms, {100 * time / 16:.0f} % of 16 ms")
 
 

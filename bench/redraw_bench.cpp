@@ -37,8 +37,8 @@ void DrawingList(benchmark::State& state, const BenchGame& game, const fs::path&
   MapState map;
   map.Zoom.Reset(rectangle);
   map.Names = GetSystemNames(universe, english);
-  const MapView view{28800, 16200, MapOptions::Defaults(rectangle.IsZoomed()), measure, panel,
-                     "StarMapPic"};
+  const MapView view{28800,   16200, MapOptions::Defaults(rectangle.IsZoomed()),
+                     measure, panel, "StarMapPic"};
   std::size_t controls = 0;
   for (auto _ : state) controls = DrawMap(universe, map, view).Controls.size();
   state.counters["controls"] = static_cast<double>(controls);
@@ -53,11 +53,10 @@ void RegisterRedrawBenchmarks(const std::vector<BenchGame>& games, const fs::pat
   };
   for (const BenchGame& game : games) {
     for (const View& view : {View{"whole", {}}, View{"zoomed", {7, 5, 10, 8}}}) {
-      benchmark::RegisterBenchmark(
-          ("DrawingList/" + game.Name + "/" + view.Name).c_str(),
-          [game, work, view](benchmark::State& state) {
-            DrawingList(state, game, work, view.Rectangle);
-          })
+      benchmark::RegisterBenchmark(("DrawingList/" + game.Name + "/" + view.Name).c_str(),
+                                   [game, work, view](benchmark::State& state) {
+                                     DrawingList(state, game, work, view.Rectangle);
+                                   })
           ->Unit(benchmark::kMillisecond);
     }
   }

@@ -9,7 +9,9 @@ target_compile_options(orrerix_options INTERFACE
   # break our code: the vectorizer of straight code forgets to round a pair of doubles to float,
   # which the map's places rest on, and dead store elimination drops what a variable held before
   # "variable = F()" also where F throws, which every failed step rests on. Tests watch both.
-  $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict -fno-tree-slp-vectorize -fno-tree-dse>)
+  # Its vectorizer of loops is left at work, and told that texts are longer than a register.
+  $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict -fno-tree-slp-vectorize -fno-tree-dse
+    -fvect-cost-model=dynamic>)
 if(ORRERIX_SANITIZE)
   target_compile_options(orrerix_options INTERFACE
     -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)

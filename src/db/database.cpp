@@ -46,8 +46,7 @@ void WithStatement(Connection& connection, std::string_view text,
   if (const Failure* failure = std::get_if<Failure>(&translated)) throw *failure;
   const Statement& statement = std::get<Statement>(translated);
   const PreparedStatement once = connection.PrepareOnce(statement.Sql);
-  use(withRowid ? connection.Find(statement.Table) : Connection::ColumnsOf(once.get()),
-      once.get());
+  use(withRowid ? connection.Find(statement.Table) : Connection::ColumnsOf(once.get()), once.get());
 }
 
 }  // namespace
@@ -180,7 +179,8 @@ void Database::Execute(FailureSink& sink, std::string_view text,
   });
 }
 
-std::vector<std::size_t> Database::LongestTexts(FailureSink& sink, const TableDef& table) const {
+std::vector<std::size_t> Database::LongestAttachedTexts(FailureSink& sink,
+                                                        const TableDef& table) const {
   std::vector<std::size_t> longest(table.Fields.size(), 0);
   std::vector<std::size_t> places;
   std::string columns;
@@ -193,7 +193,7 @@ std::vector<std::size_t> Database::LongestTexts(FailureSink& sink, const TableDe
   Guard(sink, [&] {
     RequireOpen();
     const PreparedStatement rows =
-        connection_->PrepareOnce("SELECT " + columns + " FROM " + QuoteName(table.Name));
+        connection_->PrepareOnce("SELECT " + columns + " FROM attached." + QuoteName(table.Name));
     while (sqlite3_step(rows.get()) == SQLITE_ROW) {
       for (std::size_t i = 0; i < places.size(); ++i) {
         const int column = static_cast<int>(i);
@@ -214,25 +214,24 @@ void Database::Attach(FailureSink& sink, const std::filesystem::path& path) {
     StatementLoan attach(connection_->Prepare("ATTACH ?1 AS attached"));
     Bind(attach.get(), 1, path.string());
     StepToEnd(*connection_, attach.get());
-    attached_ = path;
   });
 }
 
-void Database::CreateAttachedTable(FailureSink& sink, const TableDef& table) {
-  ExecuteNative(sink, CreateStatement(table, "attached"));
+bool Database::CanBeNamedInStatements(FailureSink& sink) const {
+  const auto quoted = TranslateText("INSERT INTO t IN '" + Path().string() + "' SELECT * FROM t;");
+  const Failure* failure = std::get_if<Failure>(&quoted);
+  if (failure != nullptr) sink.Fail(*failure);
+  return failure == nullptr;
 }
 
-void Database::CopyToAttached(FailureSink& sink, std::string_view table) {
+void Database::CopyFromAttached(FailureSink& sink, std::string_view table) {
+  if (!CanBeNamedInStatements(sink)) return;
   Guard(sink, [&] {
     RequireOpen();
-    const std::string source = QuoteName(table);
-    const auto quoted =
-        TranslateText("INSERT INTO t IN '" + attached_.string() + "' SELECT * FROM t;");
-    if (const Failure* failure = std::get_if<Failure>(&quoted)) throw *failure;
-    StepToEnd(*connection_,
-              StatementLoan(connection_->Prepare("INSERT INTO attached." + source +
-                                                 " SELECT * FROM main." + source))
-                  .get());
+    const std::string name = QuoteName(table);
+    StepToEnd(*connection_, StatementLoan(connection_->Prepare("INSERT INTO main." + name +
+                                                               " SELECT * FROM attached." + name))
+                                .get());
   });
 }
 
@@ -245,13 +244,16 @@ void Database::ExecuteNative(FailureSink& sink, const std::string& statement) {
   });
 }
 
-void Database::UseForBuilding(FailureSink& sink) {
-  // Checks repeat what every assignment has tested already, and nothing is ever rolled back: a
-  // statement tests its keys before it writes.
+void Database::UseForFilling(FailureSink& sink) {
   ExecuteNative(sink,
-                "PRAGMA journal_mode = OFF; PRAGMA synchronous = OFF; "
                 "PRAGMA cache_size = -16384; PRAGMA ignore_check_constraints = ON; "
                 "PRAGMA locking_mode = EXCLUSIVE; PRAGMA temp_store = MEMORY;");
+}
+
+void Database::UseForBuilding(FailureSink& sink) {
+  UseForFilling(sink);
+  // Nothing is ever rolled back: a statement tests its keys before it writes.
+  ExecuteNative(sink, "PRAGMA journal_mode = OFF; PRAGMA synchronous = OFF;");
 }
 
 void Database::Begin(FailureSink& sink) {

@@ -61,21 +61,27 @@ class Database {
   void Execute(FailureSink& sink, std::string_view text, std::initializer_list<Value> values = {},
                ExecuteOption option = ExecuteOption::FailOnError);
 
-  // Length of the longest text in each Text field of a table, characters; 0 for all other fields.
-  std::vector<std::size_t> LongestTexts(FailureSink& sink, const TableDef& table) const;
-
-  // Attaches a second file, whose tables are then made and filled from this one's by the two
-  // operations below it. Copying runs "INSERT INTO [table] IN 'path' SELECT * FROM [table];": a path
-  // that holds a "'" breaks that statement (3075).
+  // Attaches a second file, out of whose tables those of the same names here can be filled.
   void Attach(FailureSink& sink, const std::filesystem::path& path);
-  void CreateAttachedTable(FailureSink& sink, const TableDef& table);
-  void CopyToAttached(FailureSink& sink, std::string_view table);
+  void CopyFromAttached(FailureSink& sink, std::string_view table);
+
+  // Length of the longest text in each Text field of a table of the attached file, characters; 0
+  // for all other fields.
+  std::vector<std::size_t> LongestAttachedTexts(FailureSink& sink, const TableDef& table) const;
+
+  // Whether a table can be filled by "INSERT INTO [table] IN 'path' SELECT * FROM [table];", which
+  // is what copying runs: a path that holds a "'" breaks that statement (3075).
+  bool CanBeNamedInStatements(FailureSink& sink) const;
 
   // Runs the engine's native statement, as it stands: indexes, pragmas and the like.
   void ExecuteNative(FailureSink& sink, const std::string& statement);
 
-  // Trades safety against loss of power for speed: for files that are thrown away if they are not
-  // finished. Keys work as ever; what was written is not taken back.
+  // For the only one who has this file open, to fill it with values that were tested before: much
+  // of it is kept in memory, and the checks of its fields are not repeated.
+  void UseForFilling(FailureSink& sink);
+
+  // The same, and trades safety against loss of power for speed: for files that are thrown away if
+  // they are not finished. Keys work as ever; what was written is not taken back.
   void UseForBuilding(FailureSink& sink);
 
   void Begin(FailureSink& sink);
@@ -94,7 +100,6 @@ class Database {
   void RequireOpen() const;
 
   std::shared_ptr<Connection> connection_;
-  std::filesystem::path attached_;
 };
 
 }  // namespace orrerix

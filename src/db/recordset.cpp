@@ -54,12 +54,18 @@ Assignment AssignTo(const Field& field, std::string_view table, Value value) {
   if (value.IsNull()) return Keep(Value());
   switch (field.Type) {
     case FieldType::Text:
-    case FieldType::Memo: return AssignText(field, table, std::move(value).TakeText());
-    case FieldType::Boolean: return Keep(value.Number() != 0 ? 1 : 0);
-    case FieldType::Byte: return AssignWhole(value.Number(), 0, 255);
-    case FieldType::Integer: return AssignWhole(value.Number(), -32768, 32767);
-    case FieldType::Long: return AssignWhole(value.Number(), -2147483648.0, 2147483647.0);
-    case FieldType::Double: break;
+    case FieldType::Memo:
+      return AssignText(field, table, std::move(value).TakeText());
+    case FieldType::Boolean:
+      return Keep(value.Number() != 0 ? 1 : 0);
+    case FieldType::Byte:
+      return AssignWhole(value.Number(), 0, 255);
+    case FieldType::Integer:
+      return AssignWhole(value.Number(), -32768, 32767);
+    case FieldType::Long:
+      return AssignWhole(value.Number(), -2147483648.0, 2147483647.0);
+    case FieldType::Double:
+      break;
   }
   if (!std::isfinite(value.Number())) return Refuse(RuntimeFailure(failure_number::kOverflow));
   return Keep(value.Number());
@@ -119,8 +125,11 @@ void Recordset::MoveNext() {
   ++current_;
 }
 
-std::optional<std::size_t> Recordset::FindField(std::string_view name) const {
-  return table_ == nullptr ? std::nullopt : table_->Find(name);
+std::optional<std::size_t> Recordset::FindField(std::string_view name) {
+  if (table_ == nullptr) return std::nullopt;
+  const auto found = table_->Find(name, nextField_);
+  if (found) nextField_ = *found + 1;
+  return found;
 }
 
 FieldRef Recordset::operator[](std::string_view field) {
@@ -269,9 +278,9 @@ void Recordset::Rewrite() {
     assignments += fmt::format("{} = ?{}", QuoteName(table_->Fields[i].Name), i + 1);
   }
   if (assignments.empty()) return;
-  StatementLoan update(connection_->Prepare("UPDATE " + QuoteName(table_->Name) + " SET " +
-                                            assignments +
-                                            fmt::format(" WHERE _rowid_ = ?{}", edited_.size() + 1)));
+  StatementLoan update(
+      connection_->Prepare("UPDATE " + QuoteName(table_->Name) + " SET " + assignments +
+                           fmt::format(" WHERE _rowid_ = ?{}", edited_.size() + 1)));
   for (std::size_t i = 0; i < edited_.size(); ++i) {
     if (assigned_[i]) Bind(update.get(), static_cast<int>(i) + 1, edited_[i]);
   }

@@ -102,7 +102,7 @@ class Recordset {
   Value Read(std::optional<std::size_t> field) const;
   void Assign(std::optional<std::size_t> field, Value value);
   void GrowField(std::size_t field, std::size_t size);
-  std::optional<std::size_t> FindField(std::string_view name) const;
+  std::optional<std::size_t> FindField(std::string_view name);
   bool KeyHoldsNull() const;
   void Insert();
   void Rewrite();
@@ -119,6 +119,7 @@ class Recordset {
   Editing editing_ = Editing::None;
   std::vector<Value> edited_;
   std::vector<bool> assigned_;
+  std::size_t nextField_ = 0;  // behind the one asked for last: fields are mostly used in order
   sqlite3_stmt* insert_ = nullptr;  // of a row whose unique ID is left to the engine
 };
 

@@ -13,13 +13,20 @@ constexpr std::string_view kUniqueIDDefault = "(abs(random() % 2147483647) + 1)"
 
 std::string DeclaredType(const Field& field) {
   switch (field.Type) {
-    case FieldType::Boolean: return "BOOLEAN INT";
-    case FieldType::Byte: return "BYTE INT";
-    case FieldType::Integer: return "SHORT INT";
-    case FieldType::Long: return "LONG INT";
-    case FieldType::Double: return "DOUBLE";
-    case FieldType::Text: return fmt::format("TEXT({}) COLLATE NOCASE", field.Size);
-    case FieldType::Memo: break;
+    case FieldType::Boolean:
+      return "BOOLEAN INT";
+    case FieldType::Byte:
+      return "BYTE INT";
+    case FieldType::Integer:
+      return "SHORT INT";
+    case FieldType::Long:
+      return "LONG INT";
+    case FieldType::Double:
+      return "DOUBLE";
+    case FieldType::Text:
+      return fmt::format("TEXT({}) COLLATE NOCASE", field.Size);
+    case FieldType::Memo:
+      break;
   }
   return "MEMO TEXT COLLATE NOCASE";
 }
@@ -42,7 +49,8 @@ std::string Column(const Field& field) {
 
 }  // namespace
 
-std::optional<std::size_t> TableDef::Find(std::string_view field) const {
+std::optional<std::size_t> TableDef::Find(std::string_view field, std::size_t guess) const {
+  if (guess < Fields.size() && Fields[guess].Name == field) return guess;
   // Most callers spell the name as the table does.
   for (std::size_t i = 0; i < Fields.size(); ++i) {
     if (Fields[i].Name == field) return i;

@@ -11,7 +11,15 @@
 namespace orrerix {
 
 // The engine's codes of field types.
-enum class FieldType { Boolean = 1, Byte = 2, Integer = 3, Long = 4, Double = 7, Text = 10, Memo = 12 };
+enum class FieldType {
+  Boolean = 1,
+  Byte = 2,
+  Integer = 3,
+  Long = 4,
+  Double = 7,
+  Text = 10,
+  Memo = 12
+};
 
 // The size that a Text field gets when none is asked for, in characters.
 inline constexpr std::size_t kDefaultTextSize = 255;
@@ -35,8 +43,9 @@ struct TableDef {
   std::vector<Field> Fields;
   std::optional<Index> PrimaryKey;
 
-  // Place of a field, its name compared without case; nothing if there is none.
-  std::optional<std::size_t> Find(std::string_view field) const;
+  // Place of a field, its name compared without case; nothing if there is none. `guess` is tried
+  // first.
+  std::optional<std::size_t> Find(std::string_view field, std::size_t guess = 0) const;
 };
 
 // A name in the quotes of the engine's language, inner quotes doubled.

@@ -49,8 +49,16 @@ SystemGrid::SystemGrid(FailureSink& routine, Universe& universe) {
   }
 }
 
-MapCell SystemGrid::FindCell(std::string_view systemNickname) const {
-  const std::size_t found = FindText(text_, GridCell(systemNickname));
+MapCell SystemGrid::FindCell(std::string_view systemNickname) {
+  std::string gridCell = GridCell(systemNickname);
+  if (const auto known = found_.find(gridCell); known != found_.end()) return known->second;
+  const MapCell cell = Search(gridCell);
+  found_.emplace(std::move(gridCell), cell);
+  return cell;
+}
+
+MapCell SystemGrid::Search(const std::string& gridCell) const {
+  const std::size_t found = FindText(text_, gridCell);
   if (found == std::string::npos) return {};
   const int position = static_cast<int>(Len(std::string_view(text_).substr(0, found))) + 1;
   const int index = position / kCellWidth;

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 
 #include "import/universe.h"
 #include "shell/routine.h"
@@ -48,12 +49,15 @@ class SystemGrid {
 
   // The cell of a system; column 0, row 0 for one that is not in the grid. Only the first 10
   // characters of a nickname count.
-  MapCell FindCell(std::string_view systemNickname) const;
+  MapCell FindCell(std::string_view systemNickname);
 
   const std::string& Text() const { return text_; }
 
  private:
+  MapCell Search(const std::string& gridCell) const;
+
   std::string text_;
+  std::unordered_map<std::string, MapCell> found_;  // by the cell's text
 };
 
 // How much larger than usual a system's coordinates are drawn: its `navmapscale` if that is above

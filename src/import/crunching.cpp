@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "import/crunching.h"
 
+#include <algorithm>
 #include <string>
+#include <vector>
 
 #include <fmt/format.h>
 
+#include "db/schema.h"
 #include "db/text.h"
 #include "shell/routine.h"
 
@@ -15,9 +18,8 @@ namespace {
 constexpr std::size_t kSizeOfEmptyField = 254;
 
 // The table without its key, its Text fields as long as their longest text.
-TableDef Crunched(FailureSink& routine, Database& source, TableDef table) {
+TableDef Crunched(TableDef table, const std::vector<std::size_t>& longest) {
   table.PrimaryKey.reset();
-  const std::vector<std::size_t> longest = source.LongestTexts(routine, table);
   for (std::size_t i = 0; i < table.Fields.size(); ++i) {
     if (table.Fields[i].Type != FieldType::Text) continue;
     table.Fields[i].Size = longest[i] > 0 ? longest[i] : kSizeOfEmptyField;
@@ -25,10 +27,48 @@ TableDef Crunched(FailureSink& routine, Database& source, TableDef table) {
   return table;
 }
 
+// The place behind the fixed tables, which are made first.
+std::vector<TableDef>::const_iterator EndOfFixedTables(const std::vector<TableDef>& tables) {
+  const std::vector<TableDef> fixed = FixedTables();
+  return std::find_if(tables.begin(), tables.end(), [&fixed](const TableDef& table) {
+    return std::none_of(fixed.begin(), fixed.end(), [&table](const TableDef& known) {
+      return EqualIgnoringCase(known.Name, table.Name);
+    });
+  });
+}
+
+// All tables of a file that are not the engine's own.
+std::vector<TableDef> TablesOf(FailureSink& routine, const fs::path& file) {
+  std::vector<TableDef> tables = DBEngine::OpenDatabase(routine, file).TableDefs(routine);
+  std::erase_if(tables,
+                [](const TableDef& table) { return Ucase(table.Name).starts_with("MSYS"); });
+  return tables;
+}
+
+// Makes tables with their rows in a file, out of the one attached to it or out of memory.
+class Cruncher {
+ public:
+  Cruncher(FailureSink& routine, Database& to) : routine_(routine), to_(to) {}
+
+  void Copy(const TableDef& table) {
+    to_.CreateTable(routine_, Crunched(table, to_.LongestAttachedTexts(routine_, table)));
+    to_.CopyFromAttached(routine_, table.Name);
+  }
+
+  void Write(const SectionTable& table) {
+    const TableDef definition = Crunched(table.Definition(), table.LongestTexts());
+    to_.CreateTable(routine_, definition);
+    if (to_.CanBeNamedInStatements(routine_)) table.AppendTo(routine_, to_, definition);
+  }
+
+ private:
+  FailureSink& routine_;
+  Database& to_;
+};
+
 std::string InfoOf(const fs::path& source, const fs::path& target) {
-  return fmt::format(
-      "While crunching the big database...\r\n\r\nSRC:[{}]\r\n\r\nDST:[{}]", source.string(),
-      target.string());
+  return fmt::format("While crunching the big database...\r\n\r\nSRC:[{}]\r\n\r\nDST:[{}]",
+                     source.string(), target.string());
 }
 
 }  // namespace
@@ -72,22 +112,23 @@ void CleanUpMemory(ErrorLog& log, ImportHost& host, Database& database,
 }
 
 void CrunchTXTFields(ErrorLog& log, const fs::path& source, const fs::path& target,
-                     JetVersionOption option) {
+                     JetVersionOption option, const SectionTables& sections) {
   Routine routine(log, "DB_Work.CrunchTXTFields", InfoOf(source, target));
   routine.Run([&] {
-    Database from = DBEngine::OpenDatabase(routine, source);
+    const std::vector<TableDef> tables = TablesOf(routine, source);
     std::error_code ignored;
     fs::remove(target, ignored);
-    DBEngine::CreateDatabase(routine, target, option);
-    from.Attach(routine, target);
+    Database to = DBEngine::CreateDatabase(routine, target, option);
+    to.UseForFilling(routine);
+    to.Attach(routine, source);
+    const auto behindFixed = EndOfFixedTables(tables);
+    Cruncher cruncher(routine, to);
     // One transaction: a process that dies on the way leaves a file without any table.
-    from.Begin(routine);
-    for (const TableDef& table : from.TableDefs(routine)) {
-      if (Ucase(table.Name).starts_with("MSYS")) continue;
-      from.CreateAttachedTable(routine, Crunched(routine, from, table));
-      from.CopyToAttached(routine, table.Name);
-    }
-    from.Commit(routine);
+    to.Begin(routine);
+    std::for_each(tables.begin(), behindFixed, [&](const TableDef& t) { cruncher.Copy(t); });
+    for (const auto& table : sections.Tables()) cruncher.Write(*table);
+    std::for_each(behindFixed, tables.end(), [&](const TableDef& t) { cruncher.Copy(t); });
+    to.Commit(routine);
   });
 }
 

@@ -6,6 +6,7 @@
 
 #include "db/engine.h"
 #include "import/import_host.h"
+#include "import/section_tables.h"
 #include "shell/error_log.h"
 
 namespace orrerix {
@@ -14,15 +15,17 @@ namespace orrerix {
 void CloseDB(Database& database, const std::filesystem::path& path);
 
 // Gives memory and file space back: closes the file, compacts it by way of "Orrerix.ok" and opens
-// it again for building. If the compaction fails, "Orrerix.ok" stays behind and holds the data. A file
-// without free pages has nothing to give back and stays open.
+// it again for building. If the compaction fails, "Orrerix.ok" stays behind and holds the data. A
+// file without free pages has nothing to give back and stays open.
 void CleanUpMemory(ErrorLog& log, ImportHost& host, Database& database,
                    const std::filesystem::path& saveFolder);
 
 // Copies all tables of a file into a new one, with every Text field cut down to what its longest
 // text needs (254 where there is none). Fields and rows are carried over, keys are not; tables
-// whose names begin with "MSYS" are the engine's own and stay behind. The target is replaced.
+// whose names begin with "MSYS" are the engine's own and stay behind. The section tables, which
+// were kept in memory, are written behind the fixed tables. The target is replaced.
 void CrunchTXTFields(ErrorLog& log, const std::filesystem::path& source,
-                     const std::filesystem::path& target, JetVersionOption option);
+                     const std::filesystem::path& target, JetVersionOption option,
+                     const SectionTables& sections);
 
 }  // namespace orrerix

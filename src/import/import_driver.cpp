@@ -41,11 +41,8 @@ class ImportRun {
     ReadDataFiles();
     CleanUp();
     Read("\\data\\missions\\mbases.ini", "[GF_NPC]");
-    import_.Sections.WriteTo(routine_, database_);
-    import_.Sections = {};
     CleanUp();
     Derive(stages);
-    StampVersion();
     Crunch();
   }
 
@@ -90,8 +87,8 @@ class ImportRun {
 
   // Names are known only now that the libraries are read.
   void NameSystems() {
-    for (Recordset systems = database_.OpenRecordset(routine_, "SELECT * from Systems", {},
-                                                     RecordsetType::Dynaset);
+    for (Recordset systems =
+             database_.OpenRecordset(routine_, "SELECT * from Systems", {}, RecordsetType::Dynaset);
          !systems.AtEnd(); systems.MoveNext()) {
       systems.Edit();
       routine_.Try([&] {
@@ -138,16 +135,17 @@ class ImportRun {
     host_.Yield();
   }
 
-  // In a transaction of its own: a process that dies while the rows before it are written must not
-  // leave a file that looks finished.
-  void StampVersion() {
-    database_.Commit(routine_);
-    database_.Begin(routine_);
-    database_.CreateTable(routine_, VersionTable());
-    Recordset version = database_.OpenTable(routine_, "Version");
+  // The build file is stamped under its own name: a process that dies before all is crunched leaves
+  // no file that looks finished.
+  void StampVersion(const fs::path& build) {
+    Database file = DBEngine::OpenDatabase(routine_, build);
+    file.UseForBuilding(routine_);
+    file.CreateTable(routine_, VersionTable());
+    Recordset version = file.OpenTable(routine_, "Version");
     version.AddNew();
     version["Version"] = order_.Version.Stamp();
     version.Update();
+    file.Close();
   }
 
   void Crunch() {
@@ -159,11 +157,12 @@ class ImportRun {
       fs::rename(File(), build, error);
       if (error) {
         throw Failure{failure_number::kPathFileAccess,
-                      fmt::format("Path/File access error: cannot rename '{}': {}",
-                                  File().string(), error.message())};
+                      fmt::format("Path/File access error: cannot rename '{}': {}", File().string(),
+                                  error.message())};
       }
     });
-    CrunchTXTFields(log_, build, File(), order_.Format);
+    StampVersion(build);
+    CrunchTXTFields(log_, build, File(), order_.Format, import_.Sections);
     fs::remove(build, error);
     database_ = DBEngine::OpenDatabase(routine_, File());
   }
@@ -181,8 +180,7 @@ class ImportRun {
 bool ImportGame(ErrorLog& log, ImportHost& host, Database& database, const ImportOrder& order,
                 const std::vector<DerivedStage>& stages) {
   Routine routine(log, "OrrerixMain.Command1_Click", "While getting Data from FreeLancer");
-  return routine.Run(
-      [&] { ImportRun(log, host, database, order, routine).Run(stages); });
+  return routine.Run([&] { ImportRun(log, host, database, order, routine).Run(stages); });
 }
 
 }  // namespace orrerix

@@ -180,8 +180,8 @@ class ResourceTree {
 std::string_view StringInBlock(std::string_view block, std::uint32_t index) {
   for (std::uint32_t i = 0;; ++i) {
     if (block.size() < 2) return {};
-    const std::size_t bytes = 2 * (static_cast<unsigned char>(block[0]) +
-                                   256U * static_cast<unsigned char>(block[1]));
+    const std::size_t bytes =
+        2 * (static_cast<unsigned char>(block[0]) + 256U * static_cast<unsigned char>(block[1]));
     block.remove_prefix(2);
     if (block.size() < bytes) return {};
     if (i == index) return block.substr(0, bytes);
@@ -205,6 +205,20 @@ std::string AsSystemText(std::string_view utf16) {
     AppendUtf8(system, IsInWindows1252(codePoint) ? codePoint : U'?');
   }
   return system;
+}
+
+// Appends the ASCII characters at the front of a UTF-16 text, which most texts consist of. Gives
+// the number of their bytes.
+std::size_t AppendAsciiUnits(std::string& text, std::string_view utf16) {
+  std::size_t end = 0;
+  while (end + 1 < utf16.size() && static_cast<signed char>(utf16[end]) >= 0 &&
+         utf16[end + 1] == '\0') {
+    end += 2;
+  }
+  const std::size_t before = text.size();
+  text.resize(before + end / 2);
+  for (std::size_t i = 0; i < end; i += 2) text[before + i / 2] = utf16[i];
+  return end;
 }
 
 }  // namespace
@@ -250,11 +264,9 @@ std::string FromUtf16(std::string_view bytes) {
                                 : low;
   };
   for (std::size_t i = 0; i < bytes.size(); i += 2) {
+    i += AppendAsciiUnits(text, bytes.substr(i));
+    if (i >= bytes.size()) break;
     const char32_t unit = unitAt(i);
-    if (unit < 0x80) {
-      text += static_cast<char>(unit);
-      continue;
-    }
     const bool isHigh = unit >= 0xD800 && unit < 0xDC00;
     const char32_t low = isHigh && i + 2 < bytes.size() ? unitAt(i + 2) : 0;
     if (low >= 0xDC00 && low < 0xE000) {

@@ -21,14 +21,6 @@ void RequireName(std::string_view name) {
   throw EngineFailure(3125, "A name with a character of code 0 is not a valid name.");
 }
 
-TableDef DefinitionOf(std::string_view name, const std::vector<std::string>& fields) {
-  TableDef table = GenericTable(name);
-  for (const std::string& field : fields) {
-    if (field != kSourceFileName) table.Fields.push_back(Field{field});
-  }
-  return table;
-}
-
 }  // namespace
 
 SectionTable::SectionTable(std::string name) : name_(std::move(name)) {
@@ -43,8 +35,7 @@ std::optional<SectionTable::FieldIndex> SectionTable::FindField(std::string_view
 
 SectionTable::FieldIndex SectionTable::AddField(std::string_view name) {
   if (EqualIgnoringCase(name, kSourceFileName) || EqualIgnoringCase(name, "OX_ID")) {
-    throw EngineFailure(failure_number::kFieldDefinedTwice,
-                        "Can't define field more than once.");
+    throw EngineFailure(failure_number::kFieldDefinedTwice, "Can't define field more than once.");
   }
   RequireName(name);
   if (fields_.size() >= kMostFields) {
@@ -150,9 +141,28 @@ void SectionTable::CancelUpdate() {
   edited_.reset();
 }
 
-void SectionTable::WriteTo(FailureSink& sink, Database& database) const {
-  const TableDef definition = DefinitionOf(name_, fields_);
-  database.CreateTable(sink, definition);
+TableDef SectionTable::Definition() const {
+  TableDef table = GenericTable(name_);
+  for (const std::string& field : fields_) {
+    if (field != kSourceFileName) table.Fields.push_back(Field{field});
+  }
+  return table;
+}
+
+std::vector<std::size_t> SectionTable::LongestTexts() const {
+  std::vector<std::size_t> longest(fields_.size() + 1, 0);
+  for (const auto& row : rows_) {
+    for (const Cell& cell : row->Cells) {
+      std::size_t& most = longest[cell.Field + 1];
+      // There are no more characters than bytes.
+      if (cell.Text.size() > most) most = std::max(most, Len(cell.Text));
+    }
+  }
+  return longest;
+}
+
+void SectionTable::AppendTo(FailureSink& sink, Database& database,
+                            const TableDef& definition) const {
   Appender appender = database.OpenAppender(sink, definition);
   for (const auto& row : rows_) {
     appender.Set(0, row->ID);
@@ -178,10 +188,6 @@ SectionTable& SectionTables::Open(std::string_view name) {
 const SectionTable* SectionTables::Find(std::string_view name) const {
   const auto found = byName_.find(std::string(name));
   return found == byName_.end() ? nullptr : found->second;
-}
-
-void SectionTables::WriteTo(FailureSink& sink, Database& database) const {
-  for (const auto& table : tables_) table->WriteTo(sink, database);
 }
 
 }  // namespace orrerix

@@ -56,8 +56,14 @@ class SectionTable {
 
   std::size_t RowCount() const { return rows_.size(); }
 
-  // Creates the table in a database and appends all rows.
-  void WriteTo(FailureSink& sink, Database& database) const;
+  // The table with Text fields of the engine's default size.
+  TableDef Definition() const;
+
+  // Length of the longest text in each field of the definition, characters; 0 for the row number.
+  std::vector<std::size_t> LongestTexts() const;
+
+  // Appends all rows to the table in a database that was made by a definition with these fields.
+  void AppendTo(FailureSink& sink, Database& database, const TableDef& definition) const;
 
  private:
   struct TextHash {
@@ -98,8 +104,7 @@ class SectionTables {
   // own, and 3125 for one with a NUL.
   SectionTable& Open(std::string_view name);
 
-  // Writes all tables into a database.
-  void WriteTo(FailureSink& sink, Database& database) const;
+  const std::vector<std::unique_ptr<SectionTable>>& Tables() const { return tables_; }
 
   const SectionTable* Find(std::string_view name) const;
 

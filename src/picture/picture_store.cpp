@@ -38,7 +38,25 @@ QRect SnappedToPixels(const QRectF& place) {
                                            static_cast<int>(std::ceil(place.height() - nothing)))};
 }
 
+// Halves a picture until another half would be nothing. All are made when the picture is read, so
+// that no new size has to look at more than four pixels for one of its own.
+std::vector<QImage> LevelsOf(QImage picture) {
+  std::vector<QImage> levels = {std::move(picture)};
+  while (std::min(levels.back().width(), levels.back().height()) > 1) {
+    levels.push_back(levels.back().scaled(levels.back().size() / 2, Qt::IgnoreAspectRatio,
+                                          Qt::SmoothTransformation));
+  }
+  return levels;
+}
+
 }  // namespace
+
+const QImage& PictureStore::Source::LevelFor(QSize size) const {
+  const auto tooSmall = std::find_if(Levels.begin() + 1, Levels.end(), [size](const QImage& level) {
+    return level.width() < size.width() || level.height() < size.height();
+  });
+  return *(tooSmall - 1);
+}
 
 PictureStore::PictureStore() : scaled_(kCacheRoom) {}
 
@@ -51,15 +69,16 @@ const PictureStore::Source& PictureStore::SourceOf(const QString& file) {
     if (!source.Drawing->isValid()) source.Drawing.reset();
   } else if (QImage image(file); !image.isNull()) {
     // The formats that the painter blends without a conversion.
-    source.Image = image.convertToFormat(
-        image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32);
+    source.Levels = LevelsOf(image.convertToFormat(
+        image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32));
   }
   return sources_.emplace(file, std::move(source)).first->second;
 }
 
 QSize PictureStore::NaturalSize(const QString& file) {
   const Source& source = SourceOf(file);
-  return source.Drawing ? source.Drawing->defaultSize() : source.Image.size();
+  if (source.Drawing) return source.Drawing->defaultSize();
+  return source.Levels.empty() ? QSize() : source.Levels.front().size();
 }
 
 QPixmap PictureStore::Render(const QString& file, QSize size) {
@@ -72,9 +91,15 @@ QPixmap PictureStore::Render(const QString& file, QSize size) {
     painter.end();
     return QPixmap::fromImage(std::move(image));
   }
-  if (source.Image.isNull()) return {};
-  return QPixmap::fromImage(
-      source.Image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+  if (source.Levels.empty()) return {};
+  const QImage& level = source.LevelFor(size);
+  QImage image(size, level.format());
+  QPainter painter(&image);
+  painter.setCompositionMode(QPainter::CompositionMode_Source);
+  painter.setRenderHint(QPainter::SmoothPixmapTransform);
+  painter.drawImage(image.rect(), level);
+  painter.end();
+  return QPixmap::fromImage(std::move(image));
 }
 
 QPixmap PictureStore::Scaled(const QString& file, QSize size) {
@@ -90,9 +115,9 @@ void PictureStore::DrawSource(QPainter& painter, const QString& file, const QRec
   const Source& source = SourceOf(file);
   if (source.Drawing) {
     source.Drawing->render(&painter, place);
-  } else if (!source.Image.isNull()) {
+  } else if (!source.Levels.empty()) {
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    painter.drawImage(place, source.Image);
+    painter.drawImage(place, source.Levels.front());
   }
 }
 

@@ -10,6 +10,7 @@
 #include <QSvgRenderer>
 #include <memory>
 #include <unordered_map>
+#include <vector>
 
 namespace orrerix {
 
@@ -28,7 +29,7 @@ class PictureStore {
     Draw(painter, file, place, place);
   }
 
-  // The picture in a size in device pixels.
+  // The picture in a size in device pixels, smoothly made out of the next larger level.
   QPixmap Scaled(const QString& file, QSize size);
 
   // Its own size; empty if the file is no picture.
@@ -40,8 +41,11 @@ class PictureStore {
  private:
   // One of the two, or neither for a file that is no picture.
   struct Source {
-    QImage Image;
+    std::vector<QImage> Levels;  // the picture itself, then each in half the size of the one before
     std::unique_ptr<QSvgRenderer> Drawing;
+
+    // The smallest level that need not be enlarged to this size; the picture itself if all must be.
+    const QImage& LevelFor(QSize size) const;
   };
   struct SizedFile {
     QString File;

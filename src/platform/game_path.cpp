@@ -13,9 +13,9 @@ char LowerAscii(char c) {
 }
 
 bool EqualIgnoringCase(std::string_view a, std::string_view b) {
-  return a.size() == b.size() &&
-         std::equal(a.begin(), a.end(), b.begin(),
-                    [](char x, char y) { return LowerAscii(x) == LowerAscii(y); });
+  return a.size() == b.size() && std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) {
+           return LowerAscii(x) == LowerAscii(y);
+         });
 }
 
 std::vector<std::string> Components(std::string_view path) {
@@ -36,7 +36,9 @@ std::vector<fs::path> Spellings(const fs::path& folder, const std::string& name)
   std::error_code error;
   for (fs::directory_iterator entry(folder, error), end; !error && entry != end;
        entry.increment(error)) {
-    const std::string found = entry->path().filename().string();
+    // Most names are of no interest, and filename() would copy each.
+    const std::string path = entry->path().string();
+    const std::string_view found = std::string_view(path).substr(path.find_last_of("\\/") + 1);
     if (found != name && EqualIgnoringCase(found, name)) others.push_back(entry->path());
   }
   std::sort(others.begin(), others.end());
@@ -79,8 +81,7 @@ std::optional<fs::path> FindFolder(const fs::path& below, std::string_view path)
 
 std::optional<fs::path> GameFolder::FindFile(std::string_view path) const {
   if (!path.starts_with(text_) || path.find('\0') != std::string_view::npos) return std::nullopt;
-  return Find(fs::path(text_), Components(path.substr(text_.size())), 0,
-              IsFile);
+  return Find(fs::path(text_), Components(path.substr(text_.size())), 0, IsFile);
 }
 
 }  // namespace orrerix

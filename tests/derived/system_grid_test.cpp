@@ -39,7 +39,7 @@ TEST_F(SystemGridTest, OnlyTheFirstTenCharactersOfANicknameCount) {
   System("abcdefghijKLM", "3, 2");
   System("abcdefghijXYZ", "5, 6");
 
-  const SystemGrid grid = Grid();
+  SystemGrid grid = Grid();
 
   EXPECT_EQ(grid.FindCell("abcdefghij"), (MapCell{3, 2}));
   EXPECT_EQ(grid.FindCell("abcdefghijXYZ"), (MapCell{3, 2}));
@@ -61,7 +61,7 @@ TEST_F(SystemGridTest, LettersBeyondAsciiCountAsOneCharacter) {
   System("größe", "2, 0");
   System("li01", "3, 0");
 
-  const SystemGrid grid = Grid();
+  SystemGrid grid = Grid();
 
   EXPECT_EQ(grid.FindCell("GRÖßE"), (MapCell{2, 0}));
   EXPECT_EQ(grid.FindCell("li01"), (MapCell{3, 0}));

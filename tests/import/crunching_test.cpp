@@ -24,7 +24,7 @@ class Crunching : public UniverseFixture {
   // Lets go of the source, crunches it and opens the result in its place.
   void Crunch() {
     db.Close();
-    CrunchTXTFields(log, source, target, JetVersionOption::Version30);
+    CrunchTXTFields(log, source, target, JetVersionOption::Version30, sections);
     db = DBEngine::OpenDatabase(mustWork, target);
   }
 
@@ -46,6 +46,7 @@ class Crunching : public UniverseFixture {
   TempFolder folder;
   fs::path source = folder.Path() / "build.mdb";
   fs::path target = folder.Path() / "Orrerix.fl";
+  SectionTables sections;
 };
 
 TEST_F(Crunching, TextFieldsGetTheSizeOfTheirLongestText) {
@@ -136,6 +137,42 @@ TEST_F(Crunching, TablesKeepTheirOrderAndOddNames) {
   EXPECT_THAT(Column("a b", "c \"d\""), ElementsAre("one"));
 }
 
+TEST_F(Crunching, SectionTablesStandBehindTheFixedTables) {
+  for (const TableDef& table : FixedTables()) db.CreateTable(mustWork, table);
+  db.CreateTable(mustWork, JumpNodesTable());
+  SectionTable& gun = sections.Open("gun");
+  const auto name = gun.AddField("name");
+  gun.AddField("mass");
+  gun.AddNew();
+  gun.Set(name, "größe");
+  gun.Update();
+
+  Crunch();
+
+  const auto tables = db.TableDefs(mustWork);
+  const std::size_t fixed = FixedTables().size();
+  ASSERT_THAT(tables, SizeIs(fixed + 2));
+  EXPECT_EQ(tables[fixed].Name, "gun");
+  EXPECT_EQ(tables[fixed + 1].Name, "JumpNodes");
+  EXPECT_EQ(tables[fixed].Fields[2].Size, 5u);
+  EXPECT_EQ(tables[fixed].Fields[3].Size, 254u);  // no row has a mass
+  EXPECT_THAT(Column("gun", "name"), ElementsAre("größe"));
+}
+
+TEST_F(Crunching, APathWithAnApostropheLeavesSectionTablesEmptyToo) {
+  SectionTable& gun = sections.Open("gun");
+  gun.AddNew();
+  gun.Set(0, "a.ini");
+  gun.Update();
+  target = folder.Path() / "it's.fl";
+
+  Crunch();
+
+  ASSERT_THAT(log.Failures(), SizeIs(1));
+  EXPECT_EQ(log.Failures()[0].What.Number, 3075);
+  EXPECT_THAT(Rows("gun"), IsEmpty());
+}
+
 TEST_F(Crunching, TheEnginesOwnTablesStayBehind) {
   db.CreateTable(mustWork, {"MSysObjects", {TextField("x")}, {}});
   db.CreateTable(mustWork, {"a", {TextField("x")}, {}});
@@ -205,7 +242,7 @@ TEST_F(Crunching, ASourceThatIsNotThereIsAFailure) {
   db.Close();
   messages.Answer = MessageAnswer::Cancel;
 
-  CrunchTXTFields(log, folder.Path() / "none.mdb", target, JetVersionOption::Version30);
+  CrunchTXTFields(log, folder.Path() / "none.mdb", target, JetVersionOption::Version30, sections);
 
   ASSERT_THAT(log.Failures(), SizeIs(1));
   EXPECT_EQ(log.Failures()[0].What.Number, 3024);

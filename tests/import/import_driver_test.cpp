@@ -301,6 +301,18 @@ TEST_F(GameImport, AnEmptyGameFolderGivesEmptyTables) {
   EXPECT_THAT(Rows("Version"), SizeIs(1));
 }
 
+TEST_F(GameImport, AFileIsNotStampedBeforeItIsCrunched) {
+  saves.Write("SinglePlayer/build.mdb/in the way", "");  // the build file cannot take its name
+  messages.Answer = MessageAnswer::Cancel;
+
+  EXPECT_FALSE(Run());
+
+  db.Close();
+  db = DBEngine::OpenDatabase(mustWork, File());
+  EXPECT_TRUE(db.HasTable("JumpNodes"));
+  EXPECT_FALSE(db.HasTable("Version"));
+}
+
 TEST_F(GameImport, ItsFileIsUsableForTheSameMajorAndMinorVersion) {
   Run();
   db.Close();

@@ -169,7 +169,10 @@ TEST(SectionTables, AreWrittenWithFieldsAndRowsInTheirOrder) {
   FailTest mustWork;
   Database database = DBEngine::CreateInMemory(mustWork);
 
-  tables.WriteTo(mustWork, database);
+  for (const auto& table : tables.Tables()) {
+    database.CreateTable(mustWork, table->Definition());
+    table->AppendTo(mustWork, database, table->Definition());
+  }
 
   const auto definitions = database.TableDefs(mustWork);
   ASSERT_EQ(definitions.size(), 2u);
@@ -190,6 +193,19 @@ TEST(SectionTables, AreWrittenWithFieldsAndRowsInTheirOrder) {
   EXPECT_EQ(rows["OX_ID"].Get(), 3);
   EXPECT_TRUE(rows["SourceFileName"].IsNull());
   EXPECT_EQ(rows["mass"].Get(), "5");
+}
+
+TEST(SectionTable, KnowsTheLongestTextOfEachField) {
+  SectionTable table("gun");
+  const auto name = table.AddField("name");
+  table.AddField("mass");
+  for (const char* text : {"four", "größe", "abc"}) {
+    table.AddNew();
+    table.Set(name, text);
+    table.Update();
+  }
+
+  EXPECT_THAT(table.LongestTexts(), ElementsAre(0, 0, 5, 0));
 }
 
 }  // namespace

@@ -101,6 +101,48 @@ TEST_F(PictureStoreTest, DrawingsHaveTheSizeTheyAreAskedFor) {
   EXPECT_EQ(store.Scaled(":/pictures/icons/jumpgate.svg", {13, 13}).size(), QSize(13, 13));
 }
 
+// Points of a fine pattern would be missed by whoever looks at four of them only.
+TEST_F(PictureStoreTest, AMuchSmallerPictureIsTheAverageOfAllItsPoints) {
+  QImage checked(256, 256, QImage::Format_RGB32);
+  for (int y = 0; y < checked.height(); ++y) {
+    for (int x = 0; x < checked.width(); ++x) {
+      checked.setPixelColor(x, y, x % 8 == 0 ? Qt::white : Qt::black);
+    }
+  }
+  const QString file = QString::fromStdString((folder.Path() / "checked.png").string());
+  checked.save(file);
+
+  const QImage small = store.Scaled(file, {20, 20}).toImage();
+
+  ASSERT_EQ(small.size(), QSize(20, 20));
+  for (int x = 0; x < small.width(); ++x) {
+    EXPECT_NEAR(small.pixelColor(x, 10).red(), 255 / 8, 3) << x;
+  }
+}
+
+TEST_F(PictureStoreTest, WhatIsClearInAPictureIsClearInAnySize) {
+  QImage half(64, 64, QImage::Format_ARGB32);
+  half.fill(Qt::transparent);
+  for (int y = 0; y < 64; ++y) {
+    for (int x = 0; x < 32; ++x) half.setPixelColor(x, y, Qt::red);
+  }
+  const QString file = QString::fromStdString((folder.Path() / "half.png").string());
+  half.save(file);
+
+  for (const int size : {10, 32, 200}) {
+    const QImage scaled = store.Scaled(file, {size, size}).toImage();
+    EXPECT_EQ(scaled.pixelColor(size / 4, size / 2), QColor(Qt::red)) << size;
+    EXPECT_EQ(scaled.pixelColor(size * 3 / 4, size / 2).alpha(), 0) << size;
+  }
+}
+
+TEST_F(PictureStoreTest, APictureOfOnePointHasEverySize) {
+  const QString file = Plain(Qt::green, {1, 1});
+
+  EXPECT_EQ(store.NaturalSize(file), QSize(1, 1));
+  EXPECT_EQ(store.Scaled(file, {7, 3}).toImage().pixelColor(6, 2), QColor(Qt::green));
+}
+
 TEST_F(PictureStoreTest, AFileThatIsNoPictureDrawsNothing) {
   const QString file = QString::fromStdString(folder.Write("SysMap.jpg", "no picture").string());
   QImage canvas = Canvas();

@@ -40,7 +40,10 @@ class ReaderFixture : public UniverseFixture {
 
   // Writes the section tables into the universe, where Rows and FieldNames see them.
   void StoreSections() {
-    import.Sections.WriteTo(mustWork, db);
+    for (const auto& table : import.Sections.Tables()) {
+      db.CreateTable(mustWork, table->Definition());
+      table->AppendTo(mustWork, db, table->Definition());
+    }
     import.Sections = {};
   }
 

@@ -1,0 +1,120 @@
+// SPDX-License-Identifier: MIT
+// A whole redraw of the map: drawing list, scene and paint, at a zoom that was shown before and at
+// one that is new.
+#include <QApplication>
+#include <QImage>
+#include <QPainter>
+#include <memory>
+#include <stdexcept>
+
+#include <benchmark/benchmark.h>
+
+#include "bench_games.h"
+#include "db/working_copy.h"
+#include "map/redraw.h"
+#include "picture/map_scene.h"
+#include "picture/picture_store.h"
+#include "picture/qt_text_measure.h"
+#include "picture/twips.h"
+#include "shell/version.h"
+
+namespace orrerix {
+namespace fs = std::filesystem;
+namespace {
+
+constexpr QSize kWindow(1920, 1050);
+
+class MustWork : public FailureSink {
+ public:
+  void Fail(const Failure& failure) override { throw std::runtime_error(failure.Description); }
+};
+
+class SilentMessages : public MessageBoxes {
+ public:
+  MessageAnswer Show(const Message&) override { return MessageAnswer::Ok; }
+};
+
+struct Redraw {
+  ZoomRectangle Rectangle;
+  double DevicePixelRatio = 1;
+  bool NewZoom = false;
+};
+
+class PaintBench {
+ public:
+  PaintBench(const fs::path& database, const Redraw& redraw)
+      : redraw_(redraw),
+        universe_{log_, copy_.Of(sink_, database)},
+        canvas_(kWindow * redraw.DevicePixelRatio, QImage::Format_RGB32) {
+    canvas_.setDevicePixelRatio(redraw.DevicePixelRatio);
+    map_.Zoom.Reset(redraw.Rectangle);
+    map_.Names = GetSystemNames(universe_, english_);
+  }
+
+  void Run(benchmark::State& state) {
+    auto pictures = std::make_unique<PictureStore>();
+    auto scene = std::make_unique<MapScene>(*pictures);
+    Show(*scene, kWindow);
+    for (auto _ : state) {
+      if (redraw_.NewZoom) {
+        state.PauseTiming();
+        scene.reset();
+        pictures = std::make_unique<PictureStore>();
+        scene = std::make_unique<MapScene>(*pictures);
+        // All pictures are read by then, and none is of the size that is needed next.
+        Show(*scene, kWindow * 0.9);
+        state.ResumeTiming();
+      }
+      Show(*scene, kWindow);
+    }
+  }
+
+ private:
+  void Show(MapScene& scene, QSize window) {
+    scene.Show(DrawMap(
+        universe_, map_,
+        {static_cast<int>(Twips(window.width())), static_cast<int>(Twips(window.height())),
+         MapOptions::Defaults(redraw_.Rectangle.IsZoomed()), measure_, panel_, "StarMapPic"}));
+    QPainter painter(&canvas_);
+    painter.setRenderHint(QPainter::Antialiasing);
+    scene.render(&painter, scene.sceneRect(), scene.sceneRect());
+  }
+
+  MustWork sink_;
+  SilentMessages messages_;
+  ErrorLog log_{messages_, CurrentVersion()};
+  WorkingCopy copy_;
+  Redraw redraw_;
+  Universe universe_;
+  FixedLanguage english_{0};
+  PanelContent panel_ = PanelTexts(english_);
+  QtTextMeasure measure_;
+  MapState map_;
+  QImage canvas_;
+};
+
+}  // namespace
+
+void RegisterPaintBenchmarks(const std::vector<BenchGame>& games, const fs::path& work) {
+  struct View {
+    const char* Name;
+    ZoomRectangle Rectangle;
+  };
+  const auto add = [&](const std::string& name, const BenchGame& game, const Redraw& redraw) {
+    benchmark::RegisterBenchmark(name.c_str(), [game, work, redraw](benchmark::State& state) {
+      PaintBench(ImportInto(game, work), redraw).Run(state);
+    })->Unit(benchmark::kMillisecond);
+  };
+  for (const BenchGame& game : games) {
+    for (const View& view : {View{"whole", {}}, View{"half", {1, 1, 9, 9}},
+                             View{"zoomed", {7, 5, 10, 8}}, View{"single", {7, 4, 7, 4}}}) {
+      for (const double ratio : {1.0, 2.0}) {
+        const std::string name = game.Name + "/" + view.Name + (ratio > 1 ? "/fine screen" : "");
+        add("Redraw/" + name, game, {view.Rectangle, ratio, false});
+        add("FirstRedraw/" + name, game, {view.Rectangle, ratio, true});
+      }
+    }
+  }
+}
+
+}  // namespace orrerix
