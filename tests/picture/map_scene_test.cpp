@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "picture/map_scene.h"
 
+#include <QCoreApplication>
 #include <QImage>
 #include <QPainter>
 
@@ -145,6 +146,36 @@ TEST_F(MapSceneTest, ControlsInsideAFrameAreFoundThere) {
   scene.Show(drawing);
 
   EXPECT_EQ(scene.ControlAt({65, 15})->Name, "StationSearch");
+}
+
+TEST_F(MapSceneTest, WhatANewListBeginsWithAsBeforeIsNotPaintedAnew) {
+  drawing.Controls = {Rectangle({0, 0, 750, 1500}, {0x0000FF}),
+                      Rectangle({750, 0, 750, 1500}, {0x00FF00})};
+  QList<QRectF> changed;
+  QObject::connect(&scene, &QGraphicsScene::changed,
+                   [&](const QList<QRectF>& regions) { changed += regions; });
+  scene.Show(drawing);
+  QCoreApplication::processEvents();
+  changed.clear();
+
+  drawing.Controls[1].BackColor = Color{0xFF0000};
+  scene.Show(drawing);
+  QCoreApplication::processEvents();
+
+  ASSERT_FALSE(changed.isEmpty());
+  for (const QRectF& region : changed) EXPECT_GE(region.left(), 50);
+  EXPECT_EQ(scene.ControlAt({10, 10}), scene.Find("Frame", 0));
+}
+
+TEST_F(MapSceneTest, ControlsWithinAFrameThatStaysAreThoseOfTheNewList) {
+  Control panel = Rectangle({0, 0, 750, 1500}, {0x0000FF});
+  panel.Children = {MakePicture("StationSearch", 2, {150, 150, 150, 150}, "tools/print.svg")};
+  drawing.Controls = {panel};
+  scene.Show(drawing);
+
+  scene.Show(drawing);
+
+  EXPECT_EQ(scene.ControlAt({15, 15}), &scene.Drawing().Controls[0].Children[0]);
 }
 
 TEST_F(MapSceneTest, PartsOfThePanelAreToldApartFromTheMap) {
