@@ -210,6 +210,7 @@ void OrrerixMain::ShowMap() {
     map_.Redraw(universe, prints ? printSide_ : OuterWidth(*this),
                 prints ? printSide_ : OuterHeight(*this));
     play_.MapRedrawn();
+    if (isFirstMap) map_.Frame().setFocus();
   });
 }
 

@@ -72,6 +72,8 @@ struct Control {
   std::optional<std::string> ToolTip;
 
   std::vector<Control> Children;  // in the parent's coordinates, back to front
+
+  bool operator==(const Control&) const = default;
 };
 
 // Controls of the same layer, back to front.
