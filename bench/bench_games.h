@@ -29,6 +29,8 @@ void RegisterImportBenchmarks(const std::vector<BenchGame>& games,
                               const std::filesystem::path& work);
 void RegisterMapPlayBenchmarks(const std::vector<BenchGame>& games,
                                const std::filesystem::path& work);
+void RegisterPlayerBenchmarks(const std::vector<BenchGame>& games,
+                              const std::filesystem::path& work);
 void RegisterRedrawBenchmarks(const std::vector<BenchGame>& games,
                               const std::filesystem::path& work);
 // Needs an application of Qt's.

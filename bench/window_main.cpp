@@ -12,7 +12,9 @@ int main(int argc, char** argv) {
   QApplication application(argc, argv);
   const fs::path work = fs::temp_directory_path() / "orrerix-window-bench";
   fs::create_directories(work);
-  orrerix::RegisterMapPlayBenchmarks(orrerix::BenchGames(work, {300}), work);
+  const auto games = orrerix::BenchGames(work, {300});
+  orrerix::RegisterMapPlayBenchmarks(games, work);
+  orrerix::RegisterPlayerBenchmarks(games, work);
   benchmark::Initialize(&argc, argv);
   benchmark::RunSpecifiedBenchmarks();
   return 0;

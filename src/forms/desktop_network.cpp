@@ -11,6 +11,17 @@
 namespace orrerix {
 namespace {
 
+constexpr int kFirstFinalStatus = 200;
+
+// Whether a server has answered, whatever its status says: the errors of that kind have numbers in
+// the two hundreds and in the four hundreds.
+bool IsAnswer(QNetworkReply::NetworkError error) {
+  return error == QNetworkReply::NoError ||
+         (error > QNetworkReply::UnknownProxyError &&
+          error <= QNetworkReply::UnknownContentError) ||
+         error >= QNetworkReply::InternalServerError;
+}
+
 // One fetch: it ends by itself, or by the first bound that it breaks.
 class Fetch {
  public:
@@ -38,12 +49,9 @@ class Fetch {
     timer.start(limits_.Milliseconds);
     if (!reply_->isFinished()) loop_.exec(QEventLoop::ExcludeUserInputEvents);
     if (!broken_.isEmpty()) throw NetworkError(broken_.toStdString());
-    // A server that answers at all has answered, whatever its status says.
-    const bool answered = reply_->attribute(QNetworkRequest::HttpStatusCodeAttribute).isValid() &&
-                          reply_->error() != QNetworkReply::RemoteHostClosedError;
-    if (reply_->error() != QNetworkReply::NoError && !answered) {
-      throw NetworkError(reply_->errorString().toStdString());
-    }
+    if (!IsAnswer(reply_->error())) throw NetworkError(reply_->errorString().toStdString());
+    const int status = reply_->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
+    if (status < kFirstFinalStatus) throw NetworkError("The server gives no final answer");
     return reply_->readAll();
   }
 

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace orrerix {
@@ -78,6 +79,10 @@ struct Control {
 
 // Controls of the same layer, back to front.
 using ControlList = std::vector<Control>;
+
+// The place of the first control of a name, children included, from the corner that the list's own
+// controls are placed by.
+std::optional<Box> PlaceOf(const ControlList& controls, std::string_view name);
 
 Control MakePicture(std::string name, std::optional<int> index, Box place, std::string picture);
 Control MakeFrame(std::string name, std::optional<int> index, Box place, Color back);

@@ -29,6 +29,11 @@ std::string PageAddress(std::string_view newsAddress, WebPage page) {
   return std::string(newsAddress.substr(0, hostEnd)) + std::string(PathOf(page));
 }
 
+void OpenLink(LinkOpener& links, std::string_view address) {
+  if (address.empty()) return links.OpenManual();
+  if (IsWebAddress(address)) links.Open(std::string(address));
+}
+
 bool IsWebAddress(std::string_view address) {
   const std::string folded = FoldAscii(address);
   return folded.starts_with("http://") || folded.starts_with("https://");

@@ -5,6 +5,8 @@
 #include <string>
 #include <string_view>
 
+#include "platform/links.h"
+
 namespace orrerix {
 
 enum class WebPage { Main, FirstClan, GameServer, WarningHelp };
@@ -12,6 +14,10 @@ enum class WebPage { Main, FirstClan, GameServer, WarningHelp };
 // Address of a page on the host of the news address; empty if there is no news address: then the
 // program's own documentation is opened in its place.
 std::string PageAddress(std::string_view newsAddress, WebPage page);
+
+// Opens a link if it may be: an http or https address. An empty one opens the manual, any other
+// nothing.
+void OpenLink(LinkOpener& links, std::string_view address);
 
 // Whether an address may be handed to the browser: only http and https ones are.
 bool IsWebAddress(std::string_view address);

@@ -13,6 +13,7 @@
 #include "picture/form_font.h"
 #include "picture/label_style.h"
 #include "picture/picture_files.h"
+#include "picture/plain_tool_tip.h"
 #include "picture/twips.h"
 
 namespace orrerix {
@@ -208,7 +209,7 @@ class FrameItem : public ControlItem {
 ControlItem::ControlItem(const Control& control, QGraphicsItem* parent)
     : QGraphicsItem(parent), control_(&control) {
   setPos(Pixels(control.Place.Left), Pixels(control.Place.Top));
-  if (control.ToolTip) setToolTip(QString::fromStdString(*control.ToolTip));
+  if (control.ToolTip) setToolTip(PlainToolTip(*control.ToolTip));
 }
 
 void ControlItem::Rebind(const Control& same) {

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "online/web_pages.h"
 
+#include <string>
+#include <vector>
+
 #include <gtest/gtest.h>
 
 namespace orrerix {
@@ -27,6 +30,25 @@ TEST(WebPages, OnlyHttpAndHttpsAreOpened) {
        {"", "ftp://x", "file:///x", "javascript:x", "httpx://y", " http://x"}) {
     EXPECT_FALSE(IsWebAddress(address)) << address;
   }
+}
+
+class Browser : public LinkOpener {
+ public:
+  std::vector<std::string> Opened;
+  int Manuals = 0;
+  void Open(const std::string& address) override { Opened.push_back(address); }
+  void OpenManual() override { ++Manuals; }
+};
+
+TEST(OpenLink, AnEmptyAddressOpensTheManualAndAnUnsafeOneNothing) {
+  Browser browser;
+
+  OpenLink(browser, "http://x.example");
+  OpenLink(browser, "");
+  OpenLink(browser, "file:///etc/hostname");
+
+  EXPECT_EQ(browser.Opened, std::vector<std::string>{"http://x.example"});
+  EXPECT_EQ(browser.Manuals, 1);
 }
 
 TEST(LogoHalves, TheDiagonalCutsTheLogo) {
