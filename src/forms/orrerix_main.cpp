@@ -226,6 +226,7 @@ void OrrerixMain::ShowMap() {
                 prints ? printSide_ : OuterHeight(*this));
     play_.MapRedrawn();
     newsPlay_.MapRedrawn();
+    // Not every desktop gives the focus to a form that is just shown.
     if (isFirstMap) QueueFocus();
     if (isFirstMap) map_.Frame().setFocus();
   });
@@ -284,7 +285,7 @@ void OrrerixMain::ImageClanClick(bool firstHalf) {
 // and the warning.
 void OrrerixMain::QueueFocus() {
   QTimer::singleShot(0, this, [this] {
-    if (isActiveWindow() && !warning_ && !importRuns_) FormGotFocus();
+    if (isVisible() && !warning_ && !importRuns_) FormGotFocus();
   });
 }
 

@@ -18,6 +18,7 @@ constexpr int kCheckFont = 10;
 constexpr int kDesignFont = 1;  // from here every search ends at the largest size that fits
 constexpr int kButtonMargin = 200;
 constexpr QRgb kGround = 0xFF000040;
+constexpr QRgb kCheckGround = 0xFF5068B0;  // the box is seen on the dark ground
 
 }  // namespace
 
@@ -43,6 +44,9 @@ Spoiler::Spoiler(const SpoilerTexts& texts) {
   check1_ = new QCheckBox("Dont show that warning again (If I use the same map)", this);
   check1_->setObjectName("Check1");
   check1_->setFont(FormFont(kCheckFont));
+  QPalette box = check1_->palette();
+  box.setColor(QPalette::Base, QColor(kCheckGround));
+  check1_->setPalette(box);
   QObject::connect(check1_, &QCheckBox::toggled, this, [this](bool checked) {
     if (OnCheck1) OnCheck1(checked);
   });
@@ -78,8 +82,9 @@ void Spoiler::FormResize() {
   ok_->setGeometry(PixelRect(places.Ok));
   cancel_->setGeometry(PixelRect(places.Cancel));
   for (QPushButton* button : {ok_, cancel_}) {
+    // On a wide screen the width alone would give letters larger than the button.
     button->setFont(FormFont(OptFontSize(button->text().toStdString(), formMeasure_, kDesignFont,
-                                         places.Ok.Width - kButtonMargin)));
+                                         places.Ok.Width - kButtonMargin, places.Ok.Height)));
   }
   text_->setFont(FixedFont(FittingFont(text_->toPlainText(), places.Text.Width)));
   headLine_->setFont(
