@@ -33,12 +33,12 @@ class SilentMessages : public MessageBoxes {
 
 }  // namespace
 
-std::vector<BenchGame> BenchGames(const fs::path& work) {
+std::vector<BenchGame> BenchGames(const fs::path& work, std::initializer_list<int> sizes) {
   std::vector<BenchGame> games;
   if (const char* real = std::getenv("ORRERIX_BENCH_GAME"); real != nullptr && *real != '\0') {
     games.push_back({"real", real});
   }
-  for (const int systems : {40, 500}) {
+  for (const int systems : sizes) {
     const fs::path folder = work / ("demo" + std::to_string(systems));
     WriteDemoGame(folder, systems);
     games.push_back({"demo" + std::to_string(systems), folder});

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <filesystem>
+#include <initializer_list>
 #include <string>
 #include <vector>
 
@@ -16,14 +17,19 @@ struct BenchGame {
   std::filesystem::path Folder;
 };
 
-// The folder named by ORRERIX_BENCH_GAME, if there is one, as "real", and demo games of 40 and 500
+// The folder named by ORRERIX_BENCH_GAME, if there is one, as "real", and demo games of so many
 // systems, written below `work`.
-std::vector<BenchGame> BenchGames(const std::filesystem::path& work);
+std::vector<BenchGame> BenchGames(const std::filesystem::path& work,
+                                  std::initializer_list<int> sizes);
 
 // Imports a game into a folder of its own below `work` and gives the finished file.
 std::filesystem::path ImportInto(const BenchGame& game, const std::filesystem::path& work);
 
 void RegisterImportBenchmarks(const std::vector<BenchGame>& games,
+                              const std::filesystem::path& work);
+void RegisterMapPlayBenchmarks(const std::vector<BenchGame>& games,
+                               const std::filesystem::path& work);
+void RegisterPlayerBenchmarks(const std::vector<BenchGame>& games,
                               const std::filesystem::path& work);
 void RegisterRedrawBenchmarks(const std::vector<BenchGame>& games,
                               const std::filesystem::path& work);

@@ -10,7 +10,7 @@ int main(int argc, char** argv) {
   namespace fs = std::filesystem;
   const fs::path work = fs::temp_directory_path() / "orrerix-bench";
   fs::create_directories(work);
-  const auto games = orrerix::BenchGames(work);
+  const auto games = orrerix::BenchGames(work, {40, 500});
   orrerix::RegisterImportBenchmarks(games, work);
   orrerix::RegisterRedrawBenchmarks(games, work);
 #ifdef ORRERIX_BENCH_PAINT

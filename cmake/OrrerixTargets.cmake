@@ -9,9 +9,7 @@ target_compile_options(orrerix_options INTERFACE
   # break our code: the vectorizer of straight code forgets to round a pair of doubles to float,
   # which the map's places rest on, and dead store elimination drops what a variable held before
   # "variable = F()" also where F throws, which every failed step rests on. Tests watch both.
-  # Its vectorizer of loops is left at work, and told that texts are longer than a register.
-  $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict -fno-tree-slp-vectorize -fno-tree-dse
-    -fvect-cost-model=dynamic>)
+  $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict -fno-tree-slp-vectorize -fno-tree-dse>)
 if(ORRERIX_SANITIZE)
   target_compile_options(orrerix_options INTERFACE
     -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
@@ -30,6 +28,11 @@ function(orrerix_library folder)
   list(TRANSFORM ARG_USES PREPEND orrerix_)
   target_link_libraries(${target} PUBLIC ${ARG_USES} ${ARG_LINKS} PRIVATE orrerix_options)
 endfunction()
+
+# Lets the compiler make fast loops over texts of any length. For folders that calculate no places.
+add_library(orrerix_text_loops INTERFACE)
+target_compile_options(orrerix_text_loops INTERFACE
+  $<$<CXX_COMPILER_ID:GNU>:-fvect-cost-model=dynamic>)
 
 # orrerix_program(<name> SOURCES <files> [USES <folders>] [LINKS <other libraries>])
 function(orrerix_program name)

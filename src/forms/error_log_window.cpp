@@ -77,6 +77,7 @@ ErrorLogWindow::Log ErrorLogWindow::AddLog(const char* name, QColor letters,
                                            QPlainTextEdit::LineWrapMode wrap) {
   auto* box = new QPlainTextEdit(this);
   box->setObjectName(name);
+  box->setAccessibleName(wrap == QPlainTextEdit::NoWrap ? "Program log" : "Data log");
   box->setFont(FormFont(kLogFont));
   box->setReadOnly(true);
   box->setUndoRedoEnabled(false);

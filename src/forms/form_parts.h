@@ -10,6 +10,7 @@
 #include "platform/links.h"
 #include "platform/memory_status.h"
 #include "platform/message_box.h"
+#include "platform/network.h"
 #include "platform/printer.h"
 #include "platform/sound.h"
 #include "shell/error_log.h"
@@ -25,6 +26,7 @@ struct StartPaths {
   std::optional<std::string> Game;                  // game folder instead of the registry's
   std::optional<std::filesystem::path> SaveFolder;  // instead of the one below "Personal"
   bool Debugging = false;                           // the word "debug"
+  std::string NewsAddress;                          // empty: there are no news
 };
 
 // What the forms are built from; all of it outlives them.
@@ -37,6 +39,7 @@ struct FormParts {
   SoundPlayer& Sound;
   LinkOpener& Links;
   Printers& Printing;
+  Network& Web;
   PictureStore& Pictures;
 
   // The game folder as the start finds it.

@@ -49,6 +49,7 @@ ImportScreen::ImportScreen(PictureStore& pictures, QWidget* parent)
 
 void ImportScreen::MakeText1() {
   text1_->setObjectName("Text1");
+  text1_->setAccessibleName("What the import does");
   text1_->setReadOnly(true);
   text1_->setFont(FixedFont(kTextFont));
   text1_->setStyleSheet(kTextStyle);
@@ -57,6 +58,7 @@ void ImportScreen::MakeText1() {
 
 void ImportScreen::MakePathRow() {
   text2_->setObjectName("Text2");
+  text2_->setAccessibleName("Game folder");
   text2_->setText("C:\\Programme\\Microsoft Games\\Freelancer");
   text2_->setFont(FormFont(kTextFont));
   text2_->setStyleSheet(kPathStyle);

@@ -9,6 +9,7 @@
 #include <CLI/CLI.hpp>
 #include <fmt/format.h>
 
+#include "forms/desktop_network.h"
 #include "forms/program_run.h"
 #include "forms/program_style.h"
 #include "forms/qt_services.h"
@@ -25,7 +26,7 @@ struct Words {
   std::string Game;
   std::string SaveFolder;
   std::string AppFolder;
-  std::string NewsUrl;
+  std::string NewsUrl = ORRERIX_NEWS_URL;
   bool FindGame = false;
   std::vector<std::string> Others;
 };
@@ -55,6 +56,7 @@ StartPaths PathsOf(const Words& words) {
       words.AppFolder.empty() ? ApplicationFolder() : MadeFolder(words.AppFolder);
   paths.Executable = ExecutablePath();
   if (!words.Game.empty()) paths.Game = words.Game;
+  paths.NewsAddress = words.NewsUrl;
   if (!words.SaveFolder.empty()) paths.SaveFolder = MadeFolder(words.SaveFolder);
   paths.Debugging =
       std::find(words.Others.begin(), words.Others.end(), "debug") != words.Others.end();
@@ -88,12 +90,13 @@ int RunProgram(int argc, char** argv, const StartPaths& paths) {
   DesktopSound sound;
   DesktopLinks links;
   DesktopPrinters printers;
+  DesktopNetwork network;
   ErrorLog log(messages, CurrentVersion());
   const auto native = NativeRegistry();
   const GameRegistry registry(log, *native);
   PictureStore pictures;
   const FormParts parts{paths, CurrentVersion(), log,     registry, messages, sound,
-                        links, printers,         pictures};
+                        links, printers,         network, pictures};
   ProgramRun run(parts);
   run.Start();
   return QApplication::exec();

@@ -33,6 +33,10 @@ class MapForm {
 
   // A click on a tool icon.
   virtual void StationSearchClick(int index) = 0;
+
+  // A click on a news label, and on one of the two halves of the logo.
+  virtual void InfoBoxLabelClick(int index) = 0;
+  virtual void ImageClanClick(bool firstHalf) = 0;
 };
 
 }  // namespace orrerix

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "map/game_sounds.h"
+#include "online/web_pages.h"
 #include "shell/routine.h"
 
 namespace orrerix {
@@ -129,6 +130,18 @@ void MapPlay::PanelClick(std::string_view name, int index) {
   if (name == "StationSearch") form_.StationSearchClick(index);
   if (name == "SetImage") SetImageClick(index);
   if (name == "SetLabel") SetLabelClick(index);
+  if (name == "InfoBoxLabel") form_.InfoBoxLabelClick(index);
+  if (name == "ImageClan") form_.ImageClanClick(firstHalfClick_);
+}
+
+// A place on the map frame, twips.
+void MapPlay::ImageClanMouseMove(double x, double y) {
+  Routine routine(log_, "OrrerixMain.ImageClan_MouseMove");
+  routine.Run([&] {
+    const auto logo = PlaceOf(screen_.Drawing().Controls, "ImageClan");
+    if (!logo) return;
+    firstHalfClick_ = IsFirstHalf(x - logo->Left, y - logo->Top, logo->Width, logo->Height);
+  });
 }
 
 // The keyboard touches nothing in passing: it unfolds and folds the options by a click.
@@ -171,6 +184,7 @@ void MapPlay::MouseMove(const MapPointer& pointer) {
       return Image1MouseMove(target.Index);
     case Part::Panel:
       if (target.Name == "ShowOptionsLabel") ShowOptionsLabelMouseMove();
+      if (target.Name == "ImageClan") ImageClanMouseMove(pointer.X, pointer.Y);
       return;
   }
 }

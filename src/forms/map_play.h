@@ -47,6 +47,7 @@ class MapPlay : private MapMouse, private MapKeys {
   void ShowOptionsLabelMouseMove();
   void SetImageClick(int index);
   void SetLabelClick(int index);
+  void ImageClanMouseMove(double x, double y);
 
   // Takes a step of the zoom that others make: the same rectangle beeps, another one sounds.
   // True if the map is to be redrawn.
@@ -94,6 +95,7 @@ class MapPlay : private MapMouse, private MapKeys {
   CellCursor cursor_;
   PanelKeys panelKeys_;
   std::optional<Target> pressed_;
+  bool firstHalfClick_ = false;  // the logo's half that the mouse was on last
 };
 
 }  // namespace orrerix

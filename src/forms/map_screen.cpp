@@ -20,6 +20,18 @@ MapScreen::MapScreen(PictureStore& pictures, Settings& settings, TextSource& tex
   frame_->hide();
 }
 
+void MapScreen::LoadFormTXT() {
+  panel_ = PanelTexts(texts_);
+  panel_.News.front().Link = ownLink_;
+  panel_.News.insert(panel_.News.end(), news_.begin(), news_.end());
+}
+
+void MapScreen::SetNews(std::string ownLink, std::vector<NewsItem> news) {
+  ownLink_ = std::move(ownLink);
+  news_ = std::move(news);
+  LoadFormTXT();
+}
+
 void MapScreen::InitDataUsage(Universe& universe) {
   if (std::exchange(namesRead_, true)) return;
   state_.Zoom.Reset();

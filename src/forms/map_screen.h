@@ -23,7 +23,11 @@ class MapScreen {
   void ReplaceStarMap(std::string file) { starMap_ = std::move(file); }
 
   // Takes the captions over from the language in use.
-  void LoadFormTXT() { panel_ = PanelTexts(texts_); }
+  void LoadFormTXT();
+
+  // Shows these news below the program's own line, from the next redraw on. `ownLink` is that
+  // line's.
+  void SetNews(std::string ownLink, std::vector<NewsItem> news);
 
   // Reads the systems' names; once, however often it is called.
   void InitDataUsage(Universe& universe);
@@ -49,6 +53,8 @@ class MapScreen {
   TextSource& texts_;
   QtTextMeasure measure_;
   PanelContent panel_;
+  std::string ownLink_;
+  std::vector<NewsItem> news_;
   MapState state_;
   MapOptions options_;
   bool namesRead_ = false;

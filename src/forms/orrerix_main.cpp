@@ -14,6 +14,8 @@
 #include "forms/form_geometry.h"
 #include "forms/print_form.h"
 #include "import/import_driver.h"
+#include "map/game_sounds.h"
+#include "online/web_pages.h"
 #include "platform/game_path.h"
 #include "shell/routine.h"
 #include "shell/startup.h"
@@ -45,6 +47,7 @@ OrrerixMain::OrrerixMain(const FormParts& parts, Settings& settings, Language& l
       map_(parts.Pictures, settings, language, this),
       play_(map_, *this, parts.Log, settings, language, parts.Sound),
       search_(map_, *this, play_, parts.Log, language),
+      newsPlay_(map_, parts.Log),
       stations_({parts.Log, parts.Pictures, parts.Sound, language, map_.State().Names,
                  [this](Routine& routine) { return OpenUniverse(routine); }}),
       host_(*this, *importScreen_, parts.Messages, parts.Log, startMemory, parts.Paths.Debugging) {
@@ -103,10 +106,11 @@ void OrrerixMain::resizeEvent(QResizeEvent* event) {
 void OrrerixMain::changeEvent(QEvent* event) {
   QWidget::changeEvent(event);
   if (event->type() == QEvent::WindowStateChange) FormResize();
+  if (event->type() == QEvent::ActivationChange && isActiveWindow()) QueueFocus();
 }
 
 void OrrerixMain::FormResize() {
-  if (!loaded_ || isMinimized()) return;
+  if (!loaded_ || warning_ || isMinimized()) return;
   std::error_code ignored;
   if (importing_ || !fs::exists(UniverseFile(), ignored)) {
     ShowImportScreen();
@@ -205,11 +209,26 @@ void OrrerixMain::ShowMap() {
     const bool warns = isFirstMap && IsWarningWanted(routine, UniverseFile());
     Universe universe = OpenUniverse(routine);
     map_.InitDataUsage(universe);
-    if (warns && OnFirstMap) OnFirstMap();
+    if (warns && OnFirstMap) {
+      warning_ = true;
+      setEnabled(false);
+      const bool goesOn = OnFirstMap();
+      setEnabled(true);
+      if (!goesOn) {
+        // The form is just being shown: it goes when that is done.
+        QTimer::singleShot(0, this, [this] { hide(); });
+        return;
+      }
+      warning_ = false;
+    }
     const bool prints = printSide_ > 0;
     map_.Redraw(universe, prints ? printSide_ : OuterWidth(*this),
                 prints ? printSide_ : OuterHeight(*this));
     play_.MapRedrawn();
+    newsPlay_.MapRedrawn();
+    // Not every desktop gives the focus to a form that is just shown.
+    if (isFirstMap) QueueFocus();
+    if (isFirstMap) map_.Frame().setFocus();
   });
 }
 
@@ -234,6 +253,48 @@ void OrrerixMain::StationSearchClick(int index) {
     } else {
       search_.StationSearchClick(static_cast<SearchType>(index));
     }
+  });
+}
+
+void OrrerixMain::InfoBoxLabelFillup(const std::string& text) {
+  Routine routine(parts_.Log, "OrrerixMain.InfoBoxLabelFillup", "While building up News-Table.");
+  routine.Run([&] {
+    news_ = orrerix::InfoBoxLabelFillup(text);
+    std::vector<NewsItem> items;
+    for (NewsEntry& entry : news_.Entries) {
+      items.push_back({entry.Caption, entry.ToolTip, entry.Address});
+    }
+    map_.SetNews(PageAddress(parts_.Paths.NewsAddress, WebPage::Main), std::move(items));
+  });
+}
+
+void OrrerixMain::InfoBoxLabelClick(int index) {
+  PlaySoundfile(parts_.Log, parts_.Sound, Game(), kLinkSound);
+  const auto entry = static_cast<std::size_t>(index) - 1;
+  OpenLink(parts_.Links, index > 0 && entry < news_.Entries.size()
+                             ? news_.Entries[entry].Address
+                             : PageAddress(parts_.Paths.NewsAddress, WebPage::Main));
+}
+
+void OrrerixMain::ImageClanClick(bool firstHalf) {
+  OpenLink(parts_.Links, PageAddress(parts_.Paths.NewsAddress,
+                                     firstHalf ? WebPage::FirstClan : WebPage::GameServer));
+}
+
+// The form may be just being shown, which has to be done before it gives way; and so have an import
+// and the warning.
+void OrrerixMain::QueueFocus() {
+  QTimer::singleShot(0, this, [this] {
+    if (isVisible() && !warning_ && !importRuns_) FormGotFocus();
+  });
+}
+
+void OrrerixMain::FormGotFocus() {
+  Routine routine(parts_.Log, "OrrerixMain.Form_GotFocus");
+  routine.Run([&] {
+    if (!IsUpdateDue(parts_.Version, news_.LatestVersion, updateNoticeShown_)) return;
+    updateNoticeShown_ = true;
+    if (OnUpdate) OnUpdate(news_);
   });
 }
 

@@ -12,9 +12,11 @@
 #include "forms/map_form.h"
 #include "forms/map_play.h"
 #include "forms/map_screen.h"
+#include "forms/news_play.h"
 #include "forms/search_play.h"
 #include "forms/station_windows.h"
 #include "forms/window_host.h"
+#include "online/news.h"
 
 namespace orrerix {
 
@@ -44,9 +46,21 @@ class OrrerixMain : public QWidget, private MapForm {
   // Called when the user closes the form and no import is running any more.
   std::function<void()> OnQueryUnload;
 
-  // Asked for once before the first map; the program's own warnings stand here.
-  std::function<void()> OnFirstMap;
+  // Asked once before the first map, unless the universe's warning is off. If it answers false the
+  // program is over and no map is drawn.
+  std::function<bool()> OnFirstMap;
 
+  // A later version is there; called once, when the form has the focus.
+  std::function<void(const News&)> OnUpdate;
+
+  // Takes a news file over: labels in the panel, and the version that is the latest.
+  void InfoBoxLabelFillup(const std::string& text);
+
+  // Opens the link of a news label with the game's sound for that.
+  void InfoBoxLabelClick(int index) override;
+
+  std::filesystem::path UniverseFile() const { return saveFolder_ / "Orrerix.fl"; }
+  GameFolder Game() const override;
   MapScreen& Map() { return map_; }
   MapPlay& Play() { return play_; }
   const StationWindows& Stations() const { return stations_; }
@@ -59,12 +73,14 @@ class OrrerixMain : public QWidget, private MapForm {
  private:
   void LoadFormTXT() override;
   Universe OpenUniverse(Routine& routine) override;
-  GameFolder Game() const override;
   bool SearchPanelOpen() const override { return search_.Visible(); }
   void ShowStation(const std::string& nickname, const std::string& picture) override;
   void StationSearchClick(int index) override;
 
-  std::filesystem::path UniverseFile() const { return saveFolder_ / "Orrerix.fl"; }
+  void ImageClanClick(bool firstHalf) override;
+
+  void QueueFocus();
+  void FormGotFocus();
   std::string GameFolderText() const;
   void LookForGame();
   void Command1Click();
@@ -88,12 +104,16 @@ class OrrerixMain : public QWidget, private MapForm {
   bool lookQueued_ = false;   // for the game, from the event loop
   bool complaining_ = false;  // that the game is missing
   bool mapShown_ = false;
+  bool warning_ = false;  // the question before the first map is open, or was answered by an end
+  bool updateNoticeShown_ = false;
+  News news_;
   int printSide_ = 0;  // twips of the form's sides while it prints; else 0
 
   ImportScreen* importScreen_;
   MapScreen map_;
   MapPlay play_;
   SearchPlay search_;
+  NewsPlay newsPlay_;
   StationWindows stations_;
   WindowHost host_;
 };

@@ -11,7 +11,8 @@
 namespace orrerix {
 namespace {
 
-constexpr int kDotsPerInch = 96;  // a logical pixel is 15 twips of 1440 an inch
+// A logical pixel is 15 twips of 1440 an inch. On paper lines are as wide as that, too.
+constexpr int kDotsPerInch = 96;
 
 void SetTarget(QPrinter& printer, const PrintTarget& target) {
   if (target.File.empty()) {
@@ -25,6 +26,7 @@ void SetTarget(QPrinter& printer, const PrintTarget& target) {
 // In the middle of the page's printable part.
 QRectF PlaceOnPage(const QSizeF& frame, const QPrinter& printer) {
   const QRectF page(QPointF(0, 0), printer.pageRect(QPrinter::DevicePixel).size());
+  // A printer may not heed the resolution that it is asked for.
   const double pixel = static_cast<double>(printer.resolution()) / kDotsPerInch;
   QSizeF size = frame * pixel;
   if (size.width() > page.width() || size.height() > page.height()) {
@@ -43,6 +45,7 @@ void PrintForm(MapScene& scene, const std::optional<PrintTarget>& target) {
   }
   QPrinter printer(QPrinter::HighResolution);
   SetTarget(printer, *target);
+  printer.setResolution(kDotsPerInch);
   const QRectF frame = scene.sceneRect();
   printer.setDocName("FL Orrerix");
   QPainter painter;

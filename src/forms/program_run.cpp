@@ -2,7 +2,12 @@
 #include "forms/program_run.h"
 
 #include <QApplication>
+#include <QScreen>
 
+#include "forms/spoiler.h"
+#include "map/game_sounds.h"
+#include "online/news_loader.h"
+#include "online/web_pages.h"
 #include "shell/routine.h"
 #include "shell/startup.h"
 
@@ -36,8 +41,10 @@ void ProgramRun::FormGotFocus() {
   Yield();
   Routine routine(parts_.Log, "loading.Form_GotFocus",
                   "While loading News via MSINET.OCX and starting OX.");
-  routine.Run([&] { LoadNews(); });
+  std::string news;
+  routine.Run([&] { news = LoadNews(); });
   LoadMain();
+  if (IsNewsFile(news)) main_->InfoBoxLabelFillup(news);
   loading_.hide();
   ShowMain();
   UnloadStartForms();
@@ -55,8 +62,14 @@ bool ProgramRun::CheckEngine() {
   return false;
 }
 
-// The news comes before the main form, which shows it; there is none yet.
-void ProgramRun::LoadNews() {}
+// The news come before the main form, which shows them.
+std::string ProgramRun::LoadNews() {
+  const StartPaths& paths = parts_.Paths;
+  NewsLoader loader(parts_.Log, parts_.Web, parts_.Messages, paths.NewsAddress,
+                    paths.ApplicationFolder);
+  loader.Command1_Click();
+  return loader.Text1();
+}
 
 void ProgramRun::LoadMain() {
   const auto& folder = parts_.Paths.ApplicationFolder;
@@ -64,7 +77,8 @@ void ProgramRun::LoadMain() {
   language_.emplace(parts_.Log, folder, *format_);
   main_ = std::make_unique<OrrerixMain>(parts_, *settings_, *language_, memStart_, *format_);
   main_->OnQueryUnload = [this] { UnloadApp(); };
-  main_->OnFirstMap = [this] { ShowSpoiler(); };
+  main_->OnFirstMap = [this] { return ShowSpoiler(); };
+  main_->OnUpdate = [this](const News& news) { ShowUpdate(news); };
   main_->FormLoad();
 }
 
@@ -72,8 +86,41 @@ void ProgramRun::ShowMain() {
   main_->ShowMaximised();
 }
 
-// The warning before the first map; there is none yet.
-void ProgramRun::ShowSpoiler() {}
+// The warning before the first map. False if the user would rather leave.
+bool ProgramRun::ShowSpoiler() {
+  loading_.hide();
+  Spoiler spoiler(ReadSpoilerTexts(main_->Game()));
+  spoiler.OnCheck1 = [this](bool checked) { SetWarningOff(main_->UniverseFile(), checked); };
+  spoiler.OnTextClick = [this] {
+    PlaySoundfile(parts_.Log, parts_.Sound, main_->Game(), kLinkSound);
+    OpenLink(parts_.Links, PageAddress(parts_.Paths.NewsAddress, WebPage::WarningHelp));
+  };
+  spoiler.setWindowIcon(main_->windowIcon());
+  spoiler.setGeometry(main_->screen()->availableGeometry());
+  spoiler.setWindowState(Qt::WindowMaximized);
+  if (spoiler.exec() == QDialog::Accepted) return true;
+  EndAtOnce();
+  return false;
+}
+
+void ProgramRun::ShowUpdate(const News& news) {
+  update_ = std::make_unique<Update>(news.UpdateToolTip);
+  update_->OnQueryUnload = [this] { main_->ShowMaximised(); };
+  update_->OnLabel1Click = [this] {
+    main_->InfoBoxLabelClick(0);
+    EndAtOnce();
+  };
+  update_->setWindowIcon(main_->windowIcon());
+  update_->show();
+  update_->repaint();
+  main_->hide();
+}
+
+// No closing order: all windows go, and the program with them.
+void ProgramRun::EndAtOnce() {
+  for (QWidget* form : QApplication::topLevelWidgets()) form->hide();
+  OnEnd();
+}
 
 void ProgramRun::UnloadStartForms() {
   loading_.close();

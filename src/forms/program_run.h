@@ -8,6 +8,7 @@
 #include "forms/form_parts.h"
 #include "forms/loading.h"
 #include "forms/orrerix_main.h"
+#include "forms/update.h"
 
 namespace orrerix {
 
@@ -31,10 +32,12 @@ class ProgramRun {
  private:
   void FormGotFocus();
   bool CheckEngine();
-  void LoadNews();
+  std::string LoadNews();
   void LoadMain();
   void ShowMain();
-  void ShowSpoiler();
+  bool ShowSpoiler();
+  void ShowUpdate(const News& news);
+  void EndAtOnce();
   void UnloadStartForms();
   void UnloadApp();
 
@@ -46,6 +49,7 @@ class ProgramRun {
   Loading loading_;
   std::unique_ptr<OrrerixMain> main_;
   ErrorLogWindow errorLog_;
+  std::unique_ptr<Update> update_;
 };
 
 }  // namespace orrerix

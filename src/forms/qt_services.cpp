@@ -5,6 +5,8 @@
 #include <QApplication>
 #include <QAudioDevice>
 #include <QDesktopServices>
+#include <QDir>
+#include <QFileInfo>
 #include <QMediaDevices>
 #include <QMessageBox>
 #include <QPrinterInfo>
@@ -69,6 +71,17 @@ MessageAnswer DesktopMessageBoxes::Show(const Message& message) {
 
 void DesktopLinks::Open(const std::string& address) {
   QDesktopServices::openUrl(QUrl(QString::fromStdString(address)));
+}
+
+// Installed beside the program, or in the folder that it was built in.
+void DesktopLinks::OpenManual() {
+  for (const char* place : {"../share/doc/orrerix/manual.md", "docs/manual.md",
+                            "../docs/manual.md", "../../docs/manual.md"}) {
+    const QFileInfo manual(QDir(QCoreApplication::applicationDirPath()), place);
+    if (!manual.exists()) continue;
+    QDesktopServices::openUrl(QUrl::fromLocalFile(manual.canonicalFilePath()));
+    return;
+  }
 }
 
 std::optional<PrintTarget> DesktopPrinters::DefaultPrinter() {

@@ -23,6 +23,7 @@ class DesktopMessageBoxes : public MessageBoxes {
 class DesktopLinks : public LinkOpener {
  public:
   void Open(const std::string& address) override;
+  void OpenManual() override;
 };
 
 class DesktopPrinters : public Printers {

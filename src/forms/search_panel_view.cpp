@@ -13,6 +13,12 @@ namespace {
 constexpr int kFont = 9;
 constexpr int kGap = 60;  // between text box and close button, twips
 
+// A light edge parts it from the panel that it covers.
+constexpr const char* kStyle =
+    "#StSearchFrame { background: #060a26; border: 1px solid #5ab4dc; }"
+    "QLineEdit, QListWidget { background: #0a1034; color: #e0e8ff; border: 1px solid #3a54a0; }"
+    "QLineEdit:focus, QListWidget:focus { border-color: #7ac8f0; }";
+
 QRect RectOf(const orrerix::Box& box) {
   return PixelRect(static_cast<int>(box.Left), static_cast<int>(box.Top),
                    static_cast<int>(box.Width), static_cast<int>(box.Height));
@@ -25,6 +31,7 @@ SearchPanelView::SearchPanelView(SearchEvents& events, QWidget* map)
   setObjectName("StSearchFrame");
   setAutoFillBackground(true);
   setFrameShape(QFrame::StyledPanel);
+  setStyleSheet(kStyle);
   setFont(FormFont(kFont));
   text_ = new QLineEdit(this);
   text_->setObjectName("StSearchText");
@@ -56,6 +63,7 @@ QListWidget* SearchPanelView::AddList(const char* name, const char* accessibleNa
   list->setObjectName(name);
   list->setAccessibleName(accessibleName);
   list->setUniformItemSizes(true);
+  list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   list->installEventFilter(this);
   return list;
 }

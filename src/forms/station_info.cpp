@@ -52,6 +52,7 @@ StationInfo::StationInfo(const StationParts& parts, std::string nickname, std::s
   searchList_->setObjectName("SearchList");
   searchList_->setFont(FormFont(kStationText));
   searchList_->setAccessibleName("For sale");
+  searchList_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   QObject::connect(searchList_, &QListWidget::currentRowChanged, this,
                    [this](int row) { SearchListClick(row); });
   QObject::connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this,

@@ -21,6 +21,18 @@ std::string Color::Text() const {
   return fmt::format("0x{:06X}", Bgr);
 }
 
+std::optional<Box> PlaceOf(const ControlList& controls, std::string_view name) {
+  for (const Control& control : controls) {
+    if (control.Name == name) return control.Place;
+    if (auto inner = PlaceOf(control.Children, name)) {
+      inner->Left += control.Place.Left;
+      inner->Top += control.Place.Top;
+      return inner;
+    }
+  }
+  return std::nullopt;
+}
+
 Control MakePicture(std::string name, std::optional<int> index, Box place, std::string picture) {
   Control control = MakeControl(ControlKind::Picture, std::move(name), index, place);
   control.Picture = std::move(picture);

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace orrerix {
@@ -72,10 +73,16 @@ struct Control {
   std::optional<std::string> ToolTip;
 
   std::vector<Control> Children;  // in the parent's coordinates, back to front
+
+  bool operator==(const Control&) const = default;
 };
 
 // Controls of the same layer, back to front.
 using ControlList = std::vector<Control>;
+
+// The place of the first control of a name, children included, from the corner that the list's own
+// controls are placed by.
+std::optional<Box> PlaceOf(const ControlList& controls, std::string_view name);
 
 Control MakePicture(std::string name, std::optional<int> index, Box place, std::string picture);
 Control MakeFrame(std::string name, std::optional<int> index, Box place, Color back);

@@ -13,6 +13,7 @@
 #include "picture/form_font.h"
 #include "picture/label_style.h"
 #include "picture/picture_files.h"
+#include "picture/plain_tool_tip.h"
 #include "picture/twips.h"
 
 namespace orrerix {
@@ -149,7 +150,7 @@ class LabelItem : public ControlItem {
       while (points > kSmallestFont && !Fits(caption, box)) font_ = FormFont(--points);
     } else if (style_.Lines) {
       caption.replace("\r\n", QString(QChar::LineSeparator));
-    } else {
+    } else if (!style_.Overflows) {
       caption = QFontMetricsF(font_).elidedText(caption, Qt::ElideRight, box.width() + 1);
     }
     text_.setText(caption);
@@ -220,13 +221,21 @@ class FrameItem : public ControlItem {
 }  // namespace
 
 ControlItem::ControlItem(const Control& control, QGraphicsItem* parent)
-    : QGraphicsItem(parent), control_(control) {
+    : QGraphicsItem(parent), control_(&control) {
   setPos(Pixels(control.Place.Left), Pixels(control.Place.Top));
-  if (control.ToolTip) setToolTip(QString::fromStdString(*control.ToolTip));
+  if (control.ToolTip) setToolTip(PlainToolTip(*control.ToolTip));
 }
 
-QGraphicsItem* MakeControlItem(const Control& control, PictureStore& pictures, const QRectF& open,
-                               QGraphicsItem* parent) {
+void ControlItem::Rebind(const Control& same) {
+  control_ = &same;
+  const QList<QGraphicsItem*> children = childItems();
+  for (qsizetype i = 0; i < children.size(); ++i) {
+    static_cast<ControlItem*>(children[i])->Rebind(same.Children[static_cast<std::size_t>(i)]);
+  }
+}
+
+ControlItem* MakeControlItem(const Control& control, PictureStore& pictures, const QRectF& open,
+                             QGraphicsItem* parent) {
   switch (control.Kind) {
     case ControlKind::Line:
       return new LineItem(control, parent);

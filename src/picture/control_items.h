@@ -16,7 +16,10 @@ class ControlItem : public QGraphicsItem {
  public:
   ControlItem(const Control& control, QGraphicsItem* parent);
 
-  const Control& Shown() const { return control_; }
+  const Control& Shown() const { return *control_; }
+
+  // Goes over to a control that equals the one shown, before that one ends.
+  void Rebind(const Control& same);
 
   // The control behind an item; every item of a map scene has one.
   static const Control& Of(const QGraphicsItem& item) {
@@ -24,13 +27,13 @@ class ControlItem : public QGraphicsItem {
   }
 
  private:
-  const Control& control_;
+  const Control* control_;
 };
 
 // Makes the item of a control, with those of its children. It belongs to the parent or, without
 // one, to the caller. Of a picture only what lies in `open`, in the parent's coordinates, can be
 // seen.
-QGraphicsItem* MakeControlItem(const Control& control, PictureStore& pictures, const QRectF& open,
-                               QGraphicsItem* parent);
+ControlItem* MakeControlItem(const Control& control, PictureStore& pictures, const QRectF& open,
+                             QGraphicsItem* parent);
 
 }  // namespace orrerix

@@ -18,6 +18,7 @@ LabelStyle StyleOf(const Control& label) {
   if (label.Name == "SysmapLabel") {
     style.Transparent = true;
     style.Outlined = true;
+    style.Overflows = true;
     style.MarginY = kNameMargin;
   } else if (label.Name == "SetLabel" && label.Index == kLanguageLabel) {
     style.Alignment = Qt::AlignRight | Qt::AlignBottom;

@@ -14,6 +14,7 @@ struct LabelStyle {
   Qt::Alignment Alignment = Qt::AlignHCenter | Qt::AlignTop;
   bool FixedWidth = false;  // letters of one width
   bool Lines = false;       // it has lines of its own; each is shown as far as the label reaches
+  bool Overflows = false;   // what is too long for it leaves it
   bool Wraps = false;       // at word ends, in a smaller font if it must; else it is cut with "..."
   bool Transparent = false;  // its back colour is not painted
   bool Outlined = false;     // dark round the letters, where the ground may be bright

@@ -4,7 +4,6 @@
 #include <algorithm>
 #include <utility>
 
-#include "picture/control_items.h"
 #include "picture/twips.h"
 
 namespace orrerix {
@@ -13,6 +12,7 @@ MapScene::MapScene(PictureStore& pictures, QObject* parent)
     : QGraphicsScene(parent), pictures_(pictures) {
   // All items change at once and most are seen: an index would cost more than it saves.
   setItemIndexMethod(NoIndex);
+  setBackgroundBrush(ToQColor(drawing_.FrameColor));
 }
 
 MapScene::~MapScene() {
@@ -21,29 +21,44 @@ MapScene::~MapScene() {
 }
 
 // What of the frame the panel leaves open. A panel that is not in front covers nothing.
-QRectF MapScene::OpenPart() const {
-  QRectF open = sceneRect();
-  const ControlList& controls = drawing_.Controls;
+QRectF MapScene::OpenPart(const MapDrawing& drawing) {
+  QRectF open(0, 0, Pixels(drawing.Frame.Width), Pixels(drawing.Frame.Height));
+  const ControlList& controls = drawing.Controls;
   if (controls.empty() || controls.back().Kind != ControlKind::Frame) return open;
-  const QRectF panel = Pixels(drawing_.PanelBox);
-  if (drawing_.Panel == PanelPlace::Right) open.setRight(panel.left());
-  if (drawing_.Panel == PanelPlace::Below) open.setBottom(panel.top());
+  const QRectF panel = Pixels(drawing.PanelBox);
+  if (drawing.Panel == PanelPlace::Right) open.setRight(panel.left());
+  if (drawing.Panel == PanelPlace::Below) open.setBottom(panel.top());
   return open;
 }
 
+// Drops the items from the first control on that the next drawing does not begin with too, and
+// tells how many are left. What the panel leaves open is part of an item.
+std::size_t MapScene::KeepItems(const MapDrawing& next) {
+  std::size_t kept = 0;
+  if (OpenPart(next) == OpenPart(drawing_)) {
+    const ControlList& before = drawing_.Controls;
+    const auto differ =
+        std::mismatch(before.begin(), before.end(), next.Controls.begin(), next.Controls.end());
+    kept = static_cast<std::size_t>(differ.first - before.begin());
+  }
+  for (std::size_t i = kept; i < items_.size(); ++i) delete items_[i];
+  items_.resize(kept);
+  return kept;
+}
+
 void MapScene::Show(MapDrawing drawing) {
-  clear();
+  const std::size_t kept = KeepItems(drawing);
+  for (std::size_t i = 0; i < kept; ++i) items_[i]->Rebind(drawing.Controls[i]);
+  if (drawing.FrameColor != drawing_.FrameColor) {
+    setBackgroundBrush(ToQColor(drawing.FrameColor));
+  }
+  // The controls of a list that is moved stay where they are.
   drawing_ = std::move(drawing);
   setSceneRect(0, 0, Pixels(drawing_.Frame.Width), Pixels(drawing_.Frame.Height));
-  setBackgroundBrush(ToQColor(drawing_.FrameColor));
-  const QRectF open = OpenPart();
-  items_.clear();
-  for (const Control& control : drawing_.Controls) {
-    items_.push_back(MakeControlItem(control, pictures_, open, nullptr));
+  const QRectF open = OpenPart(drawing_);
+  for (std::size_t i = kept; i < drawing_.Controls.size(); ++i) {
+    items_.push_back(MakeControlItem(drawing_.Controls[i], pictures_, open, nullptr));
     addItem(items_.back());
-  }
-  for (const FrontLayer layer : {FrontLayer::Box, FrontLayer::CellCursor, FrontLayer::RubberBand}) {
-    MakeFrontItems(layer);
   }
 }
 
@@ -80,7 +95,7 @@ void MapScene::Replace(const Control& control) {
     const Control changed = control;  // which may be the one that goes
     delete items_[i];
     known = changed;
-    items_[i] = MakeControlItem(known, pictures_, OpenPart(), nullptr);
+    items_[i] = MakeControlItem(known, pictures_, OpenPart(drawing_), nullptr);
     addItem(items_[i]);
     if (i + 1 < items_.size()) items_[i]->stackBefore(items_[i + 1]);
     return;

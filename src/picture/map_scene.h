@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "map/redraw.h"
+#include "picture/control_items.h"
 #include "picture/picture_store.h"
 
 namespace orrerix {
@@ -27,7 +28,8 @@ class MapScene : public QGraphicsScene {
   explicit MapScene(PictureStore& pictures, QObject* parent = nullptr);
   ~MapScene() override;
 
-  // Shows a new list in the place of the one before. What stands in front stays.
+  // Shows a new list in the place of the one before; what both begin with is not painted anew.
+  // What stands in front stays.
   void Show(MapDrawing drawing);
 
   // Fills one of the layers in front, in the place of what it held.
@@ -47,17 +49,18 @@ class MapScene : public QGraphicsScene {
   const Control* ControlAt(QPointF point) const { return HitAt(point).Shown; }
 
  private:
-  QRectF OpenPart() const;
+  static QRectF OpenPart(const MapDrawing& drawing);
+  std::size_t KeepItems(const MapDrawing& next);
   void MakeFrontItems(FrontLayer layer);
 
   struct Layer {
     ControlList Controls;
-    std::vector<QGraphicsItem*> Items;
+    std::vector<ControlItem*> Items;
   };
 
   PictureStore& pictures_;
   MapDrawing drawing_;
-  std::vector<QGraphicsItem*> items_;  // of the drawing's controls, one for one
+  std::vector<ControlItem*> items_;  // of the drawing's controls, one for one
   std::array<Layer, kFrontLayers> front_;
 };
 

@@ -29,7 +29,22 @@ class FakeSound : public SoundPlayer {
 class FakeLinks : public LinkOpener {
  public:
   std::vector<std::string> Opened;
+  int Manuals = 0;
   void Open(const std::string& address) override { Opened.push_back(address); }
+  void OpenManual() override { ++Manuals; }
+};
+
+// A network with one page; without it no server answers.
+class FakeNetwork : public Network {
+ public:
+  std::optional<std::string> Page;
+  int Asked = 0;
+  std::string Get(const std::string&) override {
+    ++Asked;
+    if (!Page) throw NetworkError("The server does not answer");
+    return *Page;
+  }
+  bool IsUp() const override { return true; }
 };
 
 // A machine whose only printer writes PDF files; without a file it has none.
@@ -100,8 +115,9 @@ class FormFixture : public ::testing::Test {
   FakeSound sound;
   FakeLinks links;
   FakePrinters printers;
+  FakeNetwork network;
   PictureStore pictures;
-  FormParts parts{paths, {1, 0, 0}, log, registry, messages, sound, links, printers, pictures};
+  FormParts parts{paths, {1, 0, 0}, log, registry, messages, sound, links, printers, network, pictures};
 };
 
 }  // namespace orrerix

@@ -81,5 +81,13 @@ TEST_F(ImportScreenTest, AMinimisedFormGetsItsCaptionsAllTheSame) {
   EXPECT_TRUE(Find<QLabel>(form, "MemHeadLab0").text().startsWith("Startup Memory Usage "));
 }
 
+TEST_F(ImportScreenTest, WhatTakesTheKeyboardHasANameForScreenReaders) {
+  for (const QWidget* child : screen.findChildren<QWidget*>()) {
+    if (child->focusPolicy() == Qt::NoFocus || child->objectName().isEmpty()) continue;
+    if (child->objectName() == "Command1") continue;  // named by its caption
+    EXPECT_FALSE(child->accessibleName().isEmpty()) << child->objectName().toStdString();
+  }
+}
+
 }  // namespace
 }  // namespace orrerix

@@ -154,6 +154,8 @@ class MapPlayFixture : public UniverseFixture, private MapForm {
   bool searchPanelOpen = false;
   std::vector<std::pair<std::string, std::string>> stations;  // nickname and picture
   std::vector<int> searches;
+  std::vector<int> newsClicks;
+  std::vector<bool> logoClicks;
 
  private:
   Qt::MouseButton held_ = Qt::NoButton;
@@ -170,6 +172,8 @@ class MapPlayFixture : public UniverseFixture, private MapForm {
     stations.emplace_back(nickname, picture);
   }
   void StationSearchClick(int index) override { searches.push_back(index); }
+  void InfoBoxLabelClick(int index) override { newsClicks.push_back(index); }
+  void ImageClanClick(bool firstHalf) override { logoClicks.push_back(firstHalf); }
 };
 
 }  // namespace orrerix

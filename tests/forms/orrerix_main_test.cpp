@@ -242,6 +242,10 @@ class OrrerixMainMapTest : public OrrerixMainTest {
   bool wasPrintMode = false;
 };
 
+TEST_F(OrrerixMainMapTest, TheKeyboardIsForTheMapFromTheStart) {
+  EXPECT_EQ(form->focusWidget(), &form->Map().Frame());
+}
+
 TEST_F(OrrerixMainMapTest, AClickOnAnIconOpensAStationWindowAndTheyCloseWithTheForm) {
   ZoomIn();
   const int index = StationIcon();

@@ -169,6 +169,45 @@ TEST_F(MapSceneTest, ControlsInsideAFrameAreFoundThere) {
   EXPECT_EQ(scene.ControlAt({65, 15})->Name, "StationSearch");
 }
 
+TEST_F(MapSceneTest, WhatANewListBeginsWithAsBeforeKeepsItsItems) {
+  drawing.Controls = {Rectangle({0, 0, 750, 1500}, {0x0000FF}),
+                      Rectangle({750, 0, 750, 1500}, {0x00FF00})};
+  scene.Show(drawing);
+  for (QGraphicsItem* item : scene.items()) item->setData(0, "of before");
+
+  drawing.Controls[1].BackColor = Color{0xFF0000};
+  scene.Show(drawing);
+
+  EXPECT_EQ(scene.items({10, 10}).front()->data(0), "of before");
+  EXPECT_FALSE(scene.items({60, 10}).front()->data(0).isValid());
+  EXPECT_EQ(scene.ControlAt({10, 10}), scene.Find("Frame", 0));
+}
+
+TEST_F(MapSceneTest, WhereThePanelLeavesOtherRoomNoItemIsKept) {
+  drawing.Controls = {Rectangle({0, 0, 750, 1500}, {0x0000FF}),
+                      MakeFrame("MenuFrame", 0, {750, 0, 750, 1500}, {})};
+  drawing.Panel = PanelPlace::Right;
+  drawing.PanelBox = {750, 0, 750, 1500};
+  scene.Show(drawing);
+  for (QGraphicsItem* item : scene.items()) item->setData(0, "of before");
+
+  drawing.PanelBox = {900, 0, 600, 1500};
+  scene.Show(drawing);
+
+  EXPECT_FALSE(scene.items({10, 10}).front()->data(0).isValid());
+}
+
+TEST_F(MapSceneTest, ControlsWithinAFrameThatStaysAreThoseOfTheNewList) {
+  Control panel = Rectangle({0, 0, 750, 1500}, {0x0000FF});
+  panel.Children = {MakePicture("StationSearch", 2, {150, 150, 150, 150}, "tools/print.svg")};
+  drawing.Controls = {panel};
+  scene.Show(drawing);
+
+  scene.Show(drawing);
+
+  EXPECT_EQ(scene.ControlAt({15, 15}), &scene.Drawing().Controls[0].Children[0]);
+}
+
 TEST_F(MapSceneTest, PartsOfThePanelAreToldApartFromTheMap) {
   Control panel = MakeFrame("MenuFrame", 0, {750, 0, 750, 1500}, {});
   panel.Children = {MakePicture("StationSearch", 2, {150, 150, 150, 150}, "tools/print.svg")};

@@ -35,5 +35,11 @@ TEST(QtTextMeasure, LettersBeyondAsciiCountOnce) {
   EXPECT_LT(measure.TextWidth("Systèmes", 10), measure.TextWidth("SystAAmes", 10));
 }
 
+TEST(QtTextMeasure, InAFaceOfOneWidthAllLettersAreAsWide) {
+  const QtTextMeasure measure(FixedFont);
+
+  EXPECT_EQ(measure.TextWidth("iiii", 9), measure.TextWidth("MMMM", 9));
+}
+
 }  // namespace
 }  // namespace orrerix

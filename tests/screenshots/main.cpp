@@ -48,6 +48,7 @@ bool TakeAll(const Words& words, const std::filesystem::path& scratch) {
   paths.ApplicationFolder = scratch;
   paths.Executable = scratch / "orrerix";
   paths.SaveFolder = scratch;
+  paths.NewsAddress = OnlyNews::Address;
   paths.Game = words.Game.empty() ? (scratch / "game").string() : words.Game;
   if (words.Game.empty()) WriteDemoGame(*paths.Game);
   DesktopMessageBoxes messages;
@@ -57,9 +58,10 @@ bool TakeAll(const Words& words, const std::filesystem::path& scratch) {
   NoSound sound;
   NoLinks links;
   NoPrinters printers;
+  OnlyNews network;
   PictureStore pictures;
   const FormParts parts{paths, CurrentVersion(), log,     registry, messages, sound,
-                        links, printers,         pictures};
+                        links, printers,         network, pictures};
   ProgramRun run(parts);
   run.OnEnd = [] {};
   Album album(QString::fromStdString(words.Folder));

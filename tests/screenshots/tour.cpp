@@ -12,6 +12,8 @@
 
 #include <fmt/format.h>
 
+#include "forms/spoiler.h"
+#include "forms/update.h"
 #include "map/map_coords.h"
 #include "map/system_pictures.h"
 #include "picture/control_items.h"
@@ -101,6 +103,7 @@ bool Tour::Go() {
     TakeHover();
     TakeSearch();
     TakeStation();
+    TakeUpdate();
     TakeErrorLog();
     TakeFailure();
   } catch (const std::runtime_error& error) {
@@ -128,6 +131,7 @@ void Tour::TakeImport() {
   bool taken = false;
   QTimer timer;
   QObject::connect(&timer, &QTimer::timeout, [&] {
+    TakeSpoiler();
     OrrerixMain* main = run_.Main();
     if (taken || main == nullptr || !main->Importing()) return;
     const int frame = ChildOf<QWidget>(*main, "Progress0").width();
@@ -143,6 +147,21 @@ void Tour::TakeImport() {
   Wait("no map came",
        [&] { return run_.Main() != nullptr && run_.Main()->Map().Frame().isVisible(); });
   if (!taken) throw std::runtime_error("the import was too quick for a picture");
+}
+
+// The warning waits for an answer before the first map.
+void Tour::TakeSpoiler() {
+  auto* spoiler = qobject_cast<Spoiler*>(QApplication::activeModalWidget());
+  if (spoiler == nullptr) return;
+  album_.Take("spoiler", *spoiler);
+  spoiler->accept();
+}
+
+void Tour::TakeUpdate() {
+  Update update("Version 1.1 is there");
+  update.show();
+  PassEvents();
+  album_.Take("update", update);
 }
 
 void Tour::TakeMap() {

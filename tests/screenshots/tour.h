@@ -20,12 +20,14 @@ class Tour {
  private:
   void TakeLoading();
   void TakeImport();
+  void TakeSpoiler();
   void TakeMap();
   void TakeOptions();
   void TakeZoomed();
   void TakeHover();
   void TakeSearch();
   void TakeStation();
+  void TakeUpdate();
   void TakeErrorLog();
   void TakeFailure();
 

@@ -25,7 +25,7 @@ const std::map<std::string, std::set<std::string>> kMayInclude = {
     {"derived", {"import", "shell", "db", "platform"}},
     {"map", {"derived", "import", "shell", "db", "platform"}},
     {"info", {"map", "derived", "import", "shell", "db", "platform"}},
-    {"online", {"shell", "db", "platform"}},
+    {"online", {"import", "shell", "db", "platform"}},
     {"picture", {"map", "derived", "import", "shell", "db", "platform"}},
     {"cli", {"picture", "info", "online", "map", "derived", "import", "shell", "db", "platform"}},
     {"forms", {"picture", "info", "online", "map", "derived", "import", "shell", "db", "platform"}},

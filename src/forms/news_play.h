@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QTimer>
+#include <vector>
+
+#include "forms/map_screen.h"
+#include "online/news_band.h"
+
+namespace orrerix {
+
+// Moves the news in the panel's info box if they do not fit.
+class NewsPlay {
+ public:
+  // Both must outlive this.
+  NewsPlay(MapScreen& screen, ErrorLog& log);
+
+  // To be called behind each redraw: the labels begin at their own places again.
+  void MapRedrawn();
+
+  bool Scrolls() const { return timer_.isActive(); }
+
+  // One step; the timer calls it.
+  void NewsTimerTimer();
+
+ private:
+  MapScreen& screen_;
+  ErrorLog& log_;
+  QTimer timer_;
+  ControlList all_;  // all labels of the band as they were laid out
+  std::vector<BandLabel> band_;
+  int bottom_ = 0;
+};
+
+}  // namespace orrerix

@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QCheckBox>
+#include <QDialog>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <functional>
+
+#include "online/spoiler_warning.h"
+#include "picture/qt_text_measure.h"
+
+namespace orrerix {
+
+// The warning before the first map, over the whole screen. Closing it goes on to the map as OK
+// does; only Cancel is rejection.
+class Spoiler : public QDialog {
+ public:
+  explicit Spoiler(const SpoilerTexts& texts);
+
+  // The check box was set or cleared.
+  std::function<void(bool)> OnCheck1;
+
+  // A click anywhere in the text.
+  std::function<void()> OnTextClick;
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void closeEvent(QCloseEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  QPushButton* AddButton(const char* name, const std::string& caption, const char* toolTip);
+  void FormResize();
+  int FittingFont(const QString& text, int width) const;
+
+  QtTextMeasure formMeasure_;
+  QtTextMeasure fixedMeasure_{FixedFont};
+  QLabel* headLine_;
+  QPlainTextEdit* text_;
+  QCheckBox* check1_;
+  QPushButton* ok_;
+  QPushButton* cancel_;
+};
+
+}  // namespace orrerix

@@ -1,0 +1,88 @@
+// SPDX-License-Identifier: MIT
+#include "online/spoiler_warning.h"
+
+#include <algorithm>
+#include <fstream>
+#include <iterator>
+
+#include "db/engine.h"
+#include "db/text.h"
+#include "import/ini_text.h"
+#include "import/windows1252.h"
+
+namespace orrerix {
+namespace {
+
+constexpr std::string_view kDefaultText =
+    "WARNING! The use of FL Orrerix will spoil the game for you.\r\n"
+    "If you dont search the hidden systems and wrecks on your own\r\n"
+    "--> you will miss much fun playing FreeLancer <--\r\n"
+    "\r\n"
+    "You should ONLY use OX (Orrerix) if you have discovered everything in FreeLancer.\r\n"
+    "\r\n"
+    "I suggest you use OX only on systems you allready searched.\r\n"
+    "Just to check if you missed something.\r\n"
+    "\r\n"
+    "Info: Every MOD can customize THIS Window! (Click here to read how to do that)\r\n"
+    "\r\n"
+    "Have fun playing, exploring and useing OX - Vantor.";
+
+constexpr std::string_view kTextMarker = "Text =";
+
+void Replace(std::string& text, std::string_view prefix, std::string_view keys,
+             std::string_view key) {
+  const std::string_view value = GetINIValue(keys, key);
+  if (!value.empty()) text = std::string(prefix) + FromWindows1252(value);
+}
+
+// What fails is passed over, as if it had not been asked for.
+class PassOver : public FailureSink {
+ public:
+  void Fail(const Failure&) override {}
+};
+
+}  // namespace
+
+SpoilerTexts DefaultSpoilerTexts() {
+  return {"Default SPOILER-WARNING", std::string(kDefaultText), "OK - View MAP and spoil it",
+          "Cancel - Quit and search on my own"};
+}
+
+SpoilerTexts WithModTexts(SpoilerTexts texts, std::string_view file) {
+  const std::size_t marker = file.find(kTextMarker);
+  const std::string_view keys = file.substr(0, marker);
+  Replace(texts.Ok, "&OK - ", keys, "ok");
+  Replace(texts.Cancel, "&CANCEL - ", keys, "cancel");
+  Replace(texts.HeadLine, "", keys, "headline");
+  if (marker == std::string_view::npos) return texts;
+  const std::string_view behind = file.substr(marker + kTextMarker.size());
+  const std::string_view text = Trim(behind.substr(std::min<std::size_t>(1, behind.size())));
+  if (!text.empty()) texts.Text = FromWindows1252(text);
+  return texts;
+}
+
+SpoilerTexts ReadSpoilerTexts(const GameFolder& game) {
+  SpoilerTexts texts = DefaultSpoilerTexts();
+  const auto found = game.FindFile(game.Text() + "\\data\\OrrerixWarning.ini");
+  if (!found) return texts;
+  std::ifstream stream(*found, std::ios::binary);
+  const std::string file(std::istreambuf_iterator<char>(stream), {});
+  return stream.bad() ? texts : WithModTexts(std::move(texts), file);
+}
+
+void SetWarningOff(const std::filesystem::path& universeFile, bool off) {
+  PassOver silent;
+  Database universe = DBEngine::OpenDatabase(silent, universeFile);
+  Recordset warning =
+      universe.OpenRecordset(silent, "SELECT * FROM OXWarning", {}, RecordsetType::Dynaset);
+  if (warning.AtEnd()) {
+    warning = universe.OpenTable(silent, "OXWarning");
+    warning.AddNew();
+  } else {
+    warning.Edit();
+  }
+  warning["off"] = off;
+  warning.Update();
+}
+
+}  // namespace orrerix

@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <stdexcept>
+#include <string>
+
+namespace orrerix {
+
+// Why nothing was fetched, in words for the player.
+struct NetworkError : std::runtime_error {
+  using std::runtime_error::runtime_error;
+};
+
+// Fetches what lies behind http and https addresses.
+class Network {
+ public:
+  virtual ~Network() = default;
+
+  // The bytes behind an address, whatever the server's status; returns when they are there. Throws
+  // NetworkError if no answer comes in time, if it breaks off or is too large, or if it leads to
+  // another kind of address.
+  virtual std::string Get(const std::string& address) = 0;
+
+  // Whether any network but the machine's own loop is up.
+  virtual bool IsUp() const = 0;
+};
+
+}  // namespace orrerix

@@ -1,0 +1,109 @@
+// SPDX-License-Identifier: MIT
+#include "forms/news_play.h"
+
+#include <gmock/gmock.h>
+
+#include "map_play_fixture.h"
+
+namespace orrerix {
+namespace {
+
+using ::testing::ElementsAre;
+
+class NewsPlayTest : public MapPlayFixture {
+ protected:
+  void ShowNews(int entries) {
+    std::vector<NewsItem> items;
+    for (int i = 1; i <= entries; ++i) {
+      items.push_back({"News " + std::to_string(i), "<b>Tip</b>", "http://x.example"});
+    }
+    map.SetNews("http://x.example/OX", items);
+    Redraw();
+    news.MapRedrawn();
+  }
+
+  // The news labels that the scene shows: index and top.
+  std::map<int, double> Labels() {
+    std::map<int, double> labels;
+    for (const Control* label : Shown("InfoBoxLabel")) {
+      labels[*label->Index] = label->Place.Top;
+    }
+    return labels;
+  }
+
+  NewsPlay news{map, log};
+};
+
+TEST_F(NewsPlayTest, NewsThatFitStandStill) {
+  ShowNews(1);
+
+  EXPECT_FALSE(news.Scrolls());
+}
+
+TEST_F(NewsPlayTest, NewsThatDoNotFitMoveUpAStepAtATime) {
+  ShowNews(60);
+  ASSERT_TRUE(news.Scrolls());
+  const auto before = Labels();
+
+  news.NewsTimerTimer();
+
+  const auto after = Labels();
+  EXPECT_NEAR(after.at(0), before.at(0), 0.5);  // to whole twips
+  EXPECT_NEAR(after.at(1), before.at(1) - 21, 0.5);
+}
+
+TEST_F(NewsPlayTest, LabelsBelowTheBoxAreHiddenAndComeUpLater) {
+  ShowNews(60);
+  const auto all = Labels().size();
+
+  news.NewsTimerTimer();
+  const auto shown = Labels().size();
+  EXPECT_LT(shown, all);
+  for (int i = 0; i < 13; ++i) news.NewsTimerTimer();  // 13 x 21 twips are a label's 270
+
+  EXPECT_GT(Labels().size(), shown);
+}
+
+TEST_F(NewsPlayTest, ARedrawPutsThemBack) {
+  ShowNews(60);
+  const auto before = Labels();
+  news.NewsTimerTimer();
+
+  Redraw();
+  news.MapRedrawn();
+
+  EXPECT_EQ(Labels(), before);
+}
+
+TEST_F(NewsPlayTest, NewsAndBothHalvesOfTheLogoCanBeClicked) {
+  ShowNews(1);
+  const QPoint label = OnPanel("InfoBoxLabel", 1);
+  Move(label);
+  Click(label);
+  EXPECT_THAT(newsClicks, ElementsAre(1));
+
+  const orrerix::Box logo = *PlaceOf(map.Drawing().Controls, "ImageClan");
+  const auto at = [&](double x, double y) {
+    return QPointF(Pixels(logo.Left + logo.Width * x), Pixels(logo.Top + logo.Height * y))
+        .toPoint();
+  };
+  Move(at(0.2, 0.8));
+  Click(at(0.2, 0.8));
+  Move(at(0.8, 0.2));
+  Click(at(0.8, 0.2));
+  EXPECT_THAT(logoClicks, ElementsAre(true, false));
+}
+
+TEST_F(NewsPlayTest, ATipIsNoMarkup) {
+  ShowNews(1);
+
+  for (const QGraphicsItem* item : map.Scene().items()) {
+    const Control& control = ControlItem::Of(*item);
+    if (control.Name == "InfoBoxLabel" && control.Index == 1) {
+      EXPECT_TRUE(item->toolTip().contains("&lt;b&gt;Tip"));
+    }
+  }
+}
+
+}  // namespace
+}  // namespace orrerix
