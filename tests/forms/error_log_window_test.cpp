@@ -83,5 +83,23 @@ TEST_F(ErrorLogWindowTest, ItTakesNoFocus) {
   EXPECT_TRUE(window.testAttribute(Qt::WA_ShowWithoutActivating));
 }
 
+// Red on blue is hard to read.
+TEST_F(ErrorLogWindowTest, ItsHeadingsStandBetweenDarkEdges) {
+  Fail();
+
+  const QImage heading = Find(window, "Label1_1").grab().toImage();
+
+  int black = 0;
+  int red = 0;
+  for (int y = 0; y < heading.height(); ++y) {
+    for (int x = 0; x < heading.width(); ++x) {
+      black += heading.pixelColor(x, y) == QColor(Qt::black);
+      red += heading.pixelColor(x, y) == QColor(Qt::red);
+    }
+  }
+  EXPECT_GT(red, 100);
+  EXPECT_GT(black, red);
+}
+
 }  // namespace
 }  // namespace orrerix

@@ -2,11 +2,14 @@
 #include "picture/picture_files.h"
 
 #include <QFile>
+#include <QImage>
 
 #include <gtest/gtest.h>
 
 #include "map/object_classes.h"
+#include "map/side_panel.h"
 #include "map/system_pictures.h"
+#include "picture/picture_store.h"
 
 namespace orrerix {
 namespace {
@@ -39,6 +42,35 @@ TEST(PictureFiles, AnAbsolutePathIsThePlayersOwnFile) {
 
 TEST(PictureFiles, NothingNamesNoFile) {
   EXPECT_TRUE(FileOf("").isEmpty());
+}
+
+TEST(PictureFiles, PaintedPicturesAreThereInTwiceTheirSizeToo) {
+  for (const QString name : {"star_map.jpg", "hintergrund.png", "blanko.jpg", "systems/00.jpg",
+                             "systems/46.jpg", "logo.png", "rahmen/set0_0.png"}) {
+    QString fine = ":/pictures/" + name;
+    const QImage natural(fine);
+    fine.insert(fine.lastIndexOf('.'), "@2x");
+
+    EXPECT_EQ(QImage(fine).size(), natural.size() * 2) << name.toStdString();
+  }
+}
+
+// Sky or paper is seen round an icon.
+TEST(PictureFiles, IconsOfTheMapHaveClearCorners) {
+  PictureStore store;
+  for (const char* icon : {"Jumpgate", "JumpHole", "Unbekannt", "Battleship", "Planet1"}) {
+    const QImage image = store.Scaled(FileOf(icon), {40, 40}).toImage();
+    for (const QPoint corner : {QPoint(0, 0), QPoint(39, 0), QPoint(0, 39), QPoint(39, 39)}) {
+      EXPECT_EQ(image.pixelColor(corner).alpha(), 0) << icon;
+    }
+  }
+}
+
+TEST(PictureFiles, TheLogoHasTheProportionsThatThePanelGivesIt) {
+  const QImage logo(":/pictures/logo.png");
+  const PanelContent content;
+
+  EXPECT_EQ(logo.width() * content.LogoHeight, logo.height() * content.LogoWidth);
 }
 
 TEST(PictureFiles, AllPicturesOfSystemsAndObjectsAreThere) {

@@ -8,9 +8,9 @@
 namespace orrerix {
 
 void Album::Take(const QString& name, QWidget& window) {
-  const QString file = folder_.filePath(name + ".png");
-  constexpr int smallest = 0;  // of "quality": the best compression
-  if (!window.grab().save(file, "PNG", smallest)) {
+  const QString file = folder_.filePath(name + '.' + format_);
+  constexpr int jpegQuality = 88;
+  if (!window.grab().save(file, nullptr, format_ == "jpg" ? jpegQuality : -1)) {
     fmt::print(stderr, "cannot write {}\n", file.toStdString());
     complete_ = false;
   }

@@ -4,15 +4,19 @@
 #include <QDir>
 #include <QWidget>
 #include <functional>
+#include <utility>
 
 namespace orrerix {
 
 // Where the pictures of the windows go.
 class Album {
  public:
-  explicit Album(const QString& folder) : folder_(folder) { folder_.mkpath("."); }
+  // `format` is the ending of the files, jpg or png.
+  Album(const QString& folder, QString format) : folder_(folder), format_(std::move(format)) {
+    folder_.mkpath(".");
+  }
 
-  // Takes a picture of a window as it is now and saves it as "name.png".
+  // Takes a picture of a window as it is now and saves it under a name.
   void Take(const QString& name, QWidget& window);
 
   // Called with every window that a picture has been taken of.
@@ -23,6 +27,7 @@ class Album {
 
  private:
   QDir folder_;
+  QString format_;
   bool complete_ = true;
 };
 

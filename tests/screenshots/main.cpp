@@ -3,6 +3,8 @@
 #include <QApplication>
 #include <QFile>
 #include <QTemporaryDir>
+#include <cstdio>
+#include <regex>
 #include <string>
 
 #include <CLI/CLI.hpp>
@@ -23,15 +25,16 @@ struct Words {
   std::string Folder;
   std::string Size = "1280x800";
   double Scale = 1;
+  std::string Format = "jpg";
   std::string Game;
   bool Contrast = false;
 };
 
 // A screen of a size in device pixels, for a platform without any.
 void MakeScreen(const Words& words, const QString& folder) {
-  const auto by = words.Size.find('x');
-  const int width = std::stoi(words.Size.substr(0, by));
-  const int height = std::stoi(words.Size.substr(by + 1));
+  int width = 0;
+  int height = 0;
+  std::sscanf(words.Size.c_str(), "%dx%d", &width, &height);
   QFile file(folder + "/screen.json");
   if (!file.open(QIODevice::WriteOnly)) throw std::runtime_error("no room for scratch files");
   file.write(fmt::format(R"({{"screens":[{{"name":"screen","x":0,"y":0,"width":{},"height":{},)"
@@ -64,7 +67,7 @@ bool TakeAll(const Words& words, const std::filesystem::path& scratch) {
                         links, printers,         network, pictures};
   ProgramRun run(parts);
   run.OnEnd = [] {};
-  Album album(QString::fromStdString(words.Folder));
+  Album album(QString::fromStdString(words.Folder), QString::fromStdString(words.Format));
   ContrastReport contrast;
   if (words.Contrast) {
     album.OnTaken = [&](const QString& name, QWidget& window) { contrast.Measure(name, window); };
@@ -79,8 +82,14 @@ int main(int argc, char** argv) {
   CLI::App app("Pictures of all windows");
   Words words;
   app.add_option("DIR", words.Folder, "Where the pictures go")->required();
-  app.add_option("--size", words.Size, "The screen, WIDTHxHEIGHT in its own pixels");
+  app.add_option("--size", words.Size, "The screen, WIDTHxHEIGHT in its own pixels")
+      ->check([](const std::string& size) {
+        static const std::regex form("[1-9][0-9]{2,4}x[1-9][0-9]{2,4}");
+        return std::regex_match(size, form) ? "" : "a size is like 1280x800";
+      });
   app.add_option("--scale", words.Scale, "Its scale factor");
+  app.add_option("--format", words.Format, "Kind of the files")
+      ->check(CLI::IsMember({"jpg", "png"}));
   app.add_option("--game", words.Game, "A game folder; default: a demo game");
   app.add_flag("--contrast", words.Contrast,
                "Print the contrast of all texts; exit code 1 if one is below 4.5 to 1");
