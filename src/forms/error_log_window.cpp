@@ -9,7 +9,7 @@
 #include <utility>
 
 #include "forms/form_geometry.h"
-#include "forms/outlined_label.h"
+#include "forms/plated_label.h"
 #include "picture/form_font.h"
 #include "shell/error_log_layout.h"
 
@@ -63,7 +63,7 @@ ErrorLogWindow::~ErrorLogWindow() {
 }
 
 QLabel* ErrorLogWindow::AddHeading(int index, const QString& caption, QColor letters) {
-  auto* label = new OutlinedLabel(caption, this);
+  auto* label = new PlatedLabel(caption, this);
   label->setObjectName(QStringLiteral("Label1_%1").arg(index));
   QFont font = FormFont(kHeadingFont);
   font.setBold(true);

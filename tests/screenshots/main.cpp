@@ -52,7 +52,7 @@ bool TakeAll(const Words& words, const std::filesystem::path& scratch) {
   paths.Executable = scratch / "orrerix";
   paths.SaveFolder = scratch;
   paths.NewsAddress = OnlyNews::Address;
-  paths.Game = words.Game.empty() ? (scratch / "game").string() : words.Game;
+  paths.Game = words.Game.empty() ? "game" : words.Game;
   if (words.Game.empty()) WriteDemoGame(*paths.Game);
   DesktopMessageBoxes messages;
   ErrorLog log(messages, CurrentVersion());
@@ -95,6 +95,9 @@ int main(int argc, char** argv) {
                "Print the contrast of all texts; exit code 1 if one is below 4.5 to 1");
   CLI11_PARSE(app, argc, argv);
   QTemporaryDir scratch;
+  words.Folder = std::filesystem::absolute(words.Folder).string();
+  if (!words.Game.empty()) words.Game = std::filesystem::absolute(words.Game).string();
+  QDir::setCurrent(scratch.path());  // the demo game's place is not for the documents
   MakeScreen(words, scratch.path());
   int qtArgc = 1;
   QApplication application(qtArgc, argv);

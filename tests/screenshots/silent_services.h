@@ -21,6 +21,7 @@ class NoSound : public SoundPlayer {
 class NoLinks : public LinkOpener {
  public:
   void Open(const std::string&) override {}
+  void OpenManual() override {}
 };
 
 class NoPrinters : public Printers {

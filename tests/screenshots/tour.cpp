@@ -151,7 +151,7 @@ void Tour::TakeImport() {
 
 // The warning waits for an answer before the first map.
 void Tour::TakeSpoiler() {
-  auto* spoiler = qobject_cast<Spoiler*>(QApplication::activeModalWidget());
+  auto* spoiler = dynamic_cast<Spoiler*>(QApplication::activeModalWidget());
   if (spoiler == nullptr) return;
   album_.Take("spoiler", *spoiler);
   spoiler->accept();

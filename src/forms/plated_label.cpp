@@ -1,17 +1,16 @@
 // SPDX-License-Identifier: MIT
-#include "forms/outlined_label.h"
+#include "forms/plated_label.h"
 
 #include <QPainter>
 
 namespace orrerix {
 
-void OutlinedLabel::paintEvent(QPaintEvent*) {
+void PlatedLabel::paintEvent(QPaintEvent*) {
+  constexpr int margin = 4;
   QPainter painter(this);
   const int flags = static_cast<int>(alignment()) | Qt::TextSingleLine;
-  painter.setPen(Qt::black);
-  for (const int x : {-1, 0, 1}) {
-    for (const int y : {-1, 0, 1}) painter.drawText(rect().translated(x, y), flags, text());
-  }
+  const QRect letters = painter.boundingRect(rect(), flags, text());
+  painter.fillRect(letters.adjusted(-margin, 0, margin, 0), Plate);
   painter.setPen(palette().color(foregroundRole()));
   painter.drawText(rect(), flags, text());
 }

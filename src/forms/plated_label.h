@@ -5,11 +5,13 @@
 
 namespace orrerix {
 
-// A label of one line whose letters are dark all round, for colours that are hard to read on each
-// other.
-class OutlinedLabel : public QLabel {
+// A label of one line whose letters stand on a dark plate, for colours that are hard to read on
+// each other.
+class PlatedLabel : public QLabel {
  public:
   using QLabel::QLabel;
+
+  static constexpr QColor Plate{0, 0, 24};
 
  protected:
   void paintEvent(QPaintEvent* event) override;
