@@ -34,12 +34,19 @@ class LabelDelegate : public QStyledItemDelegate {
 
   void paint(QPainter* painter, const QStyleOptionViewItem& option,
              const QModelIndex& index) const override {
-    painter->fillRect(option.rect, index.data(Qt::BackgroundRole).value<QColor>());
+    const auto ground = index.data(Qt::BackgroundRole).value<QColor>();
+    painter->fillRect(option.rect, ground);
+    if (index.column() > 0) {
+      // Figures may fill their columns; a line parts them.
+      painter->setPen(ground.darker());
+      painter->drawLine(option.rect.topLeft(), option.rect.bottomLeft());
+    }
     painter->setFont(index.data(Qt::FontRole).value<QFont>());
     painter->setPen(index.data(Qt::ForegroundRole).value<QColor>());
-    painter->drawText(option.rect.adjusted(0, 0, -kFigureMargin, 0),
-                      index.data(Qt::TextAlignmentRole).toInt() | Qt::TextSingleLine,
-                      index.data().toString());
+    painter->drawText(
+        option.rect.adjusted(0, 0, -kFigureMargin, 0),
+        index.data(Qt::TextAlignmentRole).toInt() | Qt::TextSingleLine | Qt::TextDontClip,
+        index.data().toString());
     if (option.state & QStyle::State_Selected) {
       painter->setPen(Qt::white);
       painter->drawLine(option.rect.topLeft(), option.rect.topRight());
