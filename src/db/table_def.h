@@ -43,8 +43,8 @@ struct TableDef {
   std::vector<Field> Fields;
   std::optional<Index> PrimaryKey;
 
-  // Place of a field, its name compared without case; nothing if there is none. `guess` is tried
-  // first.
+  // Place of a field, its name compared without case; nothing if there is none. It is looked
+  // for from the place `guess` on.
   std::optional<std::size_t> Find(std::string_view field, std::size_t guess = 0) const;
 };
 
