@@ -71,10 +71,10 @@ std::shared_ptr<const TableDef> Connection::Find(std::string_view table) {
   }
   StatementLoan keys(
       Prepare("SELECT ii.name FROM pragma_index_list(?1) il, pragma_index_info(il.name) ii "
-              "WHERE il.[unique] ORDER BY ii.seqno"));
+              "WHERE il.[unique] AND ii.name IS NOT NULL ORDER BY ii.seqno"));
   Bind(keys.get(), 1, table);
   while (sqlite3_step(keys.get()) == SQLITE_ROW) {
-    if (!definition->PrimaryKey) definition->PrimaryKey = Index{"key", {}};
+    if (!definition->PrimaryKey) definition->PrimaryKey = Index{"key", {}, false};
     definition->PrimaryKey->Fields.push_back(Column(keys.get(), 0).Text());
   }
   tables_[key] = definition;

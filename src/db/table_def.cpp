@@ -91,6 +91,7 @@ std::string CreateKeyStatement(const TableDef& table) {
     if (!fields.empty()) fields += ", ";
     fields += QuoteName(field);
   }
+  if (table.PrimaryKey->IsHashed) fields = fmt::format("keyhash({0}), {0}", fields);
   return fmt::format("CREATE UNIQUE INDEX {} ON {} ({})",
                      QuoteName(table.Name + " key " + table.PrimaryKey->Name),
                      QuoteName(table.Name), fields);

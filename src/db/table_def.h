@@ -36,6 +36,9 @@ struct Field {
 struct Index {
   std::string Name;
   std::vector<std::string> Fields;
+  // Whether a hash of the fields comes first in it: doubles are found sooner, but rows cannot be
+  // looked up by it. For Text fields only.
+  bool IsHashed = false;
 };
 
 struct TableDef {
