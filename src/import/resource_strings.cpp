@@ -127,7 +127,7 @@ std::string GetName(Universe& universe, std::int32_t number, std::string_view fa
   Routine routine(universe.Log, "OrrerixMain.GetName",
                   [number] { return fmt::format("While getting Name #{}", number); });
   routine.Run([&] {
-    Recordset row = universe.DB.OpenRecordset(routine, "SELECT * from ids_name WHERE ID = {}",
+    Recordset row = universe.DB.OpenRecordset(routine, "SELECT Name from ids_name WHERE ID = {}",
                                               {number});
     name = row.AtEnd() ? fmt::format("{}({})", fallback, number) : row["Name"].Get().Text();
     name.resize(Left(name, kLongestName).size());

@@ -77,6 +77,8 @@ void SectionTable::MakeNicknameKey() {
 void SectionTable::AddNew() {
   edited_ = std::make_unique<Row>();
   edited_->ID = rowID_ = ++lastID_;
+  // Rows of one section are mostly alike.
+  if (!rows_.empty()) edited_->Cells.reserve(rows_.back()->Cells.size());
   editedPlace_.reset();
 }
 
