@@ -34,9 +34,8 @@ class PriceStage {
         prices_(db_.OpenTable(caller, "BaseGoodPrices")) {}
 
   void Run() {
-    Recordset objects =
-        db_.OpenRecordset(caller_, "SELECT * from Objects WHERE len(dock_with)>0", {},
-                          RecordsetType::Dynaset);
+    Recordset objects = db_.OpenRecordset(caller_, "SELECT * from Objects WHERE len(dock_with)>0",
+                                          {}, RecordsetType::Dynaset);
     const auto count = static_cast<std::int32_t>(objects.RecordCount());
     ++import_.Progress.ImportDone;
     import_.ProgressIt(count, 0);
@@ -75,8 +74,7 @@ class PriceStage {
     const std::string nickname = good["nickname"].Get().Text();
     const double price = good["price"].Get().Number();
     Recordset market = db_.OpenRecordset(
-        caller_,
-        "SELECT * from BaseGoods WHERE ucase(Base) = '{}' AND ucase(GoodNick) = '{}'",
+        caller_, "SELECT * from BaseGoods WHERE ucase(Base) = '{}' AND ucase(GoodNick) = '{}'",
         {base, Ucase(nickname)});
     prices_.AddNew();
     prices_["SysNick"] = object["sys_nick"].Get();

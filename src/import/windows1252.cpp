@@ -29,8 +29,7 @@ std::string FromWindows1252(std::string_view bytes) {
 
 bool IsInWindows1252(char32_t codePoint) {
   if (codePoint < 0x80 || (codePoint >= 0xA0 && codePoint < 0x100)) return true;
-  return std::find(kUpperControls.begin(), kUpperControls.end(), codePoint) !=
-         kUpperControls.end();
+  return std::find(kUpperControls.begin(), kUpperControls.end(), codePoint) != kUpperControls.end();
 }
 
 }  // namespace orrerix
