@@ -71,10 +71,10 @@ std::shared_ptr<const TableDef> Connection::Find(std::string_view table) {
   }
   StatementLoan keys(
       Prepare("SELECT ii.name FROM pragma_index_list(?1) il, pragma_index_info(il.name) ii "
-              "WHERE il.[unique] ORDER BY ii.seqno"));
+              "WHERE il.[unique] AND ii.name IS NOT NULL ORDER BY ii.seqno"));
   Bind(keys.get(), 1, table);
   while (sqlite3_step(keys.get()) == SQLITE_ROW) {
-    if (!definition->PrimaryKey) definition->PrimaryKey = Index{"key", {}};
+    if (!definition->PrimaryKey) definition->PrimaryKey = Index{"key", {}, false};
     definition->PrimaryKey->Fields.push_back(Column(keys.get(), 0).Text());
   }
   tables_[key] = definition;
@@ -128,7 +128,8 @@ Failure Connection::LastFailure() const {
                          fmt::format("Cannot find the input table ({}) in '{}'.", message, file));
   }
   switch (code & 0xFF) {
-    case SQLITE_NOMEM: return RuntimeFailure(failure_number::kOutOfMemory);
+    case SQLITE_NOMEM:
+      return RuntimeFailure(failure_number::kOutOfMemory);
     case SQLITE_FULL:
       return EngineFailure(failure_number::kDiskFull,
                            fmt::format("Not enough space on disk for '{}'.", file));
@@ -154,8 +155,7 @@ Failure Connection::LastFailure() const {
 void Bind(sqlite3_stmt* statement, int parameter, const Value& value, BoundText bound) {
   if (const std::string* text = value.TextContent()) {
     sqlite3_bind_text64(statement, parameter, text->data(), text->size(),
-                        bound == BoundText::Copied ? SQLITE_TRANSIENT : SQLITE_STATIC,
-                        SQLITE_UTF8);
+                        bound == BoundText::Copied ? SQLITE_TRANSIENT : SQLITE_STATIC, SQLITE_UTF8);
   } else if (const std::int64_t* whole = value.Whole()) {
     sqlite3_bind_int64(statement, parameter, *whole);
   } else if (const double* real = value.Real()) {
@@ -173,10 +173,14 @@ void BindAll(sqlite3_stmt* statement, const std::vector<Value>& values) {
 
 Value Column(sqlite3_stmt* statement, int column) {
   switch (sqlite3_column_type(statement, column)) {
-    case SQLITE_INTEGER: return sqlite3_column_int64(statement, column);
-    case SQLITE_FLOAT: return sqlite3_column_double(statement, column);
-    case SQLITE_NULL: return {};
-    default: break;
+    case SQLITE_INTEGER:
+      return sqlite3_column_int64(statement, column);
+    case SQLITE_FLOAT:
+      return sqlite3_column_double(statement, column);
+    case SQLITE_NULL:
+      return {};
+    default:
+      break;
   }
   const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(statement, column));
   const auto size = static_cast<std::size_t>(sqlite3_column_bytes(statement, column));

@@ -18,57 +18,53 @@ Failure NoCurrentRecord() {
   return EngineFailure(failure_number::kNoCurrentRecord, "No current record.");
 }
 
-Assignment Keep(Value value) {
-  return {std::move(value), std::nullopt};
-}
-
-Assignment Refuse(Failure failure) {
-  return {Value(), std::move(failure)};
-}
-
-Assignment AssignText(const Field& field, std::string_view table, std::string text) {
+std::optional<Failure> FitText(const Field& field, std::string_view table, Value& value) {
+  if (!value.IsText()) value = std::move(value).TakeText();
+  const std::string& text = *value.TextContent();
   if (text.empty() && !field.AllowZeroLength) {
-    return Refuse(EngineFailure(
+    return EngineFailure(
         failure_number::kZeroLength,
-        fmt::format("Field '{}.{}' can't be a zero-length string.", table, field.Name)));
+        fmt::format("Field '{}.{}' can't be a zero-length string.", table, field.Name));
   }
   if (field.Type == FieldType::Text && text.size() > field.Size && Len(text) > field.Size) {
-    return Refuse(EngineFailure(failure_number::kFieldTooSmall,
-                                "The field is too small to accept the amount of data you attempted "
-                                "to add."));
+    return EngineFailure(failure_number::kFieldTooSmall,
+                         "The field is too small to accept the amount of data you attempted "
+                         "to add.");
   }
-  return Keep(std::move(text));
+  return std::nullopt;
 }
 
-Assignment AssignWhole(double number, double lowest, double highest) {
-  const double whole = RoundToEven(number);
-  if (!(whole >= lowest && whole <= highest)) {
-    return Refuse(RuntimeFailure(failure_number::kOverflow));
-  }
-  return Keep(static_cast<std::int64_t>(whole));
+std::optional<Failure> FitWhole(Value& value, double lowest, double highest) {
+  const double whole = RoundToEven(value.Number());
+  if (!(whole >= lowest && whole <= highest)) return RuntimeFailure(failure_number::kOverflow);
+  value = static_cast<std::int64_t>(whole);
+  return std::nullopt;
 }
 
 }  // namespace
 
-Assignment AssignTo(const Field& field, std::string_view table, Value value) {
-  if (value.IsNull()) return Keep(Value());
+std::optional<Failure> FitInto(const Field& field, std::string_view table, Value& value) {
+  if (value.IsNull()) return std::nullopt;
   switch (field.Type) {
     case FieldType::Text:
     case FieldType::Memo:
-      return AssignText(field, table, std::move(value).TakeText());
+      return FitText(field, table, value);
     case FieldType::Boolean:
-      return Keep(value.Number() != 0 ? 1 : 0);
+      value = value.Number() != 0 ? 1 : 0;
+      return std::nullopt;
     case FieldType::Byte:
-      return AssignWhole(value.Number(), 0, 255);
+      return FitWhole(value, 0, 255);
     case FieldType::Integer:
-      return AssignWhole(value.Number(), -32768, 32767);
+      return FitWhole(value, -32768, 32767);
     case FieldType::Long:
-      return AssignWhole(value.Number(), -2147483648.0, 2147483647.0);
+      return FitWhole(value, -2147483648.0, 2147483647.0);
     case FieldType::Double:
       break;
   }
-  if (!std::isfinite(value.Number())) return Refuse(RuntimeFailure(failure_number::kOverflow));
-  return Keep(value.Number());
+  const double number = value.Number();
+  if (!std::isfinite(number)) return RuntimeFailure(failure_number::kOverflow);
+  value = number;
+  return std::nullopt;
 }
 
 Value FieldRef::Get() const {
@@ -90,7 +86,7 @@ std::int32_t FieldRef::RequireLong() const {
 }
 
 const FieldRef& FieldRef::operator=(Value value) const {
-  recordset_.Assign(field_, std::move(value));
+  recordset_.Assign(field_, value);
   return *this;
 }
 
@@ -153,7 +149,7 @@ Value Recordset::Read(std::optional<std::size_t> field) const {
   return cells_[current_ * table_->Fields.size() + *field];
 }
 
-void Recordset::Assign(std::optional<std::size_t> field, Value value) {
+void Recordset::Assign(std::optional<std::size_t> field, Value& value) {
   if (editing_ == Editing::None) {
     if (sink_ == nullptr) return;
     return sink_->Fail(EngineFailure(3020, "Update or CancelUpdate without AddNew or Edit."));
@@ -162,21 +158,22 @@ void Recordset::Assign(std::optional<std::size_t> field, Value value) {
     return sink_->Fail(
         EngineFailure(failure_number::kNoSuchItem, "Item not found in this collection."));
   }
-  Assignment assignment = AssignTo(table_->Fields[*field], table_->Name, std::move(value));
-  if (assignment.Refused) return sink_->Fail(*assignment.Refused);
-  edited_[*field] = std::move(assignment.Kept);
+  const auto refused = FitInto(table_->Fields[*field], table_->Name, value);
+  if (refused) return sink_->Fail(*refused);
+  edited_[*field] = std::move(value);
   assigned_[*field] = true;
 }
 
 void Recordset::SetFieldText(std::string_view field, std::string_view text) {
   const auto found = FindField(field);
   if (editing_ == Editing::None || !found) return;
-  Assignment assignment = AssignTo(table_->Fields[*found], table_->Name, text);
-  if (assignment.Refused && assignment.Refused->Number == failure_number::kFieldTooSmall) {
+  Value value = text;
+  auto refused = FitInto(table_->Fields[*found], table_->Name, value);
+  if (refused && refused->Number == failure_number::kFieldTooSmall) {
     GrowField(*found, Len(text));
-    assignment = AssignTo(table_->Fields[*found], table_->Name, text);
+    refused = FitInto(table_->Fields[*found], table_->Name, value);
   }
-  if (!assignment.Refused) Assign(found, std::move(assignment.Kept));
+  if (!refused) Assign(found, value);
 }
 
 // Other recordsets may share the definition and keep the old one.
@@ -194,7 +191,8 @@ void Recordset::AddNew() {
     return;
   }
   const std::size_t fields = table_->Fields.size();
-  edited_.assign(fields, Value());
+  edited_.clear();
+  edited_.resize(fields);
   assigned_.assign(fields, false);
   for (std::size_t i = 0; i < fields; ++i) {
     if (table_->Fields[i].Type == FieldType::Boolean) edited_[i] = 0;

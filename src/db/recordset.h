@@ -53,12 +53,9 @@ class FieldRef {
   std::optional<std::size_t> field_;
 };
 
-// What a field of this definition keeps of a value, or why it takes none.
-struct Assignment {
-  Value Kept;
-  std::optional<Failure> Refused;
-};
-Assignment AssignTo(const Field& field, std::string_view table, Value value);
+// Makes a value what a field of this definition keeps of it, or tells why the field takes none;
+// the value is then of no use.
+std::optional<Failure> FitInto(const Field& field, std::string_view table, Value& value);
 
 // All rows are read when the recordset is opened, so that stages may change tables while they walk
 // them. Every failed operation goes to the sink of the routine that opened the recordset. Once
@@ -100,7 +97,7 @@ class Recordset {
   void ReadRows(std::shared_ptr<const TableDef> columns, sqlite3_stmt* statement,
                 RecordsetType type);
   Value Read(std::optional<std::size_t> field) const;
-  void Assign(std::optional<std::size_t> field, Value value);
+  void Assign(std::optional<std::size_t> field, Value& value);
   void GrowField(std::size_t field, std::size_t size);
   std::optional<std::size_t> FindField(std::string_view name);
   bool KeyHoldsNull() const;

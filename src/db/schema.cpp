@@ -58,7 +58,12 @@ class Table {
     return Numbers(FieldType::Double, names);
   }
   Table& Key(std::string_view name, std::initializer_list<std::string_view> fields) {
-    table_.PrimaryKey = Index{std::string(name), {fields.begin(), fields.end()}};
+    table_.PrimaryKey = Index{std::string(name), {fields.begin(), fields.end()}, false};
+    return *this;
+  }
+  Table& HashedKey(std::string_view name, std::initializer_list<std::string_view> fields) {
+    Key(name, fields);
+    table_.PrimaryKey->IsHashed = true;
     return *this;
   }
   operator TableDef() const { return table_; }
@@ -135,7 +140,7 @@ std::vector<TableDef> FixedTables() {
           .ID()
           .Text({"Base", "GoodNick"})
           .Double({"val1", "val2", "val3", "val4", "val5", "val6"})
-          .Key("GoodNick", {"Base", "GoodNick"}),
+          .HashedKey("GoodNick", {"Base", "GoodNick"}),
       Table("BaseGoodPrices")
           .Text({"SysNick", "BaseNick", "GoodNick"})
           .Long({"Price"})

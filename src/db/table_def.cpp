@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "db/table_def.h"
 
+#include <algorithm>
+
 #include <fmt/format.h>
 
 #include "db/number_text.h"
@@ -50,9 +52,11 @@ std::string Column(const Field& field) {
 }  // namespace
 
 std::optional<std::size_t> TableDef::Find(std::string_view field, std::size_t guess) const {
-  if (guess < Fields.size() && Fields[guess].Name == field) return guess;
   // Most callers spell the name as the table does.
-  for (std::size_t i = 0; i < Fields.size(); ++i) {
+  for (std::size_t i = guess; i < Fields.size(); ++i) {
+    if (Fields[i].Name == field) return i;
+  }
+  for (std::size_t i = 0; i < std::min(guess, Fields.size()); ++i) {
     if (Fields[i].Name == field) return i;
   }
   for (std::size_t i = 0; i < Fields.size(); ++i) {
@@ -87,6 +91,7 @@ std::string CreateKeyStatement(const TableDef& table) {
     if (!fields.empty()) fields += ", ";
     fields += QuoteName(field);
   }
+  if (table.PrimaryKey->IsHashed) fields = fmt::format("keyhash({0}), {0}", fields);
   return fmt::format("CREATE UNIQUE INDEX {} ON {} ({})",
                      QuoteName(table.Name + " key " + table.PrimaryKey->Name),
                      QuoteName(table.Name), fields);

@@ -36,6 +36,9 @@ struct Field {
 struct Index {
   std::string Name;
   std::vector<std::string> Fields;
+  // Whether a hash of the fields comes first in it: doubles are found sooner, but rows cannot be
+  // looked up by it. For Text fields only.
+  bool IsHashed = false;
 };
 
 struct TableDef {
@@ -43,8 +46,8 @@ struct TableDef {
   std::vector<Field> Fields;
   std::optional<Index> PrimaryKey;
 
-  // Place of a field, its name compared without case; nothing if there is none. `guess` is tried
-  // first.
+  // Place of a field, its name compared without case; nothing if there is none. It is looked
+  // for from the place `guess` on.
   std::optional<std::size_t> Find(std::string_view field, std::size_t guess = 0) const;
 };
 

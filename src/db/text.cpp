@@ -2,6 +2,8 @@
 #include "db/text.h"
 
 #include <algorithm>
+#include <cstdint>
+#include <cstring>
 
 #include "db/case_folding.h"
 
@@ -12,11 +14,6 @@ constexpr char32_t kHighestCodePoint = 0x10FFFF;
 
 bool IsContinuation(char byte) {
   return (static_cast<unsigned char>(byte) & 0xC0) == 0x80;
-}
-
-bool IsAscii(std::string_view text) {
-  return std::all_of(text.begin(), text.end(),
-                     [](char c) { return static_cast<unsigned char>(c) < 0x80; });
 }
 
 char LowerAscii(char c) {
@@ -30,7 +27,7 @@ char UpperAscii(char c) {
 template <typename Ascii, typename Simple>
 std::string MapCase(std::string_view text, Ascii ascii, Simple simple) {
   std::string mapped;
-  if (IsAscii(text)) {
+  if (AsciiLength(text) == text.size()) {
     mapped.resize(text.size());
     std::transform(text.begin(), text.end(), mapped.begin(), ascii);
     return mapped;
@@ -51,6 +48,17 @@ std::string MapCase(std::string_view text, Ascii ascii, Simple simple) {
 
 }  // namespace
 
+std::size_t AsciiLength(std::string_view text) {
+  constexpr std::uint64_t highBits = 0x8080808080808080;
+  std::size_t length = 0;
+  for (std::uint64_t eight = 0; length + sizeof eight <= text.size(); length += sizeof eight) {
+    std::memcpy(&eight, text.data() + length, sizeof eight);
+    if ((eight & highBits) != 0) break;
+  }
+  while (length < text.size() && static_cast<unsigned char>(text[length]) < 0x80) ++length;
+  return length;
+}
+
 std::string Ucase(std::string_view text) {
   return MapCase(text, UpperAscii, SimpleUpperCase);
 }
@@ -66,9 +74,9 @@ std::string FoldAscii(std::string_view text) {
 }
 
 bool EqualIgnoringCase(std::string_view a, std::string_view b) {
-  return a.size() == b.size() &&
-         std::equal(a.begin(), a.end(), b.begin(),
-                    [](char x, char y) { return LowerAscii(x) == LowerAscii(y); });
+  return a.size() == b.size() && std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) {
+           return LowerAscii(x) == LowerAscii(y);
+         });
 }
 
 std::size_t Len(std::string_view text) {

@@ -13,6 +13,9 @@ namespace orrerix {
 std::string Ucase(std::string_view text);
 std::string Lcase(std::string_view text);
 
+// How many characters at the start of a text are ASCII.
+std::size_t AsciiLength(std::string_view text);
+
 // ASCII letters folded to lower case; the form in which the engine compares texts.
 std::string FoldAscii(std::string_view text);
 

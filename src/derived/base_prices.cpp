@@ -12,15 +12,17 @@ namespace orrerix {
 namespace {
 
 // Market lines of goods or bases that do not exist give no row, so inner joins will do; their
-// order is the one in which the indexes serve them.
+// order is the one in which the indexes serve them. Most lines are not of commodities: the list of
+// these drops them before anything is looked up.
 constexpr std::string_view kAppendPrices =
     "INSERT INTO BaseGoodPrices (BaseNick, GoodNick, Price, Sell, SysNick) "
     "SELECT Objects.nickname, BaseGoods.GoodNick, fitlong(Goods.price*BaseGoods.val6) AS Preis, "
     "fitbyte(1+BaseGoods.val5) AS Sell, "
     "IIf(sys_nick Is Null,Left(BaseGoods.Base,4),sys_nick) AS SysNick "
-    "FROM BaseGoods CROSS JOIN Goods ON Goods.nickname = BaseGoods.GoodNick "
+    "FROM BaseGoods NOT INDEXED CROSS JOIN Goods ON Goods.nickname = BaseGoods.GoodNick "
     "CROSS JOIN Objects ON BaseGoods.Base = Objects.dock_with "
-    "WHERE Goods.category = 'COMMODITY' And Len(Objects.nickname) > 0 "
+    "WHERE BaseGoods.GoodNick IN (SELECT nickname FROM Goods WHERE category = 'COMMODITY') "
+    "And Goods.category = 'COMMODITY' And Len(Objects.nickname) > 0 "
     "ORDER BY Goods.realname, BaseGoods.rowid, Objects.rowid";
 
 class PriceStage {
@@ -32,9 +34,8 @@ class PriceStage {
         prices_(db_.OpenTable(caller, "BaseGoodPrices")) {}
 
   void Run() {
-    Recordset objects =
-        db_.OpenRecordset(caller_, "SELECT * from Objects WHERE len(dock_with)>0", {},
-                          RecordsetType::Dynaset);
+    Recordset objects = db_.OpenRecordset(caller_, "SELECT * from Objects WHERE len(dock_with)>0",
+                                          {}, RecordsetType::Dynaset);
     const auto count = static_cast<std::int32_t>(objects.RecordCount());
     ++import_.Progress.ImportDone;
     import_.ProgressIt(count, 0);
@@ -73,8 +74,7 @@ class PriceStage {
     const std::string nickname = good["nickname"].Get().Text();
     const double price = good["price"].Get().Number();
     Recordset market = db_.OpenRecordset(
-        caller_,
-        "SELECT * from BaseGoods WHERE ucase(Base) = '{}' AND ucase(GoodNick) = '{}'",
+        caller_, "SELECT * from BaseGoods WHERE ucase(Base) = '{}' AND ucase(GoodNick) = '{}'",
         {base, Ucase(nickname)});
     prices_.AddNew();
     prices_["SysNick"] = object["sys_nick"].Get();

@@ -21,6 +21,11 @@ void MapBox::Show(ControlList box) {
   scene_.ShowInFront(FrontLayer::Box, shown_);
 }
 
+void MapBox::ShowElsewhere(ControlList box) {
+  scene_.ShowInFront(FrontLayer::Box, {});
+  shown_ = std::move(box);
+}
+
 void MapBox::EndHover() {
   if (!IsHoverBox()) return;
   const std::string tag = shown_.front().Tag.value_or("");

@@ -22,6 +22,9 @@ class MapBox {
   // Shows Shape1 and InfoText in the place of what is shown.
   void Show(ControlList box);
 
+  // The box is shown by a widget of its own: here it only counts as visible.
+  void ShowElsewhere(ControlList box);
+
   // Hides the box, whichever it is. An icon keeps its size.
   void Hide() { Show({}); }
 

@@ -6,7 +6,6 @@
 
 #include <fmt/format.h>
 
-#include "forms/form_geometry.h"
 #include "forms/locale_signs.h"
 #include "shell/routine.h"
 
@@ -20,10 +19,7 @@ SearchPlay::SearchPlay(MapScreen& screen, MapForm& form, MapPlay& play, ErrorLog
       log_(log),
       language_(language),
       view_(new SearchPanelView(*this, &screen.Frame())),
-      infoText_(new TextBox("InfoText", &screen.Frame())) {
-  infoText_->setAccessibleName("Information");
-  infoText_->hide();
-}
+      infoBox_(new InfoBox(&screen.Frame())) {}
 
 SearchPlay::~SearchPlay() = default;
 
@@ -95,20 +91,11 @@ void SearchPlay::Follow(SearchAnswer answer) {
   if (answer.Jump) Jump(*answer.Jump);
 }
 
-// The map shows the box's shape; its text is a control of its own, to scroll and to copy from.
 void SearchPlay::ShowInfo(ControlList box) {
-  infoText_->hide();
-  if (box.empty()) return play_.Box().Hide();
-  const Control text = std::move(box.back());
-  box.pop_back();
-  play_.Box().Show(std::move(box));
-  infoText_->setGeometry(
-      PixelRect(static_cast<int>(text.Place.Left), static_cast<int>(text.Place.Top),
-                static_cast<int>(text.Place.Width), static_cast<int>(text.Place.Height)));
-  infoText_->Show(text.Caption.value_or(""));
-  infoText_->show();
-  infoText_->raise();
+  infoBox_->Show(box);
   view_->raise();
+  if (box.empty()) return play_.Box().Hide();
+  play_.Box().ShowElsewhere(std::move(box));
 }
 
 void SearchPlay::Jump(const std::string& nickname) {

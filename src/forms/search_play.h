@@ -4,10 +4,10 @@
 #include <memory>
 #include <string>
 
+#include "forms/info_box.h"
 #include "forms/map_form.h"
 #include "forms/map_play.h"
 #include "forms/search_panel_view.h"
-#include "forms/text_box.h"
 
 namespace orrerix {
 
@@ -49,7 +49,7 @@ class SearchPlay : private SearchEvents {
   QtTextMeasure measure_{FixedFont};
   SearchPanel panel_;
   SearchPanelView* view_;
-  TextBox* infoText_;
+  InfoBox* infoBox_;
 };
 
 }  // namespace orrerix

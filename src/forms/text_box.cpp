@@ -20,6 +20,7 @@ TextBox::TextBox(const char* name, QWidget* parent) : QPlainTextEdit(parent) {
   setTabChangesFocus(true);
   setUndoRedoEnabled(false);
   setFrameShape(QFrame::NoFrame);
+  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   document()->setDocumentMargin(0);
   setTabStopDistance(8 * QFontMetricsF(font()).horizontalAdvance(' '));
   QPalette colors = palette();

@@ -127,8 +127,8 @@ std::string GetName(Universe& universe, std::int32_t number, std::string_view fa
   Routine routine(universe.Log, "OrrerixMain.GetName",
                   [number] { return fmt::format("While getting Name #{}", number); });
   routine.Run([&] {
-    Recordset row = universe.DB.OpenRecordset(routine, "SELECT * from ids_name WHERE ID = {}",
-                                              {number});
+    Recordset row =
+        universe.DB.OpenRecordset(routine, "SELECT Name from ids_name WHERE ID = {}", {number});
     name = row.AtEnd() ? fmt::format("{}({})", fallback, number) : row["Name"].Get().Text();
     name.resize(Left(name, kLongestName).size());
   });
@@ -140,8 +140,8 @@ std::string GetInfo(Universe& universe, std::int32_t number) {
   Routine routine(universe.Log, "OrrerixMain.GetInfo",
                   [number] { return fmt::format("While getting Info #{}", number); });
   routine.Run([&] {
-    Recordset row = universe.DB.OpenRecordset(routine, "SELECT * from ids_info WHERE ID = {}",
-                                              {number});
+    Recordset row =
+        universe.DB.OpenRecordset(routine, "SELECT * from ids_info WHERE ID = {}", {number});
     info = row.AtEnd() ? fmt::format("{} - {}", number, number & kHighestNumber)
                        : row["Info"].Get().Text();
   });

@@ -77,6 +77,8 @@ void SectionTable::MakeNicknameKey() {
 void SectionTable::AddNew() {
   edited_ = std::make_unique<Row>();
   edited_->ID = rowID_ = ++lastID_;
+  // Rows of one section are mostly alike.
+  if (!rows_.empty()) edited_->Cells.reserve(rows_.back()->Cells.size());
   editedPlace_.reset();
 }
 
@@ -99,8 +101,8 @@ const std::string* SectionTable::Get(FieldIndex field) const {
 void SectionTable::Set(FieldIndex field, std::string text) {
   // Most texts are short and full; the others are for the engine's own rules to judge.
   if (text.empty() || text.size() > kDefaultTextSize) {
-    const Assignment assignment = AssignTo(Field{fields_[field]}, name_, text);
-    if (assignment.Refused) throw *assignment.Refused;
+    Value value = text;
+    if (const auto refused = FitInto(Field{fields_[field]}, name_, value)) throw *refused;
   }
   for (Cell& cell : edited_->Cells) {
     if (cell.Field == field) {

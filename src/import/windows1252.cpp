@@ -18,11 +18,10 @@ constexpr std::array<char32_t, 32> kUpperControls = {
 }  // namespace
 
 std::string FromWindows1252(std::string_view bytes) {
-  const auto beyondAscii = std::find_if(bytes.begin(), bytes.end(),
-                                        [](char c) { return static_cast<signed char>(c) < 0; });
-  std::string text(bytes.begin(), beyondAscii);
-  for (auto at = beyondAscii; at != bytes.end(); ++at) {
-    const auto byte = static_cast<unsigned char>(*at);
+  const std::size_t ascii = AsciiLength(bytes);
+  std::string text(bytes.substr(0, ascii));
+  for (const char c : bytes.substr(ascii)) {
+    const auto byte = static_cast<unsigned char>(c);
     AppendUtf8(text, byte >= 0x80 && byte < 0xA0 ? kUpperControls[byte - 0x80] : byte);
   }
   return text;
@@ -30,8 +29,7 @@ std::string FromWindows1252(std::string_view bytes) {
 
 bool IsInWindows1252(char32_t codePoint) {
   if (codePoint < 0x80 || (codePoint >= 0xA0 && codePoint < 0x100)) return true;
-  return std::find(kUpperControls.begin(), kUpperControls.end(), codePoint) !=
-         kUpperControls.end();
+  return std::find(kUpperControls.begin(), kUpperControls.end(), codePoint) != kUpperControls.end();
 }
 
 }  // namespace orrerix

@@ -30,35 +30,33 @@ std::vector<std::string> Components(std::string_view path) {
   return components;
 }
 
-// Every other spelling of a name in a folder.
-std::vector<fs::path> Spellings(const fs::path& folder, const std::string& name) {
-  std::vector<fs::path> others;
+// The names in a folder in byte order.
+std::vector<std::string> NamesIn(const fs::path& folder) {
+  std::vector<std::string> names;
   std::error_code error;
   for (fs::directory_iterator entry(folder, error), end; !error && entry != end;
        entry.increment(error)) {
-    // Most names are of no interest, and filename() would copy each.
-    const std::string path = entry->path().string();
-    const std::string_view found = std::string_view(path).substr(path.find_last_of("\\/") + 1);
-    if (found != name && EqualIgnoringCase(found, name)) others.push_back(entry->path());
+    names.push_back(entry->path().filename().string());
   }
-  std::sort(others.begin(), others.end());
-  return others;
+  std::sort(names.begin(), names.end());
+  return names;
 }
 
 // Walks down the components from `at` on; `accept` says whether the path found will do.
 template <typename Accept>
-std::optional<fs::path> Find(const fs::path& folder, const std::vector<std::string>& components,
-                             std::size_t at, Accept accept) {
+std::optional<fs::path> Find(FolderListings& listings, const fs::path& folder,
+                             const std::vector<std::string>& components, std::size_t at,
+                             Accept accept) {
   if (at == components.size()) return accept(folder) ? std::optional(folder) : std::nullopt;
   const std::string& name = components[at];
-  if (name == "..") return Find(folder.parent_path(), components, at + 1, accept);
+  if (name == "..") return Find(listings, folder.parent_path(), components, at + 1, accept);
   const fs::path exact = folder / name;
   std::error_code error;
   if (fs::exists(exact, error)) {
-    if (auto found = Find(exact, components, at + 1, accept)) return found;
+    if (auto found = Find(listings, exact, components, at + 1, accept)) return found;
   }
-  for (const fs::path& other : Spellings(folder, name)) {
-    if (auto found = Find(other, components, at + 1, accept)) return found;
+  for (const fs::path& other : listings.OtherSpellings(folder, name)) {
+    if (auto found = Find(listings, other, components, at + 1, accept)) return found;
   }
   return std::nullopt;
 }
@@ -75,13 +73,25 @@ bool IsFolder(const fs::path& path) {
 
 }  // namespace
 
+std::vector<fs::path> FolderListings::OtherSpellings(const fs::path& folder,
+                                                     std::string_view name) {
+  auto known = names_.find(folder);
+  if (known == names_.end()) known = names_.emplace(folder, NamesIn(folder)).first;
+  std::vector<fs::path> others;
+  for (const std::string& other : known->second) {
+    if (other != name && EqualIgnoringCase(other, name)) others.push_back(folder / other);
+  }
+  return others;
+}
+
 std::optional<fs::path> FindFolder(const fs::path& below, std::string_view path) {
-  return Find(below, Components(path), 0, IsFolder);
+  FolderListings listings;
+  return Find(listings, below, Components(path), 0, IsFolder);
 }
 
 std::optional<fs::path> GameFolder::FindFile(std::string_view path) const {
   if (!path.starts_with(text_) || path.find('\0') != std::string_view::npos) return std::nullopt;
-  return Find(fs::path(text_), Components(path.substr(text_.size())), 0, IsFile);
+  return Find(listings_, fs::path(text_), Components(path.substr(text_.size())), 0, IsFile);
 }
 
 }  // namespace orrerix

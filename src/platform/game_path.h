@@ -3,9 +3,11 @@
 #pragma once
 
 #include <filesystem>
+#include <map>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace orrerix {
 
@@ -13,6 +15,17 @@ namespace orrerix {
 // files; nothing if there is none.
 std::optional<std::filesystem::path> FindFolder(const std::filesystem::path& below,
                                                 std::string_view path);
+
+// The names in folders, each folder read when it is first asked for and not again.
+class FolderListings {
+ public:
+  // Every other spelling of a name in a folder, in byte order.
+  std::vector<std::filesystem::path> OtherSpellings(const std::filesystem::path& folder,
+                                                    std::string_view name);
+
+ private:
+  std::map<std::filesystem::path, std::vector<std::string>> names_;
+};
 
 // The folder of an installed game. Inside the program a path is the text of this folder followed by
 // the game's own "\exe\..." or "\data\...", and that is what is stored, logged and shown.
@@ -25,11 +38,13 @@ class GameFolder {
   // The real file of a path that begins with Text(); nothing if there is none. "\" and "/" count
   // alike, the case of each component does not: the exact spelling is tried first, then all others
   // on disk in byte order, also where two folders differ in case only. Blanks, tabs and dots at
-  // the end of a component are ignored. A folder is no file.
+  // the end of a component are ignored. A folder is no file. Other spellings that come into a
+  // folder once it was searched are not seen.
   std::optional<std::filesystem::path> FindFile(std::string_view path) const;
 
  private:
   std::string text_;
+  mutable FolderListings listings_;
 };
 
 }  // namespace orrerix

@@ -87,6 +87,48 @@ TEST(TableDef, IsReadBackFromTheFileAsItWasMade) {
   EXPECT_EQ(tables[0].PrimaryKey->Fields, (std::vector<std::string>{"n", "a \"b\""}));
 }
 
+class HashedKey : public ::testing::Test {
+ protected:
+  HashedKey() {
+    database = DBEngine::CreateInMemory(mustWork);
+    database.CreateTable(mustWork,
+                         {"t",
+                          {Of("a", FieldType::Text, true), Of("b", FieldType::Text, true)},
+                          Index{"k", {"a", "b"}, true}});
+  }
+
+  void Add(FailureSink& sink, const Value& a, const Value& b) {
+    Recordset rows = database.OpenTable(sink, "t");
+    rows.AddNew();
+    rows["a"] = a;
+    rows["b"] = b;
+    rows.Update();
+  }
+
+  FailTest mustWork;
+  Database database;
+};
+
+TEST_F(HashedKey, IsReadBackAsItsFields) {
+  const auto tables = database.TableDefs(mustWork);
+
+  ASSERT_EQ(tables.size(), 1u);
+  ASSERT_TRUE(tables[0].PrimaryKey);
+  EXPECT_EQ(tables[0].PrimaryKey->Fields, (std::vector<std::string>{"a", "b"}));
+}
+
+TEST_F(HashedKey, RefusesDoublesWhateverTheirCaseAndNull) {
+  RecordFailures failures;
+  Add(mustWork, "base", "Water");
+  Add(mustWork, "base", "Gold");
+  Add(mustWork, "basew", "ater");
+
+  Add(failures, "Base", "WATER");
+  Add(failures, "base", Value());
+
+  EXPECT_EQ(failures.Numbers(), (std::vector<int>{3022, 3058}));
+}
+
 TEST(ReadField, TakesForeignTypesForMemo) {
   EXPECT_EQ(ReadField("x", "VARCHAR(5)", "", "").Type, FieldType::Memo);
   EXPECT_EQ(ReadField("x", "", "", "").Type, FieldType::Memo);

@@ -50,6 +50,16 @@ TEST(EqualIgnoringCase, IsAboutAsciiLettersOnly) {
   EXPECT_TRUE(EqualIgnoringCase("", ""));
 }
 
+TEST(AsciiLength, EndsAtTheFirstByteBeyondAscii) {
+  EXPECT_EQ(AsciiLength(""), 0u);
+  EXPECT_EQ(AsciiLength("fox"), 3u);
+  EXPECT_EQ(AsciiLength("a fox of more than eight"), 24u);
+  EXPECT_EQ(AsciiLength("twelve chars\x80"), 12u);
+  EXPECT_EQ(AsciiLength("\xFFseven"), 0u);
+  EXPECT_EQ(AsciiLength("sevenchä"), 7u);
+  EXPECT_EQ(AsciiLength(std::string_view("a\0\x7F", 3)), 3u);
+}
+
 TEST(Len, CountsCharacters) {
   EXPECT_EQ(Len("fox"), 3u);
   EXPECT_EQ(Len("fünf€🚀"), 6u);

@@ -13,16 +13,13 @@ using ::testing::IsEmpty;
 
 class BasePrices : public DerivedFixture {
  protected:
-  void Good(std::string_view nickname, const Value& price,
-            std::string_view category = "commodity", std::string_view realname = "") {
-    Add("Goods", {{"nickname", nickname},
-                  {"category", category},
-                  {"price", price},
-                  {"realname", realname}});
+  void Good(std::string_view nickname, const Value& price, std::string_view category = "commodity",
+            std::string_view realname = "") {
+    Add("Goods",
+        {{"nickname", nickname}, {"category", category}, {"price", price}, {"realname", realname}});
   }
   void Market(std::string_view base, std::string_view good, double val5, double val6) {
-    Add("BaseGoods",
-        {{"Base", base}, {"GoodNick", good}, {"val5", val5}, {"val6", val6}});
+    Add("BaseGoods", {{"Base", base}, {"GoodNick", good}, {"val5", val5}, {"val6", val6}});
   }
   void Dock(std::string_view nickname, std::string_view base) {
     Object(nickname, {.DockWith = base});
@@ -103,6 +100,17 @@ TEST_F(BasePrices, OnlyCommoditiesCountWhateverTheCaseOfTheCategory) {
   EXPECT_THAT(Prices(), ElementsAre("dock commodity_water 40 1 li01"));
 }
 
+TEST_F(BasePrices, AGoodOfAnotherCategoryWithACommoditysNicknameIsNotPriced) {
+  Good("commodity_water", 40, "commodity");
+  Good("Commodity_Water", 900, "equipment");
+  Market("base", "COMMODITY_WATER", 0, 1);
+  Dock("dock", "base");
+
+  CalcBasePrices2(universe);
+
+  EXPECT_THAT(Prices(), ElementsAre("dock COMMODITY_WATER 40 1 li01"));
+}
+
 TEST_F(BasePrices, AnObjectWhoseSystemIsNullTakesTheStartOfTheBase) {
   Good("commodity_water", 40);
   Market("ku04_01_base", "commodity_water", 0, 1);
@@ -135,10 +143,9 @@ TEST_F(BasePrices, RowsComeByNameThenByMarketThenByObject) {
 
   CalcBasePrices2(universe);
 
-  EXPECT_THAT(Prices(),
-              ElementsAre("z commodity_a2 1 1 li01", "y commodity_a2 1 1 li01",
-                          "z commodity_a 1 1 li01", "y commodity_a 1 1 li01",
-                          "z commodity_b 1 1 li01", "y commodity_b 1 1 li01"));
+  EXPECT_THAT(Prices(), ElementsAre("z commodity_a2 1 1 li01", "y commodity_a2 1 1 li01",
+                                    "z commodity_a 1 1 li01", "y commodity_a 1 1 li01",
+                                    "z commodity_b 1 1 li01", "y commodity_b 1 1 li01"));
 }
 
 TEST_F(BasePrices, NumbersThatDoNotFitTheirFieldsAreNull) {
@@ -150,8 +157,7 @@ TEST_F(BasePrices, NumbersThatDoNotFitTheirFieldsAreNull) {
 
   CalcBasePrices2(universe);
 
-  EXPECT_THAT(Prices(),
-              ElementsAre("dock commodity_dear  1 li01", "dock commodity_odd 1  li01"));
+  EXPECT_THAT(Prices(), ElementsAre("dock commodity_dear  1 li01", "dock commodity_odd 1  li01"));
 }
 
 class RowByRowPrices : public BasePrices {

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "loopback_server.h"
+#include "online/news.h"
 
 namespace orrerix {
 namespace {
@@ -32,6 +33,12 @@ TEST_F(DesktopNetworkTest, AnErrorPageIsAnAnswerLikeAnyOther) {
   server.OnText("/news.txt", "<html>gone</html>", "404 Not Found");
 
   EXPECT_EQ(Get("/news.txt"), "<html>gone</html>");
+}
+
+TEST_F(DesktopNetworkTest, AnAnswerThatIsNoNewsIsAnAnswerAllTheSame) {
+  server.OnText("/news.txt", "soon to come");
+
+  EXPECT_FALSE(IsNewsFile(Get("/news.txt")));
 }
 
 TEST_F(DesktopNetworkTest, AnAnswerThatIsTooLargeFails) {

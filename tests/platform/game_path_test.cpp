@@ -68,6 +68,16 @@ TEST_F(GamePath, TriesEverySpellingOfAFolder) {
   EXPECT_EQ(Found("\\data\\ships\\c.ini"), "(none)");
 }
 
+TEST_F(GamePath, OfFilesThatComeLaterOnlyTheExactSpellingIsSeen) {
+  folder.Write("DATA/a.INI", "");
+  EXPECT_EQ(Found("\\data\\a.ini"), "DATA/a.INI");
+
+  folder.Write("DATA/b.INI", "");
+
+  EXPECT_EQ(Found("\\DATA\\b.INI"), "DATA/b.INI");
+  EXPECT_EQ(Found("\\data\\b.ini"), "(none)");
+}
+
 TEST_F(GamePath, AnExactFolderWithoutTheFileDoesNotHideAnotherSpelling) {
   fs::create_directories(folder.Path() / "data" / "ships");
   folder.Write("DATA/ships/a.ini", "");

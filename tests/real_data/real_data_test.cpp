@@ -4,8 +4,11 @@
 
 #include <gmock/gmock.h>
 
+#include "db/working_copy.h"
 #include "derived/stages.h"
 #include "import/import_driver.h"
+#include "info/search.h"
+#include "info/station_data.h"
 #include "map/redraw.h"
 #include "support/temp_folder.h"
 #include "support/universe_fixture.h"
@@ -30,10 +33,10 @@ class RealData : public ::testing::Test {
   static void SetUpTestSuite() {
     result = new Result;
     const GameFolder game(ORRERIX_REAL_GAME);
-    result->Finished = ImportGame(
-        result->Log, result->Host, result->DB,
-        {game, result->Save.Path(), JetVersionOption::Version30, CurrentVersion()},
-        DerivedStages());
+    result->Finished =
+        ImportGame(result->Log, result->Host, result->DB,
+                   {game, result->Save.Path(), JetVersionOption::Version30, CurrentVersion()},
+                   DerivedStages());
   }
   static void TearDownTestSuite() { delete result; }
 
@@ -50,16 +53,33 @@ TEST_F(RealData, TheImportEndsWithoutAFailure) {
 }
 
 TEST_F(RealData, EveryTableHasItsRows) {
-  const std::map<std::string, std::int64_t> expected = {
-      {"Systems", 54},         {"Objects", 3509},      {"Goods", 1306},
-      {"BaseGoods", 13316},    {"BaseGoodPrices", 2577}, {"Groups", 60},
-      {"Packages", 671},       {"Ships", 128},         {"Ships_Hardpoints", 713},
-      {"Loadout_Cargo", 19385}, {"GF_NPC", 2302},      {"commodity", 130},
-      {"DataFiles", 38},       {"resources", 7},       {"ids_info", 5736},
-      {"ids_name", 8884},      {"JumpNodes", 114},     {"TradeLanes", 111},
-      {"DockObjects", 327},    {"OXWarning", 0},       {"Version", 1},
-      {"zone", 4527},          {"encounterparameters", 1055}, {"gun", 735},
-      {"munition", 724},       {"basefaction", 613},   {"mroom", 420}};
+  const std::map<std::string, std::int64_t> expected = {{"Systems", 54},
+                                                        {"Objects", 3509},
+                                                        {"Goods", 1306},
+                                                        {"BaseGoods", 13316},
+                                                        {"BaseGoodPrices", 2577},
+                                                        {"Groups", 60},
+                                                        {"Packages", 671},
+                                                        {"Ships", 128},
+                                                        {"Ships_Hardpoints", 713},
+                                                        {"Loadout_Cargo", 19385},
+                                                        {"GF_NPC", 2302},
+                                                        {"commodity", 130},
+                                                        {"DataFiles", 38},
+                                                        {"resources", 7},
+                                                        {"ids_info", 5736},
+                                                        {"ids_name", 8884},
+                                                        {"JumpNodes", 114},
+                                                        {"TradeLanes", 111},
+                                                        {"DockObjects", 327},
+                                                        {"OXWarning", 0},
+                                                        {"Version", 1},
+                                                        {"zone", 4527},
+                                                        {"encounterparameters", 1055},
+                                                        {"gun", 735},
+                                                        {"munition", 724},
+                                                        {"basefaction", 613},
+                                                        {"mroom", 420}};
 
   for (const auto& [table, rows] : expected) {
     Recordset count =
@@ -87,11 +107,50 @@ TEST_F(RealData, WholeGridAndZoomedMapAreDrawnWithoutAFailure) {
 
   for (const ZoomRectangle& rectangle : {ZoomRectangle{}, ZoomRectangle{7, 5, 9, 8}}) {
     state.Zoom.Reset(rectangle);
-    const MapDrawing drawing =
-        DrawMap(universe, state,
-                {24000, 18000, MapOptions::Defaults(rectangle.IsZoomed()), measure, panel,
-                 "StarMapPic"});
+    const MapDrawing drawing = DrawMap(
+        universe, state,
+        {24000, 18000, MapOptions::Defaults(rectangle.IsZoomed()), measure, panel, "StarMapPic"});
     EXPECT_GT(drawing.Controls.size(), 200u);
+  }
+
+  EXPECT_THAT(result->Log.Failures(), IsEmpty());
+}
+
+TEST_F(RealData, AGunTellsWhatItDoes) {
+  FixedLanguage english{0};
+  Universe universe{result->Log, result->DB};
+
+  const std::string text =
+      GetInfoTextType(universe, Wording{english, {}}, "fc_or_gun01_mark02", InfoType::Equipment);
+
+  // From the mod's files: price 140, refire 0.12, power 16.47, speed 750, hull damage 52.7, energy
+  // damage 0, life 0.8. 1 / 0.12 = 8.33; 750 x 0.8 = 600; 52.7 x 0.12 = 6.324; half of it 3.162.
+  EXPECT_THAT(text, ::testing::StartsWith("\r\n   Price: 140  -  "));
+  EXPECT_THAT(text,
+              ::testing::EndsWith("\r\n\r\n          Refire-Rate: 0.12 = 8.33 Shots per second"
+                                  "\r\n          Power-Usage: 16.47"
+                                  "\r\n     Projectile-Speed: 750"
+                                  "\r\n     Needed Hardpoint: hp_gun_special_6"
+                                  "\r\n\r\n             LifeTime: 0.80 = 600 Range"
+                                  "\r\n          Hull-Damage: 6.32 = 53 per second"
+                                  "\r\n        Shield-Damage: 3.16 = 26 per second"));
+}
+
+TEST_F(RealData, EverySearchListsSomethingAndEveryPlaceHasItsWindow) {
+  FixedLanguage english{0};
+  WorkingCopy copy;
+  Universe universe{result->Log, copy.Of(mustWork, result->Save.Path() / "Orrerix.fl")};
+  const CellNames names = GetSystemNames(universe, english);
+  for (const SearchType type : {SearchType::Ship, SearchType::Equipment, SearchType::Bribe}) {
+    const auto found = Search(universe, type, "");
+    ASSERT_FALSE(found.empty());
+    SellersOf(universe, type, found.front());
+  }
+
+  for (const SearchRow& place : Search(universe, SearchType::Place, "")) {
+    const StationData data =
+        ReadStation(universe, names, english, place.Nickname, StationMode::Trades);
+    EXPECT_TRUE(data.Caption.starts_with(place.RealName)) << place.Nickname;
   }
 
   EXPECT_THAT(result->Log.Failures(), IsEmpty());
