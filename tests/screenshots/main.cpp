@@ -93,7 +93,11 @@ int main(int argc, char** argv) {
   app.add_option("--game", words.Game, "A game folder; default: a demo game");
   app.add_flag("--contrast", words.Contrast,
                "Print the contrast of all texts; exit code 1 if one is below 4.5 to 1");
-  CLI11_PARSE(app, argc, argv);
+  try {
+    app.parse(argc, argv);
+  } catch (const CLI::ParseError& error) {
+    return app.exit(error) == 0 ? 0 : 2;
+  }
   QTemporaryDir scratch;
   words.Folder = std::filesystem::absolute(words.Folder).string();
   if (!words.Game.empty()) words.Game = std::filesystem::absolute(words.Game).string();
