@@ -47,27 +47,35 @@ void NewsPlay::MapRedrawn() {
     if (IsSlogan(child)) bottom_ = WholeTwips(child.Place.Top);
     if (!IsNews(child)) continue;
     all_.push_back(child);
-    band_.push_back({WholeTwips(child.Place.Top), WholeTwips(child.Place.Height), true});
+    const int top = WholeTwips(child.Place.Top);
+    band_.push_back({top, WholeTwips(child.Place.Height), true});
   }
+  // Labels that have not come up yet would show through between logo and credit line.
+  for (BandLabel& label : band_) label.Visible = label.Top < bottom_;
+  ShowBand();
   timer_.start();
 }
 
 void NewsPlay::NewsTimerTimer() {
   Routine routine(log_, "OrrerixMain.NewsTimer_Timer");
   routine.Run([&] {
-    const Control* shown = screen_.Scene().Find("MenuFrame", 0);
-    if (shown == nullptr) return;
     NewsTimer(band_, bottom_);
-    Control panel = *shown;
-    ControlList& children = InfoBoxOf(panel)->Children;
-    auto at = std::find_if(children.begin(), children.end(), IsNews);
-    at = children.erase(at, std::find_if_not(at, children.end(), IsNews));
-    for (std::size_t n = 0; n < all_.size(); ++n) {
-      all_[n].Place.Top = band_[n].Top;
-      if (band_[n].Visible) at = children.insert(at, all_[n]) + 1;
-    }
-    screen_.Scene().Replace(panel);
+    ShowBand();
   });
+}
+
+void NewsPlay::ShowBand() {
+  const Control* shown = screen_.Scene().Find("MenuFrame", 0);
+  if (shown == nullptr) return;
+  Control panel = *shown;
+  ControlList& children = InfoBoxOf(panel)->Children;
+  auto at = std::find_if(children.begin(), children.end(), IsNews);
+  at = children.erase(at, std::find_if_not(at, children.end(), IsNews));
+  for (std::size_t n = 0; n < all_.size(); ++n) {
+    all_[n].Place.Top = band_[n].Top;
+    if (band_[n].Visible) at = children.insert(at, all_[n]) + 1;
+  }
+  screen_.Scene().Replace(panel);
 }
 
 }  // namespace orrerix

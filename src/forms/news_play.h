@@ -24,6 +24,8 @@ class NewsPlay {
   void NewsTimerTimer();
 
  private:
+  void ShowBand();
+
   MapScreen& screen_;
   ErrorLog& log_;
   QTimer timer_;

@@ -4,6 +4,7 @@
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QStyle>
 #include <algorithm>
 
 #include "forms/form_geometry.h"
@@ -15,6 +16,7 @@ namespace {
 
 constexpr int kLargestHeadLine = 24;
 constexpr int kCheckFont = 10;
+constexpr int kTextMargin = 2;  // logical pixels at each side of the text
 constexpr int kDesignFont = 1;  // from here every search ends at the largest size that fits
 constexpr int kButtonMargin = 200;
 constexpr QRgb kGround = 0xFF000040;
@@ -39,6 +41,7 @@ Spoiler::Spoiler(const SpoilerTexts& texts) {
   text_->setObjectName("Text");
   text_->setAccessibleName("Warning");
   text_->setReadOnly(true);
+  text_->document()->setDocumentMargin(kTextMargin);
   text_->setTabChangesFocus(true);
   text_->viewport()->installEventFilter(this);
   check1_ = new QCheckBox("Dont show that warning again (If I use the same map)", this);
@@ -86,7 +89,11 @@ void Spoiler::FormResize() {
     button->setFont(FormFont(OptFontSize(button->text().toStdString(), formMeasure_, kDesignFont,
                                          places.Ok.Width - kButtonMargin, places.Ok.Height)));
   }
-  text_->setFont(FixedFont(FittingFont(text_->toPlainText(), places.Text.Width)));
+  // Room for the frame and for a scroll bar, which would break the longest line.
+  const int sides = 2 * (kTextMargin + text_->frameWidth()) +
+                    style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, text_);
+  text_->setFont(FixedFont(
+      FittingFont(text_->toPlainText(), places.Text.Width - static_cast<int>(Twips(sides)))));
   headLine_->setFont(
       FixedFont(std::min(kLargestHeadLine, FittingFont(headLine_->text(), places.HeadLine.Width))));
 }

@@ -2,6 +2,8 @@
 #include "forms/spoiler.h"
 
 #include <QTest>
+#include <QTextBlock>
+#include <QTextLayout>
 
 #include "form_fixture.h"
 #include "forms/form_geometry.h"
@@ -95,6 +97,17 @@ TEST_F(SpoilerTest, TheCheckBoxAndTheTextTellOfClicks) {
 
   EXPECT_EQ(checks, (std::vector{true, false}));
   EXPECT_EQ(clicks, 1);
+}
+
+TEST_F(SpoilerTest, NoLineOfAShortTextIsBroken) {
+  texts.Text = "Here be dragons.\r\nMany of them.";
+  Spoiler mods(texts);
+  mods.resize(1200, 800);
+  mods.show();
+  PassEvents();
+
+  const auto& text = Find<QPlainTextEdit>(mods, "Text");
+  EXPECT_EQ(text.document()->firstBlock().layout()->lineCount(), 1);
 }
 
 TEST_F(SpoilerTest, EveryTextFitsItsWidth) {
