@@ -3,7 +3,7 @@
 
 #include <gmock/gmock.h>
 
-#include "support/universe_fixture.h"
+#include "support/station_fixture.h"
 
 namespace orrerix {
 namespace {
@@ -11,21 +11,8 @@ namespace {
 using ::testing::IsEmpty;
 using ::testing::SizeIs;
 
-class Hover : public UniverseFixture {
+class Hover : public StationFixture {
  protected:
-  Hover() {
-    db.CreateTable(mustWork, DockObjectsTable());
-    names.Set({7, 4}, "Lantern");
-  }
-
-  void Dock(std::string_view nickname, std::string_view realname) {
-    Add("DockObjects", {{"nickname", nickname},
-                        {"realname", realname},
-                        {"MapX", 7},
-                        {"MapY", 4},
-                        {"PosX", 0.5},
-                        {"PosY", 0.5}});
-  }
   void Object(std::string_view nickname, const Value& reputation, const Value& loadout) {
     Add("Objects", {{"nickname", nickname}, {"reputation", reputation}, {"loadout", loadout}});
   }
@@ -52,9 +39,6 @@ class Hover : public UniverseFixture {
     EXPECT_EQ(text.substr(0, head.size()), head);
     return text.substr(head.size());
   }
-
-  FixedLanguage english{0};
-  CellNames names;
 };
 
 TEST_F(Hover, AnOwnedObjectTellsNameOwnerAndPlace) {

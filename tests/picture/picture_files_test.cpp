@@ -37,7 +37,7 @@ TEST(PictureFiles, FileNamesAreFilesBelowTheBuiltInPictures) {
 }
 
 TEST(PictureFiles, AnAbsolutePathIsThePlayersOwnFile) {
-  EXPECT_EQ(FileOf("/home/player/SysMap.jpg"), "/home/player/SysMap.jpg");
+  EXPECT_EQ(FileOf("/pictures/SysMap.jpg"), "/pictures/SysMap.jpg");
 }
 
 TEST(PictureFiles, NothingNamesNoFile) {
