@@ -1,26 +1,38 @@
 // SPDX-License-Identifier: MIT
 #include "db/appender.h"
 
-#include "db/connection.h"
+#include "db/row_inserter.h"
 
 namespace orrerix {
 
+Appender::Appender() = default;
+Appender::Appender(Appender&&) noexcept = default;
+Appender& Appender::operator=(Appender&&) noexcept = default;
+Appender::~Appender() = default;
+
+Appender::Appender(FailureSink& sink, std::shared_ptr<Connection> connection, const TableDef& table,
+                   std::size_t rowCount)
+    : sink_(&sink),
+      connection_(std::move(connection)),
+      inserter_(std::make_unique<RowInserter>(*connection_, table, rowCount)) {}
+
 void Appender::Set(std::size_t field, std::string_view text) {
-  if (statement_ == nullptr) return;
-  sqlite3_bind_text64(statement_, static_cast<int>(field) + 1, text.data(), text.size(),
-                      SQLITE_STATIC, SQLITE_UTF8);
+  if (inserter_ != nullptr) inserter_->Set(field, text);
 }
 
 void Appender::Set(std::size_t field, std::int64_t number) {
-  if (statement_ == nullptr) return;
-  sqlite3_bind_int64(statement_, static_cast<int>(field) + 1, number);
+  if (inserter_ != nullptr) inserter_->Set(field, number);
 }
 
 void Appender::Append() {
-  if (statement_ == nullptr) return;
-  const StatementLoan loan(statement_);
-  if (sqlite3_step(statement_) == SQLITE_DONE) return;
-  sink_->Fail(connection_->LastFailure());
+  if (inserter_ == nullptr) return;
+  std::optional<Failure> failed;
+  try {
+    inserter_->EndRow();
+  } catch (const Failure& failure) {
+    failed = failure;
+  }
+  if (failed) sink_->Fail(*failed);
 }
 
 }  // namespace orrerix

@@ -8,32 +8,38 @@
 #include <string_view>
 
 #include "db/failure.h"
-
-struct sqlite3_stmt;
+#include "db/table_def.h"
 
 namespace orrerix {
 
 class Connection;
+class RowInserter;
 
-// Holds one prepared statement. Texts must live until Append; fields that were not set are Null.
-// Nothing is tested but what the engine tests itself.
+// Takes as many rows as it was opened for. Texts must live until the last of them; fields that were
+// not set are Null, and a unique ID is left to the engine. Nothing is tested but what the engine
+// tests itself.
 class Appender {
  public:
-  Appender() = default;
-  Appender(FailureSink& sink, std::shared_ptr<Connection> connection, sqlite3_stmt* statement)
-      : sink_(&sink), connection_(std::move(connection)), statement_(statement) {}
+  // Appends nothing.
+  Appender();
+  Appender(FailureSink& sink, std::shared_ptr<Connection> connection, const TableDef& table,
+           std::size_t rowCount);
+  Appender(Appender&&) noexcept;
+  Appender& operator=(Appender&&) noexcept;
+  ~Appender();
 
   // Sets a field of the row to come, counted from 0.
   void Set(std::size_t field, std::string_view text);
   void Set(std::size_t field, std::int64_t number);
 
-  // Writes the row; a failed one goes to the sink and is dropped.
+  // Ends the row. Rows are written several at a time; those that fail together go to the sink as
+  // one failure and are dropped.
   void Append();
 
  private:
   FailureSink* sink_ = nullptr;
   std::shared_ptr<Connection> connection_;
-  sqlite3_stmt* statement_ = nullptr;
+  std::unique_ptr<RowInserter> inserter_;
 };
 
 }  // namespace orrerix

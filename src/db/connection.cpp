@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "db/connection.h"
 
+#include <algorithm>
+#include <utility>
+
 #include <fmt/format.h>
 
+#include "db/row_inserter.h"
 #include "db/text.h"
 
 namespace orrerix {
-
 Connection::Connection(sqlite3* handle, std::filesystem::path path)
     : handle_(handle), path_(std::move(path)) {}
 
@@ -15,6 +18,7 @@ Connection::~Connection() {
 }
 
 void Connection::Close() {
+  held_.clear();
   queries_.clear();
   editableQueries_.clear();
   statements_.clear();
@@ -45,7 +49,9 @@ PreparedStatement Connection::PrepareOnce(const std::string& sql) {
   if (statement == nullptr) {
     throw EngineFailure(failure_number::kSyntaxError, "Syntax error in query expression.");
   }
-  return PreparedStatement(statement);
+  PreparedStatement prepared(statement);
+  WriteAskedFor();
+  return prepared;
 }
 
 std::shared_ptr<const TableDef> Connection::Find(std::string_view table) {
@@ -98,6 +104,99 @@ void Connection::Forget(std::string_view table) {
   tables_.erase(FoldAscii(table));
 }
 
+void Connection::Hold(const TableDef& table) {
+  // A statement tells what it asks for when it is prepared.
+  if (held_.empty()) sqlite3_set_authorizer(handle_, NoteTable, this);
+  held_.emplace_back(table);
+  tables_[FoldAscii(table.Name)] = held_.back().SharedDefinition();
+}
+
+HeldRows* Connection::Held(std::string_view table) {
+  for (HeldRows& rows : held_) {
+    if (EqualIgnoringCase(rows.Definition().Name, table)) return &rows;
+  }
+  return nullptr;
+}
+
+int Connection::NoteTable(void* self, int action, const char* first, const char* second,
+                          const char* database, const char*) {
+  auto& connection = *static_cast<Connection*>(self);
+  const char* table =
+      action == SQLITE_CREATE_INDEX || action == SQLITE_ALTER_TABLE ? second : first;
+  const bool isHere =
+      database == nullptr || action == SQLITE_ALTER_TABLE || std::string_view(database) == "main";
+  if (table == nullptr || !isHere) return SQLITE_OK;
+  const bool changesRows = action == SQLITE_INSERT || action == SQLITE_UPDATE;
+  if (connection.Held(table) != nullptr || (changesRows && !connection.lateKeys_.empty())) {
+    connection.askedFor_.push_back({table, changesRows});
+  }
+  return SQLITE_OK;
+}
+
+void Connection::WriteAskedFor() {
+  for (const Request& request : std::exchange(askedFor_, {})) {
+    WriteTable(request.Table);
+    if (request.ChangesRows) MakeLateKey(request.Table);
+  }
+}
+
+void Connection::WriteHeld() {
+  while (!held_.empty()) WriteTable(held_.back().Definition().Name);
+  while (!lateKeys_.empty()) MakeLateKey(lateKeys_.back().Name);
+}
+
+std::vector<HeldRows> Connection::TakeHeld() {
+  return std::exchange(held_, {});
+}
+
+void Connection::WriteTable(std::string_view table) {
+  const auto held = std::find_if(held_.begin(), held_.end(), [table](const HeldRows& rows) {
+    return EqualIgnoringCase(rows.Definition().Name, table);
+  });
+  if (held == held_.end()) return;
+  const HeldRows rows = std::move(*held);
+  held_.erase(held);
+  InsertRows(rows, rows.Definition());
+  if (!rows.Definition().PrimaryKey) return;
+  lateKeys_.push_back(rows.Definition());
+  if (!rows.Definition().PrimaryKey->IsLate) MakeLateKey(rows.Definition().Name);
+}
+
+// Making a key out of all rows costs less than placing each of them in it.
+void Connection::MakeLateKey(std::string_view table) {
+  const auto late = std::find_if(lateKeys_.begin(), lateKeys_.end(), [table](const TableDef& of) {
+    return EqualIgnoringCase(of.Name, table);
+  });
+  if (late == lateKeys_.end()) return;
+  const TableDef keyed = std::move(*late);
+  lateKeys_.erase(late);
+  RunAll(CreateKeyStatement(keyed));
+}
+
+void Connection::RunAll(const std::string& statements) {
+  RequireOpen();
+  const char* rest = statements.c_str();
+  while (*rest != '\0') {
+    sqlite3_stmt* next = nullptr;
+    if (sqlite3_prepare_v2(handle_, rest, -1, &next, &rest) != SQLITE_OK) throw LastFailure();
+    const PreparedStatement statement(next);
+    WriteAskedFor();
+    if (next == nullptr) continue;
+    int result = SQLITE_ROW;
+    while (result == SQLITE_ROW) result = sqlite3_step(next);
+    if (result != SQLITE_DONE) throw LastFailure();
+  }
+}
+
+void Connection::InsertRows(const HeldRows& rows, const TableDef& table) {
+  RowInserter inserter(*this, table, rows.RowCount());
+  for (std::size_t row = 0; row < rows.RowCount(); ++row) {
+    const std::span<const HeldRows::Cell> cells = rows.Row(row);
+    for (std::size_t field = 0; field < cells.size(); ++field) inserter.Set(field, cells[field]);
+    inserter.EndRow();
+  }
+}
+
 std::shared_ptr<const TableDef> Connection::ColumnsOf(sqlite3_stmt* statement) {
   auto columns = std::make_shared<TableDef>();
   for (int i = 0; i < sqlite3_column_count(statement); ++i) {
@@ -113,9 +212,7 @@ Failure Connection::LastFailure() const {
   const std::string message = sqlite3_errmsg(handle_);
   const std::string file = path_.string();
   if (code == SQLITE_CONSTRAINT_UNIQUE || code == SQLITE_CONSTRAINT_PRIMARYKEY) {
-    return EngineFailure(failure_number::kDuplicateKey,
-                         "The changes you requested were not successful because they would create "
-                         "duplicate values in the index.");
+    return DuplicateKey();
   }
   if (message == "Invalid pattern string.") {
     return {failure_number::kInvalidPattern, message};

@@ -13,6 +13,7 @@
 #include <sqlite3.h>
 
 #include "db/failure.h"
+#include "db/held_rows.h"
 #include "db/query_text.h"
 #include "db/table_def.h"
 #include "db/value.h"
@@ -72,6 +73,20 @@ class Connection {
   std::shared_ptr<const TableDef> Find(std::string_view table);
   void Forget(std::string_view table);
 
+  // Keeps what is appended to a table, which has neither rows nor its key yet, in memory. As soon
+  // as a statement asks for the table it is filled and gets its key; a late key it gets as soon as
+  // a statement changes its rows.
+  void Hold(const TableDef& table);
+  HeldRows* Held(std::string_view table);  // nothing if it is a table like any other
+  void WriteHeld();                        // with all keys
+  std::vector<HeldRows> TakeHeld();
+
+  // Runs all statements of a text and drops their rows.
+  void RunAll(const std::string& statements);
+
+  // Appends rows to a table with the same fields.
+  void InsertRows(const HeldRows& rows, const TableDef& table);
+
   // A definition of a statement's columns that says no more than their names.
   static std::shared_ptr<const TableDef> ColumnsOf(sqlite3_stmt* statement);
 
@@ -82,8 +97,21 @@ class Connection {
   void RequireOpen() const;
 
  private:
+  static int NoteTable(void* self, int action, const char* first, const char* second,
+                       const char* database, const char* trigger);
+  void WriteAskedFor();
+  void WriteTable(std::string_view table);
+  void MakeLateKey(std::string_view table);
+
   sqlite3* handle_;
   std::filesystem::path path_;
+  std::vector<HeldRows> held_;
+  std::vector<TableDef> lateKeys_;  // not made yet
+  struct Request {
+    std::string Table;
+    bool ChangesRows;
+  };
+  std::vector<Request> askedFor_;  // by the statement just prepared
   std::unordered_map<std::string, PreparedStatement> statements_;
   std::map<std::string, Query, std::less<>> queries_;          // as they stand
   std::map<std::string, Query, std::less<>> editableQueries_;  // with the numbers of their rows

@@ -103,18 +103,48 @@ bool Database::HasField(std::string_view table, std::string_view field) const {
   return definition != nullptr && definition->Find(field).has_value();
 }
 
+// The table without its key.
+void Database::MakeTable(const TableDef& table) {
+  RequireOpen();
+  if (HasTable(table.Name)) {
+    throw EngineFailure(failure_number::kTableExists,
+                        fmt::format("Table '{}' already exists.", table.Name));
+  }
+  StepToEnd(*connection_, StatementLoan(connection_->Prepare(CreateStatement(table))).get());
+}
+
 void Database::CreateTable(FailureSink& sink, const TableDef& table) {
   Guard(sink, [&] {
-    RequireOpen();
-    if (HasTable(table.Name)) {
-      throw EngineFailure(failure_number::kTableExists,
-                          fmt::format("Table '{}' already exists.", table.Name));
-    }
-    StepToEnd(*connection_, StatementLoan(connection_->Prepare(CreateStatement(table))).get());
+    MakeTable(table);
     if (table.PrimaryKey) {
       StepToEnd(*connection_, StatementLoan(connection_->Prepare(CreateKeyStatement(table))).get());
     }
     connection_->Forget(table.Name);
+  });
+}
+
+void Database::CreateHeldTable(FailureSink& sink, const TableDef& table) {
+  Guard(sink, [&] {
+    MakeTable(table);
+    connection_->Hold(table);
+  });
+}
+
+void Database::WriteHeldRows(FailureSink& sink) {
+  Guard(sink, [&] {
+    RequireOpen();
+    connection_->WriteHeld();
+  });
+}
+
+std::vector<HeldRows> Database::TakeHeldRows() {
+  return IsOpen() ? connection_->TakeHeld() : std::vector<HeldRows>();
+}
+
+void Database::Append(FailureSink& sink, const HeldRows& rows, const TableDef& table) {
+  Guard(sink, [&] {
+    RequireOpen();
+    connection_->InsertRows(rows, table);
   });
 }
 
@@ -149,15 +179,11 @@ Recordset Database::OpenTable(FailureSink& sink, std::string_view table) {
   return recordset;
 }
 
-Appender Database::OpenAppender(FailureSink& sink, const TableDef& table) {
+Appender Database::OpenAppender(FailureSink& sink, const TableDef& table, std::size_t rowCount) {
   Appender appender;
   Guard(sink, [&] {
     RequireOpen();
-    std::string parameters = "?";
-    for (std::size_t i = 1; i < table.Fields.size(); ++i) parameters += ",?";
-    sqlite3_stmt* statement = connection_->Prepare("INSERT INTO " + QuoteName(table.Name) +
-                                                   " VALUES (" + parameters + ")");
-    appender = Appender(sink, connection_, statement);
+    appender = Appender(sink, connection_, table, rowCount);
   });
   return appender;
 }
@@ -238,9 +264,7 @@ void Database::CopyFromAttached(FailureSink& sink, std::string_view table) {
 void Database::ExecuteNative(FailureSink& sink, const std::string& statement) {
   Guard(sink, [&] {
     RequireOpen();
-    if (sqlite3_exec(Native(), statement.c_str(), nullptr, nullptr, nullptr) != SQLITE_OK) {
-      throw connection_->LastFailure();
-    }
+    connection_->RunAll(statement);
   });
 }
 

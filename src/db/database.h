@@ -12,6 +12,7 @@
 
 #include "db/appender.h"
 #include "db/failure.h"
+#include "db/held_rows.h"
 #include "db/recordset.h"
 #include "db/table_def.h"
 #include "db/value.h"
@@ -34,7 +35,8 @@ class Database {
   bool IsOpen() const;
   const std::filesystem::path& Path() const;
 
-  // Commits an open transaction and lets go of the file. Recordsets made before stay readable.
+  // Commits an open transaction and lets go of the file. Recordsets made before stay readable; rows
+  // that are kept in memory are lost.
   void Close();
 
   // All tables in the order of their creation.
@@ -45,6 +47,19 @@ class Database {
   // Makes a table with its key. Fails with 3010 if one of that name, in whatever case, is there.
   void CreateTable(FailureSink& sink, const TableDef& table);
 
+  // Makes a table whose rows, as recordsets append them, are kept in memory until a statement asks
+  // for the table: writing them together costs less. It obeys its key all the same. Fails like
+  // CreateTable.
+  void CreateHeldTable(FailureSink& sink, const TableDef& table);
+
+  // Writes what is kept in memory, or gives it away: such a table stays empty in the file and
+  // without its key.
+  void WriteHeldRows(FailureSink& sink);
+  std::vector<HeldRows> TakeHeldRows();
+
+  // Appends rows that were kept in memory to a table with the same fields.
+  void Append(FailureSink& sink, const HeldRows& rows, const TableDef& table);
+
   // Opens the rows of a query text (query_text.h tells what may stand in it). A failed query gives
   // a recordset without rows.
   Recordset OpenRecordset(FailureSink& sink, std::string_view text,
@@ -54,8 +69,9 @@ class Database {
   // Opens a table to append to; it shows no rows.
   Recordset OpenTable(FailureSink& sink, std::string_view table);
 
-  // Opens a table for many rows that need no tests; all its fields in the order of the definition.
-  Appender OpenAppender(FailureSink& sink, const TableDef& table);
+  // Opens a table for so many rows that need no tests; all its fields in the order of the
+  // definition.
+  Appender OpenAppender(FailureSink& sink, const TableDef& table, std::size_t rowCount);
 
   // Runs a statement that gives no rows.
   void Execute(FailureSink& sink, std::string_view text, std::initializer_list<Value> values = {},
@@ -98,6 +114,7 @@ class Database {
 
  private:
   void RequireOpen() const;
+  void MakeTable(const TableDef& table);
 
   std::shared_ptr<Connection> connection_;
 };

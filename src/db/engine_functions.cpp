@@ -79,20 +79,6 @@ void LikeFunction(sqlite3_context* context, int, sqlite3_value** arguments) {
   sqlite3_result_int(context, pattern->Matches(TextOf(arguments[1])) ? 1 : 0);
 }
 
-// A number that is the same for all texts that are equal but for the case of ASCII letters
-// (FNV-1a).
-void KeyHashFunction(sqlite3_context* context, int count, sqlite3_value** arguments) {
-  std::uint64_t hash = 0xCBF29CE484222325;
-  const auto add = [&hash](unsigned char byte) { hash = (hash ^ byte) * 0x100000001B3; };
-  for (int i = 0; i < count; ++i) {
-    for (const char c : TextOf(arguments[i])) {
-      add(static_cast<unsigned char>(c >= 'A' && c <= 'Z' ? c + 32 : c));
-    }
-    add(0);
-  }
-  sqlite3_result_int64(context, static_cast<sqlite3_int64>(hash));
-}
-
 }  // namespace
 
 void RegisterEngineFunctions(sqlite3* connection) {
@@ -107,7 +93,6 @@ void RegisterEngineFunctions(sqlite3* connection) {
   add("right", 2, CutFunction<Right>);
   add("isnull", 1, IsNullFunction);
   add("like", 2, LikeFunction);
-  add("keyhash", -1, KeyHashFunction);
   add("fitlong", 1, FitFunction<-2147483648LL, 2147483647LL>);
   add("fitbyte", 1, FitFunction<0, 255>);
 }

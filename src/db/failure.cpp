@@ -9,6 +9,17 @@ Failure EngineFailure(int number, std::string description) {
   return {number, std::move(description), "Database engine"};
 }
 
+Failure DuplicateKey() {
+  return EngineFailure(failure_number::kDuplicateKey,
+                       "The changes you requested were not successful because they would create "
+                       "duplicate values in the index.");
+}
+
+Failure NullInKey() {
+  return EngineFailure(failure_number::kNullInKey,
+                       "Index or primary key can't contain a Null value.");
+}
+
 Failure RuntimeFailure(int number) {
   return {number, std::string(StandardMessage(number)), "Orrerix"};
 }

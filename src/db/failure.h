@@ -46,6 +46,10 @@ struct Failure {
 // A failure raised by the database engine's layer.
 Failure EngineFailure(int number, std::string description);
 
+// A row that would break its table's key: 3022 for a double, 3058 for Null.
+Failure DuplicateKey();
+Failure NullInKey();
+
 // A failure of the language's own operations, with its standard description (Overflow, Division by
 // zero and so on).
 Failure RuntimeFailure(int number);

@@ -227,10 +227,7 @@ void Recordset::Update() {
   const Editing editing = std::exchange(editing_, Editing::None);
   std::optional<Failure> failed;
   try {
-    if (KeyHoldsNull()) {
-      throw EngineFailure(failure_number::kNullInKey,
-                          "Index or primary key can't contain a Null value.");
-    }
+    if (KeyHoldsNull()) throw NullInKey();
     connection_->RequireOpen();
     editing == Editing::Added ? Insert() : Rewrite();
   } catch (const Failure& failure) {
@@ -239,29 +236,19 @@ void Recordset::Update() {
   if (failed) sink_->Fail(*failed);
 }
 
-// Fields with a default of the engine's own are left to it unless they were assigned.
-std::string Recordset::InsertStatement() const {
-  std::string columns;
-  std::string parameters;
-  for (std::size_t i = 0; i < table_->Fields.size(); ++i) {
-    if (table_->Fields[i].IsUniqueID && !assigned_[i]) continue;
-    if (!columns.empty()) columns += ",", parameters += ",";
-    columns += QuoteName(table_->Fields[i].Name);
-    parameters += fmt::format("?{}", i + 1);
-  }
-  return "INSERT INTO " + QuoteName(table_->Name) + " (" + columns + ") VALUES (" + parameters +
-         ")";
-}
-
 void Recordset::Insert() {
-  bool assignsID = false;
+  UniqueIDs ids = UniqueIDs::Generated;
   for (std::size_t i = 0; i < edited_.size(); ++i) {
-    assignsID = assignsID || (table_->Fields[i].IsUniqueID && assigned_[i]);
+    if (table_->Fields[i].IsUniqueID && assigned_[i]) ids = UniqueIDs::Given;
   }
-  if (!assignsID && insert_ == nullptr) insert_ = connection_->Prepare(InsertStatement());
-  StatementLoan insert(assignsID ? connection_->Prepare(InsertStatement()) : insert_);
+  if (ids == UniqueIDs::Generated) {
+    if (HeldRows* held = connection_->Held(table_->Name)) return held->Add(edited_);
+    if (insert_ == nullptr) insert_ = connection_->Prepare(InsertStatement(*table_, ids));
+  }
+  const StatementLoan insert(
+      ids == UniqueIDs::Generated ? insert_ : connection_->Prepare(InsertStatement(*table_, ids)));
   for (std::size_t i = 0; i < edited_.size(); ++i) {
-    if (table_->Fields[i].IsUniqueID && !assigned_[i]) continue;
+    if (table_->Fields[i].IsUniqueID && ids == UniqueIDs::Generated) continue;
     Bind(insert.get(), static_cast<int>(i) + 1, edited_[i], BoundText::Stays);
   }
   if (sqlite3_step(insert.get()) != SQLITE_DONE) throw connection_->LastFailure();

@@ -103,7 +103,6 @@ class Recordset {
   bool KeyHoldsNull() const;
   void Insert();
   void Rewrite();
-  std::string InsertStatement() const;
 
   FailureSink* sink_ = nullptr;
   std::shared_ptr<Connection> connection_;

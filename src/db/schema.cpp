@@ -61,9 +61,9 @@ class Table {
     table_.PrimaryKey = Index{std::string(name), {fields.begin(), fields.end()}, false};
     return *this;
   }
-  Table& HashedKey(std::string_view name, std::initializer_list<std::string_view> fields) {
+  Table& LateKey(std::string_view name, std::initializer_list<std::string_view> fields) {
     Key(name, fields);
-    table_.PrimaryKey->IsHashed = true;
+    table_.PrimaryKey->IsLate = true;
     return *this;
   }
   operator TableDef() const { return table_; }
@@ -140,7 +140,7 @@ std::vector<TableDef> FixedTables() {
           .ID()
           .Text({"Base", "GoodNick"})
           .Double({"val1", "val2", "val3", "val4", "val5", "val6"})
-          .HashedKey("GoodNick", {"Base", "GoodNick"}),
+          .LateKey("GoodNick", {"Base", "GoodNick"}),
       Table("BaseGoodPrices")
           .Text({"SysNick", "BaseNick", "GoodNick"})
           .Long({"Price"})

@@ -91,10 +91,25 @@ std::string CreateKeyStatement(const TableDef& table) {
     if (!fields.empty()) fields += ", ";
     fields += QuoteName(field);
   }
-  if (table.PrimaryKey->IsHashed) fields = fmt::format("keyhash({0}), {0}", fields);
   return fmt::format("CREATE UNIQUE INDEX {} ON {} ({})",
                      QuoteName(table.Name + " key " + table.PrimaryKey->Name),
                      QuoteName(table.Name), fields);
+}
+
+std::string InsertStatement(const TableDef& table, UniqueIDs ids, std::size_t rows) {
+  const std::size_t fields = table.Fields.size();
+  std::string columns;
+  std::string values;
+  for (std::size_t parameter = 0; parameter < rows * fields; ++parameter) {
+    const Field& field = table.Fields[parameter % fields];
+    const bool isFirst = parameter % fields == 0;
+    if (isFirst && parameter > 0) values += "),(";
+    if (field.IsUniqueID && ids == UniqueIDs::Generated) continue;
+    if (!values.empty() && values.back() != '(') values += ',';
+    values += fmt::format("?{}", parameter + 1);
+    if (parameter < fields) columns += (columns.empty() ? "" : ",") + QuoteName(field.Name);
+  }
+  return "INSERT INTO " + QuoteName(table.Name) + " (" + columns + ") VALUES (" + values + ")";
 }
 
 Field ReadField(std::string name, std::string_view declaredType, std::string_view defaultValue,

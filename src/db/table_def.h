@@ -36,9 +36,9 @@ struct Field {
 struct Index {
   std::string Name;
   std::vector<std::string> Fields;
-  // Whether a hash of the fields comes first in it: doubles are found sooner, but rows cannot be
-  // looked up by it. For Text fields only.
-  bool IsHashed = false;
+  // Whether nothing is ever looked up by it: behind rows that were held it is not made before
+  // another row comes.
+  bool IsLate = false;
 };
 
 struct TableDef {
@@ -60,6 +60,11 @@ std::string CreateStatement(const TableDef& table, std::string_view schema = {})
 
 // The statement that makes the table's key.
 std::string CreateKeyStatement(const TableDef& table);
+
+// The statement that appends so many rows: parameter ?N is the Nth field of the first, and the
+// parameters of the next row follow. A unique ID can be left to the engine.
+enum class UniqueIDs { Given, Generated };
+std::string InsertStatement(const TableDef& table, UniqueIDs ids, std::size_t rows = 1);
 
 // Reads back what CreateStatement declared. A type that it never writes counts as Memo.
 Field ReadField(std::string name, std::string_view declaredType, std::string_view defaultValue,

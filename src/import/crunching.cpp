@@ -48,11 +48,22 @@ std::vector<TableDef> TablesOf(FailureSink& routine, const fs::path& file) {
 // Makes tables with their rows in a file, out of the one attached to it or out of memory.
 class Cruncher {
  public:
-  Cruncher(FailureSink& routine, Database& to) : routine_(routine), to_(to) {}
+  Cruncher(FailureSink& routine, Database& to, const std::vector<HeldRows>& held)
+      : routine_(routine), to_(to), held_(held) {}
 
   void Copy(const TableDef& table) {
+    const auto held = std::find_if(held_.begin(), held_.end(), [&table](const HeldRows& rows) {
+      return rows.Definition().Name == table.Name;
+    });
+    if (held != held_.end()) return Write(*held);
     to_.CreateTable(routine_, Crunched(table, to_.LongestAttachedTexts(routine_, table)));
     to_.CopyFromAttached(routine_, table.Name);
+  }
+
+  void Write(const HeldRows& rows) {
+    const TableDef definition = Crunched(rows.Definition(), rows.LongestTexts());
+    to_.CreateTable(routine_, definition);
+    if (to_.CanBeNamedInStatements(routine_)) to_.Append(routine_, rows, definition);
   }
 
   void Write(const SectionTable& table) {
@@ -64,6 +75,7 @@ class Cruncher {
  private:
   FailureSink& routine_;
   Database& to_;
+  const std::vector<HeldRows>& held_;
 };
 
 std::string InfoOf(const fs::path& source, const fs::path& target) {
@@ -91,6 +103,7 @@ void CleanUpMemory(ErrorLog& log, ImportHost& host, Database& database,
       host.Yield();
       return;
     }
+    database.WriteHeldRows(routine);
     CloseDB(database, file);
     routine.Try([&] {
       std::error_code error;
@@ -112,7 +125,7 @@ void CleanUpMemory(ErrorLog& log, ImportHost& host, Database& database,
 }
 
 void CrunchTXTFields(ErrorLog& log, const fs::path& source, const fs::path& target,
-                     JetVersionOption option, const SectionTables& sections) {
+                     JetVersionOption option, const KeptInMemory& kept) {
   Routine routine(log, "DB_Work.CrunchTXTFields", InfoOf(source, target));
   routine.Run([&] {
     const std::vector<TableDef> tables = TablesOf(routine, source);
@@ -122,11 +135,11 @@ void CrunchTXTFields(ErrorLog& log, const fs::path& source, const fs::path& targ
     to.UseForFilling(routine);
     to.Attach(routine, source);
     const auto behindFixed = EndOfFixedTables(tables);
-    Cruncher cruncher(routine, to);
+    Cruncher cruncher(routine, to, kept.Rows);
     // One transaction: a process that dies on the way leaves a file without any table.
     to.Begin(routine);
     std::for_each(tables.begin(), behindFixed, [&](const TableDef& t) { cruncher.Copy(t); });
-    for (const auto& table : sections.Tables()) cruncher.Write(*table);
+    for (const auto& table : kept.Sections) cruncher.Write(*table);
     std::for_each(behindFixed, tables.end(), [&](const TableDef& t) { cruncher.Copy(t); });
     to.Commit(routine);
   });

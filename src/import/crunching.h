@@ -3,6 +3,8 @@
 #pragma once
 
 #include <filesystem>
+#include <memory>
+#include <vector>
 
 #include "db/engine.h"
 #include "import/import_host.h"
@@ -20,12 +22,18 @@ void CloseDB(Database& database, const std::filesystem::path& path);
 void CleanUpMemory(ErrorLog& log, ImportHost& host, Database& database,
                    const std::filesystem::path& saveFolder);
 
+// What an import kept in memory: the section tables, and rows of tables that are empty in the file.
+struct KeptInMemory {
+  const std::vector<std::unique_ptr<SectionTable>>& Sections;
+  const std::vector<HeldRows>& Rows;
+};
+
 // Copies all tables of a file into a new one, with every Text field cut down to what its longest
 // text needs (254 where there is none). Fields and rows are carried over, keys are not; tables
-// whose names begin with "MSYS" are the engine's own and stay behind. The section tables, which
-// were kept in memory, are written behind the fixed tables. The target is replaced.
+// whose names begin with "MSYS" are the engine's own and stay behind. The section tables are
+// written behind the fixed tables. The target is replaced.
 void CrunchTXTFields(ErrorLog& log, const std::filesystem::path& source,
                      const std::filesystem::path& target, JetVersionOption option,
-                     const SectionTables& sections);
+                     const KeptInMemory& kept);
 
 }  // namespace orrerix

@@ -59,7 +59,7 @@ class ImportRun {
   }
 
   void CreateFixedTables() {
-    for (const TableDef& table : FixedTables()) database_.CreateTable(routine_, table);
+    for (const TableDef& table : FixedTables()) database_.CreateHeldTable(routine_, table);
     // The reader of goods looks commodities up by nickname.
     database_.ExecuteNative(routine_,
                             "CREATE INDEX \"commodity lookup\" ON commodity "
@@ -150,6 +150,7 @@ class ImportRun {
 
   void Crunch() {
     const fs::path build = order_.SaveFolder / "build.mdb";
+    const std::vector<HeldRows> held = database_.TakeHeldRows();
     CloseDB(database_, File());
     std::error_code error;
     fs::remove(build, error);
@@ -162,7 +163,7 @@ class ImportRun {
       }
     });
     StampVersion(build);
-    CrunchTXTFields(log_, build, File(), order_.Format, import_.Sections);
+    CrunchTXTFields(log_, build, File(), order_.Format, {import_.Sections.Tables(), held});
     fs::remove(build, error);
     database_ = DBEngine::OpenDatabase(routine_, File());
   }

@@ -65,11 +65,7 @@ void SectionTable::MakeNicknameKey() {
     const auto key = KeyOf(*row);
     if (!key || !keys_.insert(*key).second) {
       keyField_.reset();
-      throw key ? EngineFailure(failure_number::kDuplicateKey,
-                                "The changes you requested were not successful because they would "
-                                "create duplicate values in the index.")
-                : EngineFailure(failure_number::kNullInKey,
-                                "Index or primary key can't contain a Null value.");
+      throw key ? DuplicateKey() : NullInKey();
     }
   }
 }
@@ -115,17 +111,10 @@ void SectionTable::Set(FieldIndex field, std::string text) {
 
 void SectionTable::CheckKey(const Row& row) {
   const auto key = KeyOf(row);
-  if (!key) {
-    throw EngineFailure(failure_number::kNullInKey,
-                        "Index or primary key can't contain a Null value.");
-  }
+  if (!key) throw NullInKey();
   const auto before = editedPlace_ ? KeyOf(*rows_[*editedPlace_]) : std::nullopt;
   if (before == key) return;
-  if (!keys_.insert(*key).second) {
-    throw EngineFailure(failure_number::kDuplicateKey,
-                        "The changes you requested were not successful because they would create "
-                        "duplicate values in the index.");
-  }
+  if (!keys_.insert(*key).second) throw DuplicateKey();
   if (before) keys_.erase(*before);
 }
 
@@ -165,7 +154,7 @@ std::vector<std::size_t> SectionTable::LongestTexts() const {
 
 void SectionTable::AppendTo(FailureSink& sink, Database& database,
                             const TableDef& definition) const {
-  Appender appender = database.OpenAppender(sink, definition);
+  Appender appender = database.OpenAppender(sink, definition, rows_.size());
   for (const auto& row : rows_) {
     appender.Set(0, row->ID);
     for (const Cell& cell : row->Cells) appender.Set(cell.Field + 1, cell.Text);

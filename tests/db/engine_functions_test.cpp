@@ -49,15 +49,6 @@ TEST_F(EngineFunctions, TakeNumbersForTheirTexts) {
   EXPECT_EQ(Result("left(1234, 2)"), "12");
 }
 
-TEST_F(EngineFunctions, AKeysHashTellsTextsApartButNotTheCaseOfAsciiLetters) {
-  EXPECT_EQ(Result("keyhash('Li01_Base', 'Water')"), Result("keyhash('li01_BASE', 'wATER')"));
-  EXPECT_NE(Result("keyhash('Li01_Base', 'Water')"), Result("keyhash('Li01_BaseW', 'ater')"));
-  EXPECT_NE(Result("keyhash('Ä')"), Result("keyhash('ä')"));
-  EXPECT_NE(Result("keyhash('@')"), Result("keyhash('`')"));
-  // The starting value of FNV-1a, (0xCBF29CE484222325 xor 0) x 0x100000001B3, for the end of "".
-  EXPECT_EQ(Result("keyhash('')"), static_cast<std::int64_t>(0xCBF29CE484222325 * 0x100000001B3));
-}
-
 TEST_F(EngineFunctions, ANegativeLengthIsAFailure) {
   RecordFailures failures;
   db.OpenRecordset(failures, "SELECT left('abc', -1)");

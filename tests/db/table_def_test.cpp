@@ -87,14 +87,14 @@ TEST(TableDef, IsReadBackFromTheFileAsItWasMade) {
   EXPECT_EQ(tables[0].PrimaryKey->Fields, (std::vector<std::string>{"n", "a \"b\""}));
 }
 
-class HashedKey : public ::testing::Test {
+class KeyOfTwoFields : public ::testing::Test {
  protected:
-  HashedKey() {
+  KeyOfTwoFields() {
     database = DBEngine::CreateInMemory(mustWork);
     database.CreateTable(mustWork,
                          {"t",
                           {Of("a", FieldType::Text, true), Of("b", FieldType::Text, true)},
-                          Index{"k", {"a", "b"}, true}});
+                          Index{"k", {"a", "b"}}});
   }
 
   void Add(FailureSink& sink, const Value& a, const Value& b) {
@@ -109,7 +109,7 @@ class HashedKey : public ::testing::Test {
   Database database;
 };
 
-TEST_F(HashedKey, IsReadBackAsItsFields) {
+TEST_F(KeyOfTwoFields, IsReadBackAsItsFields) {
   const auto tables = database.TableDefs(mustWork);
 
   ASSERT_EQ(tables.size(), 1u);
@@ -117,7 +117,7 @@ TEST_F(HashedKey, IsReadBackAsItsFields) {
   EXPECT_EQ(tables[0].PrimaryKey->Fields, (std::vector<std::string>{"a", "b"}));
 }
 
-TEST_F(HashedKey, RefusesDoublesWhateverTheirCaseAndNull) {
+TEST_F(KeyOfTwoFields, RefusesDoublesWhateverTheirCaseAndNull) {
   RecordFailures failures;
   Add(mustWork, "base", "Water");
   Add(mustWork, "base", "Gold");
@@ -127,6 +127,24 @@ TEST_F(HashedKey, RefusesDoublesWhateverTheirCaseAndNull) {
   Add(failures, "base", Value());
 
   EXPECT_EQ(failures.Numbers(), (std::vector<int>{3022, 3058}));
+}
+
+TEST(InsertStatement, NumbersItsParametersRowByRow) {
+  const TableDef table{"t", {Of("a", FieldType::Text, true), Of("b", FieldType::Long, true)}, {}};
+
+  EXPECT_EQ(InsertStatement(table, UniqueIDs::Generated, 2),
+            "INSERT INTO \"t\" (\"a\",\"b\") VALUES (?1,?2),(?3,?4)");
+}
+
+TEST(InsertStatement, LeavesOutAUniqueIDThatTheEngineGives) {
+  Field id = Of("ID", FieldType::Long, true);
+  id.IsUniqueID = true;
+  const TableDef table{"t", {id, Of("a", FieldType::Text, true)}, {}};
+
+  EXPECT_EQ(InsertStatement(table, UniqueIDs::Generated, 2),
+            "INSERT INTO \"t\" (\"a\") VALUES (?2),(?4)");
+  EXPECT_EQ(InsertStatement(table, UniqueIDs::Given),
+            "INSERT INTO \"t\" (\"ID\",\"a\") VALUES (?1,?2)");
 }
 
 TEST(ReadField, TakesForeignTypesForMemo) {

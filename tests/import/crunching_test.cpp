@@ -24,7 +24,7 @@ class Crunching : public UniverseFixture {
   // Lets go of the source, crunches it and opens the result in its place.
   void Crunch() {
     db.Close();
-    CrunchTXTFields(log, source, target, JetVersionOption::Version30, sections);
+    CrunchTXTFields(log, source, target, JetVersionOption::Version30, {sections.Tables(), held});
     db = DBEngine::OpenDatabase(mustWork, target);
   }
 
@@ -47,7 +47,22 @@ class Crunching : public UniverseFixture {
   fs::path source = folder.Path() / "build.mdb";
   fs::path target = folder.Path() / "Orrerix.fl";
   SectionTables sections;
+  std::vector<HeldRows> held;
 };
+
+TEST_F(Crunching, WritesRowsThatWereHeldInMemoryInPlaceOfTheirEmptyTable) {
+  TableDef table{"goods", {TextField("name")}, Index{"k", {"name"}}};
+  db.CreateTable(mustWork, {"goods", {TextField("name")}, {}});
+  db.CreateTable(mustWork, {"last", {TextField("name")}, {}});
+  held.emplace_back(table).Add(std::vector<Value>{"water"});
+
+  Crunch();
+
+  EXPECT_THAT(Column("goods", "name"), ElementsAre("water"));
+  EXPECT_EQ(Definition("goods").Fields[0].Size, 5u);
+  EXPECT_FALSE(Definition("goods").PrimaryKey);
+  EXPECT_THAT(Column("last", "name"), IsEmpty());
+}
 
 TEST_F(Crunching, TextFieldsGetTheSizeOfTheirLongestText) {
   db.CreateTable(mustWork, {"a", {TextField("x"), TextField("y"), TextField("z")}, {}});
@@ -242,7 +257,8 @@ TEST_F(Crunching, ASourceThatIsNotThereIsAFailure) {
   db.Close();
   messages.Answer = MessageAnswer::Cancel;
 
-  CrunchTXTFields(log, folder.Path() / "none.mdb", target, JetVersionOption::Version30, sections);
+  CrunchTXTFields(log, folder.Path() / "none.mdb", target, JetVersionOption::Version30,
+                  {sections.Tables(), held});
 
   ASSERT_THAT(log.Failures(), SizeIs(1));
   EXPECT_EQ(log.Failures()[0].What.Number, 3024);

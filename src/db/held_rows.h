@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: MIT
+// Rows that are kept in memory until their table is asked for.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <memory_resource>
+#include <span>
+#include <string>
+#include <string_view>
+#include <unordered_set>
+#include <variant>
+#include <vector>
+
+#include "db/table_def.h"
+#include "db/value.h"
+
+namespace orrerix {
+
+// The rows of one table, in the order of their coming. They obey the table's key as if they stood
+// in the file.
+class HeldRows {
+ public:
+  // A field's content; its text lives as long as the rows.
+  using Cell = std::variant<Null, std::int64_t, double, std::string_view>;
+
+  explicit HeldRows(TableDef table);
+
+  const TableDef& Definition() const { return *table_; }
+  const std::shared_ptr<const TableDef>& SharedDefinition() const { return table_; }
+
+  // Takes a row, one value for each field. Throws 3022 if the key exists.
+  void Add(std::span<const Value> row);
+
+  std::size_t RowCount() const { return rowCount_; }
+  std::span<const Cell> Row(std::size_t row) const;
+
+  // Length of the longest text in each Text field, characters; 0 for all other fields.
+  std::vector<std::size_t> LongestTexts() const;
+
+ private:
+  std::string KeyOf(std::span<const Value> row) const;
+  Cell Keep(const Value& value);
+
+  std::shared_ptr<const TableDef> table_;
+  std::vector<std::size_t> keyFields_;
+  std::unordered_set<std::string> keys_;
+  std::unique_ptr<std::pmr::monotonic_buffer_resource> texts_;
+  std::vector<std::vector<Cell>> chunks_;  // of a fixed number of rows, row by row
+  std::size_t rowCount_ = 0;
+};
+
+}  // namespace orrerix
