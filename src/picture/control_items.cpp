@@ -27,7 +27,7 @@ constexpr double kSnapMargin = 1;
 
 constexpr Color kTradeLaneBlue{0xFF0000};
 constexpr QColor kHalo(150, 190, 255, 190);
-constexpr QColor kDotGround(0, 0, 16, 130);
+constexpr QColor kDotGround(0, 0, 16, 110);
 constexpr double kPale = 0.3;  // of a line in front of letters
 
 QRectF BoxOf(const Control& control) {
@@ -151,7 +151,7 @@ class LineItem : public ControlItem {
         pen.setStyle(Qt::DashLine);
         break;
       case LineStyle::Dotted:
-        pen.setDashPattern({1, 2});
+        pen.setDashPattern({2, 2});
         break;
     }
     return pen;
