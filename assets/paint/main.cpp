@@ -5,7 +5,6 @@
 #include <QTextStream>
 #include <utility>
 
-#include "borders.h"
 #include "info_box.h"
 #include "logo.h"
 #include "space.h"
@@ -66,15 +65,6 @@ void PaintSpace(Gallery& gallery) {
   }
 }
 
-void PaintBorders(Gallery& gallery) {
-  for (int set = 0; set < orrerix::BorderSets; ++set) {
-    for (int piece = 0; piece < orrerix::BorderPieces; ++piece) {
-      gallery.Hang(QStringLiteral("rahmen/set%1_%2.png").arg(set).arg(piece),
-                   [=](int scale) { return orrerix::PaintBorderPiece(set, piece, scale); });
-    }
-  }
-}
-
 void PaintPanel(Gallery& gallery) {
   gallery.Hang(QStringLiteral("itac_head.png"), orrerix::PaintHeadBand);
   gallery.Hang(QStringLiteral("itac_background.jpg"), orrerix::PaintInfoBackground);
@@ -103,7 +93,6 @@ int main(int argc, char** argv) {
 
   Gallery gallery(parser.positionalArguments().constFirst(), scale, parser.value(onlyOption));
   PaintSpace(gallery);
-  PaintBorders(gallery);
   PaintPanel(gallery);
   return gallery.Complete() ? 0 : 1;
 }

@@ -17,7 +17,7 @@ namespace orrerix {
 namespace {
 
 constexpr int kColumns = 3;
-constexpr int kFigureMargin = 3;  // pixels between a figure and the column's end
+constexpr int kMargin = 4;  // pixels between a text and the ends of its column
 
 int Pixel(double twips) {
   return static_cast<int>(std::lround(Pixels(twips)));
@@ -27,7 +27,19 @@ QColor ColorOf(const Color& color) {
   return {color.Red(), color.Green(), color.Blue()};
 }
 
-// Paints a label edge to edge: its text was measured to fill it.
+// Letters that were measured to fill a label edge to edge become narrower, not lower, to leave its
+// margins free.
+void DrawText(QPainter& painter, const QRect& place, int alignment, const QString& text) {
+  const double width = QFontMetricsF(painter.font()).horizontalAdvance(text);
+  const double narrow = width > place.width() ? place.width() / width : 1;
+  painter.save();
+  painter.translate(place.left(), 0);
+  painter.scale(narrow, 1);
+  painter.drawText(QRectF(0, place.top(), place.width() / narrow, place.height()),
+                   alignment | Qt::TextSingleLine | Qt::TextDontClip, text);
+  painter.restore();
+}
+
 class LabelDelegate : public QStyledItemDelegate {
  public:
   using QStyledItemDelegate::QStyledItemDelegate;
@@ -43,10 +55,8 @@ class LabelDelegate : public QStyledItemDelegate {
     }
     painter->setFont(index.data(Qt::FontRole).value<QFont>());
     painter->setPen(index.data(Qt::ForegroundRole).value<QColor>());
-    painter->drawText(
-        option.rect.adjusted(0, 0, -kFigureMargin, 0),
-        index.data(Qt::TextAlignmentRole).toInt() | Qt::TextSingleLine | Qt::TextDontClip,
-        index.data().toString());
+    DrawText(*painter, option.rect.adjusted(kMargin, 0, -kMargin, 0),
+             index.data(Qt::TextAlignmentRole).toInt(), index.data().toString());
     if (option.state & QStyle::State_Selected) {
       painter->setPen(Qt::white);
       painter->drawLine(option.rect.topLeft(), option.rect.topRight());

@@ -89,7 +89,7 @@ void ProgramRun::ShowMain() {
 // The warning before the first map. False if the user would rather leave.
 bool ProgramRun::ShowSpoiler() {
   loading_.hide();
-  Spoiler spoiler(ReadSpoilerTexts(main_->Game()));
+  Spoiler spoiler(ReadSpoilerTexts(main_->Game()), parts_.Pictures);
   spoiler.OnCheck1 = [this](bool checked) { SetWarningOff(main_->UniverseFile(), checked); };
   spoiler.OnTextClick = [this] {
     PlaySoundfile(parts_.Log, parts_.Sound, main_->Game(), kLinkSound);
@@ -104,7 +104,7 @@ bool ProgramRun::ShowSpoiler() {
 }
 
 void ProgramRun::ShowUpdate(const News& news) {
-  update_ = std::make_unique<Update>(news.UpdateToolTip);
+  update_ = std::make_unique<Update>(news.UpdateToolTip, parts_.Pictures);
   update_->OnQueryUnload = [this] { main_->ShowMaximised(); };
   update_->OnLabel1Click = [this] {
     main_->InfoBoxLabelClick(0);

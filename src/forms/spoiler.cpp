@@ -4,11 +4,14 @@
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QStyle>
 #include <algorithm>
 
 #include "forms/form_geometry.h"
+#include "forms/painted_border.h"
 #include "forms/spoiler_layout.h"
+#include "forms/tiled_ground.h"
 #include "map/opt_font_size.h"
 
 namespace orrerix {
@@ -16,27 +19,36 @@ namespace {
 
 constexpr int kLargestHeadLine = 24;
 constexpr int kCheckFont = 10;
-constexpr int kTextMargin = 2;  // logical pixels at each side of the text
+constexpr int kTextMargin = 8;  // logical pixels at each side of the text
 constexpr int kDesignFont = 1;  // from here every search ends at the largest size that fits
 constexpr int kButtonMargin = 200;
-constexpr QRgb kGround = 0xFF000040;
-constexpr QRgb kCheckGround = 0xFF5068B0;  // the box is seen on the dark ground
+constexpr QRgb kBand = 0xE0142A6E;  // behind the head line, fading out downwards
+constexpr QRgb kBandEdge = 0xFF5AB4DC;
+
+// The text stands on a plate, so that the tiles behind it do not disturb.
+constexpr const char* kStyle =
+    "#HeadLine { color: #ffd060; }"
+    "#Text { background: rgba(6, 10, 34, 225); color: #d8e4ff; border: none; }"
+    "#Check1 { color: #d8e4ff; }"
+    "#Check1::indicator { width: 15px; height: 15px; image: url(:/pictures/tools/check_off.svg); }"
+    "#Check1::indicator:checked { image: url(:/pictures/tools/check_on.svg); }"
+    "#Check1:focus { color: #ffffff; text-decoration: underline; }"
+    "QPushButton { background: #1c3478; color: #f0f4ff; border: 1px solid #5a7cd0;"
+    "  border-radius: 4px; }"
+    "QPushButton:hover, QPushButton:focus { background: #2a4a9c; border-color: #7ac8f0; }"
+    "QPushButton:pressed { background: #142658; }";
 
 }  // namespace
 
-Spoiler::Spoiler(const SpoilerTexts& texts) {
+Spoiler::Spoiler(const SpoilerTexts& texts, PictureStore& pictures) : pictures_(pictures) {
   setObjectName("Spoiler");
   setWindowTitle("FL Orrerix Spoiler-Warning");
   setModal(true);
-  QPalette colors = palette();
-  colors.setColor(QPalette::Window, QColor(kGround));
-  setPalette(colors);
+  setStyleSheet(kStyle);
   headLine_ = new QLabel(QString::fromStdString(texts.HeadLine), this);
   headLine_->setObjectName("HeadLine");
   headLine_->setTextFormat(Qt::PlainText);
   headLine_->setAlignment(Qt::AlignCenter);
-  colors.setColor(QPalette::WindowText, QColor(0xFFFFD060));
-  headLine_->setPalette(colors);
   text_ = new QPlainTextEdit(QString::fromStdString(texts.Text).remove('\r'), this);
   text_->setObjectName("Text");
   text_->setAccessibleName("Warning");
@@ -47,9 +59,6 @@ Spoiler::Spoiler(const SpoilerTexts& texts) {
   check1_ = new QCheckBox("Dont show that warning again (If I use the same map)", this);
   check1_->setObjectName("Check1");
   check1_->setFont(FormFont(kCheckFont));
-  QPalette box = check1_->palette();
-  box.setColor(QPalette::Base, QColor(kCheckGround));
-  check1_->setPalette(box);
   QObject::connect(check1_, &QCheckBox::toggled, this, [this](bool checked) {
     if (OnCheck1) OnCheck1(checked);
   });
@@ -96,6 +105,21 @@ void Spoiler::FormResize() {
       FittingFont(text_->toPlainText(), places.Text.Width - static_cast<int>(Twips(sides)))));
   headLine_->setFont(
       FixedFont(std::min(kLargestHeadLine, FittingFont(headLine_->text(), places.HeadLine.Width))));
+}
+
+void Spoiler::paintEvent(QPaintEvent*) {
+  constexpr int frame = 3;  // of the text's border, a pixel of which its plate covers
+  QPainter painter(this);
+  PaintTiles(painter, rect(), pictures_);
+  const QRect head = headLine_->geometry();
+  QLinearGradient band(head.topLeft(), head.bottomLeft());
+  band.setColorAt(0, QColor::fromRgba(kBand));
+  band.setColorAt(1, QColor::fromRgba(kBand & 0x30FFFFFF));
+  painter.fillRect(head, band);
+  painter.fillRect(QRect(head.left(), head.bottom(), head.width(), 1), QColor(kBandEdge));
+  PaintBorder(painter, BorderSet::Options, text_->geometry().adjusted(-frame, -frame, frame, frame),
+              pictures_);
+  PaintBorder(painter, BorderSet::Map, rect(), pictures_);
 }
 
 void Spoiler::resizeEvent(QResizeEvent* event) {

@@ -9,6 +9,7 @@
 #include <functional>
 
 #include "online/spoiler_warning.h"
+#include "picture/picture_store.h"
 #include "picture/qt_text_measure.h"
 
 namespace orrerix {
@@ -17,7 +18,7 @@ namespace orrerix {
 // does; only Cancel is rejection.
 class Spoiler : public QDialog {
  public:
-  explicit Spoiler(const SpoilerTexts& texts);
+  Spoiler(const SpoilerTexts& texts, PictureStore& pictures);
 
   // The check box was set or cleared.
   std::function<void(bool)> OnCheck1;
@@ -26,6 +27,7 @@ class Spoiler : public QDialog {
   std::function<void()> OnTextClick;
 
  protected:
+  void paintEvent(QPaintEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
@@ -36,6 +38,7 @@ class Spoiler : public QDialog {
   void FormResize();
   int FittingFont(const QString& text, int width) const;
 
+  PictureStore& pictures_;
   QtTextMeasure formMeasure_;
   QtTextMeasure fixedMeasure_{FixedFont};
   QLabel* headLine_;

@@ -29,6 +29,15 @@ constexpr int kModeStep = kButton + 120;
 constexpr int kOrnamentTop = kFirstMode + static_cast<int>(kModeButtons) * kModeStep + 300;
 constexpr int kStripHeight = 9000;
 
+constexpr const char* kFrameStyle =
+    "#SearchFrame { border: 1px solid #3a6ca8; border-radius: 3px; margin-top: 8px; }"
+    "#SearchFrame::title { subcontrol-origin: margin; left: 8px; padding: 0 3px; }";
+
+// Logical pixels round the text. Lines that are broken beforehand leave 20 free, most of which the
+// scroll bar may need.
+constexpr int kTextMargin = 6;
+constexpr int kWrappedMargin = 2;
+
 constexpr std::array<const char*, kModeButtons> kModeNames = {
     "Prices and trades", "Information", "Ships for sale", "Equipment for sale"};
 
@@ -47,6 +56,7 @@ StationInfo::StationInfo(const StationParts& parts, std::string nickname, std::s
   prices_ = new PriceTableView(this);
   searchFrame_ = new QGroupBox(this);
   searchFrame_->setObjectName("SearchFrame");
+  searchFrame_->setStyleSheet(kFrameStyle);
   searchFrame_->setFont(FormFont(kStationText));
   searchList_ = new QListWidget(searchFrame_);
   searchList_->setObjectName("SearchList");
@@ -195,6 +205,7 @@ void StationInfo::ShowControl(const Control& control) {
                                 static_cast<int>(box.Width), static_cast<int>(box.Height));
   if (control.Name == "InfoText") {
     infoText_->setGeometry(place & rect());
+    infoText_->SetMargin(modes_.Mode() == StationMode::Info ? kWrappedMargin : kTextMargin);
     infoText_->Show(control.Caption.value_or(""));
   } else if (control.Name == "SearchFrame") {
     searchFrame_->setGeometry(place & rect());

@@ -14,6 +14,9 @@ class TextBox : public QPlainTextEdit {
 
   // A text with lines ending in CR LF, seen from its beginning.
   void Show(const std::string& text);
+
+  // Logical pixels kept free round the text.
+  void SetMargin(int pixels) { document()->setDocumentMargin(pixels); }
 };
 
 }  // namespace orrerix

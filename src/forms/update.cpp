@@ -3,9 +3,12 @@
 
 #include <QCloseEvent>
 #include <QGuiApplication>
+#include <QPainter>
 #include <QScreen>
 #include <QVBoxLayout>
 
+#include "forms/painted_border.h"
+#include "forms/tiled_ground.h"
 #include "picture/form_font.h"
 
 namespace orrerix {
@@ -14,9 +17,15 @@ namespace {
 constexpr int kFont = 12;
 constexpr int kMargin = 24;
 
+// A link that lights up under the mouse.
+constexpr const char* kStyle =
+    "QPushButton { color: #b8e4ff; background: rgba(6, 10, 34, 200); border: none;"
+    "  padding: 8px 12px; }"
+    "QPushButton:hover, QPushButton:focus { color: #ffffff; background: #1c3478; }";
+
 }  // namespace
 
-Update::Update(const std::string& toolTip) {
+Update::Update(const std::string& toolTip, PictureStore& pictures) : pictures_(pictures) {
   setObjectName("Update");
   setWindowTitle("Update online");
   auto* layout = new QVBoxLayout(this);
@@ -25,7 +34,7 @@ Update::Update(const std::string& toolTip) {
       new QPushButton("A new Version is online. Click here to open the FL-Orrerix WebPage", this);
   label1_->setObjectName("Label1");
   label1_->setFont(FormFont(kFont));
-  label1_->setFlat(true);
+  label1_->setStyleSheet(kStyle);
   label1_->setCursor(Qt::PointingHandCursor);
   label1_->setToolTip(QString::fromStdString(toolTip).toHtmlEscaped());
   layout->addWidget(label1_);
@@ -34,6 +43,12 @@ Update::Update(const std::string& toolTip) {
   });
   adjustSize();
   move(QGuiApplication::primaryScreen()->availableGeometry().center() - rect().center());
+}
+
+void Update::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  PaintTiles(painter, rect(), pictures_);
+  PaintBorder(painter, BorderSet::InfoBox, rect(), pictures_);
 }
 
 void Update::closeEvent(QCloseEvent* event) {

@@ -6,21 +6,25 @@
 #include <functional>
 #include <string>
 
+#include "picture/picture_store.h"
+
 namespace orrerix {
 
 // The notice that a later version is there.
 class Update : public QWidget {
  public:
-  explicit Update(const std::string& toolTip);
+  Update(const std::string& toolTip, PictureStore& pictures);
 
   // A click on its label; the window was closed by the user.
   std::function<void()> OnLabel1Click;
   std::function<void()> OnQueryUnload;
 
  protected:
+  void paintEvent(QPaintEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
 
  private:
+  PictureStore& pictures_;
   QPushButton* label1_;
 };
 

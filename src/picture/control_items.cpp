@@ -27,6 +27,8 @@ constexpr double kSnapMargin = 1;
 
 constexpr Color kTradeLaneBlue{0xFF0000};
 constexpr QColor kHalo(150, 190, 255, 190);
+constexpr QColor kDotGround(0, 0, 16, 110);
+constexpr double kPale = 0.3;  // of a line in front of letters
 
 QRectF BoxOf(const Control& control) {
   return {0, 0, Pixels(control.Place.Width), Pixels(control.Place.Height)};
@@ -59,7 +61,27 @@ class PictureItem : public ControlItem {
   QRectF seen_;
 };
 
-// A line is seen only; the mouse goes through it.
+// The part of a line within a place, as shares of its length; empty if it passes by.
+struct Stretch {
+  double From = 0;
+  double To = 1;
+  bool Empty() const { return From >= To; }
+};
+
+// Cuts what lies outside [low, high] on one axis off a stretch.
+Stretch Cut(Stretch stretch, double start, double way, double low, double high) {
+  if (way == 0) return start < low || start > high ? Stretch{0, 0} : stretch;
+  const auto [first, last] = std::minmax((low - start) / way, (high - start) / way);
+  return {std::max(stretch.From, first), std::min(stretch.To, last)};
+}
+
+Stretch StretchWithin(const QLineF& line, const QRectF& place) {
+  const Stretch across = Cut({}, line.x1(), line.dx(), place.left(), place.right());
+  return Cut(across, line.y1(), line.dy(), place.top(), place.bottom());
+}
+
+// A line is seen only; the mouse goes through it. It stands in front of the names of systems, and
+// pales where it crosses one.
 class LineItem : public ControlItem {
  public:
   LineItem(const Control& control, QGraphicsItem* parent)
@@ -74,21 +96,48 @@ class LineItem : public ControlItem {
     return QRectF(line_.p1(), line_.p2()).normalized().adjusted(-2, -2, 2, 2);
   }
   QPainterPath shape() const override { return {}; }
+
+  void SpareLetters(const std::vector<QRectF>& letters) override {
+    pale_.clear();
+    for (const QRectF& place : letters) {
+      const Stretch within = StretchWithin(line_, place);
+      if (!within.Empty()) pale_.push_back(within);
+    }
+    std::sort(pale_.begin(), pale_.end(),
+              [](const Stretch& a, const Stretch& b) { return a.From < b.From; });
+  }
+
   void paint(QPainter* painter, const QStyleOptionGraphicsItem*, QWidget*) override {
-    const double ratio = painter->device()->devicePixelRatioF();
-    if (Shown().BorderColor == kTradeLaneBlue) DrawHalo(*painter, ratio);
-    painter->setPen(PenOf(Shown(), ratio));
-    painter->drawLine(line_);
+    double done = 0;
+    for (const Stretch& pale : pale_) {
+      if (pale.From > done) Draw(*painter, {done, pale.From});
+      painter->setOpacity(kPale);
+      Draw(*painter, {std::max(done, pale.From), pale.To});
+      painter->setOpacity(1);
+      done = std::max(done, pale.To);
+    }
+    if (done < 1) Draw(*painter, {done, 1});
   }
 
  private:
+  void Draw(QPainter& painter, const Stretch& stretch) const {
+    if (stretch.Empty()) return;
+    const QLineF part(line_.pointAt(stretch.From), line_.pointAt(stretch.To));
+    const double ratio = painter.device()->devicePixelRatioF();
+    if (Shown().BorderColor == kTradeLaneBlue) DrawUnder(painter, part, kHalo, ratio);
+    if (Shown().Style == LineStyle::Dotted) DrawUnder(painter, part, kDotGround, ratio);
+    painter.setPen(PenOf(Shown(), ratio));
+    painter.drawLine(part);
+  }
+
   // Pure blue is hardly seen on a dark sky. Between two light edges it is, and whoever sees no
-  // blue tells a lane from a gate's line by them.
-  void DrawHalo(QPainter& painter, double devicePixelRatio) const {
-    QPen pen(kHalo, 3 * devicePixelRatio);
+  // blue tells a lane from a gate's line by them. Grey dots want a dark ground on bright gas.
+  static void DrawUnder(QPainter& painter, const QLineF& part, const QColor& color, double ratio) {
+    QPen pen(color, 3 * ratio);
     pen.setCosmetic(true);
+    pen.setCapStyle(Qt::FlatCap);
     painter.setPen(pen);
-    painter.drawLine(line_);
+    painter.drawLine(part);
   }
 
   // A pixel wide at every zoom; a logical one where the screen's own are finer.
@@ -102,13 +151,14 @@ class LineItem : public ControlItem {
         pen.setStyle(Qt::DashLine);
         break;
       case LineStyle::Dotted:
-        pen.setDashPattern({1, 2});
+        pen.setDashPattern({2, 2});
         break;
     }
     return pen;
   }
 
   QLineF line_;
+  std::vector<Stretch> pale_;  // in the order along the line
 };
 
 class LabelItem : public ControlItem {
@@ -119,6 +169,14 @@ class LabelItem : public ControlItem {
   }
 
   QRectF boundingRect() const override { return BoxOf(Shown()); }
+
+  QRectF NameLetters() const override {
+    if (!style_.Spared) return {};
+    const double width = QFontMetricsF(font_).horizontalAdvance(text_.text());
+    const QRectF letters(corner_, QSizeF(text_.textWidth(), text_.size().height()));
+    const double beside = (letters.width() - width) / 2;
+    return mapRectToScene(letters.adjusted(beside, 0, -beside, 0));
+  }
 
   void paint(QPainter* painter, const QStyleOptionGraphicsItem*, QWidget*) override {
     const Control& label = Shown();

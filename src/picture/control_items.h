@@ -4,6 +4,7 @@
 
 #include <QGraphicsItem>
 #include <memory>
+#include <vector>
 
 #include "map/drawing_list.h"
 #include "picture/picture_store.h"
@@ -20,6 +21,12 @@ class ControlItem : public QGraphicsItem {
 
   // Goes over to a control that equals the one shown, before that one ends.
   void Rebind(const Control& same);
+
+  // Where the name of a system has its letters, in the scene's coordinates; empty for all others.
+  virtual QRectF NameLetters() const { return {}; }
+
+  // A line lets the letters in these places shine through; nothing else does.
+  virtual void SpareLetters(const std::vector<QRectF>&) {}
 
   // The control behind an item; every item of a map scene has one.
   static const Control& Of(const QGraphicsItem& item) {

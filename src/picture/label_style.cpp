@@ -19,6 +19,7 @@ LabelStyle StyleOf(const Control& label) {
     style.Transparent = true;
     style.Outlined = true;
     style.Overflows = true;
+    style.Spared = true;
     style.MarginY = kNameMargin;
   } else if (label.Name == "SetLabel" && label.Index == kLanguageLabel) {
     style.Alignment = Qt::AlignRight | Qt::AlignBottom;

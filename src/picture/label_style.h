@@ -17,6 +17,7 @@ struct LabelStyle {
   bool Overflows = false;   // what is too long for it leaves it
   bool Wraps = false;       // at word ends, in a smaller font if it must; else it is cut with "..."
   bool Transparent = false;  // its back colour is not painted
+  bool Spared = false;       // lines in front of it pale
   bool Outlined = false;     // dark round the letters, where the ground may be bright
 };
 

@@ -60,6 +60,16 @@ void MapScene::Show(MapDrawing drawing) {
     items_.push_back(MakeControlItem(drawing_.Controls[i], pictures_, open, nullptr));
     addItem(items_.back());
   }
+  SpareLetters(kept);
+}
+
+// Names come before the lines, so those of the items that are kept have not changed.
+void MapScene::SpareLetters(std::size_t firstNew) {
+  std::vector<QRectF> letters;
+  for (const ControlItem* item : items_) {
+    if (const QRectF name = item->NameLetters(); !name.isEmpty()) letters.push_back(name);
+  }
+  for (std::size_t i = firstNew; i < items_.size(); ++i) items_[i]->SpareLetters(letters);
 }
 
 void MapScene::ShowInFront(FrontLayer layer, ControlList controls) {

@@ -50,6 +50,7 @@ class MapScene : public QGraphicsScene {
 
  private:
   static QRectF OpenPart(const MapDrawing& drawing);
+  void SpareLetters(std::size_t firstNew);
   std::size_t KeepItems(const MapDrawing& next);
   void MakeFrontItems(FrontLayer layer);
 

@@ -44,6 +44,11 @@ QString VariantName(QString file, int scale) {
   return file.insert(ending, QStringLiteral("@%1x").arg(scale));
 }
 
+QString DrawingName(const QString& file) {
+  const auto ending = file.lastIndexOf('.');
+  return ending < 0 ? file : file.left(ending) + QStringLiteral(".svg");
+}
+
 // Halves a picture until another half would be nothing. All are made when the picture is read, so
 // that no new size has to look at more than four pixels for one of its own.
 std::vector<QImage> LevelsOf(QImage picture) {
@@ -82,31 +87,37 @@ const PictureStore::Source& PictureStore::SourceOf(const QString& file) {
 }
 
 QSize PictureStore::NaturalSize(const QString& file) {
-  const Source& source = SourceOf(file);
+  const Source& source = SourceOf(QFile::exists(file) ? file : DrawingName(file));
   if (source.Drawing) return source.Drawing->defaultSize();
   return source.Levels.empty() ? QSize() : source.Levels.front().size();
 }
 
-const std::vector<int>& PictureStore::ScalesOf(const QString& file) {
-  const auto found = scales_.find(file);
-  if (found != scales_.end()) return found->second;
-  std::vector<int> scales;
-  for (const int scale : {2, 3, 4}) {
-    const QString variant = VariantName(file, scale);
-    if (variant != file && QFile::exists(variant)) scales.push_back(scale);
+const std::vector<PictureStore::Variant>& PictureStore::VariantsOf(const QString& file) {
+  const auto found = variants_.find(file);
+  if (found != variants_.end()) return found->second;
+  const QSize natural = NaturalSize(file);
+  std::vector<Variant> variants;
+  for (const int scale : {1, 2, 3, 4}) {
+    const QString name = VariantName(file, scale);
+    if ((scale == 1 || name != file) && QFile::exists(name)) {
+      variants.push_back({name, natural * scale});
+    }
   }
-  return scales_.emplace(file, std::move(scales)).first->second;
+  if (const QString drawing = DrawingName(file);
+      drawing != file && QFile::exists(drawing) && SourceOf(drawing).Drawing) {
+    variants.push_back({drawing, {}});
+  }
+  return variants_.emplace(file, std::move(variants)).first->second;
 }
 
 QString PictureStore::VariantFor(const QString& file, QSize size) {
-  const QSize natural = NaturalSize(file);
-  int chosen = 1;
-  for (const int scale : ScalesOf(file)) {
-    const QSize covered = natural * chosen;
-    if (covered.width() >= size.width() && covered.height() >= size.height()) break;
-    chosen = scale;
-  }
-  return VariantName(file, chosen);
+  const std::vector<Variant>& variants = VariantsOf(file);
+  if (variants.empty()) return file;
+  const auto covers = [size](const Variant& variant) {
+    return variant.Covers.width() >= size.width() && variant.Covers.height() >= size.height();
+  };
+  const auto chosen = std::find_if(variants.begin(), variants.end() - 1, covers);
+  return chosen->File;
 }
 
 QPixmap PictureStore::Render(const QString& file, QSize size) {

@@ -15,8 +15,9 @@
 namespace orrerix {
 
 // A picture file may have finer brothers, painted at two to four times its size: "name@2x.jpg"
-// beside "name.jpg". Whatever a picture is shown at, it is made out of the smallest of them that
-// need not be enlarged.
+// beside "name.jpg". The finest of all is a drawing of the same name, "name.svg", which may also
+// stand in for a file that is not there. Whatever size a picture is shown in, it is made out of the
+// smallest of them that need not be enlarged.
 class PictureStore {
  public:
   PictureStore();
@@ -38,7 +39,7 @@ class PictureStore {
   // The picture in a size in device pixels, smoothly made out of the next larger level.
   QPixmap Scaled(const QString& file, QSize size);
 
-  // Its own size; empty if the file is no picture.
+  // Its own size, or that of the drawing in its place; empty if the file is no picture.
   QSize NaturalSize(const QString& file);
 
   // Reads a picture that will be needed soon.
@@ -53,6 +54,10 @@ class PictureStore {
     // The smallest level that need not be enlarged to this size; the picture itself if all must be.
     const QImage& LevelFor(QSize size) const;
   };
+  struct Variant {
+    QString File;
+    QSize Covers;  // the largest size that it need not be enlarged to; a drawing has none
+  };
   struct SizedFile {
     QString File;
     QSize Size;
@@ -63,13 +68,13 @@ class PictureStore {
   };
 
   const Source& SourceOf(const QString& file);
-  const std::vector<int>& ScalesOf(const QString& file);
+  const std::vector<Variant>& VariantsOf(const QString& file);
   QPixmap Render(const QString& file, QSize size);
   void DrawSource(QPainter& painter, const QString& file, const QRectF& place, QSize pixels);
   void DrawPart(QPainter& painter, const QString& file, const QRect& target, const QRect& part);
 
   std::unordered_map<QString, Source> sources_;
-  std::unordered_map<QString, std::vector<int>> scales_;  // of the brothers that a file has
+  std::unordered_map<QString, std::vector<Variant>> variants_;  // the smallest first
   QCache<SizedFile, QPixmap> scaled_;
 };
 

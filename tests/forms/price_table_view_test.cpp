@@ -58,6 +58,22 @@ TEST_F(PriceTableViewTest, EachLabelHasItsColourAndFont) {
   EXPECT_EQ(cell.data(Qt::FontRole).value<QFont>(), FormFont(12));
 }
 
+// Their size is that at which they fill the column.
+TEST_F(PriceTableViewTest, LettersThatFillAColumnLeaveItsMarginsFree) {
+  ControlList table = Table();
+  table[2].Caption = "MMMMMMMMMM";  // ten of 12 points and more, in 100 pixels
+  view.Show(table);
+
+  const QImage image = view.grab().toImage();
+
+  const QColor ground(0, 0xC0, 0);
+  for (int y = 48; y < 95; ++y) {
+    for (const int x : {401, 402, 403, 497, 498, 499}) {  // at 400 a line parts the columns
+      EXPECT_EQ(image.pixelColor(x, y), ground) << x << ", " << y;
+    }
+  }
+}
+
 TEST_F(PriceTableViewTest, ATradeTellsItsWholeNameInATip) {
   ControlList table = Table();
   table[1].ToolTip = "...";

@@ -43,7 +43,8 @@ class SpoilerTest : public ::testing::Test {
   }
 
   SpoilerTexts texts = DefaultSpoilerTexts();
-  Spoiler form{texts};
+  PictureStore pictures;
+  Spoiler form{texts, pictures};
 };
 
 TEST_F(SpoilerTest, ItShowsItsTexts) {
@@ -56,7 +57,7 @@ TEST_F(SpoilerTest, ItShowsItsTexts) {
 TEST_F(SpoilerTest, AModsTextIsNoMarkup) {
   texts.HeadLine = "<b>Beware</b>";
   texts.Text = "<h1>Dragons</h1>";
-  Spoiler mods(texts);
+  Spoiler mods(texts, pictures);
 
   EXPECT_EQ(Find<QLabel>(mods, "HeadLine").textFormat(), Qt::PlainText);
   EXPECT_EQ(Find<QPlainTextEdit>(mods, "Text").toPlainText(), "<h1>Dragons</h1>");
@@ -66,7 +67,7 @@ TEST_F(SpoilerTest, OkAcceptsAndCancelRejects) {
   QTest::mouseClick(&Find(form, "Command1_0"), Qt::LeftButton);
   EXPECT_EQ(form.result(), QDialog::Accepted);
 
-  Spoiler other(texts);
+  Spoiler other(texts, pictures);
   other.show();
   QTest::mouseClick(&Find(other, "Command1_1"), Qt::LeftButton);
   EXPECT_EQ(other.result(), QDialog::Rejected);
@@ -101,7 +102,7 @@ TEST_F(SpoilerTest, TheCheckBoxAndTheTextTellOfClicks) {
 
 TEST_F(SpoilerTest, NoLineOfAShortTextIsBroken) {
   texts.Text = "Here be dragons.\r\nMany of them.";
-  Spoiler mods(texts);
+  Spoiler mods(texts, pictures);
   mods.resize(1200, 800);
   mods.show();
   PassEvents();

@@ -69,6 +69,71 @@ TEST_F(MapSceneTest, LaterControlsStandInFront) {
   EXPECT_EQ(image.pixelColor(10, 10), QColor(Qt::red));
 }
 
+// Lines stand in front of names, which would be hard to read behind them.
+class LinesAndNamesTest : public MapSceneTest {
+ protected:
+  LinesAndNamesTest() {
+    Control name = MakeLabel("SysmapLabel", 1, {0, 300, 1500, 375}, "MMMM");
+    name.FontSize = 12;
+    name.ForeColor = Color{0x000000};
+    drawing.Controls = {name};
+  }
+
+  // The brightest point of a row of pixels.
+  static int Brightest(const QImage& image, int y, int left, int right) {
+    int most = 0;
+    for (int x = left; x < right; ++x) most = std::max(most, image.pixelColor(x, y).green());
+    return most;
+  }
+};
+
+TEST_F(LinesAndNamesTest, ALinePalesWhereItCrossesTheLettersOfAName) {
+  drawing.Controls.push_back(Line(750, 0, 750, 1500, {0xFFFFFF}));
+
+  const QImage image = Rendered();
+
+  EXPECT_EQ(Brightest(image, 5, 48, 52), 255);
+  EXPECT_NEAR(Brightest(image, 30, 48, 52), 77, 2);  // 0.3 of 255
+  EXPECT_EQ(Brightest(image, 90, 48, 52), 255);
+}
+
+TEST_F(LinesAndNamesTest, BesideTheLettersALineIsWhole) {
+  drawing.Controls.push_back(Line(60, 0, 60, 1500, {0xFFFFFF}));
+
+  EXPECT_EQ(Brightest(Rendered(), 30, 0, 10), 255);
+}
+
+TEST_F(LinesAndNamesTest, ALineThatEndsAmongLettersPalesUpToItsEnd) {
+  drawing.Controls.push_back(Line(750, 0, 750, 480, {0xFFFFFF}));
+
+  const QImage image = Rendered();
+
+  EXPECT_EQ(Brightest(image, 5, 48, 52), 255);
+  EXPECT_NEAR(Brightest(image, 30, 48, 52), 77, 2);
+  EXPECT_EQ(Brightest(image, 90, 48, 52), 0);
+}
+
+TEST_F(LinesAndNamesTest, ALineThatComesInALaterDrawingPalesToo) {
+  Rendered();
+  drawing.Controls.push_back(Line(750, 0, 750, 1500, {0xFFFFFF}));
+
+  EXPECT_NEAR(Brightest(Rendered(), 30, 48, 52), 77, 2);
+}
+
+TEST_F(MapSceneTest, GreyDotsHaveADarkGroundOnABrightOne) {
+  drawing.FrameColor = {0xFFFFFF};
+  Control dots = Line(750, 0, 750, 1500, {0x808080});
+  dots.Style = LineStyle::Dotted;
+  drawing.Controls = {dots};
+
+  const QImage image = Rendered();
+
+  for (int y = 10; y < 90; ++y) {
+    EXPECT_LT(image.pixelColor(49, y).green(), 200) << y;
+    EXPECT_LT(image.pixelColor(51, y).green(), 200) << y;
+  }
+}
+
 TEST_F(MapSceneTest, AFrameClipsWhatIsInIt) {
   Control frame = Rectangle({150, 150, 300, 300}, {0x0000FF});
   frame.Children = {Rectangle({150, 150, 900, 900}, {0x00FF00})};
@@ -141,7 +206,7 @@ TEST_F(MapSceneTest, ADottedLineHasGaps) {
   const QImage image = Rendered();
 
   int dots = 0;
-  for (int x = 0; x < 100; ++x) dots += image.pixelColor(x, 50) != Qt::black;
+  for (int x = 0; x < 100; ++x) dots += image.pixelColor(x, 50).red() > 64;
   EXPECT_GT(dots, 10);
   EXPECT_LT(dots, 60);
 }

@@ -6,10 +6,12 @@
 
 #include <gtest/gtest.h>
 
+#include "map/borders.h"
 #include "map/object_classes.h"
 #include "map/side_panel.h"
 #include "map/system_pictures.h"
 #include "picture/picture_store.h"
+#include "picture/twips.h"
 
 namespace orrerix {
 namespace {
@@ -46,12 +48,32 @@ TEST(PictureFiles, NothingNamesNoFile) {
 
 TEST(PictureFiles, PaintedPicturesAreThereInTwiceTheirSizeToo) {
   for (const QString name : {"star_map.jpg", "hintergrund.png", "blanko.jpg", "systems/00.jpg",
-                             "systems/46.jpg", "logo.png", "rahmen/set0_0.png"}) {
+                             "systems/46.jpg", "logo.png"}) {
     QString fine = ":/pictures/" + name;
     const QImage natural(fine);
     fine.insert(fine.lastIndexOf('.'), "@2x");
 
     EXPECT_EQ(QImage(fine).size(), natural.size() * 2) << name.toStdString();
+  }
+}
+
+TEST(PictureFiles, BorderPiecesAreDrawingsOfTheSizesThatTheirControlsHave) {
+  PictureStore store;
+  for (const auto set :
+       {BorderSet::Map, BorderSet::InfoBox, BorderSet::Options, BorderSet::Tools}) {
+    const ControlList pieces = SetRahmen(set, 0, 0, 15 * 1000, 15 * 1000);
+    for (std::size_t k = 0; k < pieces.size(); ++k) {
+      const QString file = PictureFile(pieces[k]);
+      const QSize natural = store.NaturalSize(file);
+
+      EXPECT_TRUE(store.VariantFor(file, natural).endsWith(".svg")) << file.toStdString();
+      const bool lying = k == 1 || k == 6;
+      const bool standing = k == 3 || k == 4;
+      const int width = lying ? natural.width() : static_cast<int>(Pixels(pieces[k].Place.Width));
+      const int height =
+          standing ? natural.height() : static_cast<int>(Pixels(pieces[k].Place.Height));
+      EXPECT_EQ(natural, QSize(width, height)) << file.toStdString();
+    }
   }
 }
 

@@ -187,6 +187,72 @@ TEST_F(PictureVariantsTest, AScreenOfTwiceThePixelsShowsThePictureOfTwiceTheSize
   }
 }
 
+// A drawing of 10 by 20 in blue.
+class PictureDrawingsTest : public PictureStoreTest {
+ protected:
+  QString Draw(const char* name,
+               const char* shapes = R"(<rect width="10" height="20" fill="#00f"/>)") {
+    return QString::fromStdString(
+        folder
+            .Write(name, std::string(R"(<svg xmlns="http://www.w3.org/2000/svg" width="10" )"
+                                     R"(height="20" viewBox="0 0 10 20">)") +
+                             shapes + "</svg>")
+            .string());
+  }
+
+  QString Png(const char* name) {
+    QImage image(10, 20, QImage::Format_RGB32);
+    image.fill(Qt::red);
+    const QString path = QString::fromStdString((folder.Path() / name).string());
+    image.save(path);
+    return path;
+  }
+
+  QString Path(const char* name) { return QString::fromStdString((folder.Path() / name).string()); }
+
+  QColor ColorAt(const QString& file, QSize size) {
+    return store.Scaled(file, size).toImage().pixelColor(1, 1);
+  }
+};
+
+TEST_F(PictureDrawingsTest, ADrawingOfTheSameNameStandsInForAFileThatIsNotThere) {
+  const QString drawing = Draw("corner.svg");
+  const QString file = Path("corner.png");
+
+  EXPECT_EQ(store.VariantFor(file, {10, 20}), drawing);
+  EXPECT_EQ(store.NaturalSize(file), QSize(10, 20));
+  EXPECT_EQ(ColorAt(file, {5, 10}), QColor(Qt::blue));
+}
+
+TEST_F(PictureDrawingsTest, ADrawingIsTheFinestOfAllBrothers) {
+  const QString file = Png("corner.png");
+  Draw("corner.svg");
+
+  EXPECT_EQ(ColorAt(file, {10, 20}), QColor(Qt::red));
+  EXPECT_EQ(ColorAt(file, {11, 20}), QColor(Qt::blue));
+  EXPECT_EQ(store.NaturalSize(file), QSize(10, 20));
+}
+
+TEST_F(PictureDrawingsTest, AnEdgeIsStretchedAlongAndKeepsItsLines) {
+  Draw("edge.svg", R"(<rect width="10" height="10" fill="#f00"/>
+                      <rect y="10" width="10" height="10" fill="#0f0"/>)");
+
+  const QImage edge = store.Scaled(Path("edge.png"), {100, 20}).toImage();
+
+  ASSERT_EQ(edge.size(), QSize(100, 20));
+  for (const int x : {0, 50, 99}) {
+    EXPECT_EQ(edge.pixelColor(x, 9), QColor(Qt::red)) << x;
+    EXPECT_EQ(edge.pixelColor(x, 10), QColor(Qt::green)) << x;
+  }
+}
+
+TEST_F(PictureDrawingsTest, ABrokenDrawingLeavesThePictureItself) {
+  const QString file = Png("corner.png");
+  folder.Write("corner.svg", "no drawing");
+
+  EXPECT_EQ(store.VariantFor(file, {1000, 1000}), file);
+}
+
 TEST_F(PictureStoreTest, APictureOfOnePointHasEverySize) {
   const QString file = Plain(Qt::green, {1, 1});
 

@@ -72,7 +72,7 @@ bool TakeAll(const Words& words, const std::filesystem::path& scratch) {
   if (words.Contrast) {
     album.OnTaken = [&](const QString& name, QWidget& window) { contrast.Measure(name, window); };
   }
-  const bool complete = Tour(run, log, album).Go();
+  const bool complete = Tour(run, log, pictures, album).Go();
   return contrast.Print() && complete;
 }
 

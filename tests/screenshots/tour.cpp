@@ -158,7 +158,7 @@ void Tour::TakeSpoiler() {
 }
 
 void Tour::TakeUpdate() {
-  Update update("Version 1.1 is there");
+  Update update("Version 1.1 is there", pictures_);
   update.show();
   PassEvents();
   album_.Take("update", update);

@@ -12,7 +12,8 @@ namespace orrerix {
 // takes pictures on the way. One function a window; a new window gets a new one in `Go`.
 class Tour {
  public:
-  Tour(ProgramRun& run, ErrorLog& log, Album& album) : run_(run), log_(log), album_(album) {}
+  Tour(ProgramRun& run, ErrorLog& log, PictureStore& pictures, Album& album)
+      : run_(run), log_(log), pictures_(pictures), album_(album) {}
 
   // False if a window did not come; standard error says which.
   bool Go();
@@ -42,6 +43,7 @@ class Tour {
 
   ProgramRun& run_;
   ErrorLog& log_;
+  PictureStore& pictures_;
   Album& album_;
 };
 
