@@ -73,7 +73,7 @@ std::vector<PriceItem> ReadPrices(Routine& routine, Universe& universe, std::str
     item.Good = rows["GoodNick"].Get().Text();
     const Value price = rows["Price"].Get();
     item.Price = price.Text();
-    item.Group = static_cast<int>(rows["Sell"].Get().Number());
+    routine.Try([&] { item.Group = rows["Sell"].RequireLong(); });
     item.Difference = Surcharge(routine, universe, item.Good, price);
     prices.push_back(std::move(item));
   }
@@ -100,6 +100,12 @@ std::vector<PriceItem> BestTrades(Routine& routine, Universe& universe, std::str
       "AND ucase(SysNick) {} '{{}}' AND Price > {{}} ORDER BY Price DESC",
       group == 1 ? "=" : "<>");
   for (const PriceItem& item : prices) {
+    if (item.Price.empty()) {
+      // A price that fits no field leaves the query without its number.
+      routine.Fail(
+          EngineFailure(failure_number::kSyntaxError, "Syntax error in query expression."));
+      continue;
+    }
     const double paid = Val(item.Price);
     Recordset places = universe.DB.OpenRecordset(
         routine, query, {Ucase(nickname), Ucase(item.Good), Ucase(system), paid});

@@ -69,8 +69,12 @@ std::string WrapText(std::string_view text, const TextMeasure& measure, int font
       text.remove_prefix(kLineEnd.size());
     }
     const std::size_t end = text.find(kLineEnd);
+    if (end == std::string_view::npos) {
+      wrapper.AddLine(text);  // the rest gets no blank, and may be nothing
+      break;
+    }
     wrapper.AddLine(std::string(text.substr(0, end)) + " ");
-    text.remove_prefix(end == std::string_view::npos ? text.size() : end + kLineEnd.size());
+    text.remove_prefix(end + kLineEnd.size());
   }
   return wrapper.Take();
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "map/map_layers.h"
 
+#include <cmath>
+
 #include <fmt/format.h>
 
 #include "derived/jump_objects.h"
@@ -36,6 +38,16 @@ void RequireCell(const MapPlace& place) {
   if (!CellNames::Holds(place.Cell)) throw RuntimeFailure(failure_number::kSubscriptOutOfRange);
 }
 
+// The scale of a system may put a point further off than a control can stand.
+ScreenPoint PointOf(const CellGeometry& cells, const MapPlace& place) {
+  RequireCell(place);
+  const ScreenPoint point = cells.ScreenPosition(place.Cell, place.Point);
+  if (!std::isfinite(point.X) || !std::isfinite(point.Y)) {
+    throw RuntimeFailure(failure_number::kOverflow);
+  }
+  return point;
+}
+
 Control MakeLine(Routine& routine, int index, const CellGeometry& cells, const MapPlace& from,
                  const MapPlace& to) {
   Control line;
@@ -43,14 +55,12 @@ Control MakeLine(Routine& routine, int index, const CellGeometry& cells, const M
   line.Name = "Line1";
   line.Index = index;
   routine.Try([&] {
-    RequireCell(from);
-    const ScreenPoint point = cells.ScreenPosition(from.Cell, from.Point);
+    const ScreenPoint point = PointOf(cells, from);
     line.Ends.X1 = point.X;
     line.Ends.Y1 = point.Y;
   });
   routine.Try([&] {
-    RequireCell(to);
-    const ScreenPoint point = cells.ScreenPosition(to.Cell, to.Point);
+    const ScreenPoint point = PointOf(cells, to);
     line.Ends.X2 = point.X;
     line.Ends.Y2 = point.Y;
   });
@@ -62,10 +72,7 @@ Control MakeIcon(Routine& routine, int index, const CellGeometry& cells,
                  const ZoomRectangle& visible, const MapPlace& place, std::string picture) {
   const auto size = static_cast<float>(MAXI(40.0, 200.0 / visible.Columns()));
   ScreenPoint point;
-  routine.Try([&] {
-    RequireCell(place);
-    point = cells.ScreenPosition(place.Cell, place.Point);
-  });
+  routine.Try([&] { point = PointOf(cells, place); });
   const double half = size / 2.0;
   const Box box{static_cast<float>(point.X - half), static_cast<float>(point.Y - half), size, size};
   return MakePicture("Image1", index, box, std::move(picture));

@@ -26,7 +26,7 @@ class StationLayout : public StationFixture {
 };
 
 TEST_F(StationLayout, TheInfoIsWrappedToTheWindow) {
-  data.Info = "\r\nabcd efgh";
+  data.Info = "\r\nabcd efgh\r\n";
 
   const ControlList info = LayOut(StationMode::Info);
   ASSERT_THAT(info, SizeIs(1));

@@ -64,6 +64,28 @@ TEST_F(MarketPrices, ThePricesOfTheBaseGoBeforeThoseOfTheObject) {
   EXPECT_THAT(Read("mole").Prices, ElementsAre(PriceItem{2, "commodity_gold", "60", ""}));
 }
 
+TEST_F(MarketPrices, AGoodWithoutAPriceBreaksTheQueriesOfItsTrades) {
+  Add("BaseGoodPrices",
+      {{"SysNick", "sys_a"}, {"BaseNick", "pier"}, {"GoodNick", "commodity_gold"}, {"Sell", 2}});
+  Price("mole", "commodity_gold", 90, 1);
+
+  EXPECT_THAT(Prices(StationMode::Trades), ElementsAre(PriceItem{2, "commodity_gold", "", ""}));
+
+  // One query for its own system, one for the others.
+  ASSERT_EQ(log.Failures().size(), 2u);
+  EXPECT_EQ(log.Failures().front().What.Number, 3075);
+}
+
+TEST_F(MarketPrices, ARowThatIsInNoGroupIsAFailureAndCountsAsTheLast) {
+  Add("BaseGoodPrices",
+      {{"SysNick", "sys_a"}, {"BaseNick", "pier"}, {"GoodNick", "commodity_gold"}, {"Price", 50}});
+
+  EXPECT_THAT(Prices(), ElementsAre(PriceItem{0, "commodity_gold", "50", ""}));
+
+  ASSERT_EQ(log.Failures().size(), 1u);
+  EXPECT_EQ(log.Failures().front().What.Number, 94);
+}
+
 TEST_F(MarketPrices, WithNothingToSellThereAreNoTrades) {
   Price("pier", "commodity_gold", 50, 1);
   Price("mole", "commodity_gold", 90, 1);

@@ -12,7 +12,7 @@ std::string Wrap(std::string_view text, int characters) {
 }
 
 TEST(WrapText, ALineThatFitsKeepsABlankBeforeItsEnd) {
-  EXPECT_EQ(Wrap("ab cd", 20), "ab cd \r\n");
+  EXPECT_EQ(Wrap("ab cd\r\n", 20), "ab cd \r\n");
 }
 
 TEST(WrapText, AnEmptyTextStaysEmpty) {
@@ -20,31 +20,36 @@ TEST(WrapText, AnEmptyTextStaysEmpty) {
 }
 
 TEST(WrapText, LineEndsStay) {
-  EXPECT_EQ(Wrap("\r\nab\r\n\r\ncd", 20), "\r\nab \r\n\r\ncd \r\n");
+  EXPECT_EQ(Wrap("\r\nab\r\n\r\ncd", 20), "\r\nab \r\n\r\ncd\r\n");
 }
 
 TEST(WrapText, BehindALineEndThatStandsAloneTheNextLineIsTakenAsItIs) {
-  EXPECT_EQ(Wrap("\r\n\r\nab", 20), "\r\n \r\nab \r\n");
+  EXPECT_EQ(Wrap("\r\n\r\nab", 20), "\r\n \r\nab\r\n");
+}
+
+TEST(WrapText, ARestWithoutALineEndGetsNoBlank) {
+  EXPECT_EQ(Wrap("ab\r\n\r\n", 20), "ab \r\n\r\n");
+  EXPECT_EQ(Wrap("one two three", 13), "one two\r\nthree\r\n");
 }
 
 TEST(WrapText, ALineThatIsAsWideAsTheBoxIsBroken) {
   // "abc def" and its blank are 8 characters: not less than 8. The next word with its blank is 4,
   // and 3 + 4 is less than 8.
-  EXPECT_EQ(Wrap("abc def", 9), "abc def \r\n");
-  EXPECT_EQ(Wrap("abc def", 8), "abc def\r\n");
-  EXPECT_EQ(Wrap("abc def", 7), "abc\r\ndef \r\n");
+  EXPECT_EQ(Wrap("abc def\r\n", 9), "abc def \r\n");
+  EXPECT_EQ(Wrap("abc def\r\n", 8), "abc def\r\n");
+  EXPECT_EQ(Wrap("abc def\r\n", 7), "abc\r\ndef \r\n");
 }
 
 TEST(WrapText, WordsAreCollectedWhileTheyFit) {
-  EXPECT_EQ(Wrap("one two three four five", 10), "one two\r\nthree\r\nfour five\r\n");
+  EXPECT_EQ(Wrap("one two three four five\r\n", 10), "one two\r\nthree\r\nfour five\r\n");
 }
 
 TEST(WrapText, AWordThatIsTooWideStandsOnALineOfItsOwn) {
-  EXPECT_EQ(Wrap("a incomprehensible b", 6), "a\r\nincomprehensible\r\nb \r\n");
+  EXPECT_EQ(Wrap("a incomprehensible b\r\n", 6), "a\r\nincomprehensible\r\nb \r\n");
 }
 
 TEST(WrapText, WithoutRoomEachWordHasItsLine) {
-  EXPECT_EQ(Wrap("a b", -5), "a\r\nb\r\n");
+  EXPECT_EQ(Wrap("a b\r\n", -5), "a\r\nb\r\n");
 }
 
 }  // namespace

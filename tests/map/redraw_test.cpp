@@ -23,19 +23,39 @@ class Redraw : public UniverseFixture {
   }
 
   void Jump(int type) {
-    Add("JumpNodes", {{"nickname", "a"}, {"nickname2", "b"}, {"MapX1", 7}, {"MapY1", 4},
-                      {"MapX2", 8}, {"MapY2", 4}, {"PosX1", 0.5}, {"PosY1", 0.5},
-                      {"PosX2", 0.25}, {"PosY2", 0.75}, {"Type", type}});
+    Add("JumpNodes", {{"nickname", "a"},
+                      {"nickname2", "b"},
+                      {"MapX1", 7},
+                      {"MapY1", 4},
+                      {"MapX2", 8},
+                      {"MapY2", 4},
+                      {"PosX1", 0.5},
+                      {"PosY1", 0.5},
+                      {"PosX2", 0.25},
+                      {"PosY2", 0.75},
+                      {"Type", type}});
   }
   void Lane() {
-    Add("TradeLanes", {{"nickname", "a"}, {"nickname2", "b"}, {"realname", "Jetty"},
-                       {"realname2", "Harbour"}, {"MapX1", 7}, {"MapY1", 4}, {"MapX2", 7},
-                       {"MapY2", 4}, {"PosX1", 0.1}, {"PosY1", 0.2}, {"PosX2", 0.3},
+    Add("TradeLanes", {{"nickname", "a"},
+                       {"nickname2", "b"},
+                       {"realname", "Jetty"},
+                       {"realname2", "Harbour"},
+                       {"MapX1", 7},
+                       {"MapY1", 4},
+                       {"MapX2", 7},
+                       {"MapY2", 4},
+                       {"PosX1", 0.1},
+                       {"PosY1", 0.2},
+                       {"PosX2", 0.3},
                        {"PosY2", 0.4}});
   }
   void Dock(std::string_view nickname, std::string_view loadout, int x = 7, int y = 4) {
-    Add("DockObjects", {{"nickname", nickname}, {"loadout", loadout}, {"MapX", x}, {"MapY", y},
-                        {"PosX", 0.5}, {"PosY", 0.5}});
+    Add("DockObjects", {{"nickname", nickname},
+                        {"loadout", loadout},
+                        {"MapX", x},
+                        {"MapY", y},
+                        {"PosX", 0.5},
+                        {"PosY", 0.5}});
   }
 
   void Zoom(const ZoomRectangle& rectangle) { state.Zoom.Reset(rectangle); }
@@ -43,8 +63,7 @@ class Redraw : public UniverseFixture {
   MapDrawing Draw() {
     const MapOptions options =
         switches.value_or(MapOptions::Defaults(state.Zoom.Current().IsZoomed()));
-    return DrawMap(universe, state,
-                   {formWidth, formHeight, options, measure, panel, "StarMapPic"});
+    return DrawMap(universe, state, {formWidth, formHeight, options, measure, panel, "StarMapPic"});
   }
 
   // Names of the controls in their stacking, runs of the same name once.
@@ -379,9 +398,38 @@ TEST_F(Redraw, ADatabaseWithoutRowsGivesAMapWithoutLines) {
   EXPECT_THAT(log.Failures(), IsEmpty());
 }
 
+TEST_F(Redraw, APointTooFarOffForAControlIsAFailureAndItsEndStaysAtTheCorner) {
+  // 1e40 times any cell leaves 32-bit floats.
+  Add("JumpNodes", {{"nickname", "a"},
+                    {"MapX1", 7},
+                    {"MapY1", 4},
+                    {"MapX2", 8},
+                    {"MapY2", 4},
+                    {"PosX1", 1e40},
+                    {"PosY1", 0.5},
+                    {"PosX2", 0.5},
+                    {"PosY2", 0.5},
+                    {"Type", kJumpGate}});
+
+  const MapDrawing drawing = Draw();
+
+  ASSERT_EQ(log.Failures().size(), 1u);
+  EXPECT_EQ(log.Failures().front().What.Number, 6);
+  EXPECT_EQ(Named(drawing, "Line1").at(0).Ends.X1, 0);
+  EXPECT_EQ(Named(drawing, "Line1").at(0).Ends.Y1, 0);
+  EXPECT_GT(Named(drawing, "Line1").at(0).Ends.X2, 0);
+}
+
 TEST_F(Redraw, ACellBeyondTheGridIsAFailureOnceForEachStatement) {
-  Add("JumpNodes", {{"nickname", "a"}, {"MapX1", 18}, {"MapY1", 4}, {"MapX2", 8}, {"MapY2", 4},
-                    {"PosX1", 0.5}, {"PosY1", 0.5}, {"PosX2", 0.5}, {"PosY2", 0.5},
+  Add("JumpNodes", {{"nickname", "a"},
+                    {"MapX1", 18},
+                    {"MapY1", 4},
+                    {"MapX2", 8},
+                    {"MapY2", 4},
+                    {"PosX1", 0.5},
+                    {"PosY1", 0.5},
+                    {"PosX2", 0.5},
+                    {"PosY2", 0.5},
                     {"Type", kJumpGate}});
 
   Draw();
