@@ -9,7 +9,8 @@ namespace orrerix {
 
 namespace {
 
-// The halves are two buttons: a gap between them lets the ground through.
+// The halves are two buttons on one plate, which is seen between them.
+constexpr QColor Plate(3, 6, 22);
 constexpr double HalfGap = 3;
 constexpr double EdgeWidth = 1.6;
 
@@ -60,8 +61,8 @@ void DrawLinkSign(QPainter& painter, QPointF middle, QColor color) {
 }  // namespace
 
 QImage PaintLogo(int scale) {
-  QImage image(LogoWidth * scale, LogoHeight * scale, QImage::Format_ARGB32_Premultiplied);
-  image.fill(Qt::transparent);
+  QImage image(LogoWidth * scale, LogoHeight * scale, QImage::Format_RGB32);
+  image.fill(Plate);
   QPainter painter(&image);
   painter.setRenderHint(QPainter::Antialiasing);
   painter.scale(scale, scale);

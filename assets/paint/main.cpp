@@ -2,7 +2,9 @@
 #include <QCommandLineParser>
 #include <QDir>
 #include <QGuiApplication>
+#include <QImageWriter>
 #include <QTextStream>
+#include <array>
 #include <utility>
 
 #include "info_box.h"
@@ -13,10 +15,15 @@
 
 namespace {
 
-// A finer picture is shown where each of its pixels is small: what a lower quality leaves out is
-// not seen there.
-constexpr int JpegQuality = 85;
-constexpr int FineJpegQuality = 76;
+// JPEG quality of a picture at 1 to 4 times its size. A finer picture is shown where each of its
+// pixels is small: what a lower quality leaves out is not seen there.
+using Qualities = std::array<int, 4>;
+constexpr Qualities Single = {85, 80, 74, 66};
+constexpr Qualities Faint = {95, 95, 95, 95};      // hardly brighter than its ground
+constexpr Qualities OneOfMany = {70, 50, 52, 52};  // the systems share most of the room
+
+// What is lossless in its natural size need not be in the finer ones.
+enum class Finer { Same, Jpeg };
 
 // Writes pictures of one scale below a folder and remembers whether one could not be written.
 class Gallery {
@@ -29,21 +36,28 @@ class Gallery {
   // `paint` answers the picture at a scale. Its name gets "@2x" and so on before its ending when
   // the scale is not 1.
   template <typename Paint>
-  void Hang(const QString& name, Paint paint) {
+  void Hang(const QString& name, Paint paint, const Qualities& qualities = Single,
+            Finer finer = Finer::Same) {
     if (!name.startsWith(only_)) return;
-    const bool isJpeg = name.endsWith(QLatin1String(".jpg"));
-    const int quality = !isJpeg ? -1 : scale_ == 1 ? JpegQuality : FineJpegQuality;
-    const QString path = folder_.filePath(ScaledName(name));
+    const QString path = folder_.filePath(ScaledName(name, finer));
     folder_.mkpath(QFileInfo(name).path());
-    if (paint(scale_).save(path, nullptr, quality)) return;
+    QImageWriter writer(path);
+    if (path.endsWith(QLatin1String(".jpg"))) {
+      writer.setQuality(qualities[static_cast<std::size_t>(scale_) - 1]);
+      writer.setOptimizedWrite(true);
+      writer.setProgressiveScanWrite(true);
+    }
+    if (writer.write(paint(scale_))) return;
     QTextStream(stderr) << "cannot write " << path << '\n';
     complete_ = false;
   }
 
  private:
-  QString ScaledName(QString name) const {
+  QString ScaledName(const QString& name, Finer finer) const {
     if (scale_ == 1) return name;
-    return name.insert(name.lastIndexOf('.'), QStringLiteral("@%1x").arg(scale_));
+    const auto ending = name.lastIndexOf('.');
+    return name.left(ending) + QStringLiteral("@%1x").arg(scale_) +
+           (finer == Finer::Jpeg ? QStringLiteral(".jpg") : name.mid(ending));
   }
 
   QDir folder_;
@@ -58,17 +72,18 @@ QString SystemName(int picture) {
 
 void PaintSpace(Gallery& gallery) {
   gallery.Hang(QStringLiteral("star_map.jpg"), orrerix::PaintUniverse);
-  gallery.Hang(QStringLiteral("hintergrund.png"), orrerix::PaintBackgroundTile);
+  gallery.Hang(QStringLiteral("hintergrund.png"), orrerix::PaintBackgroundTile, Faint, Finer::Jpeg);
   gallery.Hang(QStringLiteral("blanko.jpg"), orrerix::PaintEmptySpace);
   for (int i = 0; i < orrerix::SystemPictures; ++i) {
-    gallery.Hang(SystemName(i), [i](int scale) { return orrerix::PaintSystem(i, scale); });
+    gallery.Hang(
+        SystemName(i), [i](int scale) { return orrerix::PaintSystem(i, scale); }, OneOfMany);
   }
 }
 
 void PaintPanel(Gallery& gallery) {
   gallery.Hang(QStringLiteral("itac_head.png"), orrerix::PaintHeadBand);
   gallery.Hang(QStringLiteral("itac_background.jpg"), orrerix::PaintInfoBackground);
-  gallery.Hang(QStringLiteral("logo.png"), orrerix::PaintLogo);
+  gallery.Hang(QStringLiteral("logo.png"), orrerix::PaintLogo, Single, Finer::Jpeg);
   gallery.Hang(QStringLiteral("station/strip.jpg"), orrerix::PaintStationStrip);
 }
 

@@ -38,10 +38,15 @@ QRect SnappedToPixels(const QRectF& place) {
                                            static_cast<int>(std::ceil(place.height() - nothing)))};
 }
 
-QString VariantName(QString file, int scale) {
-  const auto ending = file.lastIndexOf('.');
-  if (scale == 1 || ending < 0) return file;
-  return file.insert(ending, QStringLiteral("@%1x").arg(scale));
+// The brother of a file at a scale; empty if there is none.
+QString BrotherOf(const QString& file, int scale) {
+  const auto dot = file.lastIndexOf('.');
+  if (dot < 0) return {};
+  for (const QString& ending : {file.mid(dot), QStringLiteral(".jpg")}) {
+    const QString brother = file.left(dot) + QStringLiteral("@%1x").arg(scale) + ending;
+    if (QFile::exists(brother)) return brother;
+  }
+  return {};
 }
 
 QString DrawingName(const QString& file) {
@@ -97,11 +102,10 @@ const std::vector<PictureStore::Variant>& PictureStore::VariantsOf(const QString
   if (found != variants_.end()) return found->second;
   const QSize natural = NaturalSize(file);
   std::vector<Variant> variants;
-  for (const int scale : {1, 2, 3, 4}) {
-    const QString name = VariantName(file, scale);
-    if ((scale == 1 || name != file) && QFile::exists(name)) {
-      variants.push_back({name, natural * scale});
-    }
+  if (QFile::exists(file)) variants.push_back({file, natural});
+  for (const int scale : {2, 3, 4}) {
+    const QString brother = BrotherOf(file, scale);
+    if (!brother.isEmpty()) variants.push_back({brother, natural * scale});
   }
   if (const QString drawing = DrawingName(file);
       drawing != file && QFile::exists(drawing) && SourceOf(drawing).Drawing) {

@@ -15,9 +15,10 @@
 namespace orrerix {
 
 // A picture file may have finer brothers, painted at two to four times its size: "name@2x.jpg"
-// beside "name.jpg". The finest of all is a drawing of the same name, "name.svg", which may also
-// stand in for a file that is not there. Whatever size a picture is shown in, it is made out of the
-// smallest of them that need not be enlarged.
+// beside "name.jpg", or beside "name.png" where there is no "name@2x.png". The finest of all is a
+// drawing of the same name, "name.svg", which may also stand in for a file that is not there.
+// Whatever size a picture is shown in, it is made out of the smallest of them that need not be
+// enlarged.
 class PictureStore {
  public:
   PictureStore();

@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "picture/picture_files.h"
 
+#include <QDirIterator>
 #include <QFile>
 #include <QImage>
+#include <QImageReader>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -46,15 +49,32 @@ TEST(PictureFiles, NothingNamesNoFile) {
   EXPECT_TRUE(FileOf("").isEmpty());
 }
 
-TEST(PictureFiles, PaintedPicturesAreThereInTwiceTheirSizeToo) {
-  for (const QString name : {"star_map.jpg", "hintergrund.png", "blanko.jpg", "systems/00.jpg",
-                             "systems/46.jpg", "logo.png"}) {
-    QString fine = ":/pictures/" + name;
-    const QImage natural(fine);
-    fine.insert(fine.lastIndexOf('.'), "@2x");
-
-    EXPECT_EQ(QImage(fine).size(), natural.size() * 2) << name.toStdString();
+TEST(PictureFiles, PaintedPicturesAreThereInTwiceAndThriceTheirSizeToo) {
+  std::vector<QString> names = {"star_map.jpg",        "hintergrund.png", "blanko.jpg",
+                                "itac_background.jpg", "itac_head.png",   "logo.png",
+                                "station/strip.jpg"};
+  for (int i = 0; i < kSystemPictures; ++i) {
+    names.push_back(QStringLiteral("systems/%1.jpg").arg(i, 2, 10, QLatin1Char('0')));
   }
+  PictureStore store;
+  for (const QString& name : names) {
+    const QString file = ":/pictures/" + name;
+    const QSize natural = store.NaturalSize(file);
+    for (const int scale : {1, 2, 3}) {
+      const QString variant = store.VariantFor(file, natural * scale);
+
+      EXPECT_EQ(QImageReader(variant).size(), natural * scale) << variant.toStdString();
+    }
+  }
+}
+
+TEST(PictureFiles, AllPicturesTogetherStayBelowSixMegabytes) {
+  qint64 bytes = 0;
+  QDirIterator files(":/pictures", QDir::Files, QDirIterator::Subdirectories);
+  while (files.hasNext()) bytes += QFile(files.next()).size();
+
+  EXPECT_GT(bytes, 1'000'000);
+  EXPECT_LT(bytes, 6'000'000);
 }
 
 TEST(PictureFiles, BorderPiecesAreDrawingsOfTheSizesThatTheirControlsHave) {

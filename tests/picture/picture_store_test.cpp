@@ -162,6 +162,18 @@ TEST_F(PictureVariantsTest, TheSmallestFileThatNeedNotBeEnlargedIsTaken) {
   EXPECT_EQ(ColorAt({20, 21}), QColor(Qt::blue));
 }
 
+TEST_F(PictureVariantsTest, ALosslessPictureMayHaveABrotherThatIsAJpeg) {
+  const QString thrice = Save("sky@3x.jpg", Qt::white, {30, 30});
+
+  EXPECT_EQ(store.VariantFor(file, {21, 21}), thrice);
+}
+
+TEST_F(PictureVariantsTest, ABrotherWithThePicturesOwnEndingComesFirst) {
+  Save("sky@2x.jpg", Qt::white, {20, 20});
+
+  EXPECT_EQ(store.VariantFor(file, {20, 20}), twice);
+}
+
 TEST_F(PictureVariantsTest, BeyondAllOfThemTheLargestIsEnlarged) {
   EXPECT_EQ(store.VariantFor(file, {1000, 1000}), fourTimes);
   EXPECT_EQ(store.Scaled(file, {100, 100}).size(), QSize(100, 100));
