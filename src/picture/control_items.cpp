@@ -151,7 +151,8 @@ class LineItem : public ControlItem {
         pen.setStyle(Qt::DashLine);
         break;
       case LineStyle::Dotted:
-        pen.setDashPattern({2, 2});
+        pen.setCapStyle(Qt::FlatCap);
+        pen.setDashPattern({1.5, 1.5});
         break;
     }
     return pen;
