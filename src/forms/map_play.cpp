@@ -33,6 +33,10 @@ MapPlay::~MapPlay() {
 void MapPlay::MapRedrawn() {
   box_.MapRedrawn();
   ShowCursor();
+  NewsMoved();
+}
+
+void MapPlay::NewsMoved() {
   panelKeys_.Follow(screen_.Drawing());
 }
 

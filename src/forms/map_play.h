@@ -33,6 +33,9 @@ class MapPlay : private MapMouse, private MapKeys {
   // To be called behind each redraw.
   void MapRedrawn();
 
+  // To be called when the news have moved in the panel.
+  void NewsMoved();
+
   // The map's own events, in twips on the frame. A move folds the options and ends a hover.
   void SysmapFrameMouseDown(float x, float y);
   void SysmapFrameMouseMove(PointerButton held, float x, float y);

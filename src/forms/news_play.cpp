@@ -76,6 +76,7 @@ void NewsPlay::ShowBand() {
     if (band_[n].Visible) at = children.insert(at, all_[n]) + 1;
   }
   screen_.Scene().Replace(panel);
+  if (OnMoved) OnMoved();
 }
 
 }  // namespace orrerix

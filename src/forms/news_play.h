@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QTimer>
+#include <functional>
 #include <vector>
 
 #include "forms/map_screen.h"
@@ -17,6 +18,9 @@ class NewsPlay {
 
   // To be called behind each redraw: the labels begin at their own places again.
   void MapRedrawn();
+
+  // The labels have moved in the scene.
+  std::function<void()> OnMoved;
 
   bool Scrolls() const { return timer_.isActive(); }
 

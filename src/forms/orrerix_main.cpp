@@ -56,6 +56,7 @@ OrrerixMain::OrrerixMain(const FormParts& parts, Settings& settings, Language& l
   QPalette colors = palette();
   colors.setColor(QPalette::Window, QColor(kGround));
   setPalette(colors);
+  newsPlay_.OnMoved = [this] { play_.NewsMoved(); };
   QObject::connect(&importScreen_->Command1(), &QPushButton::clicked, this,
                    [this] { Command1Click(); });
 }

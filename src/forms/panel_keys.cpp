@@ -4,6 +4,7 @@
 #include <QAbstractButton>
 #include <QKeyEvent>
 #include <QPainter>
+#include <utility>
 
 #include "map/map_options.h"
 #include "picture/twips.h"
@@ -12,6 +13,7 @@ namespace orrerix {
 namespace {
 
 constexpr int kTools = 5;
+constexpr const char* kNews = "InfoBoxLabel";
 constexpr QRgb kFocusMark = 0xFF80FFFF;
 
 }  // namespace
@@ -54,18 +56,19 @@ class PanelKeys::Key : public QAbstractButton {
   int index_;
 };
 
-PanelKeys::PanelKeys(QAbstractScrollArea& frame, Activate activate) {
-  QWidget* parent = frame.viewport();
-  for (int i = 0; i < kTools; ++i) Add(parent, activate, "StationSearch", i);
-  Add(parent, activate, "ShowOptionsLabel", 0);
-  Add(parent, activate, "SetLabel", kLanguageLabel);
-  for (int i = 0; i < kMapSwitches; ++i) Add(parent, activate, "SetImage", i);
+PanelKeys::PanelKeys(QAbstractScrollArea& frame, Activate activate)
+    : parent_(frame.viewport()), activate_(std::move(activate)) {
+  for (int i = 0; i < kTools; ++i) Add("StationSearch", i);
+  Add("ShowOptionsLabel", 0);
+  Add("SetLabel", kLanguageLabel);
+  for (int i = 0; i < kMapSwitches; ++i) Add("SetImage", i);
 }
 
-void PanelKeys::Add(QWidget* parent, const Activate& activate, const char* name, int index) {
-  keys_.push_back(new Key(name, index, parent));
-  QObject::connect(keys_.back(), &QAbstractButton::clicked, parent,
-                   [activate, name, index] { activate(name, index); });
+PanelKeys::Key* PanelKeys::Add(const char* name, int index) {
+  keys_.push_back(new Key(name, index, parent_));
+  QObject::connect(keys_.back(), &QAbstractButton::clicked, parent_,
+                   [this, name, index] { activate_(name, index); });
+  return keys_.back();
 }
 
 void PanelKeys::Follow(const MapDrawing& drawing) {
@@ -86,7 +89,7 @@ void PanelKeys::FollowControls(const ControlList& controls, const QPointF& corne
     const int index = control.Index.value_or(0);
     const QString caption =
         QString::fromStdString(control.Caption.value_or(control.ToolTip.value_or("")));
-    if (Key* key = KeyOf(control.Name, index)) {
+    if (Key* key = KeyFor(control, index)) {
       key->Follow(control, place);
       key->setAccessibleName(caption);
       gone.erase(key);
@@ -94,6 +97,12 @@ void PanelKeys::FollowControls(const ControlList& controls, const QPointF& corne
       box->setAccessibleName(caption);
     }
   }
+}
+
+// How many news there are, only their labels tell.
+PanelKeys::Key* PanelKeys::KeyFor(const Control& control, int index) {
+  if (Key* key = KeyOf(control.Name, index)) return key;
+  return control.Name == kNews ? Add(kNews, index) : nullptr;
 }
 
 PanelKeys::Key* PanelKeys::KeyOf(std::string_view name, int index) const {

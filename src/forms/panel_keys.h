@@ -12,9 +12,9 @@
 
 namespace orrerix {
 
-// Gives the panel's tools, switches and language a place in the order of the Tab key, and a name
-// for screen readers: one button over each, unseen but for the mark of the focus. The mouse goes
-// through them.
+// Gives the panel's tools, switches, language and news a place in the order of the Tab key, and a
+// name for screen readers: one button over each, unseen but for the mark of the focus. The mouse
+// goes through them.
 class PanelKeys {
  public:
   // Told of Enter and Space: the control's name and its index, 0 without one.
@@ -29,10 +29,13 @@ class PanelKeys {
  private:
   class Key;
 
-  void Add(QWidget* parent, const Activate& activate, const char* name, int index);
+  Key* Add(const char* name, int index);
   void FollowControls(const ControlList& controls, const QPointF& corner, std::set<Key*>& gone);
   Key* KeyOf(std::string_view name, int index) const;
+  Key* KeyFor(const Control& control, int index);
 
+  QWidget* parent_;
+  Activate activate_;
   std::vector<Key*> keys_;  // in the order of the Tab key
 };
 

@@ -71,7 +71,7 @@ struct Stretch {
 // Cuts what lies outside [low, high] on one axis off a stretch.
 Stretch Cut(Stretch stretch, double start, double way, double low, double high) {
   if (way == 0) return start < low || start > high ? Stretch{0, 0} : stretch;
-  const auto [first, last] = std::minmax((low - start) / way, (high - start) / way);
+  const auto [first, last] = std::minmax({(low - start) / way, (high - start) / way});
   return {std::max(stretch.From, first), std::min(stretch.To, last)};
 }
 

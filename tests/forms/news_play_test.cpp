@@ -18,6 +18,7 @@ class NewsPlayTest : public MapPlayFixture {
       items.push_back({"News " + std::to_string(i), "<b>Tip</b>", "http://x.example"});
     }
     map.SetNews("http://x.example/OX", items);
+    news.OnMoved = [this] { play.NewsMoved(); };
     Redraw();
     news.MapRedrawn();
   }
@@ -89,6 +90,36 @@ TEST_F(NewsPlayTest, NewsAndBothHalvesOfTheLogoCanBeClicked) {
   Move(at(0.8, 0.2));
   Click(at(0.8, 0.2));
   EXPECT_THAT(logoClicks, ElementsAre(true, false));
+}
+
+TEST_F(NewsPlayTest, NewsAreStopsOfTheTabKeyThatOpenThem) {
+  ShowNews(2);
+  auto& stop = Find<QAbstractButton>(form, "InfoBoxLabel_2");
+
+  QTest::keyClick(&stop, Qt::Key_Return);
+
+  EXPECT_THAT(newsClicks, ElementsAre(2));
+  EXPECT_EQ(stop.accessibleName(), "News 2");
+  EXPECT_EQ(stop.focusPolicy(), Qt::TabFocus);
+}
+
+TEST_F(NewsPlayTest, AStopGoesWithItsNews) {
+  ShowNews(60);
+  const auto& first = Find<QAbstractButton>(form, "InfoBoxLabel_1");
+  const auto& last = Find<QAbstractButton>(form, "InfoBoxLabel_60");
+  const int top = first.geometry().top();
+
+  for (int i = 0; i < 5; ++i) news.NewsTimerTimer();
+
+  EXPECT_EQ(first.geometry().top(), top - 7);  // 5 x 21 twips
+  EXPECT_FALSE(last.isVisible());
+}
+
+TEST_F(NewsPlayTest, NewsThatAreNoMoreAreNoStops) {
+  ShowNews(2);
+  ShowNews(1);
+
+  EXPECT_FALSE(Find<QAbstractButton>(form, "InfoBoxLabel_2").isVisible());
 }
 
 TEST_F(NewsPlayTest, ATipIsNoMarkup) {
