@@ -20,6 +20,9 @@ QRect RectOf(const orrerix::Box& box) {
 InfoBox::InfoBox(QWidget* map) : QFrame(map), text_(new TextBox("InfoText", this)) {
   setObjectName("Shape1");
   setAutoFillBackground(true);
+  // The map's view would hand down its own roles, those of lists.
+  setBackgroundRole(QPalette::Window);
+  setForegroundRole(QPalette::WindowText);
   setFrameStyle(QFrame::Box | QFrame::Plain);
   text_->setAccessibleName("Information");
   hide();
