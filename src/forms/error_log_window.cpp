@@ -121,13 +121,23 @@ void ErrorLogWindow::TextsChanged() {
   FormResize();
 }
 
+// A log whose end was seen shows it in its new place too.
+void ErrorLogWindow::PlaceLog(Log& log, const QRect& place) {
+  QTextCursor end(log.Box->document());
+  end.movePosition(QTextCursor::End);
+  const bool endSeen = log.Box->viewport()->rect().intersects(log.Box->cursorRect(end));
+  log.Box->setGeometry(place);
+  QScrollBar& bar = *log.Box->verticalScrollBar();
+  if (endSeen) bar.setValue(bar.maximum());
+}
+
 void ErrorLogWindow::FormResize() {
   const ErrorLogLayout layout =
       LayOutErrorLog(OuterWidth(*this), OuterHeight(*this), log_.HasProgramError());
   dataHeading_->setGeometry(RectOf(layout.DataHeading));
-  dataLog_.Box->setGeometry(RectOf(layout.DataLog));
+  PlaceLog(dataLog_, RectOf(layout.DataLog));
   programHeading_->setGeometry(RectOf(layout.ProgramHeading));
-  programLog_.Box->setGeometry(RectOf(layout.ProgramLog));
+  PlaceLog(programLog_, RectOf(layout.ProgramLog));
   programHeading_->setVisible(layout.LowerHalfVisible);
   programLog_.Box->setVisible(layout.LowerHalfVisible);
 }

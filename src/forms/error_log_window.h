@@ -36,6 +36,7 @@ class ErrorLogWindow : public QWidget, public ErrorLogView {
   QLabel* AddHeading(int index, const QString& caption, QColor letters);
   Log AddLog(const char* name, QColor letters, QPlainTextEdit::LineWrapMode wrap);
   static void ShowText(Log& log, const std::string& text);
+  static void PlaceLog(Log& log, const QRect& place);
   void FormResize();
 
   ErrorLog& log_;

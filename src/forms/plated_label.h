@@ -5,8 +5,8 @@
 
 namespace orrerix {
 
-// A label of one line whose letters stand on a dark plate, for colours that are hard to read on
-// each other.
+// A label of one line whose letters, at its left, stand on a dark plate that fades behind them: for
+// colours that are hard to read on each other.
 class PlatedLabel : public QLabel {
  public:
   using QLabel::QLabel;

@@ -15,9 +15,8 @@ ProgressShape::ProgressShape(Color border, Color fill, QWidget* parent)
 
 void ProgressShape::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  painter.fillRect(rect(), fill_);
-  painter.setPen(border_);
-  painter.drawRect(rect().adjusted(0, 0, -1, -1));
+  painter.fillRect(rect(), border_);
+  painter.fillRect(rect().adjusted(1, 1, -1, -1), fill_);
 }
 
 }  // namespace orrerix

@@ -13,6 +13,8 @@
 #include <QSoundEffect>
 #include <QUrl>
 
+#include "picture/picture_store.h"
+
 namespace orrerix {
 namespace {
 
@@ -28,16 +30,28 @@ QMessageBox::StandardButtons ButtonsOf(MessageButtons buttons) {
   return QMessageBox::Ok;
 }
 
-QMessageBox::Icon IconOf(MessageIcon icon) {
+// The drawing for a sign; none for a message without one.
+QString FileOf(MessageIcon icon) {
   switch (icon) {
     case MessageIcon::Critical:
-      return QMessageBox::Critical;
+      return QStringLiteral(":/pictures/signs/critical.svg");
     case MessageIcon::Exclamation:
-      return QMessageBox::Warning;
+      return QStringLiteral(":/pictures/signs/exclamation.svg");
     case MessageIcon::None:
       break;
   }
-  return QMessageBox::NoIcon;
+  return {};
+}
+
+void ShowSign(QMessageBox& box, MessageIcon icon) {
+  constexpr int pixels = 40;
+  const QString file = FileOf(icon);
+  if (file.isEmpty()) return;
+  PictureStore pictures;
+  const double ratio = box.devicePixelRatioF();
+  QPixmap sign = pictures.Scaled(file, QSize(pixels, pixels) * ratio);
+  sign.setDevicePixelRatio(ratio);
+  box.setIconPixmap(sign);
 }
 
 MessageAnswer AnswerOf(int button) {
@@ -58,10 +72,11 @@ MessageAnswer AnswerOf(int button) {
 }  // namespace
 
 MessageAnswer DesktopMessageBoxes::Show(const Message& message) {
-  QMessageBox box(IconOf(message.Icon), QString::fromStdString(message.Title),
+  QMessageBox box(QMessageBox::NoIcon, QString::fromStdString(message.Title),
                   QString::fromStdString(message.Text).remove('\r'), ButtonsOf(message.Buttons),
                   QApplication::activeWindow());
   box.setObjectName("MessageBox");
+  ShowSign(box, message.Icon);
   box.setTextFormat(Qt::PlainText);
   box.setTextInteractionFlags(Qt::TextSelectableByMouse);
   box.setWindowModality(Qt::ApplicationModal);
@@ -75,8 +90,8 @@ void DesktopLinks::Open(const std::string& address) {
 
 // Installed beside the program, or in the folder that it was built in.
 void DesktopLinks::OpenManual() {
-  for (const char* place : {"../share/doc/orrerix/manual.md", "docs/manual.md",
-                            "../docs/manual.md", "../../docs/manual.md"}) {
+  for (const char* place : {"../share/doc/orrerix/manual.md", "docs/manual.md", "../docs/manual.md",
+                            "../../docs/manual.md"}) {
     const QFileInfo manual(QDir(QCoreApplication::applicationDirPath()), place);
     if (!manual.exists()) continue;
     QDesktopServices::openUrl(QUrl::fromLocalFile(manual.canonicalFilePath()));

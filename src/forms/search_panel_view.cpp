@@ -5,6 +5,7 @@
 #include <QSignalBlocker>
 
 #include "forms/form_geometry.h"
+#include "forms/row_list.h"
 #include "picture/form_font.h"
 
 namespace orrerix {
@@ -59,11 +60,9 @@ SearchPanelView::SearchPanelView(SearchEvents& events, QWidget* map)
 }
 
 QListWidget* SearchPanelView::AddList(const char* name, const char* accessibleName) {
-  auto* list = new QListWidget(this);
+  auto* list = new RowList(this);
   list->setObjectName(name);
   list->setAccessibleName(accessibleName);
-  list->setUniformItemSizes(true);
-  list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   list->installEventFilter(this);
   return list;
 }

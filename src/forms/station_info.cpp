@@ -13,6 +13,7 @@
 
 #include "forms/form_geometry.h"
 #include "forms/locale_signs.h"
+#include "forms/row_list.h"
 #include "picture/picture_files.h"
 
 namespace orrerix {
@@ -31,7 +32,7 @@ constexpr int kStripHeight = 9000;
 
 constexpr const char* kFrameStyle =
     "#SearchFrame { border: 1px solid #3a6ca8; border-radius: 3px; margin-top: 8px; }"
-    "#SearchFrame::title { subcontrol-origin: margin; left: 8px; padding: 0 3px; }";
+    "#SearchFrame::title { subcontrol-origin: margin; left: 4px; padding: 0 2px; }";
 
 // Logical pixels round the text. Lines that are broken beforehand leave 20 free, most of which the
 // scroll bar may need.
@@ -58,11 +59,10 @@ StationInfo::StationInfo(const StationParts& parts, std::string nickname, std::s
   searchFrame_->setObjectName("SearchFrame");
   searchFrame_->setStyleSheet(kFrameStyle);
   searchFrame_->setFont(FormFont(kStationText));
-  searchList_ = new QListWidget(searchFrame_);
+  searchList_ = new RowList(searchFrame_);
   searchList_->setObjectName("SearchList");
   searchList_->setFont(FormFont(kStationText));
   searchList_->setAccessibleName("For sale");
-  searchList_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   QObject::connect(searchList_, &QListWidget::currentRowChanged, this,
                    [this](int row) { SearchListClick(row); });
   QObject::connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this,

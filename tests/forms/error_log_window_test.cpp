@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "forms/error_log_window.h"
 
+#include <QScrollBar>
+
 #include "form_fixture.h"
 #include "forms/plated_label.h"
 
@@ -37,6 +39,16 @@ TEST_F(ErrorLogWindowTest, TheCaretStandsAtTheEnd) {
   for (int i = 0; i < 100; ++i) log.AddErrorLine("line");
 
   EXPECT_TRUE(Find<QPlainTextEdit>(window, "Text1").textCursor().atEnd());
+}
+
+TEST_F(ErrorLogWindowTest, InItsHalfTheDataLogStillShowsItsEnd) {
+  for (int i = 0; i < 100; ++i) log.AddErrorLine("line");
+  PassEvents();
+
+  Fail();
+
+  const QScrollBar& bar = *Find<QPlainTextEdit>(window, "Text1").verticalScrollBar();
+  EXPECT_EQ(bar.value(), bar.maximum());
 }
 
 TEST_F(ErrorLogWindowTest, AProgramErrorBringsTheLowerHalf) {

@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QListWidget>
+
+namespace orrerix {
+
+// A list of one-line rows that shows whole rows only: what is left below the last of them stays
+// free.
+class RowList : public QListWidget {
+ public:
+  explicit RowList(QWidget* parent);
+
+ protected:
+  void updateGeometries() override;
+
+ private:
+  int RowHeight() const;
+};
+
+}  // namespace orrerix
