@@ -37,10 +37,10 @@ class StationReader {
     }
     if (Recordset dock = RowOnMap(); !dock.AtEnd()) {
       WriteTexts(dock, object);
-      data_.Prices = ReadPrices(routine_, universe_, nickname_, data_.Base, mode);
+      ReadPrices(routine_, universe_, nickname_, data_.Base, mode, data_.Prices);
     }
-    data_.Ships = ShipsForSale(routine_, universe_, nickname_, data_.Base);
-    data_.Equipment = EquipmentForSale(routine_, universe_, nickname_, data_.Base);
+    ShipsForSale(routine_, universe_, nickname_, data_.Base, data_.Ships);
+    EquipmentForSale(routine_, universe_, nickname_, data_.Base, data_.Equipment);
   }
 
  private:
