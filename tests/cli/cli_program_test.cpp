@@ -125,6 +125,16 @@ TEST_F(CommandLine, AnOlderUniverseFileIsReplaced) {
   EXPECT_EQ(Run("name 5 " + Database()).Output, "(5)\n");
 }
 
+TEST_F(CommandLine, AnUnfinishedUniverseFileIsToldByName) {
+  folder.Write("u.fl", "");  // a database without any table
+
+  const Answer answer = Run("name 5 " + Database());
+
+  EXPECT_EQ(answer.ExitCode, 1);
+  EXPECT_EQ(answer.Errors, "orrerix-cli: '" + (folder.Path() / "u.fl").string() +
+                               "' is no finished universe file; import it anew\n");
+}
+
 TEST_F(CommandLine, AFolderThatIsNoGameCannotBeImported) {
   const Answer answer = Run("import --game " + folder.Path().string() + " " + Database());
 
