@@ -104,10 +104,9 @@ bool IsLineOn(int type, const MapOptions& options) {
 
 }  // namespace
 
-JumpLayers JumpConnections(Routine& routine, Universe& universe, const MapState& state,
-                           const MapOptions& options, const CellGeometry& cells,
-                           ElementCounters& counters) {
-  JumpLayers layers;
+void AddJumpConnections(Routine& routine, Universe& universe, const MapState& state,
+                        const MapOptions& options, const CellGeometry& cells,
+                        ElementCounters& counters, JumpLayers& layers) {
   const ZoomRectangle& visible = state.Zoom.Current();
   for (Recordset nodes =
            universe.DB.OpenRecordset(routine, "SELECT * from JumpNodes ORDER BY Type");
@@ -131,12 +130,10 @@ JumpLayers JumpConnections(Routine& routine, Universe& universe, const MapState&
       layers.Icons.push_back(std::move(icon));
     }
   }
-  return layers;
 }
 
-ControlList TradeLaneLines(Routine& routine, Universe& universe, const CellGeometry& cells,
-                           ElementCounters& counters) {
-  ControlList lines;
+void AddTradeLaneLines(Routine& routine, Universe& universe, const CellGeometry& cells,
+                       ElementCounters& counters, ControlList& lines) {
   for (Recordset lanes = universe.DB.OpenRecordset(routine, "SELECT * from TradeLanes");
        !lanes.AtEnd(); lanes.MoveNext()) {
     Control line =
@@ -146,12 +143,10 @@ ControlList TradeLaneLines(Routine& routine, Universe& universe, const CellGeome
     line.Tag = lanes["realname"].Get().Text() + " <-> " + lanes["realname2"].Get().Text();
     lines.push_back(std::move(line));
   }
-  return lines;
 }
 
-ControlList ObjectIcons(Routine& routine, Universe& universe, const MapState& state,
-                        const CellGeometry& cells, ElementCounters& counters) {
-  ControlList icons;
+void AddObjectIcons(Routine& routine, Universe& universe, const MapState& state,
+                    const CellGeometry& cells, ElementCounters& counters, ControlList& icons) {
   const ZoomRectangle& visible = state.Zoom.Current();
   for (Recordset objects = universe.DB.OpenRecordset(
            routine,
@@ -165,7 +160,6 @@ ControlList ObjectIcons(Routine& routine, Universe& universe, const MapState& st
     icon.Tag = objects["nickname"].Get().Text();
     icons.push_back(std::move(icon));
   }
-  return icons;
 }
 
 }  // namespace orrerix

@@ -420,6 +420,21 @@ TEST_F(Redraw, APointTooFarOffForAControlIsAFailureAndItsEndStaysAtTheCorner) {
   EXPECT_GT(Named(drawing, "Line1").at(0).Ends.X2, 0);
 }
 
+TEST_F(Redraw, ACancelledRedrawShowsWhatItHadComeTo) {
+  messages.Answer = MessageAnswer::Cancel;
+  Jump(kJumpGate);
+  Lane();
+  Add("TradeLanes", {{"MapX1", 7}, {"MapY1", 4}, {"MapX2", 7}, {"MapY2", 4}, {"PosX1", 1e40}});
+  Lane();
+
+  const MapDrawing drawing = Draw();
+
+  // The second lane ends the redraw; the border is shown behind the lines only.
+  EXPECT_EQ(Named(drawing, "Line1").size(), 2u);
+  EXPECT_THAT(Layers(drawing),
+              ElementsAre("Hintergrund", "StarMapPic", "SysmapLabel", "Line1", "MenuFrame"));
+}
+
 TEST_F(Redraw, ACellBeyondTheGridIsAFailureOnceForEachStatement) {
   Add("JumpNodes", {{"nickname", "a"},
                     {"MapX1", 18},
