@@ -51,7 +51,7 @@ class StationReader {
 
   void WriteTexts(Recordset& dock, Recordset& object) {
     const std::string realname = dock["realname"].Get().Text();
-    data_.Caption = realname + "  " + CoordsOf(universe_, names_, dock);
+    data_.Caption = realname + "  " + CoordsOf(routine_, universe_, names_, dock);
     const std::string reputation =
         object.AtEnd() ? std::string() : object["reputation"].Get().Text();
     if (!reputation.empty()) {
