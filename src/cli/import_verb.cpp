@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <algorithm>
 #include <chrono>
 #include <cstdio>
 #include <fstream>
@@ -83,8 +84,9 @@ class ImportVerb {
                    {game, work, JetVersionOption::Version30, CurrentVersion()}, DerivedStages());
     CountTables();
     database_.Close();
-    if (finished) fs::rename(work / "Orrerix.fl", target, error);
-    const bool moved = finished && !error;
+    const bool usable = finished && IsStamped();
+    if (usable) fs::rename(work / "Orrerix.fl", target, error);
+    const bool moved = usable && !error;
     fs::remove_all(work, error);
     return moved;
   }
@@ -99,6 +101,13 @@ class ImportVerb {
           ignore, "SELECT count(*) AS rows FROM " + QuoteName(table.Name));
       counts_.push_back({table.Name, *rows["rows"].Get().Whole()});
     }
+  }
+
+  // A failure that was passed over may have kept the last table from being written.
+  bool IsStamped() const {
+    return std::any_of(counts_.begin(), counts_.end(), [](const TableCount& count) {
+      return count.Name == "Version" && count.Rows > 0;
+    });
   }
 
   void WriteLog() const {

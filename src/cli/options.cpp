@@ -2,6 +2,7 @@
 #include "cli/options.h"
 
 #include <cstdio>
+#include <optional>
 
 #include <fmt/format.h>
 
@@ -20,6 +21,20 @@ class Stop : public FailureSink {
  public:
   void Fail(const Failure& failure) override { throw CouldNot(failure.Description); }
 };
+
+// What fails is looked at by its outcome.
+class Quiet : public FailureSink {
+ public:
+  void Fail(const Failure&) override {}
+};
+
+// The stamp of a universe, the last thing that an import writes; nothing if it is not there.
+std::optional<std::string> StampOf(Database& universe) {
+  Quiet quiet;
+  Recordset version = universe.OpenRecordset(quiet, "SELECT * from Version");
+  if (version.AtEnd()) return std::nullopt;
+  return version["Version"].Get().Text();
+}
 
 }  // namespace
 
@@ -53,8 +68,12 @@ Database OpenUniverse(const CommonOptions& options) {
   Stop stop;
   WorkingCopy copy;
   Database universe = copy.Of(stop, path);
-  Recordset version = universe.OpenRecordset(stop, "SELECT * from Version");
-  if (version.AtEnd() || version["Version"].Get().Text() != CurrentVersion().Stamp()) {
+  const auto stamp = StampOf(universe);
+  if (!stamp) {
+    throw CouldNot(fmt::format("'{}' is no finished universe file; import it anew",
+                               path.string()));
+  }
+  if (*stamp != CurrentVersion().Stamp()) {
     throw CouldNot(fmt::format("the universe file '{}' is of another version; import it anew",
                                path.string()));
   }

@@ -49,8 +49,8 @@ class HoverWriter {
       WriteOwner(dock, reputation);
     } else {
       WriteCargo(object["loadout"].Get().Text());
-      PutInFront(" " + dock["realname"].Get().Text() + "\r\n " + CoordsOf(universe_, names_, dock) +
-                 "\r\n\r\n");
+      PutInFront(" " + dock["realname"].Get().Text() + "\r\n " +
+                 CoordsOf(routine_, universe_, names_, dock) + "\r\n\r\n");
     }
   }
 
@@ -58,7 +58,7 @@ class HoverWriter {
   void PutInFront(std::string_view line) { text_.insert(0, line); }
 
   void WriteOwner(Recordset& dock, const std::string& reputation) {
-    const std::string coords = CoordsOf(universe_, names_, dock);
+    const std::string coords = CoordsOf(routine_, universe_, names_, dock);
     const std::string owner = GetOwnerShortName(universe_, reputation);
     PutInFront(" " + dock["realname"].Get().Text() + "\r\n " + owner + "\r\n " + coords +
                "\r\n\r\n (Click for more) ");

@@ -3,11 +3,25 @@
 
 namespace orrerix {
 
-std::string CoordsOf(Universe& universe, const CellNames& names, Recordset& dock) {
-  const MapCell cell{static_cast<int>(dock["mapx"].Get().Number()),
-                     static_cast<int>(dock["mapy"].Get().Number())};
-  const CellFraction point{dock["posx"].Get().Number(), dock["posy"].Get().Number()};
-  return CoordsToMapCoords(universe.Log, names, cell, point);
+namespace {
+
+double RequireNumber(const FieldRef& field) {
+  const Value value = field.Get();
+  if (value.IsNull()) throw RuntimeFailure(failure_number::kInvalidUseOfNull);
+  return value.Number();
+}
+
+}  // namespace
+
+std::string CoordsOf(Routine& routine, Universe& universe, const CellNames& names,
+                     Recordset& dock) {
+  std::string coords;
+  routine.Try([&] {
+    const MapCell cell{dock["mapx"].RequireLong(), dock["mapy"].RequireLong()};
+    const CellFraction point{RequireNumber(dock["posx"]), RequireNumber(dock["posy"])};
+    coords = CoordsToMapCoords(universe.Log, names, cell, point);
+  });
+  return coords;
 }
 
 }  // namespace orrerix

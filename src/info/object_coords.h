@@ -5,10 +5,13 @@
 
 #include "db/recordset.h"
 #include "map/map_coords.h"
+#include "shell/routine.h"
 
 namespace orrerix {
 
-// The place of a row of `DockObjects` in the game's notation.
-std::string CoordsOf(Universe& universe, const CellNames& names, Recordset& dock);
+// The place of a row of `DockObjects` in the game's notation. A number that the row lacks is a
+// failure of its own, and the place is then empty.
+std::string CoordsOf(Routine& routine, Universe& universe, const CellNames& names,
+                     Recordset& dock);
 
 }  // namespace orrerix

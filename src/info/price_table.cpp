@@ -71,7 +71,7 @@ int FittingFont(std::string_view text, const TextMeasure& measure, int width, in
 class TableWriter {
  public:
   TableWriter(Routine& routine, Universe& universe, const TextMeasure& measure,
-              const StationData& data, StationMode mode, const Box& place)
+              const StationData& data, StationMode mode, const Box& place, ControlList& controls)
       : routine_(routine),
         universe_(universe),
         measure_(measure),
@@ -79,16 +79,16 @@ class TableWriter {
         mode_(mode),
         place_(place),
         rowHeight_(
-            WholeTwips(place.Height / (static_cast<double>(data.Prices.size()) + kEmptyRows))) {}
+            WholeTwips(place.Height / (static_cast<double>(data.Prices.size()) + kEmptyRows))),
+        controls_(controls) {}
 
-  ControlList Write(const std::array<int, kPriceGroups>& heads, TextSource& texts) {
+  void Write(const std::array<int, kPriceGroups>& heads, TextSource& texts) {
     for (int group = kPriceGroups - 1; group >= 0; --group) {
       WriteHead(group, texts.TXT(heads[static_cast<std::size_t>(group)]));
       for (const PriceItem& item : data_.Prices) {
         if (item.Group == group) WriteRow(item);
       }
     }
-    return std::move(controls_);
   }
 
  private:
@@ -140,7 +140,7 @@ class TableWriter {
   Box place_;
   int rowHeight_;
   int row_ = 0;
-  ControlList controls_;
+  ControlList& controls_;
 };
 
 }  // namespace
@@ -158,11 +158,11 @@ std::vector<std::string> PriceRowNames(Universe& universe, const StationData& da
   return names;
 }
 
-ControlList PriceTable(Routine& routine, Universe& universe, TextSource& texts,
-                       const TextMeasure& measure, const StationData& data, StationMode mode,
-                       const Box& place) {
+void WritePriceTable(Routine& routine, Universe& universe, TextSource& texts,
+                     const TextMeasure& measure, const StationData& data, StationMode mode,
+                     const Box& place, ControlList& controls) {
   const auto& heads = mode == StationMode::Prices ? kPriceHeads : kTradeHeads;
-  return TableWriter(routine, universe, measure, data, mode, place).Write(heads, texts);
+  TableWriter(routine, universe, measure, data, mode, place, controls).Write(heads, texts);
 }
 
 }  // namespace orrerix

@@ -17,11 +17,11 @@ namespace orrerix {
 std::vector<std::string> PriceRowNames(Universe& universe, const StationData& data,
                                        StationMode mode);
 
-// Heads and rows of the three groups, one below the other within `place`, each text in the largest
-// font that fits its label. Rows are numbered from 1 through all groups; each has a name, a price
-// and a difference.
-ControlList PriceTable(Routine& routine, Universe& universe, TextSource& texts,
-                       const TextMeasure& measure, const StationData& data, StationMode mode,
-                       const Box& place);
+// Adds heads and rows of the three groups, one below the other within `place`, each text in the
+// largest font that fits its label. Rows are numbered from 1 through all groups; each has a name, a
+// price and a difference. Cancelled, it leaves the rows that it has so far.
+void WritePriceTable(Routine& routine, Universe& universe, TextSource& texts,
+                     const TextMeasure& measure, const StationData& data, StationMode mode,
+                     const Box& place, ControlList& controls);
 
 }  // namespace orrerix

@@ -37,10 +37,10 @@ class StationReader {
     }
     if (Recordset dock = RowOnMap(); !dock.AtEnd()) {
       WriteTexts(dock, object);
-      data_.Prices = ReadPrices(routine_, universe_, nickname_, data_.Base, mode);
+      ReadPrices(routine_, universe_, nickname_, data_.Base, mode, data_.Prices);
     }
-    data_.Ships = ShipsForSale(routine_, universe_, nickname_, data_.Base);
-    data_.Equipment = EquipmentForSale(routine_, universe_, nickname_, data_.Base);
+    ShipsForSale(routine_, universe_, nickname_, data_.Base, data_.Ships);
+    EquipmentForSale(routine_, universe_, nickname_, data_.Base, data_.Equipment);
   }
 
  private:
@@ -51,7 +51,7 @@ class StationReader {
 
   void WriteTexts(Recordset& dock, Recordset& object) {
     const std::string realname = dock["realname"].Get().Text();
-    data_.Caption = realname + "  " + CoordsOf(universe_, names_, dock);
+    data_.Caption = realname + "  " + CoordsOf(routine_, universe_, names_, dock);
     const std::string reputation =
         object.AtEnd() ? std::string() : object["reputation"].Get().Text();
     if (!reputation.empty()) {

@@ -111,9 +111,8 @@ ControlList LayOutStation(Universe& universe, const Wording& wording, const Text
         const Room room = RoomOf(view);
         const Box place{kStationMargin + kGap, 0, static_cast<double>(room.Width),
                         static_cast<double>(room.Height)};
-        controls =
-            PriceTable(routine, universe, wording.Texts, measure, view.Data, view.Mode, place);
-        return;
+        return WritePriceTable(routine, universe, wording.Texts, measure, view.Data, view.Mode,
+                               place, controls);
       }
     }
   });

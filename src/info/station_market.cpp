@@ -62,29 +62,26 @@ Recordset MarketGoods(Routine& routine, Universe& universe, std::string_view con
 
 }  // namespace
 
-std::vector<PriceItem> ReadPrices(Routine& routine, Universe& universe, std::string_view nickname,
-                                  std::string_view base, StationMode mode) {
-  std::vector<PriceItem> prices;
+void ReadPrices(Routine& routine, Universe& universe, std::string_view nickname,
+                std::string_view base, StationMode mode, std::vector<PriceItem>& prices) {
   Recordset rows = PricesAt(routine, universe, base, mode);
   if (rows.AtEnd()) rows = PricesAt(routine, universe, nickname, mode);
-  if (rows.AtEnd()) return prices;
+  if (rows.AtEnd()) return;
   for (; !rows.AtEnd(); rows.MoveNext()) {
-    PriceItem item;
+    PriceItem& item = prices.emplace_back();
     item.Good = rows["GoodNick"].Get().Text();
     const Value price = rows["Price"].Get();
     item.Price = price.Text();
     routine.Try([&] { item.Group = rows["Sell"].RequireLong(); });
     item.Difference = Surcharge(routine, universe, item.Good, price);
-    prices.push_back(std::move(item));
   }
-  if (mode != StationMode::Trades) return prices;
+  if (mode != StationMode::Trades) return;
   rows.MoveFirst();
   const std::string system = rows["SysNick"].Get().Text();
   for (const int group : {1, 0}) {
     std::vector<PriceItem> trades = BestTrades(routine, universe, nickname, system, group, prices);
     std::move(trades.begin(), trades.end(), std::back_inserter(prices));
   }
-  return prices;
 }
 
 std::vector<PriceItem> BestTrades(Routine& routine, Universe& universe, std::string_view nickname,
@@ -128,9 +125,8 @@ std::vector<PriceItem> BestTrades(Routine& routine, Universe& universe, std::str
   return trades;
 }
 
-std::vector<ForSale> ShipsForSale(Routine& routine, Universe& universe, std::string_view nickname,
-                                  std::string_view base) {
-  std::vector<ForSale> ships;
+void ShipsForSale(Routine& routine, Universe& universe, std::string_view nickname,
+                  std::string_view base, std::vector<ForSale>& ships) {
   for (Recordset goods =
            MarketGoods(routine, universe, "ucase(GoodNick) LIKE '*_PACKAGE'", nickname, base);
        !goods.AtEnd(); goods.MoveNext()) {
@@ -140,12 +136,10 @@ std::vector<ForSale> ShipsForSale(Routine& routine, Universe& universe, std::str
     if (ship.AtEnd()) continue;
     ships.push_back({ship["packagename"].Get().Text(), ship["realname"].Get().Text()});
   }
-  return ships;
 }
 
-std::vector<ForSale> EquipmentForSale(Routine& routine, Universe& universe,
-                                      std::string_view nickname, std::string_view base) {
-  std::vector<ForSale> equipment;
+void EquipmentForSale(Routine& routine, Universe& universe, std::string_view nickname,
+                      std::string_view base, std::vector<ForSale>& equipment) {
   for (Recordset goods = MarketGoods(routine, universe,
                                      "ucase(GoodNick) NOT LIKE '*_PACKAGE' AND "
                                      "ucase(GoodNick) NOT LIKE 'COMMODITY_*'",
@@ -159,7 +153,6 @@ std::vector<ForSale> EquipmentForSale(Routine& routine, Universe& universe,
     if (good.AtEnd()) continue;
     equipment.push_back({good["nickname"].Get().Text(), good["realname"].Get().Text()});
   }
-  return equipment;
 }
 
 }  // namespace orrerix

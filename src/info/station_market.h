@@ -10,10 +10,10 @@
 
 namespace orrerix {
 
-// The price table of a place, found by its base or else by its own nickname; with the trades from
-// there in the mode Trades.
-std::vector<PriceItem> ReadPrices(Routine& routine, Universe& universe, std::string_view nickname,
-                                  std::string_view base, StationMode mode);
+// Adds the price table of a place, found by its base or else by its own nickname; with the trades
+// from there in the mode Trades. Cancelled, it leaves the rows that it has so far.
+void ReadPrices(Routine& routine, Universe& universe, std::string_view nickname,
+                std::string_view base, StationMode mode, std::vector<PriceItem>& prices);
 
 // The best 15 sales of the goods in `prices` at other places, inside the system (group 1) or
 // outside it (group 0), those with the highest profit first; equal ones in the order of the goods.
@@ -22,10 +22,11 @@ std::vector<PriceItem> BestTrades(Routine& routine, Universe& universe, std::str
                                   std::string_view system, int group,
                                   const std::vector<PriceItem>& prices);
 
-// Ships and equipment that the place has in its market.
-std::vector<ForSale> ShipsForSale(Routine& routine, Universe& universe, std::string_view nickname,
-                                  std::string_view base);
-std::vector<ForSale> EquipmentForSale(Routine& routine, Universe& universe,
-                                      std::string_view nickname, std::string_view base);
+// Adds the ships and the equipment that the place has in its market. Cancelled, they leave the rows
+// that they have so far.
+void ShipsForSale(Routine& routine, Universe& universe, std::string_view nickname,
+                  std::string_view base, std::vector<ForSale>& ships);
+void EquipmentForSale(Routine& routine, Universe& universe, std::string_view nickname,
+                      std::string_view base, std::vector<ForSale>& equipment);
 
 }  // namespace orrerix

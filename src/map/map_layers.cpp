@@ -2,6 +2,7 @@
 #include "map/map_layers.h"
 
 #include <cmath>
+#include <optional>
 
 #include <fmt/format.h>
 
@@ -17,20 +18,23 @@ constexpr Color kGateLineInPrint{0x000000};
 constexpr Color kHoleLine{0x808080};
 constexpr Color kLaneLine{0xFF0000};
 
-// A point of the map as a table's row has it, and the field names' last digit ("" where a row has
-// one point only).
+// A point of the map as a table's row has it.
 struct MapPlace {
   MapCell Cell;
-  CellFraction Point;
+  std::optional<CellFraction> Point;  // nothing if a fraction is Null
 };
 
 int CellNumber(const FieldRef& field) {
   return static_cast<int>(field.Get().Number());
 }
 
+// `end` is the last digit of the field names, "" where a row has one point only.
 MapPlace PlaceOf(Recordset& row, const std::string& end) {
-  return {{CellNumber(row["mapx" + end]), CellNumber(row["mapy" + end])},
-          {row["posx" + end].Get().Number(), row["posy" + end].Get().Number()}};
+  MapPlace place{{CellNumber(row["mapx" + end]), CellNumber(row["mapy" + end])}, std::nullopt};
+  const Value x = row["posx" + end].Get();
+  const Value y = row["posy" + end].Get();
+  if (!x.IsNull() && !y.IsNull()) place.Point = CellFraction{x.Number(), y.Number()};
+  return place;
 }
 
 // A place beyond the grid is a failure of each statement that uses it.
@@ -38,10 +42,15 @@ void RequireCell(const MapPlace& place) {
   if (!CellNames::Holds(place.Cell)) throw RuntimeFailure(failure_number::kSubscriptOutOfRange);
 }
 
+CellFraction RequirePoint(const MapPlace& place) {
+  if (!place.Point) throw RuntimeFailure(failure_number::kInvalidUseOfNull);
+  return *place.Point;
+}
+
 // The scale of a system may put a point further off than a control can stand.
 ScreenPoint PointOf(const CellGeometry& cells, const MapPlace& place) {
   RequireCell(place);
-  const ScreenPoint point = cells.ScreenPosition(place.Cell, place.Point);
+  const ScreenPoint point = cells.ScreenPosition(place.Cell, RequirePoint(place));
   if (!std::isfinite(point.X) || !std::isfinite(point.Y)) {
     throw RuntimeFailure(failure_number::kOverflow);
   }
@@ -88,10 +97,14 @@ std::string NameOf(Routine& routine, const CellNames& names, const MapPlace& pla
 }
 
 // What the hover box of a jump icon shows: its kind, where it is and where it leads.
-std::string JumpTag(Universe& universe, const MapState& state, int type, const MapPlace& here,
-                    const MapPlace& there) {
+std::string JumpTag(Routine& routine, Universe& universe, const MapState& state, int type,
+                    const MapPlace& here, const MapPlace& there) {
   const auto coords = [&](const MapPlace& place) {
-    return CoordsToMapCoords(universe.Log, state.Names, place.Cell, place.Point);
+    std::string text;
+    routine.Try([&] {
+      text = CoordsToMapCoords(universe.Log, state.Names, place.Cell, RequirePoint(place));
+    });
+    return text;
   };
   return fmt::format("\r\n  {}\r\n  {} TO\r\n  {}", type == kJumpHole ? "Jumphole" : "Jumpgate",
                      coords(here), coords(there));
@@ -104,10 +117,9 @@ bool IsLineOn(int type, const MapOptions& options) {
 
 }  // namespace
 
-JumpLayers JumpConnections(Routine& routine, Universe& universe, const MapState& state,
-                           const MapOptions& options, const CellGeometry& cells,
-                           ElementCounters& counters) {
-  JumpLayers layers;
+void AddJumpConnections(Routine& routine, Universe& universe, const MapState& state,
+                        const MapOptions& options, const CellGeometry& cells,
+                        ElementCounters& counters, JumpLayers& layers) {
   const ZoomRectangle& visible = state.Zoom.Current();
   for (Recordset nodes =
            universe.DB.OpenRecordset(routine, "SELECT * from JumpNodes ORDER BY Type");
@@ -127,16 +139,14 @@ JumpLayers JumpConnections(Routine& routine, Universe& universe, const MapState&
     const std::string picture = type == kJumpHole ? "JumpHole" : "Jumpgate";
     for (const auto& [here, there] : {std::pair{from, to}, std::pair{to, from}}) {
       Control icon = MakeIcon(routine, counters.Image++, cells, visible, here, picture);
-      icon.Tag = JumpTag(universe, state, type, here, there);
+      icon.Tag = JumpTag(routine, universe, state, type, here, there);
       layers.Icons.push_back(std::move(icon));
     }
   }
-  return layers;
 }
 
-ControlList TradeLaneLines(Routine& routine, Universe& universe, const CellGeometry& cells,
-                           ElementCounters& counters) {
-  ControlList lines;
+void AddTradeLaneLines(Routine& routine, Universe& universe, const CellGeometry& cells,
+                       ElementCounters& counters, ControlList& lines) {
   for (Recordset lanes = universe.DB.OpenRecordset(routine, "SELECT * from TradeLanes");
        !lanes.AtEnd(); lanes.MoveNext()) {
     Control line =
@@ -146,12 +156,10 @@ ControlList TradeLaneLines(Routine& routine, Universe& universe, const CellGeome
     line.Tag = lanes["realname"].Get().Text() + " <-> " + lanes["realname2"].Get().Text();
     lines.push_back(std::move(line));
   }
-  return lines;
 }
 
-ControlList ObjectIcons(Routine& routine, Universe& universe, const MapState& state,
-                        const CellGeometry& cells, ElementCounters& counters) {
-  ControlList icons;
+void AddObjectIcons(Routine& routine, Universe& universe, const MapState& state,
+                    const CellGeometry& cells, ElementCounters& counters, ControlList& icons) {
   const ZoomRectangle& visible = state.Zoom.Current();
   for (Recordset objects = universe.DB.OpenRecordset(
            routine,
@@ -165,7 +173,6 @@ ControlList ObjectIcons(Routine& routine, Universe& universe, const MapState& st
     icon.Tag = objects["nickname"].Get().Text();
     icons.push_back(std::move(icon));
   }
-  return icons;
 }
 
 }  // namespace orrerix

@@ -18,18 +18,20 @@ struct ElementCounters {
   int Image = 1;
 };
 
+// The three add to their last argument; cancelled, they leave what they have so far.
+
 // Jump connections: a line for each whose kind is switched on, and, if the map is zoomed, an icon
 // at each end of every one.
-JumpLayers JumpConnections(Routine& routine, Universe& universe, const MapState& state,
-                           const MapOptions& options, const CellGeometry& cells,
-                           ElementCounters& counters);
+void AddJumpConnections(Routine& routine, Universe& universe, const MapState& state,
+                        const MapOptions& options, const CellGeometry& cells,
+                        ElementCounters& counters, JumpLayers& layers);
 
 // Trade lanes, one line each.
-ControlList TradeLaneLines(Routine& routine, Universe& universe, const CellGeometry& cells,
-                           ElementCounters& counters);
+void AddTradeLaneLines(Routine& routine, Universe& universe, const CellGeometry& cells,
+                       ElementCounters& counters, ControlList& lines);
 
 // Icons of the dockable objects in the visible rectangle.
-ControlList ObjectIcons(Routine& routine, Universe& universe, const MapState& state,
-                        const CellGeometry& cells, ElementCounters& counters);
+void AddObjectIcons(Routine& routine, Universe& universe, const MapState& state,
+                    const CellGeometry& cells, ElementCounters& counters, ControlList& icons);
 
 }  // namespace orrerix

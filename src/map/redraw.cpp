@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "map/redraw.h"
 
+#include <utility>
+
 #include "map/borders.h"
 #include "map/cell_layers.h"
 #include "map/map_layers.h"
@@ -30,12 +32,25 @@ class Redraw {
   void Run() {
     PlaceFrame();
     PlacePanel();
-    const ControlList panel = Panel();
-    if (state_.PrintMode) Add(panel);
+    ControlList panel = Panel();
+    if (state_.PrintMode) {
+      Add(std::move(panel));
+    } else {
+      panel_ = std::move(panel);
+    }
     DrawCells();
     DrawObjects();
     DrawBorder();
-    if (!state_.PrintMode) Add(panel);
+  }
+
+  // Stacks the layers above the cells. A cancelled redraw shows what it had come to.
+  void Stack() {
+    Add(std::move(jumps_.Lines));
+    Add(std::move(lanes_));
+    Add(std::move(jumps_.Icons));
+    Add(std::move(objects_));
+    Add(std::move(border_));
+    Add(std::move(panel_));
   }
 
  private:
@@ -103,15 +118,13 @@ class Redraw {
 
   void DrawObjects() {
     ElementCounters counters;
-    JumpLayers jumps = JumpConnections(routine_, universe_, state_, view_.Options, drawing_.Cells,
-                                       counters);
-    Add(std::move(jumps.Lines));
+    AddJumpConnections(routine_, universe_, state_, view_.Options, drawing_.Cells, counters,
+                       jumps_);
     if (view_.Options[MapSwitch::TradelaneLines]) {
-      Add(TradeLaneLines(routine_, universe_, drawing_.Cells, counters));
+      AddTradeLaneLines(routine_, universe_, drawing_.Cells, counters, lanes_);
     }
-    Add(std::move(jumps.Icons));
     if (drawing_.Zoomed) {
-      Add(ObjectIcons(routine_, universe_, state_, drawing_.Cells, counters));
+      AddObjectIcons(routine_, universe_, state_, drawing_.Cells, counters, objects_);
     }
   }
 
@@ -128,7 +141,7 @@ class Redraw {
       right = WholeTwips(universe.Width + kUniverseMargin);
       bottom = WholeTwips(universe.Height);
     }
-    Add(SetRahmen(BorderSet::Map, 0, 0, right, bottom));
+    border_ = SetRahmen(BorderSet::Map, 0, 0, right, bottom);
   }
 
   Routine& routine_;
@@ -136,6 +149,11 @@ class Redraw {
   MapState& state_;
   const MapView& view_;
   MapDrawing& drawing_;
+  JumpLayers jumps_;
+  ControlList lanes_;
+  ControlList objects_;
+  ControlList border_;
+  ControlList panel_;
 };
 
 }  // namespace
@@ -143,7 +161,9 @@ class Redraw {
 MapDrawing DrawMap(Universe& universe, MapState& state, const MapView& view) {
   MapDrawing drawing;
   Routine routine(universe.Log, "OrrerixMain.Form_Resize");
-  routine.Run([&] { Redraw(routine, universe, state, view, drawing).Run(); });
+  Redraw redraw(routine, universe, state, view, drawing);
+  routine.Run([&] { redraw.Run(); });
+  redraw.Stack();
   return drawing;
 }
 

@@ -164,7 +164,8 @@ struct InfoBoxFoot {
 InfoBoxFoot FootOf(const Box& box, const PanelContent& content, const TextMeasure& measure) {
   const int width = WholeTwips(box.Width);
   const int sloganFont = OptFontSize(content.Slogan, measure, kSloganFont, width);
-  const int creditFont = OptFontSize(content.Credit, measure, kCreditFont, width / 2);
+  const int creditFont =
+      OptFontSize(content.Credit, measure, kCreditFont, WholeTwips(box.Width / 2));
   InfoBoxFoot foot{
       Label("WRTP", 0,
             {0, 0, box.Width,

@@ -66,7 +66,6 @@ bool ErrorLog::QueryUnload(bool importing) {
     return true;
   }
   loaded_ = false;
-  hasProgramError_ = false;
   return false;
 }
 

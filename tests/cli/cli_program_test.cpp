@@ -125,6 +125,31 @@ TEST_F(CommandLine, AnOlderUniverseFileIsReplaced) {
   EXPECT_EQ(Run("name 5 " + Database()).Output, "(5)\n");
 }
 
+TEST_F(CommandLine, AnImportThatCannotStampItsFileLeavesTheOlderOne) {
+  // The quote breaks the statements that copy the tables into the finished file.
+  fs::create_directory(folder.Path() / "it's");
+  folder.Write("it's/u.fl", "older");
+  const std::string file = (folder.Path() / "it's" / "u.fl").string();
+
+  const Answer answer =
+      Run("import --quiet --game " + Game().string() + " --database \"" + file + "\"");
+
+  EXPECT_EQ(answer.ExitCode, 1);
+  EXPECT_THAT(answer.Errors,
+              EndsWith("orrerix-cli: the import was given up; the universe file is not usable\n"));
+  EXPECT_EQ(Content(file), "older");
+}
+
+TEST_F(CommandLine, AnUnfinishedUniverseFileIsToldByName) {
+  folder.Write("u.fl", "");  // a database without any table
+
+  const Answer answer = Run("name 5 " + Database());
+
+  EXPECT_EQ(answer.ExitCode, 1);
+  EXPECT_EQ(answer.Errors, "orrerix-cli: '" + (folder.Path() / "u.fl").string() +
+                               "' is no finished universe file; import it anew\n");
+}
+
 TEST_F(CommandLine, AFolderThatIsNoGameCannotBeImported) {
   const Answer answer = Run("import --game " + folder.Path().string() + " " + Database());
 

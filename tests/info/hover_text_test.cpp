@@ -51,6 +51,20 @@ TEST_F(Hover, AnOwnedObjectTellsNameOwnerAndPlace) {
             " Pier Nine\r\n Lamps\r\n Lantern [X=D.6/Y=4.5]\r\n\r\n (Click for more) pier");
 }
 
+TEST_F(Hover, AnObjectWhosePlaceIsUnknownHasAnEmptyLineForIt) {
+  Add("DockObjects", {{"nickname", "pier"},
+                      {"realname", "Pier Nine"},
+                      {"MapX", 7},
+                      {"MapY", 4},
+                      {"PosY", 0.5}});
+  Object("pier", "lamp_grp", "");
+
+  EXPECT_EQ(Text("pier"),
+            " Pier Nine\r\n Short-Name-ID: lamp_grp\r\n \r\n\r\n (Click for more) pier");
+  ASSERT_THAT(log.Failures(), SizeIs(1));
+  EXPECT_EQ(log.Failures().front().What.Number, 94);
+}
+
 TEST_F(Hover, AnOwnerWithoutAGroupIsToldByItsNickname) {
   Dock("pier", "Pier Nine");
   Object("pier", "lamp_grp", "");

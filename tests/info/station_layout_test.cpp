@@ -162,6 +162,16 @@ TEST_F(PriceTableTest, EachTextHasTheLargestFontThatFitsItsLabel) {
   EXPECT_EQ(Find(table, "PricesHead", 0).FontSize, 23);
 }
 
+TEST_F(PriceTableTest, RowsBeforeACancelledFailureStay) {
+  messages.Answer = MessageAnswer::Cancel;
+  data.Prices = {{2, "commodity_gold", "50", "10"}, {1, "sys'a,mole,commodity_gold", "90", "40"}};
+
+  const ControlList table = LayOut(StationMode::Trades);
+
+  // Two heads and the row between them; the quote breaks the query for the next one's system.
+  EXPECT_THAT(table, SizeIs(5));
+}
+
 TEST_F(PriceTableTest, TradesAreNamedByGoodSystemAndStation) {
   data.Prices = {{2, "commodity_gold", "50", ""},
                  {1, "sys_a,pier,commodity_gold", "90", "40"},

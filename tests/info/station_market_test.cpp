@@ -86,6 +86,19 @@ TEST_F(MarketPrices, ARowThatIsInNoGroupIsAFailureAndCountsAsTheLast) {
   EXPECT_EQ(log.Failures().front().What.Number, 94);
 }
 
+TEST_F(MarketPrices, RowsBeforeACancelledFailureStay) {
+  messages.Answer = MessageAnswer::Cancel;
+  Price("pier", "commodity_food", 20, 2);
+  Add("BaseGoodPrices",
+      {{"SysNick", "sys_a"}, {"BaseNick", "pier"}, {"GoodNick", "commodity_gold"}, {"Sell", 2}});
+  Good("commodity_gold", "Gold", 40);
+  Price("pier", "commodity_water", 30, 1);
+
+  // What the second one charges above its list price cannot be said; there the reading ends.
+  EXPECT_THAT(Prices(), ElementsAre(PriceItem{2, "commodity_food", "20", ""},
+                                    PriceItem{2, "commodity_gold", "", ""}));
+}
+
 TEST_F(MarketPrices, WithNothingToSellThereAreNoTrades) {
   Price("pier", "commodity_gold", 50, 1);
   Price("mole", "commodity_gold", 90, 1);
@@ -171,6 +184,14 @@ TEST_F(ForSaleTest, ShipsAreFoundByTheirPackage) {
   EXPECT_EQ(data.Ships[0].Nickname, "arrow_package");
   EXPECT_EQ(data.Ships[0].RealName, "Arrow");
   EXPECT_THAT(data.Equipment, IsEmpty());
+}
+
+TEST_F(ForSaleTest, WhatWasFoundBeforeACancelledFailureStays) {
+  messages.Answer = MessageAnswer::Cancel;
+  Market("harbour", "arrow_package");
+  Market("harbour", "captain's_package");
+
+  EXPECT_THAT(Read("pier").Ships, SizeIs(1));
 }
 
 TEST_F(ForSaleTest, WhatThePlaceOnlyBuysIsNotForSale) {

@@ -420,6 +420,45 @@ TEST_F(Redraw, APointTooFarOffForAControlIsAFailureAndItsEndStaysAtTheCorner) {
   EXPECT_GT(Named(drawing, "Line1").at(0).Ends.X2, 0);
 }
 
+TEST_F(Redraw, AnEndWhosePlaceIsUnknownIsAFailureAndStaysAtTheCorner) {
+  Zoom(kTwoCells);
+  Add("JumpNodes", {{"nickname", "a"},
+                    {"MapX1", 7},
+                    {"MapY1", 4},
+                    {"MapX2", 8},
+                    {"MapY2", 4},
+                    {"PosY1", 0.5},
+                    {"PosX2", 0.5},
+                    {"PosY2", 0.5},
+                    {"Type", kJumpGate}});
+
+  const MapDrawing drawing = Draw();
+
+  const Control line = Named(drawing, "Line1").at(0);
+  EXPECT_EQ(line.Ends.X1, 0);
+  EXPECT_EQ(line.Ends.Y1, 0);
+  EXPECT_EQ(Named(drawing, "Image1").at(0).Tag,
+            "\r\n  Jumpgate\r\n   TO\r\n  Ember [X=D.6/Y=4.5]");
+  // The line's end, its icon, and its place in the tags of both icons.
+  EXPECT_EQ(log.Failures().size(), 4u);
+  for (const FailureEntry& entry : log.Failures()) EXPECT_EQ(entry.What.Number, 94);
+}
+
+TEST_F(Redraw, ACancelledRedrawShowsWhatItHadComeTo) {
+  messages.Answer = MessageAnswer::Cancel;
+  Jump(kJumpGate);
+  Lane();
+  Add("TradeLanes", {{"MapX1", 7}, {"MapY1", 4}, {"MapX2", 7}, {"MapY2", 4}, {"PosX1", 1e40}});
+  Lane();
+
+  const MapDrawing drawing = Draw();
+
+  // The second lane ends the redraw; the border is shown behind the lines only.
+  EXPECT_EQ(Named(drawing, "Line1").size(), 2u);
+  EXPECT_THAT(Layers(drawing),
+              ElementsAre("Hintergrund", "StarMapPic", "SysmapLabel", "Line1", "MenuFrame"));
+}
+
 TEST_F(Redraw, ACellBeyondTheGridIsAFailureOnceForEachStatement) {
   Add("JumpNodes", {{"nickname", "a"},
                     {"MapX1", 18},

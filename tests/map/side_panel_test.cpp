@@ -47,6 +47,15 @@ TEST_F(Panel, OptionsStandBelowTheToolsAndTheInfoBoxBelowThem) {
   EXPECT_EQ(info.Place.Left, options.Place.Left);
 }
 
+TEST_F(Panel, TheCreditLineMayTakeHalfTheInfoBoxRoundedToTheEvenTwip) {
+  content.Credit = std::string(28, 'x');
+
+  // Half of the info box's 6107 - 60 = 6047 twips is 3023.5, so 3024: 28 letters of 9 points.
+  EXPECT_EQ(Find(LayOut(6107).Controls, "WRTP", 1)->FontSize, 9);
+  // Half of 6045 is 3022.5, so 3022.
+  EXPECT_EQ(Find(LayOut(6105).Controls, "WRTP", 1)->FontSize, 8);
+}
+
 TEST_F(Panel, SwitchesAreThereOnlyWhenUnfolded) {
   EXPECT_EQ(Find(LayOut(7100).Controls, "SetImage", 0), nullptr);
 

@@ -115,13 +115,21 @@ TEST_F(Log, ClosedOutsideAnImportItStaysAway) {
 
   EXPECT_FALSE(log.QueryUnload(false));
   EXPECT_TRUE(log.LogWindowOpen());
-  EXPECT_FALSE(log.HasProgramError());
   log.AddErrorLine("second");
 
   EXPECT_EQ(view.Shown, 1);
   EXPECT_EQ(log.DataLog(), kHeading + "\r\nsecond");
   EXPECT_EQ(log.ProgramLog(), kProgramHeading);
   EXPECT_THAT(log.DataLines(), ElementsAre("first", "second"));
+}
+
+TEST_F(Log, ThatAFailureCameIsNeverForgotten) {
+  Report({6, "Overflow", "Orrerix"});
+
+  log.QueryUnload(true);
+  EXPECT_TRUE(log.HasProgramError());
+  log.QueryUnload(false);
+  EXPECT_TRUE(log.HasProgramError());
 }
 
 TEST_F(Log, WorksWithoutAWindow) {
