@@ -38,6 +38,7 @@ class ImportVerb {
   int Run() {
     const auto start = std::chrono::steady_clock::now();
     const fs::path target = RequireTarget();
+    RequireLogFile();
     const bool finished = Import(target);
     seconds_ = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
     WriteLog();
@@ -97,8 +98,8 @@ class ImportVerb {
       void Fail(const Failure&) override {}
     } ignore;
     for (const TableDef& table : database_.TableDefs(ignore)) {
-      Recordset rows = database_.OpenRecordset(
-          ignore, "SELECT count(*) AS rows FROM " + QuoteName(table.Name));
+      Recordset rows =
+          database_.OpenRecordset(ignore, "SELECT count(*) AS rows FROM " + QuoteName(table.Name));
       counts_.push_back({table.Name, *rows["rows"].Get().Whole()});
     }
   }
@@ -110,19 +111,26 @@ class ImportVerb {
     });
   }
 
+  // Asked for before the import, so that none is made in vain.
+  void RequireLogFile() const {
+    if (!import_.Log.empty()) OpenLogFile(std::ios::app);
+  }
+
+  std::ofstream OpenLogFile(std::ios::openmode mode) const {
+    std::ofstream file(import_.Log, std::ios::binary | mode);
+    if (!file) throw CouldNot(fmt::format("cannot write '{}'", import_.Log));
+    return file;
+  }
+
   void WriteLog() const {
-    std::ofstream file;
-    if (!import_.Log.empty()) {
-      file.open(import_.Log, std::ios::binary);
-      if (!file) throw CouldNot(fmt::format("cannot write '{}'", import_.Log));
+    if (import_.Log.empty()) {
+      if (options_.Json) return;
+      for (const std::string& line : log_.DataLines()) fmt::print("{}\n", line);
+      return;
     }
-    for (const std::string& line : log_.DataLines()) {
-      if (!import_.Log.empty()) {
-        file << line << '\n';
-      } else if (!options_.Json) {
-        fmt::print("{}\n", line);
-      }
-    }
+    std::ofstream file = OpenLogFile(std::ios::trunc);
+    for (const std::string& line : log_.DataLines()) file << line << '\n';
+    if (!file.flush()) throw CouldNot(fmt::format("cannot write '{}'", import_.Log));
   }
 
   void PrintJson(const fs::path& target) const {

@@ -113,7 +113,7 @@ QSize SizeOf(const RenderOptions& words, const MapScene& scene) {
 int RunRender(const CommonOptions& options, const RenderOptions& words) {
   const QString file = QString::fromStdString(words.File);
   const Writer write = WriterOf(file);
-  ParseExtent(words.Scene.Size);
+  ParseFormSize(words.Scene.Size);
   if (!words.Pixels.empty()) ParseExtent(words.Pixels);
   Database database = OpenUniverse(options);
   PolicyMessageBoxes messages(options);

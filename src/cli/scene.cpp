@@ -73,7 +73,7 @@ class SceneMap {
   SceneMap(Universe& universe, const CommonOptions& options, const SceneOptions& words)
       : universe_(universe),
         words_(words),
-        form_(ParseExtent(words.Size)),
+        form_(ParseFormSize(words.Size)),
         texts_(options.LanguageNumber()),
         panel_(PanelTexts(texts_)) {
     state_.Zoom.Reset(ParseZoom(words.Zoom));
@@ -176,6 +176,16 @@ Extent ParseExtent(const std::string& text) {
   const std::vector<int> sides = ParseNumbers(text, 'x', 2);
   if (sides[0] < 0 || sides[1] < 0) throw WrongUsage("'" + text + "' is no size");
   return {sides[0], sides[1]};
+}
+
+Extent ParseFormSize(const std::string& text) {
+  constexpr int largest = 32767 * 15;
+  const Extent form = ParseExtent(text);
+  if (form.Width > largest || form.Height > largest) {
+    throw WrongUsage("a form cannot be larger than " + std::to_string(largest) + " twips, as '" +
+                     text + "' is");
+  }
+  return form;
 }
 
 Scene DrawScene(Universe& universe, const CommonOptions& options, const SceneOptions& words) {

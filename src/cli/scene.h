@@ -49,6 +49,10 @@ struct Extent {
 };
 Extent ParseExtent(const std::string& text);
 
+// The outer size of a form, twips. No window is wider or higher than 32767 pixels of 15 twips; a
+// larger one would be filled with tiles without end, and throws WrongUsage too.
+Extent ParseFormSize(const std::string& text);
+
 struct Scene {
   Extent Form;
   ZoomRectangle Visible;

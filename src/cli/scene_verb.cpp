@@ -24,7 +24,7 @@ void PrintControl(const Control& control) {
 namespace {
 
 int RunScene(const CommonOptions& options, const SceneOptions& words) {
-  ParseExtent(words.Size);
+  ParseFormSize(words.Size);
   OpenedUniverse universe(options);
   const Scene scene = DrawScene(universe.Data, options, words);
   if (options.Json) {

@@ -85,7 +85,8 @@ TEST_F(CommandLine, VersionsAreTold) {
 TEST_F(CommandLine, WrongWordsAreWrongUsage) {
   for (const char* words :
        {"", "dance", "import", "import --game x --loud", "name", "name five",
-        "--language it name 5", "--on-failure maybe name 5", "scene --size 12 --database x"}) {
+        "--language it name 5", "--on-failure maybe name 5", "scene --size 12 --database x",
+        "scene --size 491506x9000 --database x", "scene --size 12000x491506 --database x"}) {
     const Answer answer = Run(words);
     EXPECT_EQ(answer.ExitCode, 2) << words;
     EXPECT_THAT(answer.Output, IsEmpty()) << words;
@@ -104,6 +105,17 @@ TEST_F(CommandLine, AnImportTellsTablesLogAndFailures) {
   EXPECT_GE(json["seconds"], 0);
   EXPECT_GT(json["log_lines"], 0);
   EXPECT_THAT(Content(folder.Path() / "log.txt"), HasSubstr("Cant find file: ["));
+}
+
+TEST_F(CommandLine, WithoutAPlaceForItsLogNoImportBegins) {
+  folder.Write("u.fl", "older");
+  const std::string log = (folder.Path() / "nowhere" / "log.txt").string();
+
+  const Answer answer = Import("--log " + log);
+
+  EXPECT_EQ(answer.ExitCode, 1);
+  EXPECT_EQ(answer.Errors, "orrerix-cli: cannot write '" + log + "'\n");
+  EXPECT_EQ(Content(folder.Path() / "u.fl"), "older");
 }
 
 TEST_F(CommandLine, WithoutALogFileTheLinesStandInTheAnswer) {
