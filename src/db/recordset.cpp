@@ -77,10 +77,14 @@ std::string FieldRef::RequireText() const {
   return value.Text();
 }
 
-std::int32_t FieldRef::RequireLong() const {
+double FieldRef::RequireNumber() const {
   const Value value = Get();
   if (value.IsNull()) throw RuntimeFailure(failure_number::kInvalidUseOfNull);
-  const auto number = ToLong(value.Number());
+  return value.Number();
+}
+
+std::int32_t FieldRef::RequireLong() const {
+  const auto number = ToLong(RequireNumber());
   if (!number) throw RuntimeFailure(failure_number::kOverflow);
   return *number;
 }

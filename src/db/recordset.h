@@ -30,10 +30,11 @@ class FieldRef {
   // Reading fails with 3021 where no row is and with 3265 where no such field is; both give Null.
   Value Get() const;
 
-  // The content where Null will not do: both throw failure 94 on Null, and RequireLong throws 6
+  // The content where Null will not do: all throw failure 94 on Null, and RequireLong throws 6
   // outside 32 bits.
   std::string RequireText() const;
   std::int32_t RequireLong() const;
+  double RequireNumber() const;
 
   bool IsNull() const { return Get().IsNull(); }
 

@@ -21,9 +21,12 @@ Box CellGeometry::CellBox(int x, int y) const {
           static_cast<double>(size_), static_cast<double>(size_)};
 }
 
-ScreenPoint CellGeometry::ScreenPosition(MapCell cell, CellFraction point) const {
-  return {static_cast<float>(CellLeft(cell.X) + size_ * point.X),
-          static_cast<float>(CellTop(cell.Y) + size_ * point.Y)};
+float CellGeometry::ScreenX(MapCell cell, double fraction) const {
+  return static_cast<float>(CellLeft(cell.X) + size_ * fraction);
+}
+
+float CellGeometry::ScreenY(MapCell cell, double fraction) const {
+  return static_cast<float>(CellTop(cell.Y) + size_ * fraction);
 }
 
 }  // namespace orrerix

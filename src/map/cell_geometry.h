@@ -31,8 +31,10 @@ class CellGeometry {
   int CellTop(int y) const { return size_ * (y - y1_); }
   Box CellBox(int x, int y) const;
 
-  // The product of size and fraction is formed in double and kept as float.
-  ScreenPoint ScreenPosition(MapCell cell, CellFraction point) const;
+  // Where a point of a cell stands. The product of size and fraction is formed in double and kept
+  // as float.
+  float ScreenX(MapCell cell, double fraction) const;
+  float ScreenY(MapCell cell, double fraction) const;
 
  private:
   int size_ = 0;

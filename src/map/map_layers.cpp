@@ -2,9 +2,8 @@
 #include "map/map_layers.h"
 
 #include <cmath>
-#include <optional>
-
-#include <fmt/format.h>
+#include <string_view>
+#include <utility>
 
 #include "derived/jump_objects.h"
 #include "map/numeric.h"
@@ -18,96 +17,90 @@ constexpr Color kGateLineInPrint{0x000000};
 constexpr Color kHoleLine{0x808080};
 constexpr Color kLaneLine{0xFF0000};
 
-// A point of the map as a table's row has it.
-struct MapPlace {
-  MapCell Cell;
-  std::optional<CellFraction> Point;  // nothing if a fraction is Null
+// The fields of a row that say where a point of it is.
+struct PlaceFields {
+  std::string_view MapX, MapY, PosX, PosY;
 };
 
-int CellNumber(const FieldRef& field) {
-  return static_cast<int>(field.Get().Number());
+constexpr PlaceFields kPlace{"mapx", "mapy", "posx", "posy"};
+constexpr PlaceFields kFrom{"mapx1", "mapy1", "posx1", "posy1"};
+constexpr PlaceFields kTo{"mapx2", "mapy2", "posx2", "posy2"};
+
+MapCell CellOf(Recordset& row, const PlaceFields& fields) {
+  return {row[fields.MapX].RequireLong(), row[fields.MapY].RequireLong()};
 }
 
-// `end` is the last digit of the field names, "" where a row has one point only.
-MapPlace PlaceOf(Recordset& row, const std::string& end) {
-  MapPlace place{{CellNumber(row["mapx" + end]), CellNumber(row["mapy" + end])}, std::nullopt};
-  const Value x = row["posx" + end].Get();
-  const Value y = row["posy" + end].Get();
-  if (!x.IsNull() && !y.IsNull()) place.Point = CellFraction{x.Number(), y.Number()};
-  return place;
-}
-
-// A place beyond the grid is a failure of each statement that uses it.
-void RequireCell(const MapPlace& place) {
-  if (!CellNames::Holds(place.Cell)) throw RuntimeFailure(failure_number::kSubscriptOutOfRange);
-}
-
-CellFraction RequirePoint(const MapPlace& place) {
-  if (!place.Point) throw RuntimeFailure(failure_number::kInvalidUseOfNull);
-  return *place.Point;
+MapCell RequireCell(Recordset& row, const PlaceFields& fields) {
+  const MapCell cell = CellOf(row, fields);
+  if (!CellNames::Holds(cell)) throw RuntimeFailure(failure_number::kSubscriptOutOfRange);
+  return cell;
 }
 
 // The scale of a system may put a point further off than a control can stand.
-ScreenPoint PointOf(const CellGeometry& cells, const MapPlace& place) {
-  RequireCell(place);
-  const ScreenPoint point = cells.ScreenPosition(place.Cell, RequirePoint(place));
-  if (!std::isfinite(point.X) || !std::isfinite(point.Y)) {
-    throw RuntimeFailure(failure_number::kOverflow);
-  }
-  return point;
+float RequireFinite(float twips) {
+  if (!std::isfinite(twips)) throw RuntimeFailure(failure_number::kOverflow);
+  return twips;
 }
 
-Control MakeLine(Routine& routine, int index, const CellGeometry& cells, const MapPlace& from,
-                 const MapPlace& to) {
+float ScreenX(const CellGeometry& cells, Recordset& row, const PlaceFields& fields) {
+  return RequireFinite(cells.ScreenX(RequireCell(row, fields), row[fields.PosX].RequireNumber()));
+}
+
+float ScreenY(const CellGeometry& cells, Recordset& row, const PlaceFields& fields) {
+  return RequireFinite(cells.ScreenY(RequireCell(row, fields), row[fields.PosY].RequireNumber()));
+}
+
+Control MakeLine(int index, LineStyle style, Color color) {
   Control line;
   line.Kind = ControlKind::Line;
   line.Name = "Line1";
   line.Index = index;
-  routine.Try([&] {
-    const ScreenPoint point = PointOf(cells, from);
-    line.Ends.X1 = point.X;
-    line.Ends.Y1 = point.Y;
-  });
-  routine.Try([&] {
-    const ScreenPoint point = PointOf(cells, to);
-    line.Ends.X2 = point.X;
-    line.Ends.Y2 = point.Y;
-  });
+  line.Style = style;
+  line.BorderColor = color;
+  line.Tag = "";
   return line;
+}
+
+// A place that the row does not tell, or one beyond the grid, is a failure of each statement that
+// uses it.
+void PlaceEnds(Routine& routine, const CellGeometry& cells, Recordset& row, Control& line) {
+  routine.Try([&] { line.Ends.X1 = ScreenX(cells, row, kFrom); });
+  routine.Try([&] { line.Ends.Y1 = ScreenY(cells, row, kFrom); });
+  routine.Try([&] { line.Ends.X2 = ScreenX(cells, row, kTo); });
+  routine.Try([&] { line.Ends.Y2 = ScreenY(cells, row, kTo); });
 }
 
 // An icon centred on its point: smaller the more columns are shown, but never below 40 twips.
 Control MakeIcon(Routine& routine, int index, const CellGeometry& cells,
-                 const ZoomRectangle& visible, const MapPlace& place, std::string picture) {
+                 const ZoomRectangle& visible, Recordset& row, const PlaceFields& fields,
+                 std::string picture) {
   const auto size = static_cast<float>(MAXI(40.0, 200.0 / visible.Columns()));
   ScreenPoint point;
-  routine.Try([&] { point = PointOf(cells, place); });
+  routine.Try([&] { point.X = ScreenX(cells, row, fields); });
+  routine.Try([&] { point.Y = ScreenY(cells, row, fields); });
   const double half = size / 2.0;
   const Box box{static_cast<float>(point.X - half), static_cast<float>(point.Y - half), size, size};
-  return MakePicture("Image1", index, box, std::move(picture));
+  Control icon = MakePicture("Image1", index, box, std::move(picture));
+  icon.Tag = "";
+  return icon;
 }
 
-std::string NameOf(Routine& routine, const CellNames& names, const MapPlace& place) {
-  std::string name;
-  routine.Try([&] {
-    RequireCell(place);
-    name = names.Of(place.Cell);
-  });
-  return name;
+std::string LineTag(Recordset& row, const CellNames& names) {
+  const std::string& from = names.Of(RequireCell(row, kFrom));
+  return from + " <-> " + names.Of(RequireCell(row, kTo));
 }
 
 // What the hover box of a jump icon shows: its kind, where it is and where it leads.
-std::string JumpTag(Routine& routine, Universe& universe, const MapState& state, int type,
-                    const MapPlace& here, const MapPlace& there) {
-  const auto coords = [&](const MapPlace& place) {
-    std::string text;
-    routine.Try([&] {
-      text = CoordsToMapCoords(universe.Log, state.Names, place.Cell, RequirePoint(place));
-    });
-    return text;
+std::string JumpTag(Universe& universe, const CellNames& names, Recordset& row,
+                    const PlaceFields& here, const PlaceFields& there) {
+  const auto coords = [&](const PlaceFields& fields) {
+    return CoordsToMapCoords(universe.Log, names, CellOf(row, fields),
+                             {row[fields.PosX].RequireNumber(), row[fields.PosY].RequireNumber()});
   };
-  return fmt::format("\r\n  {}\r\n  {} TO\r\n  {}", type == kJumpHole ? "Jumphole" : "Jumpgate",
-                     coords(here), coords(there));
+  std::string tag = row["Type"].Get().Number() == kJumpHole ? "\r\n  Jumphole" : "\r\n  Jumpgate";
+  tag += "\r\n  " + coords(here) + " TO";
+  tag += "\r\n  " + coords(there);
+  return tag;
 }
 
 bool IsLineOn(int type, const MapOptions& options) {
@@ -124,22 +117,20 @@ void AddJumpConnections(Routine& routine, Universe& universe, const MapState& st
   for (Recordset nodes =
            universe.DB.OpenRecordset(routine, "SELECT * from JumpNodes ORDER BY Type");
        !nodes.AtEnd(); nodes.MoveNext()) {
-    const int type = CellNumber(nodes["Type"]);
-    const MapPlace from = PlaceOf(nodes, "1");
-    const MapPlace to = PlaceOf(nodes, "2");
+    const auto type = static_cast<int>(nodes["Type"].Get().Number());
     if (IsLineOn(type, options)) {
-      Control line = MakeLine(routine, counters.Line++, cells, from, to);
-      line.Style = static_cast<LineStyle>(type);
       const Color gate = state.PrintMode ? kGateLineInPrint : kGateLine;
-      line.BorderColor = type == kJumpHole ? kHoleLine : gate;
-      line.Tag = NameOf(routine, state.Names, from) + " <-> " + NameOf(routine, state.Names, to);
+      Control line = MakeLine(counters.Line++, static_cast<LineStyle>(type),
+                              type == kJumpHole ? kHoleLine : gate);
+      routine.Try([&] { line.Tag = LineTag(nodes, state.Names); });
+      PlaceEnds(routine, cells, nodes, line);
       layers.Lines.push_back(std::move(line));
     }
     if (!visible.IsZoomed()) continue;
     const std::string picture = type == kJumpHole ? "JumpHole" : "Jumpgate";
-    for (const auto& [here, there] : {std::pair{from, to}, std::pair{to, from}}) {
-      Control icon = MakeIcon(routine, counters.Image++, cells, visible, here, picture);
-      icon.Tag = JumpTag(routine, universe, state, type, here, there);
+    for (const auto& [here, there] : {std::pair{kFrom, kTo}, std::pair{kTo, kFrom}}) {
+      Control icon = MakeIcon(routine, counters.Image++, cells, visible, nodes, here, picture);
+      routine.Try([&] { icon.Tag = JumpTag(universe, state.Names, nodes, here, there); });
       layers.Icons.push_back(std::move(icon));
     }
   }
@@ -149,11 +140,9 @@ void AddTradeLaneLines(Routine& routine, Universe& universe, const CellGeometry&
                        ElementCounters& counters, ControlList& lines) {
   for (Recordset lanes = universe.DB.OpenRecordset(routine, "SELECT * from TradeLanes");
        !lanes.AtEnd(); lanes.MoveNext()) {
-    Control line =
-        MakeLine(routine, counters.Line++, cells, PlaceOf(lanes, "1"), PlaceOf(lanes, "2"));
-    line.Style = LineStyle::Solid;
-    line.BorderColor = kLaneLine;
+    Control line = MakeLine(counters.Line++, LineStyle::Solid, kLaneLine);
     line.Tag = lanes["realname"].Get().Text() + " <-> " + lanes["realname2"].Get().Text();
+    PlaceEnds(routine, cells, lanes, line);
     lines.push_back(std::move(line));
   }
 }
@@ -168,8 +157,7 @@ void AddObjectIcons(Routine& routine, Universe& universe, const MapState& state,
            {visible.X1, visible.X2, visible.Y1, visible.Y2});
        !objects.AtEnd(); objects.MoveNext()) {
     const std::string picture(ObjectPicture(objects["loadout"].Get().Text()));
-    Control icon =
-        MakeIcon(routine, counters.Image++, cells, visible, PlaceOf(objects, ""), picture);
+    Control icon = MakeIcon(routine, counters.Image++, cells, visible, objects, kPlace, picture);
     icon.Tag = objects["nickname"].Get().Text();
     icons.push_back(std::move(icon));
   }

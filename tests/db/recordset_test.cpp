@@ -282,6 +282,7 @@ TEST_F(OpenRecordset, NullWillNotDoWhereATextOrANumberIsRequired) {
 
   EXPECT_EQ(rows["name"].RequireText(), "12");
   EXPECT_EQ(rows["name"].RequireLong(), 12);
+  EXPECT_EQ(rows["name"].RequireNumber(), 12);
   try {
     rows["long"].RequireLong();
     ADD_FAILURE() << "no failure";

@@ -48,10 +48,8 @@ TEST(CellGeometry, CellsBeyondTheRectangleLieBeyondTheFrame) {
 TEST(CellGeometry, APointIsItsCellPlusAFractionOfItKeptAsFloat) {
   const CellGeometry cells({0, 0, 900, 950}, {});  // cells of 50 twips
 
-  const ScreenPoint point = cells.ScreenPosition({2, 3}, {0.1, 1.0 / 3});
-
-  EXPECT_EQ(point.X, 105.0F);
-  EXPECT_EQ(point.Y, static_cast<float>(150 + 50.0 / 3));
+  EXPECT_EQ(cells.ScreenX({2, 3}, 0.1), 105.0F);
+  EXPECT_EQ(cells.ScreenY({2, 3}, 1.0 / 3), static_cast<float>(150 + 50.0 / 3));
 }
 
 }  // namespace
