@@ -18,6 +18,10 @@ bool IsDigit(char c) {
   return c >= '0' && c <= '9';
 }
 
+bool IsOneOf(char c, std::string_view characters) {
+  return characters.find(c) != std::string_view::npos;
+}
+
 // A positive number as its significant digits and the power of ten of the first one.
 struct Decimal {
   std::string Digits;  // up to 15, without trailing zeros
@@ -91,7 +95,15 @@ double Val(std::string_view text) {
   if (negative || text[at] == '+') ++at;
   const std::size_t start = at;
   std::size_t digits = 0;
-  while (at < text.size() && IsDigit(text[at])) ++at, ++digits;
+  std::int64_t whole = 0;
+  for (; at < text.size() && IsDigit(text[at]); ++at, ++digits) {
+    if (digits < kSignificantDigits) whole = whole * 10 + (text[at] - '0');
+  }
+  const bool isWhole = at == text.size() || !IsOneOf(text[at], ".eE");
+  if (isWhole && digits <= kSignificantDigits) {
+    const auto number = static_cast<double>(whole);
+    return negative ? -number : number;
+  }
   if (at < text.size() && text[at] == '.') {
     ++at;
     while (at < text.size() && IsDigit(text[at])) ++at, ++digits;
@@ -115,7 +127,7 @@ double Val(std::string_view text) {
 }
 
 std::string NumberText(std::int64_t number) {
-  return fmt::format("{}", number);
+  return std::to_string(number);
 }
 
 std::string NumberText(double number) {
