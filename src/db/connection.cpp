@@ -111,6 +111,13 @@ void Connection::Hold(const TableDef& table) {
   tables_[FoldAscii(table.Name)] = held_.back().SharedDefinition();
 }
 
+HeldRows* Connection::Held(const std::shared_ptr<const TableDef>& table) {
+  for (HeldRows& rows : held_) {
+    if (rows.SharedDefinition() == table) return &rows;
+  }
+  return nullptr;
+}
+
 HeldRows* Connection::Held(std::string_view table) {
   for (HeldRows& rows : held_) {
     if (EqualIgnoringCase(rows.Definition().Name, table)) return &rows;
