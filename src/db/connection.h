@@ -75,7 +75,7 @@ class Connection {
 
   // Keeps what is appended to a table, which has neither rows nor its key yet, in memory. As soon
   // as a statement asks for the table it is filled and gets its key; a late key it gets as soon as
-  // a statement changes its rows.
+  // a statement adds rows or changes the key's fields.
   void Hold(const TableDef& table);
   // A table in memory, by its name or, which takes less, by the definition it is held by; nothing
   // if it is a table like any other.
@@ -102,6 +102,7 @@ class Connection {
  private:
   static int NoteTable(void* self, int action, const char* first, const char* second,
                        const char* database, const char* trigger);
+  bool IsKeyField(const char* table, const char* field) const;
   void WriteAskedFor();
   void WriteTable(std::string_view table);
   void MakeLateKey(std::string_view table);
@@ -112,7 +113,7 @@ class Connection {
   std::vector<TableDef> lateKeys_;  // not made yet
   struct Request {
     std::string Table;
-    bool ChangesRows;
+    bool ChangesKeys;
   };
   std::vector<Request> askedFor_;  // by the statement just prepared
   std::unordered_map<std::string, PreparedStatement> statements_;

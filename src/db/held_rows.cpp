@@ -25,16 +25,18 @@ HeldRows::HeldRows(TableDef table) : table_(std::make_shared<TableDef>(std::move
 // The lengths keep ("ab", "c") and ("a", "bc") apart. The engine compares texts of one length no
 // further than to a NUL, and without regard to the case of ASCII letters.
 void HeldRows::AddToKey(std::string& key, const Value& value) {
-  const std::string text = FoldAscii(value.Text());
-  key += std::to_string(text.size());
+  const std::string* text = value.TextContent();
+  const std::string number = text == nullptr ? value.Text() : std::string();
+  const std::string_view content = text == nullptr ? number : *text;
+  key += std::to_string(content.size());
   key += ':';
-  key += std::string_view(text).substr(0, text.find('\0'));
+  AppendFolded(key, content.substr(0, content.find('\0')));
 }
 
-std::string HeldRows::KeyOf(std::span<const Value> row) const {
-  std::string key;
-  for (const std::size_t field : keyFields_) AddToKey(key, row[field]);
-  return key;
+std::string_view HeldRows::KeyOf(std::span<const Value> row) {
+  key_.clear();
+  for (const std::size_t field : keyFields_) AddToKey(key_, row[field]);
+  return key_;
 }
 
 bool HeldRows::IsKeyedBy(std::string_view field) const {

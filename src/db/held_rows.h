@@ -50,12 +50,13 @@ class HeldRows {
 
  private:
   static void AddToKey(std::string& key, const Value& value);
-  std::string KeyOf(std::span<const Value> row) const;
+  std::string_view KeyOf(std::span<const Value> row);
   Cell Keep(const Value& value);
 
   std::shared_ptr<const TableDef> table_;
   std::vector<std::size_t> keyFields_;
   std::unordered_map<std::string_view, std::size_t> keys_;  // with their rows
+  std::string key_;                                         // of the row to come
   TextStore texts_;
   std::vector<std::vector<Cell>> chunks_;  // of a fixed number of rows, row by row
   std::size_t rowCount_ = 0;

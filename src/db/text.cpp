@@ -69,9 +69,16 @@ std::string Lcase(std::string_view text) {
 }
 
 std::string FoldAscii(std::string_view text) {
-  std::string folded(text);
-  std::transform(folded.begin(), folded.end(), folded.begin(), LowerAscii());
+  std::string folded;
+  AppendFolded(folded, text);
   return folded;
+}
+
+void AppendFolded(std::string& folded, std::string_view text) {
+  const std::size_t begin = folded.size();
+  folded.append(text);
+  std::transform(folded.begin() + static_cast<std::ptrdiff_t>(begin), folded.end(),
+                 folded.begin() + static_cast<std::ptrdiff_t>(begin), LowerAscii());
 }
 
 bool EqualIgnoringCase(std::string_view a, std::string_view b) {

@@ -19,6 +19,7 @@ std::size_t AsciiLength(std::string_view text);
 
 // ASCII letters folded to lower case; the form in which the engine compares texts.
 std::string FoldAscii(std::string_view text);
+void AppendFolded(std::string& folded, std::string_view text);
 
 // Whether two texts are equal when the case of ASCII letters is ignored.
 bool EqualIgnoringCase(std::string_view a, std::string_view b);

@@ -153,15 +153,20 @@ TEST_F(HeldTable, ObeysItsKeyBeforeAndBehindTheFirstQuestion) {
   }
 }
 
-TEST_F(HeldTable, ALateKeyWaitsForAChangeOfItsRows) {
-  db.CreateHeldTable(mustWork, Goods(true));
-  Add(mustWork, "a", "water", 1);
-  EXPECT_EQ(Count(), 1u);
-  EXPECT_EQ(Keys(), 0u);
+TEST_F(HeldTable, ALateKeyWaitsForAChangeOfItsFieldsOrForMoreRows) {
+  for (const char* change :
+       {"UPDATE goods SET GOOD = 'wine'", "INSERT INTO goods (base) VALUES ('b')"}) {
+    db = DBEngine::CreateInMemory(mustWork);
+    db.CreateHeldTable(mustWork, Goods(true));
+    Add(mustWork, "a", "water", 1);
+    EXPECT_EQ(Count(), 1u);
+    db.Execute(mustWork, "UPDATE goods SET price = 2");
+    EXPECT_EQ(Keys(), 0u);
 
-  db.Execute(mustWork, "UPDATE goods SET price = 2");
+    db.Execute(mustWork, change);
 
-  EXPECT_EQ(Keys(), 1u);
+    EXPECT_EQ(Keys(), 1u) << change;
+  }
 }
 
 TEST_F(HeldTable, IsAskedForByItsTableNotByAFieldOfItsName) {
