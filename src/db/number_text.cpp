@@ -18,10 +18,6 @@ bool IsDigit(char c) {
   return c >= '0' && c <= '9';
 }
 
-bool IsOneOf(char c, std::string_view characters) {
-  return characters.find(c) != std::string_view::npos;
-}
-
 // A positive number as its significant digits and the power of ten of the first one.
 struct Decimal {
   std::string Digits;  // up to 15, without trailing zeros
@@ -89,8 +85,9 @@ bool IsTiny(std::string_view number) {
 }  // namespace
 
 double Val(std::string_view text) {
-  std::size_t at = text.find_first_not_of(" \t");
-  if (at == std::string_view::npos) return 0;
+  std::size_t at = 0;
+  while (at < text.size() && (text[at] == ' ' || text[at] == '\t')) ++at;
+  if (at == text.size()) return 0;
   const bool negative = text[at] == '-';
   if (negative || text[at] == '+') ++at;
   const std::size_t start = at;
@@ -99,7 +96,8 @@ double Val(std::string_view text) {
   for (; at < text.size() && IsDigit(text[at]); ++at, ++digits) {
     if (digits < kSignificantDigits) whole = whole * 10 + (text[at] - '0');
   }
-  const bool isWhole = at == text.size() || !IsOneOf(text[at], ".eE");
+  const char next = at < text.size() ? text[at] : ' ';
+  const bool isWhole = next != '.' && next != 'e' && next != 'E';
   if (isWhole && digits <= kSignificantDigits) {
     const auto number = static_cast<double>(whole);
     return negative ? -number : number;
