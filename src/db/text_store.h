@@ -2,9 +2,12 @@
 // Many texts that live and end together.
 #pragma once
 
+#include <algorithm>
+#include <cstddef>
 #include <memory>
-#include <memory_resource>
+#include <span>
 #include <string_view>
+#include <vector>
 
 namespace orrerix {
 
@@ -12,17 +15,26 @@ namespace orrerix {
 // them to be made and given back.
 class TextStore {
  public:
-  TextStore() : memory_(std::make_unique<std::pmr::monotonic_buffer_resource>()) {}
-
   // A copy of the text; it stays where it is, also when the store is moved. That of an empty text
   // has a place, too: to the engine a text without one is Null.
   std::string_view Keep(std::string_view text) {
-    auto* kept = static_cast<char*>(memory_->allocate(text.size() + 1, 1));
-    return {kept, text.copy(kept, text.size())};
+    if (text.size() >= free_.size()) MakeRoom(text.size() + 1);
+    char* kept = free_.data();
+    free_ = free_.subspan(text.copy(kept, text.size()));
+    return {kept, text.size()};
   }
 
  private:
-  std::unique_ptr<std::pmr::monotonic_buffer_resource> memory_;
+  void MakeRoom(std::size_t size) {
+    constexpr std::size_t most = 1 << 16;
+    const std::size_t room = std::max(size, nextRoom_);
+    free_ = {blocks_.emplace_back(std::make_unique_for_overwrite<char[]>(room)).get(), room};
+    nextRoom_ = std::min(2 * nextRoom_, most);
+  }
+
+  std::vector<std::unique_ptr<char[]>> blocks_;
+  std::span<char> free_;  // at the end of the last block
+  std::size_t nextRoom_ = 1 << 10;
 };
 
 }  // namespace orrerix

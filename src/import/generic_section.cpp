@@ -54,6 +54,13 @@ std::string_view TrimControlsBack(std::string_view text) {
   return text;
 }
 
+// Whether a text stays as it is in lower case.
+bool IsLowerAscii(std::string_view text) {
+  return std::none_of(text.begin(), text.end(), [](char c) {
+    return static_cast<signed char>(c) < 0 || (c >= 'A' && c <= 'Z');
+  });
+}
+
 // Takes the next line off a block.
 std::string_view TakeLine(std::string_view& rest) {
   rest = TrimControlsFront(rest);
@@ -89,7 +96,7 @@ class RowReader {
   void ReadLine(std::string_view line) {
     const std::size_t sign = line.find('=');
     if (sign == std::string_view::npos) return;
-    std::string key = KeyText(line.substr(0, sign));
+    std::string_view key = KeyText(line.substr(0, sign));
     std::string_view value = Trim(line.substr(sign + 1));
     if (key == "shield_mod") SplitShieldMod(key, value);
     if (key.empty() || value.empty()) return;
@@ -98,19 +105,23 @@ class RowReader {
     routine_.ClearPair();
   }
 
-  std::string KeyText(std::string_view bytes) {
-    return Lcase(FromWindows1252(Trim(bytes), converted_));
+  // Good until the next one.
+  std::string_view KeyText(std::string_view bytes) {
+    bytes = Trim(bytes);
+    if (IsLowerAscii(bytes)) return bytes;
+    key_ = Lcase(FromWindows1252(bytes, converted_));
+    return key_;
   }
 
   // The value is two things: the shield's type, which becomes the key, and the figure.
-  void SplitShieldMod(std::string& key, std::string_view& value) {
+  void SplitShieldMod(std::string_view& key, std::string_view& value) {
     const std::string_view both = value;
     routine_.Try([&] { key = KeyText(RequireBeforeComma(both)); });
     const CommaCut cut = CutAtComma(both);
     value = Trim(cut.Found ? cut.Behind : cut.Before);
   }
 
-  void Store(const std::string& key, std::string_view value) {
+  void Store(std::string_view key, std::string_view value) {
     auto field = table_.FindField(key, nextField_);
     if (!field) {
       field = AddField(key);
@@ -124,7 +135,7 @@ class RowReader {
 
   // The table changes under the open row: the row is written as it stands and taken up again.
   // Nothing if the field could not be added; its value is then dropped.
-  std::optional<SectionTable::FieldIndex> AddField(const std::string& key) {
+  std::optional<SectionTable::FieldIndex> AddField(std::string_view key) {
     std::optional<SectionTable::FieldIndex> field;
     std::int32_t rowID = table_.RowID();
     routine_.Try([this] { table_.Update(); });
@@ -153,7 +164,7 @@ class RowReader {
     return rowID;
   }
 
-  void WarnOfDoubleData(const std::string& key, SectionTable::FieldIndex field) {
+  void WarnOfDoubleData(std::string_view key, SectionTable::FieldIndex field) {
     const std::string_view* before = table_.Get(field);
     if (before == nullptr || Len(*before) <= 1 || IsOneOf(kRepeating, key)) return;
     import_.Target.Log.AddErrorLine(
@@ -166,6 +177,7 @@ class RowReader {
   ReaderRoutine& routine_;
   SectionTable& table_;
   std::string_view file_;
+  std::string key_;
   std::string converted_;
   SectionTable::FieldIndex nextField_ = 0;  // rows of one section mostly name their keys in order
   bool stored_ = false;

@@ -397,17 +397,17 @@ void KnownSections::ReadLoadout(BlockText block) {
   constexpr std::string_view equipTight = "EQUIP=";
   const std::string nickname = TextValue(block, "NICKNAME");
   BlockText copy = block;
-  while (block.Holds(cargo) || block.Holds(cargoTight)) {
+  for (auto place = block.Find(cargo); place || block.Holds(cargoTight);
+       place = block.Find(cargo)) {
     routine_.AddNew(loadoutCargo_, RetryState::Loadout_Cargo_Cargo);
     loadoutCargo_["NickName"] = nickname;
     const CommaCut value = CutAtComma(block.Value("CARGO"));
     loadoutCargo_["Cargo"] = Text(Trim(value.Before));
     if (value.Found) loadoutCargo_["Count"] = Val(value.Behind);
     loadoutCargo_.Update();
-    const auto place = block.Find(cargo);
     block.Cut(place ? *place + cargo.size() : *block.Find(cargoTight) + cargoTight.size());
   }
-  while (copy.Holds(equip) || copy.Holds(equipTight)) {
+  for (auto place = copy.Find(equip); place || copy.Holds(equipTight); place = copy.Find(equip)) {
     routine_.AddNew(loadoutCargo_, RetryState::Loadout_Cargo_Equip);
     loadoutCargo_["NickName"] = nickname;
     loadoutCargo_["Cargo"] = Text(Trim(CutAtComma(copy.Value("EQUIP")).Before));
@@ -415,7 +415,6 @@ void KnownSections::ReadLoadout(BlockText block) {
     loadoutCargo_.Update();
     // Only the form with the blank is cut away; the other is read until it is used up, character
     // by character of the sign's length.
-    const auto place = copy.Find(equip);
     copy.Cut(place ? *place + 1 + equip.size() : equip.size());
   }
 }
