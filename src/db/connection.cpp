@@ -111,6 +111,13 @@ void Connection::Hold(const TableDef& table) {
   tables_[FoldAscii(table.Name)] = held_.back().SharedDefinition();
 }
 
+HeldRows* Connection::Held(const std::shared_ptr<const TableDef>& table) {
+  for (HeldRows& rows : held_) {
+    if (rows.SharedDefinition() == table) return &rows;
+  }
+  return nullptr;
+}
+
 HeldRows* Connection::Held(std::string_view table) {
   for (HeldRows& rows : held_) {
     if (EqualIgnoringCase(rows.Definition().Name, table)) return &rows;
@@ -126,17 +133,27 @@ int Connection::NoteTable(void* self, int action, const char* first, const char*
   const bool isHere =
       database == nullptr || action == SQLITE_ALTER_TABLE || std::string_view(database) == "main";
   if (table == nullptr || !isHere) return SQLITE_OK;
-  const bool changesRows = action == SQLITE_INSERT || action == SQLITE_UPDATE;
-  if (connection.Held(table) != nullptr || (changesRows && !connection.lateKeys_.empty())) {
-    connection.askedFor_.push_back({table, changesRows});
+  const bool changesKeys =
+      action == SQLITE_INSERT || (action == SQLITE_UPDATE && connection.IsKeyField(table, second));
+  if (connection.Held(table) != nullptr || (changesKeys && !connection.lateKeys_.empty())) {
+    connection.askedFor_.push_back({table, changesKeys});
   }
   return SQLITE_OK;
+}
+
+// A field of a table that is not known counts.
+bool Connection::IsKeyField(const char* table, const char* field) const {
+  const auto known = tables_.find(FoldAscii(table));
+  if (known == tables_.end()) return true;
+  const auto& key = known->second->PrimaryKey;
+  return key && std::any_of(key->Fields.begin(), key->Fields.end(),
+                            [field](const auto& name) { return EqualIgnoringCase(name, field); });
 }
 
 void Connection::WriteAskedFor() {
   for (const Request& request : std::exchange(askedFor_, {})) {
     WriteTable(request.Table);
-    if (request.ChangesRows) MakeLateKey(request.Table);
+    if (request.ChangesKeys) MakeLateKey(request.Table);
   }
 }
 

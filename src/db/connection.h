@@ -3,7 +3,6 @@
 #pragma once
 
 #include <filesystem>
-#include <map>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -16,6 +15,7 @@
 #include "db/held_rows.h"
 #include "db/query_text.h"
 #include "db/table_def.h"
+#include "db/text.h"
 #include "db/value.h"
 
 namespace orrerix {
@@ -75,9 +75,12 @@ class Connection {
 
   // Keeps what is appended to a table, which has neither rows nor its key yet, in memory. As soon
   // as a statement asks for the table it is filled and gets its key; a late key it gets as soon as
-  // a statement changes its rows.
+  // a statement adds rows or changes the key's fields.
   void Hold(const TableDef& table);
-  HeldRows* Held(std::string_view table);  // nothing if it is a table like any other
+  // A table in memory, by its name or, which takes less, by the definition it is held by; nothing
+  // if it is a table like any other.
+  HeldRows* Held(std::string_view table);
+  HeldRows* Held(const std::shared_ptr<const TableDef>& table);
   void WriteHeld();                        // with all keys
   std::vector<HeldRows> TakeHeld();
 
@@ -99,6 +102,7 @@ class Connection {
  private:
   static int NoteTable(void* self, int action, const char* first, const char* second,
                        const char* database, const char* trigger);
+  bool IsKeyField(const char* table, const char* field) const;
   void WriteAskedFor();
   void WriteTable(std::string_view table);
   void MakeLateKey(std::string_view table);
@@ -109,13 +113,14 @@ class Connection {
   std::vector<TableDef> lateKeys_;  // not made yet
   struct Request {
     std::string Table;
-    bool ChangesRows;
+    bool ChangesKeys;
   };
   std::vector<Request> askedFor_;  // by the statement just prepared
   std::unordered_map<std::string, PreparedStatement> statements_;
-  std::map<std::string, Query, std::less<>> queries_;          // as they stand
-  std::map<std::string, Query, std::less<>> editableQueries_;  // with the numbers of their rows
-  std::map<std::string, std::shared_ptr<const TableDef>, std::less<>> tables_;
+  std::unordered_map<std::string, Query, TextHash, std::equal_to<>> queries_;  // as they stand
+  // With the numbers of their rows.
+  std::unordered_map<std::string, Query, TextHash, std::equal_to<>> editableQueries_;
+  std::unordered_map<std::string, std::shared_ptr<const TableDef>> tables_;
 };
 
 // Binds one parameter, counted from 1, or all of them in their order.

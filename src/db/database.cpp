@@ -163,6 +163,19 @@ Recordset Database::OpenRecordset(FailureSink& sink, std::string_view text,
   return recordset;
 }
 
+std::optional<Value> Database::LookUp(FailureSink& sink, std::string_view table,
+                                      std::string_view field, std::string_view keyField,
+                                      std::int64_t key) {
+  const HeldRows* held = IsOpen() ? connection_->Held(table) : nullptr;
+  if (held != nullptr && held->IsKeyedBy(keyField)) {
+    const auto row = held->Find(key);
+    return row ? std::optional(held->Content(*row, field)) : std::nullopt;
+  }
+  Recordset found = OpenRecordset(
+      sink, fmt::format("SELECT {} from {} WHERE {} = {{}}", field, table, keyField), {key});
+  return found.AtEnd() ? std::nullopt : std::optional(found[std::size_t{0}].Get());
+}
+
 Recordset Database::OpenTable(FailureSink& sink, std::string_view table) {
   Recordset recordset;
   recordset.sink_ = &sink;

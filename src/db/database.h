@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <initializer_list>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -65,6 +66,11 @@ class Database {
   Recordset OpenRecordset(FailureSink& sink, std::string_view text,
                           std::initializer_list<Value> values = {},
                           RecordsetType type = RecordsetType::Snapshot);
+
+  // What a field holds in the first row whose `keyField`, a number, has this value; nothing if
+  // there is no such row or the question fails. A table in memory that has this key stays there.
+  std::optional<Value> LookUp(FailureSink& sink, std::string_view table, std::string_view field,
+                              std::string_view keyField, std::int64_t key);
 
   // Opens a table to append to; it shows no rows.
   Recordset OpenTable(FailureSink& sink, std::string_view table);

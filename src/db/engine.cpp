@@ -72,7 +72,10 @@ Database DBEngine::CreateDatabase(FailureSink& sink, const fs::path& path,
       throw EngineFailure(3204, fmt::format("Database '{}' already exists.", path.string()));
     }
     auto connection = Connect(path, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
-    Run(*connection, fmt::format("PRAGMA user_version = {}", static_cast<int>(option)));
+    // A file that holds nothing yet has nothing to lose with the power.
+    Run(*connection, fmt::format("PRAGMA synchronous = OFF; PRAGMA user_version = {}; "
+                                 "PRAGMA synchronous = FULL",
+                                 static_cast<int>(option)));
     return connection;
   });
 }

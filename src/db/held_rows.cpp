@@ -15,9 +15,7 @@ constexpr std::size_t kRowsOfChunk = 64;
 
 }  // namespace
 
-HeldRows::HeldRows(TableDef table)
-    : table_(std::make_shared<TableDef>(std::move(table))),
-      texts_(std::make_unique<std::pmr::monotonic_buffer_resource>()) {
+HeldRows::HeldRows(TableDef table) : table_(std::make_shared<TableDef>(std::move(table))) {
   if (!table_->PrimaryKey) return;
   for (const std::string& field : table_->PrimaryKey->Fields) {
     keyFields_.push_back(*table_->Find(field));
@@ -25,15 +23,37 @@ HeldRows::HeldRows(TableDef table)
 }
 
 // The lengths keep ("ab", "c") and ("a", "bc") apart. The engine compares texts of one length no
-// further than to a NUL.
-std::string HeldRows::KeyOf(std::span<const Value> row) const {
-  std::string key;
-  for (const std::size_t field : keyFields_) {
-    const std::string text = FoldAscii(row[field].Text());
-    key += std::to_string(text.size()) + ':';
-    key += std::string_view(text).substr(0, text.find('\0'));
-  }
-  return key;
+// further than to a NUL, and without regard to the case of ASCII letters.
+void HeldRows::AddToKey(std::string& key, const Value& value) {
+  const std::string* text = value.TextContent();
+  const std::string number = text == nullptr ? value.Text() : std::string();
+  const std::string_view content = text == nullptr ? number : *text;
+  key += std::to_string(content.size());
+  key += ':';
+  AppendFolded(key, content.substr(0, content.find('\0')));
+}
+
+std::string_view HeldRows::KeyOf(std::span<const Value> row) {
+  key_.clear();
+  for (const std::size_t field : keyFields_) AddToKey(key_, row[field]);
+  return key_;
+}
+
+bool HeldRows::IsKeyedBy(std::string_view field) const {
+  return keyFields_.size() == 1 && table_->Fields[keyFields_.front()].Name == field;
+}
+
+std::optional<std::size_t> HeldRows::Find(const Value& key) const {
+  std::string text;
+  AddToKey(text, key);
+  const auto found = keys_.find(text);
+  return found == keys_.end() ? std::nullopt : std::optional(found->second);
+}
+
+Value HeldRows::Content(std::size_t row, std::string_view field) const {
+  const auto place = table_->Find(field);
+  if (!place) return {};
+  return std::visit([](auto content) { return Value(content); }, Row(row)[*place]);
 }
 
 HeldRows::Cell HeldRows::Keep(const Value& value) {
@@ -41,12 +61,13 @@ HeldRows::Cell HeldRows::Keep(const Value& value) {
   if (const double* real = value.Real()) return *real;
   const std::string* text = value.TextContent();
   if (text == nullptr) return Null{};
-  auto* kept = static_cast<char*>(texts_->allocate(std::max<std::size_t>(text->size(), 1), 1));
-  return std::string_view(kept, text->copy(kept, text->size()));
+  return texts_.Keep(*text);
 }
 
 void HeldRows::Add(std::span<const Value> row) {
-  if (!keyFields_.empty() && !keys_.insert(KeyOf(row)).second) throw DuplicateKey();
+  if (!keyFields_.empty() && !keys_.emplace(texts_.Keep(KeyOf(row)), rowCount_).second) {
+    throw DuplicateKey();
+  }
   if (rowCount_ % kRowsOfChunk == 0) chunks_.emplace_back().reserve(kRowsOfChunk * row.size());
   for (const Value& value : row) chunks_.back().push_back(Keep(value));
   ++rowCount_;

@@ -5,15 +5,16 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
-#include <memory_resource>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
-#include <unordered_set>
+#include <unordered_map>
 #include <variant>
 #include <vector>
 
 #include "db/table_def.h"
+#include "db/text_store.h"
 #include "db/value.h"
 
 namespace orrerix {
@@ -33,6 +34,14 @@ class HeldRows {
   // Takes a row, one value for each field. Throws 3022 if the key exists.
   void Add(std::span<const Value> row);
 
+  // Whether the table's key is this field alone, its name as the definition has it.
+  bool IsKeyedBy(std::string_view field) const;
+  // The row whose key is this value; nothing if there is none. The key is one field.
+  std::optional<std::size_t> Find(const Value& key) const;
+
+  // What a field of a row holds, the field's name as the definition has it; Null without such one.
+  Value Content(std::size_t row, std::string_view field) const;
+
   std::size_t RowCount() const { return rowCount_; }
   std::span<const Cell> Row(std::size_t row) const;
 
@@ -40,13 +49,15 @@ class HeldRows {
   std::vector<std::size_t> LongestTexts() const;
 
  private:
-  std::string KeyOf(std::span<const Value> row) const;
+  static void AddToKey(std::string& key, const Value& value);
+  std::string_view KeyOf(std::span<const Value> row);
   Cell Keep(const Value& value);
 
   std::shared_ptr<const TableDef> table_;
   std::vector<std::size_t> keyFields_;
-  std::unordered_set<std::string> keys_;
-  std::unique_ptr<std::pmr::monotonic_buffer_resource> texts_;
+  std::unordered_map<std::string_view, std::size_t> keys_;  // with their rows
+  std::string key_;                                         // of the row to come
+  TextStore texts_;
   std::vector<std::vector<Cell>> chunks_;  // of a fixed number of rows, row by row
   std::size_t rowCount_ = 0;
 };

@@ -85,13 +85,23 @@ bool IsTiny(std::string_view number) {
 }  // namespace
 
 double Val(std::string_view text) {
-  std::size_t at = text.find_first_not_of(" \t");
-  if (at == std::string_view::npos) return 0;
+  std::size_t at = 0;
+  while (at < text.size() && (text[at] == ' ' || text[at] == '\t')) ++at;
+  if (at == text.size()) return 0;
   const bool negative = text[at] == '-';
   if (negative || text[at] == '+') ++at;
   const std::size_t start = at;
   std::size_t digits = 0;
-  while (at < text.size() && IsDigit(text[at])) ++at, ++digits;
+  std::int64_t whole = 0;
+  for (; at < text.size() && IsDigit(text[at]); ++at, ++digits) {
+    if (digits < kSignificantDigits) whole = whole * 10 + (text[at] - '0');
+  }
+  const char next = at < text.size() ? text[at] : ' ';
+  const bool isWhole = next != '.' && next != 'e' && next != 'E';
+  if (isWhole && digits <= kSignificantDigits) {
+    const auto number = static_cast<double>(whole);
+    return negative ? -number : number;
+  }
   if (at < text.size() && text[at] == '.') {
     ++at;
     while (at < text.size() && IsDigit(text[at])) ++at, ++digits;
@@ -115,7 +125,7 @@ double Val(std::string_view text) {
 }
 
 std::string NumberText(std::int64_t number) {
-  return fmt::format("{}", number);
+  return std::to_string(number);
 }
 
 std::string NumberText(double number) {

@@ -246,7 +246,7 @@ void Recordset::Insert() {
     if (table_->Fields[i].IsUniqueID && assigned_[i]) ids = UniqueIDs::Given;
   }
   if (ids == UniqueIDs::Generated) {
-    if (HeldRows* held = connection_->Held(table_->Name)) return held->Add(edited_);
+    if (HeldRows* held = connection_->Held(table_)) return held->Add(edited_);
     if (insert_ == nullptr) insert_ = connection_->Prepare(InsertStatement(*table_, ids));
   }
   const StatementLoan insert(

@@ -92,7 +92,7 @@ TableDef ObjectsTable() {
       .Text({"prev_ring", "next_ring", "realspacename"})
       .Boolean("has_commodities")
       .Long({"ids_info"})
-      .Key("nickname", {"nickname"});
+      .LateKey("nickname", {"nickname"});
 }
 
 TableDef ShipsTable() {

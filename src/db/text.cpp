@@ -16,13 +16,14 @@ bool IsContinuation(char byte) {
   return (static_cast<unsigned char>(byte) & 0xC0) == 0x80;
 }
 
-char LowerAscii(char c) {
-  return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c;
-}
+// Types, not functions: the compiler builds them into the loops over texts.
+struct LowerAscii {
+  char operator()(char c) const { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; }
+};
 
-char UpperAscii(char c) {
-  return c >= 'a' && c <= 'z' ? static_cast<char>(c - 32) : c;
-}
+struct UpperAscii {
+  char operator()(char c) const { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 32) : c; }
+};
 
 template <typename Ascii, typename Simple>
 std::string MapCase(std::string_view text, Ascii ascii, Simple simple) {
@@ -60,22 +61,29 @@ std::size_t AsciiLength(std::string_view text) {
 }
 
 std::string Ucase(std::string_view text) {
-  return MapCase(text, UpperAscii, SimpleUpperCase);
+  return MapCase(text, UpperAscii(), SimpleUpperCase);
 }
 
 std::string Lcase(std::string_view text) {
-  return MapCase(text, LowerAscii, SimpleLowerCase);
+  return MapCase(text, LowerAscii(), SimpleLowerCase);
 }
 
 std::string FoldAscii(std::string_view text) {
-  std::string folded(text);
-  std::transform(folded.begin(), folded.end(), folded.begin(), LowerAscii);
+  std::string folded;
+  AppendFolded(folded, text);
   return folded;
+}
+
+void AppendFolded(std::string& folded, std::string_view text) {
+  const std::size_t begin = folded.size();
+  folded.append(text);
+  std::transform(folded.begin() + static_cast<std::ptrdiff_t>(begin), folded.end(),
+                 folded.begin() + static_cast<std::ptrdiff_t>(begin), LowerAscii());
 }
 
 bool EqualIgnoringCase(std::string_view a, std::string_view b) {
   return a.size() == b.size() && std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) {
-           return LowerAscii(x) == LowerAscii(y);
+           return LowerAscii()(x) == LowerAscii()(y);
          });
 }
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -18,9 +19,18 @@ std::size_t AsciiLength(std::string_view text);
 
 // ASCII letters folded to lower case; the form in which the engine compares texts.
 std::string FoldAscii(std::string_view text);
+void AppendFolded(std::string& folded, std::string_view text);
 
 // Whether two texts are equal when the case of ASCII letters is ignored.
 bool EqualIgnoringCase(std::string_view a, std::string_view b);
+
+// Lets a container of texts be searched for a view of one.
+struct TextHash {
+  using is_transparent = void;
+  std::size_t operator()(std::string_view text) const {
+    return std::hash<std::string_view>()(text);
+  }
+};
 
 // Number of characters.
 std::size_t Len(std::string_view text);

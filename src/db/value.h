@@ -17,6 +17,7 @@ struct Null {
 class Value {
  public:
   Value() = default;
+  Value(Null) {}
   template <typename Number>
     requires std::is_integral_v<Number>
   Value(Number number) : content_(static_cast<std::int64_t>(number)) {}

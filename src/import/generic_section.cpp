@@ -54,17 +54,21 @@ std::string_view TrimControlsBack(std::string_view text) {
   return text;
 }
 
+// Whether a text stays as it is in lower case.
+bool IsLowerAscii(std::string_view text) {
+  return std::none_of(text.begin(), text.end(), [](char c) {
+    return static_cast<signed char>(c) < 0 || (c >= 'A' && c <= 'Z');
+  });
+}
+
 // Takes the next line off a block.
 std::string_view TakeLine(std::string_view& rest) {
   rest = TrimControlsFront(rest);
-  const std::size_t cr = rest.find('\r');
-  const std::size_t lf = rest.find('\n');
-  std::size_t length = rest.size();
-  if (lf != std::string_view::npos) {
-    length = cr != std::string_view::npos && cr < lf ? cr + 1 : lf + 1;
+  std::string_view line = rest;
+  if (const std::size_t lf = rest.find('\n'); lf != std::string_view::npos) {
+    line = rest.substr(0, std::min(rest.substr(0, lf).find('\r'), lf) + 1);
   }
-  const std::string_view line = rest.substr(0, length);
-  rest.remove_prefix(length);
+  rest.remove_prefix(line.size());
   return TrimControlsBack(line);
 }
 
@@ -78,9 +82,9 @@ class RowReader {
     routine_.BeginRecord(RetryState::GenericTable, [this] { table_.AddNew(); });
     routine_.Try([&] {
       constexpr SectionTable::FieldIndex sourceFileName = 0;
-      table_.Set(sourceFileName, std::string(file_.substr(import_.Game.Text().size())));
+      table_.Set(sourceFileName, file_.substr(import_.Game.Text().size()));
     });
-    while (!block.empty() && Contains(block, "=")) ReadLine(TakeLine(block));
+    while (block.find('=') != std::string_view::npos) ReadLine(TakeLine(block));
     if (stored_) {
       routine_.Try([this] { table_.Update(); });
     } else {
@@ -92,37 +96,46 @@ class RowReader {
   void ReadLine(std::string_view line) {
     const std::size_t sign = line.find('=');
     if (sign == std::string_view::npos) return;
-    std::string key = Lcase(FromWindows1252(Trim(line.substr(0, sign))));
+    std::string_view key = KeyText(line.substr(0, sign));
     std::string_view value = Trim(line.substr(sign + 1));
     if (key == "shield_mod") SplitShieldMod(key, value);
     if (key.empty() || value.empty()) return;
     routine_.SetPair(key, value);
-    Store(key, FromWindows1252(value));
+    Store(key, FromWindows1252(value, converted_));
     routine_.ClearPair();
   }
 
+  // Good until the next one.
+  std::string_view KeyText(std::string_view bytes) {
+    bytes = Trim(bytes);
+    if (IsLowerAscii(bytes)) return bytes;
+    key_ = Lcase(FromWindows1252(bytes, converted_));
+    return key_;
+  }
+
   // The value is two things: the shield's type, which becomes the key, and the figure.
-  void SplitShieldMod(std::string& key, std::string_view& value) {
+  void SplitShieldMod(std::string_view& key, std::string_view& value) {
     const std::string_view both = value;
-    routine_.Try([&] { key = Lcase(FromWindows1252(Trim(RequireBeforeComma(both)))); });
+    routine_.Try([&] { key = KeyText(RequireBeforeComma(both)); });
     const CommaCut cut = CutAtComma(both);
     value = Trim(cut.Found ? cut.Behind : cut.Before);
   }
 
-  void Store(const std::string& key, std::string value) {
-    auto field = table_.FindField(key);
+  void Store(std::string_view key, std::string_view value) {
+    auto field = table_.FindField(key, nextField_);
     if (!field) {
       field = AddField(key);
       if (!field) return;
     }
+    nextField_ = *field + 1;
     WarnOfDoubleData(key, *field);
-    routine_.Try([&] { table_.Set(*field, std::move(value)); });
+    routine_.Try([&] { table_.Set(*field, value); });
     stored_ = true;
   }
 
   // The table changes under the open row: the row is written as it stands and taken up again.
   // Nothing if the field could not be added; its value is then dropped.
-  std::optional<SectionTable::FieldIndex> AddField(const std::string& key) {
+  std::optional<SectionTable::FieldIndex> AddField(std::string_view key) {
     std::optional<SectionTable::FieldIndex> field;
     std::int32_t rowID = table_.RowID();
     routine_.Try([this] { table_.Update(); });
@@ -151,8 +164,8 @@ class RowReader {
     return rowID;
   }
 
-  void WarnOfDoubleData(const std::string& key, SectionTable::FieldIndex field) {
-    const std::string* before = table_.Get(field);
+  void WarnOfDoubleData(std::string_view key, SectionTable::FieldIndex field) {
+    const std::string_view* before = table_.Get(field);
     if (before == nullptr || Len(*before) <= 1 || IsOneOf(kRepeating, key)) return;
     import_.Target.Log.AddErrorLine(
         fmt::format("+--- Warning: DOUBLE-DATA for [{}] in file [{}] in DataBlock:\r\n{}\r\n-- "
@@ -164,6 +177,9 @@ class RowReader {
   ReaderRoutine& routine_;
   SectionTable& table_;
   std::string_view file_;
+  std::string key_;
+  std::string converted_;
+  SectionTable::FieldIndex nextField_ = 0;  // rows of one section mostly name their keys in order
   bool stored_ = false;
 };
 

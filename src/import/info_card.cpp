@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "import/info_card.h"
 
+#include <utility>
+
 #include "db/text.h"
 
 namespace orrerix {
@@ -36,7 +38,9 @@ std::string Strip(std::string_view text, char open, char close) {
 }
 
 // Deletes every run of a character that stands right before a CR.
-std::string RemoveBeforeLineEnds(std::string_view text, char unwanted) {
+std::string RemoveBeforeLineEnds(std::string whole, char unwanted) {
+  if (whole.find(unwanted) == std::string::npos) return whole;
+  std::string_view text = whole;
   std::string kept;
   kept.reserve(text.size());
   while (true) {
@@ -82,8 +86,8 @@ std::string InfoCardToText(std::string_view card) {
   text = Strip(text, '<', '>');
   text = Strip(text, '&', ';');
   for (int round = 0; round < 2; ++round) {
-    text = RemoveBeforeLineEnds(text, ' ');
-    text = RemoveBeforeLineEnds(text, '\t');
+    text = RemoveBeforeLineEnds(std::move(text), ' ');
+    text = RemoveBeforeLineEnds(std::move(text), '\t');
   }
   return RemoveEmptyLines(text);
 }

@@ -2,6 +2,7 @@
 #include "import/ini_text.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <optional>
 
 #include "db/text.h"
@@ -13,15 +14,26 @@ std::string_view UpToCarriageReturn(std::string_view text) {
   return Trim(text.substr(0, text.find('\r')));
 }
 
-// Whether each character between the first and the last that is a CR or LF has its partner.
+// The next two have no way out of their loops, and count in bytes, so that the compiler lets them
+// take many characters at a time.
+
+// Whether each CR or LF between the first and the last character has its partner.
 bool LineEndsAreWhole(std::string_view text) {
-  for (std::size_t at = text.find('\n', 1); at < text.size() - 1; at = text.find('\n', at + 1)) {
-    if (text[at - 1] != '\r') return false;
+  std::uint8_t broken = 0;
+  for (std::size_t i = 1; i + 1 < text.size(); ++i) {
+    broken |= std::uint8_t((text[i] == '\n') & (text[i - 1] != '\r'));
+    broken |= std::uint8_t((text[i] == '\r') & (text[i + 1] != '\n'));
   }
-  for (std::size_t at = text.find('\r', 1); at < text.size() - 1; at = text.find('\r', at + 1)) {
-    if (text[at + 1] != '\n') return false;
+  return broken == 0;
+}
+
+// Whether two blanks stand before a "=" somewhere.
+bool HasBlanksBeforeSigns(std::string_view text) {
+  std::uint8_t found = 0;
+  for (std::size_t i = 2; i < text.size(); ++i) {
+    found |= std::uint8_t((text[i] == '=') & (text[i - 1] == ' ') & (text[i - 2] == ' '));
   }
-  return true;
+  return found != 0;
 }
 
 // Line ends only; blanks before "=" come later.
@@ -39,14 +51,14 @@ std::string WithLineEnds(std::string_view text) {
   return fixed;
 }
 
-// Leaves one blank of each run before "=". `from` is the first place of such a run.
-void ShrinkBlanksBeforeSigns(std::string& text, std::size_t from) {
-  auto end = text.begin() + static_cast<std::ptrdiff_t>(from);
-  for (auto at = end; at != text.end(); ++at) {
-    if (*at == '=') {
+// Leaves one blank of each run before "=".
+void ShrinkBlanksBeforeSigns(std::string& text) {
+  auto end = text.begin();
+  for (const char c : text) {
+    if (c == '=') {
       while (end - text.begin() > 1 && *(end - 1) == ' ' && *(end - 2) == ' ') --end;
     }
-    *end++ = *at;
+    *end++ = c;
   }
   text.erase(end, text.end());
 }
@@ -100,11 +112,7 @@ std::string RemoveComments(std::string_view text) {
 
 void FixCrLf(std::string& text) {
   if (text.size() > 2 && !LineEndsAreWhole(text)) text = WithLineEnds(text);
-  for (std::size_t sign = text.find('='); sign != std::string::npos;
-       sign = text.find('=', sign + 1)) {
-    if (sign < 2 || text[sign - 1] != ' ' || text[sign - 2] != ' ') continue;
-    return ShrinkBlanksBeforeSigns(text, sign - 2);
-  }
+  if (HasBlanksBeforeSigns(text)) ShrinkBlanksBeforeSigns(text);
 }
 
 }  // namespace orrerix

@@ -214,7 +214,7 @@ void KnownSections::ReadAddons(BlockText block, const std::string& package) {
   constexpr std::size_t keyAndSign = std::string_view("addon=").size();
   while (block.Size() > shortestRest) {
     routine_.AddNew(packages_, RetryState::Packages);
-    const std::string value(block.Value("ADDON"));
+    const std::string_view value = block.Value("ADDON");
     block.Cut(block.Find("ADDON").value_or(0));
     packages_["PackageName"] = package;
     const CommaCut name = CutAtComma(value);
@@ -234,7 +234,7 @@ void KnownSections::ReadBaseGood(BlockText block) {
   constexpr std::size_t keyAndSign = word.size() + 1;
   const std::string base = TextValue(block, "BASE");
   while (const auto place = block.Find(word)) {
-    const std::string value(block.Value(word));
+    const std::string_view value = block.Value(word);
     block.Cut(*place);
     routine_.AddNew(baseGoods_, RetryState::BaseGoods);
     baseGoods_["Base"] = base;
@@ -256,9 +256,9 @@ void KnownSections::ReadResources(BlockText block) {
   while (const auto place = block.Find("DLL =")) {
     routine_.AddNew(resources, RetryState::Resources);
     block.Cut(*place);
-    const std::string value(block.Value("DLL"));
+    const std::string_view value = block.Value("DLL");
     block.Cut(value.size());
-    resources["DLL"] = Text(Trim(std::string_view(value).substr(0, value.find(';'))));
+    resources["DLL"] = Text(Trim(value.substr(0, value.find(';'))));
     resources.Update();
     if (value.empty()) return;  // nothing was cut: the same line would come for ever
   }
@@ -312,7 +312,7 @@ void KnownSections::ReadNPC(BlockText block) {
   const double individualName = Val(block.Value("INDIVIDUAL_NAME"));
   const std::string affiliation = TextValue(block, "AFFILIATION");
   while (const auto place = block.Find("BRIBE")) {
-    const std::string value(block.Value("BRIBE"));
+    const std::string_view value = block.Value("BRIBE");
     block.Cut(*place);
     routine_.AddNew(npcs_, RetryState::GF_NPC);
     npcs_["BaseNick"] = lastBase_;
@@ -378,7 +378,7 @@ void KnownSections::ReadHardpoints(BlockText block, const std::string& ship) {
   constexpr std::string_view key = "hp_type =";
   while (const auto place = block.FindExact(key)) {
     block.Cut(*place);
-    const std::string value(block.Value("HP_TYPE"));
+    const std::string_view value = block.Value("HP_TYPE");
     routine_.SetCurrentLine(value);
     routine_.AddNew(hardpoints_, RetryState::Ships_Hardpoints);
     hardpoints_["NickName"] = ship;
@@ -397,17 +397,17 @@ void KnownSections::ReadLoadout(BlockText block) {
   constexpr std::string_view equipTight = "EQUIP=";
   const std::string nickname = TextValue(block, "NICKNAME");
   BlockText copy = block;
-  while (block.Holds(cargo) || block.Holds(cargoTight)) {
+  for (auto place = block.Find(cargo); place || block.Holds(cargoTight);
+       place = block.Find(cargo)) {
     routine_.AddNew(loadoutCargo_, RetryState::Loadout_Cargo_Cargo);
     loadoutCargo_["NickName"] = nickname;
     const CommaCut value = CutAtComma(block.Value("CARGO"));
     loadoutCargo_["Cargo"] = Text(Trim(value.Before));
     if (value.Found) loadoutCargo_["Count"] = Val(value.Behind);
     loadoutCargo_.Update();
-    const auto place = block.Find(cargo);
     block.Cut(place ? *place + cargo.size() : *block.Find(cargoTight) + cargoTight.size());
   }
-  while (copy.Holds(equip) || copy.Holds(equipTight)) {
+  for (auto place = copy.Find(equip); place || copy.Holds(equipTight); place = copy.Find(equip)) {
     routine_.AddNew(loadoutCargo_, RetryState::Loadout_Cargo_Equip);
     loadoutCargo_["NickName"] = nickname;
     loadoutCargo_["Cargo"] = Text(Trim(CutAtComma(copy.Value("EQUIP")).Before));
@@ -415,7 +415,6 @@ void KnownSections::ReadLoadout(BlockText block) {
     loadoutCargo_.Update();
     // Only the form with the blank is cut away; the other is read until it is used up, character
     // by character of the sign's length.
-    const auto place = copy.Find(equip);
     copy.Cut(place ? *place + 1 + equip.size() : equip.size());
   }
 }

@@ -2,6 +2,7 @@
 #include "import/resource_library.h"
 
 #include <algorithm>
+#include <array>
 #include <vector>
 
 #include "db/text.h"
@@ -207,17 +208,27 @@ std::string AsSystemText(std::string_view utf16) {
   return system;
 }
 
-// Appends the ASCII characters at the front of a UTF-16 text, which most texts consist of. Gives
-// the number of their bytes.
+// Appends the ASCII characters at the front of a UTF-16 text, which most texts consist of, as many
+// at a time as the compiler can. Gives the number of their bytes.
 std::size_t AppendAsciiUnits(std::string& text, std::string_view utf16) {
+  constexpr std::size_t unitsAtATime = 16;
   std::size_t end = 0;
+  while (end + 2 * unitsAtATime <= utf16.size()) {
+    std::array<char, unitsAtATime> ascii;
+    unsigned char others = 0;
+    for (std::size_t i = 0; i < unitsAtATime; ++i) {
+      ascii[i] = utf16[end + 2 * i];
+      others |= static_cast<unsigned char>((ascii[i] & 0x80) | utf16[end + 2 * i + 1]);
+    }
+    if (others != 0) break;
+    text.append(ascii.data(), ascii.size());
+    end += 2 * unitsAtATime;
+  }
   while (end + 1 < utf16.size() && static_cast<signed char>(utf16[end]) >= 0 &&
          utf16[end + 1] == '\0') {
+    text.push_back(utf16[end]);
     end += 2;
   }
-  const std::size_t before = text.size();
-  text.resize(before + end / 2);
-  for (std::size_t i = 0; i < end; i += 2) text[before + i / 2] = utf16[i];
   return end;
 }
 

@@ -127,9 +127,8 @@ std::string GetName(Universe& universe, std::int32_t number, std::string_view fa
   Routine routine(universe.Log, "OrrerixMain.GetName",
                   [number] { return fmt::format("While getting Name #{}", number); });
   routine.Run([&] {
-    Recordset row =
-        universe.DB.OpenRecordset(routine, "SELECT Name from ids_name WHERE ID = {}", {number});
-    name = row.AtEnd() ? fmt::format("{}({})", fallback, number) : row["Name"].Get().Text();
+    const auto found = universe.DB.LookUp(routine, "ids_name", "Name", "ID", number);
+    name = found ? found->Text() : fmt::format("{}({})", fallback, number);
     name.resize(Left(name, kLongestName).size());
   });
   return name;

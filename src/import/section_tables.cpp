@@ -28,7 +28,9 @@ SectionTable::SectionTable(std::string name) : name_(std::move(name)) {
   places_.emplace(kSourceFileName, 0);
 }
 
-std::optional<SectionTable::FieldIndex> SectionTable::FindField(std::string_view name) const {
+std::optional<SectionTable::FieldIndex> SectionTable::FindField(std::string_view name,
+                                                                FieldIndex guess) const {
+  if (guess < fields_.size() && fields_[guess] == name) return guess;
   const auto found = places_.find(name);
   return found == places_.end() ? std::nullopt : std::optional(found->second);
 }
@@ -46,7 +48,7 @@ SectionTable::FieldIndex SectionTable::AddField(std::string_view name) {
   return fields_.size() - 1;
 }
 
-const std::string* SectionTable::Row::Find(FieldIndex field) const {
+const std::string_view* SectionTable::Row::Find(FieldIndex field) const {
   for (const Cell& cell : Cells) {
     if (cell.Field == field) return &cell.Text;
   }
@@ -54,16 +56,16 @@ const std::string* SectionTable::Row::Find(FieldIndex field) const {
 }
 
 std::optional<std::string> SectionTable::KeyOf(const Row& row) const {
-  const std::string* key = row.Find(*keyField_);
+  const std::string_view* key = row.Find(*keyField_);
   return key == nullptr ? std::nullopt : std::optional(FoldAscii(*key));
 }
 
 void SectionTable::MakeNicknameKey() {
   keyField_ = FindField("nickname");
   keys_.clear();
-  for (const auto& row : rows_) {
-    const auto key = KeyOf(*row);
-    if (!key || !keys_.insert(*key).second) {
+  for (const Row& row : rows_) {
+    const auto key = KeyOf(row);
+    if (!key || !keys_.insert(texts_.Keep(*key)).second) {
       keyField_.reset();
       throw key ? DuplicateKey() : NullInKey();
     }
@@ -71,30 +73,29 @@ void SectionTable::MakeNicknameKey() {
 }
 
 void SectionTable::AddNew() {
-  edited_ = std::make_unique<Row>();
-  edited_->ID = rowID_ = ++lastID_;
+  edited_.emplace().ID = rowID_ = ++lastID_;
   // Rows of one section are mostly alike.
-  if (!rows_.empty()) edited_->Cells.reserve(rows_.back()->Cells.size());
+  if (!rows_.empty()) edited_->Cells.reserve(rows_.back().Cells.size());
   editedPlace_.reset();
 }
 
 void SectionTable::Edit(std::int32_t rowID) {
   // The row in question is the last one written, if it was written at all.
   const auto found = std::find_if(rows_.rbegin(), rows_.rend(),
-                                  [rowID](const auto& row) { return row->ID <= rowID; });
-  if (found == rows_.rend() || (*found)->ID != rowID) {
+                                  [rowID](const Row& row) { return row.ID <= rowID; });
+  if (found == rows_.rend() || found->ID != rowID) {
     throw EngineFailure(failure_number::kNoCurrentRecord, "No current record.");
   }
-  edited_ = std::make_unique<Row>(**found);
+  edited_ = *found;
   editedPlace_ = static_cast<std::size_t>(rows_.rend() - found) - 1;
   rowID_ = rowID;
 }
 
-const std::string* SectionTable::Get(FieldIndex field) const {
-  return edited_ == nullptr ? nullptr : edited_->Find(field);
+const std::string_view* SectionTable::Get(FieldIndex field) const {
+  return edited_ ? edited_->Find(field) : nullptr;
 }
 
-void SectionTable::Set(FieldIndex field, std::string text) {
+void SectionTable::Set(FieldIndex field, std::string_view text) {
   // Most texts are short and full; the others are for the engine's own rules to judge.
   if (text.empty() || text.size() > kDefaultTextSize) {
     Value value = text;
@@ -102,25 +103,26 @@ void SectionTable::Set(FieldIndex field, std::string text) {
   }
   for (Cell& cell : edited_->Cells) {
     if (cell.Field == field) {
-      cell.Text = std::move(text);
+      cell.Text = texts_.Keep(text);
       return;
     }
   }
-  edited_->Cells.push_back({field, std::move(text)});
+  edited_->Cells.push_back({field, texts_.Keep(text)});
 }
 
 void SectionTable::CheckKey(const Row& row) {
   const auto key = KeyOf(row);
   if (!key) throw NullInKey();
-  const auto before = editedPlace_ ? KeyOf(*rows_[*editedPlace_]) : std::nullopt;
+  const auto before = editedPlace_ ? KeyOf(rows_[*editedPlace_]) : std::nullopt;
   if (before == key) return;
-  if (!keys_.insert(*key).second) throw DuplicateKey();
+  if (!keys_.insert(texts_.Keep(*key)).second) throw DuplicateKey();
   if (before) keys_.erase(*before);
 }
 
 void SectionTable::Update() {
-  auto row = std::move(edited_);
-  if (keyField_) CheckKey(*row);
+  Row row = std::move(*edited_);
+  edited_.reset();
+  if (keyField_) CheckKey(row);
   if (editedPlace_) {
     rows_[*editedPlace_] = std::move(row);
   } else {
@@ -142,8 +144,8 @@ TableDef SectionTable::Definition() const {
 
 std::vector<std::size_t> SectionTable::LongestTexts() const {
   std::vector<std::size_t> longest(fields_.size() + 1, 0);
-  for (const auto& row : rows_) {
-    for (const Cell& cell : row->Cells) {
+  for (const Row& row : rows_) {
+    for (const Cell& cell : row.Cells) {
       std::size_t& most = longest[cell.Field + 1];
       // There are no more characters than bytes.
       if (cell.Text.size() > most) most = std::max(most, Len(cell.Text));
@@ -155,15 +157,15 @@ std::vector<std::size_t> SectionTable::LongestTexts() const {
 void SectionTable::AppendTo(FailureSink& sink, Database& database,
                             const TableDef& definition) const {
   Appender appender = database.OpenAppender(sink, definition, rows_.size());
-  for (const auto& row : rows_) {
-    appender.Set(0, row->ID);
-    for (const Cell& cell : row->Cells) appender.Set(cell.Field + 1, cell.Text);
+  for (const Row& row : rows_) {
+    appender.Set(0, row.ID);
+    for (const Cell& cell : row.Cells) appender.Set(cell.Field + 1, cell.Text);
     appender.Append();
   }
 }
 
 SectionTable& SectionTables::Open(std::string_view name) {
-  if (const auto found = byName_.find(std::string(name)); found != byName_.end()) {
+  if (const auto found = byName_.find(name); found != byName_.end()) {
     return *found->second;
   }
   RequireName(name);
@@ -177,7 +179,7 @@ SectionTable& SectionTables::Open(std::string_view name) {
 }
 
 const SectionTable* SectionTables::Find(std::string_view name) const {
-  const auto found = byName_.find(std::string(name));
+  const auto found = byName_.find(name);
   return found == byName_.end() ? nullptr : found->second;
 }
 

@@ -15,6 +15,8 @@
 
 #include "db/database.h"
 #include "db/failure.h"
+#include "db/text.h"
+#include "db/text_store.h"
 
 namespace orrerix {
 
@@ -29,7 +31,8 @@ class SectionTable {
 
   const std::string& Name() const { return name_; }
 
-  std::optional<FieldIndex> FindField(std::string_view name) const;
+  // The field of this name, looked for at the place `guess` first.
+  std::optional<FieldIndex> FindField(std::string_view name, FieldIndex guess = 0) const;
 
   // Adds a Text field behind the others. Throws 3191 for a field that every row has, whatever its
   // case, 3190 if the table is full, and 3125 for a name with a NUL.
@@ -42,13 +45,13 @@ class SectionTable {
   void AddNew();
   // Begins the change of the row with this number; throws 3021 if it was dropped.
   void Edit(std::int32_t rowID);
-  bool IsEditing() const { return edited_ != nullptr; }
+  bool IsEditing() const { return edited_.has_value(); }
   std::int32_t RowID() const { return rowID_; }
 
   // Content of a field of the row being edited, null if it has none.
-  const std::string* Get(FieldIndex field) const;
+  const std::string_view* Get(FieldIndex field) const;
   // Throws 3163 if the text is too long, 3315 if it is empty.
-  void Set(FieldIndex field, std::string text);
+  void Set(FieldIndex field, std::string_view text);
 
   // Writes the row; whether it throws or not, no row is edited afterwards.
   void Update();
@@ -66,20 +69,14 @@ class SectionTable {
   void AppendTo(FailureSink& sink, Database& database, const TableDef& definition) const;
 
  private:
-  struct TextHash {
-    using is_transparent = void;
-    std::size_t operator()(std::string_view text) const {
-      return std::hash<std::string_view>()(text);
-    }
-  };
   struct Cell {
     FieldIndex Field;
-    std::string Text;
+    std::string_view Text;  // in the table's store
   };
   struct Row {
     std::int32_t ID = 0;
     std::vector<Cell> Cells;
-    const std::string* Find(FieldIndex field) const;
+    const std::string_view* Find(FieldIndex field) const;
   };
 
   std::optional<std::string> KeyOf(const Row& row) const;
@@ -89,9 +86,10 @@ class SectionTable {
   std::vector<std::string> fields_;  // behind OX_ID: SourceFileName and the keys
   std::unordered_map<std::string, FieldIndex, TextHash, std::equal_to<>> places_;
   std::optional<FieldIndex> keyField_;
-  std::unordered_set<std::string> keys_;
-  std::vector<std::unique_ptr<Row>> rows_;
-  std::unique_ptr<Row> edited_;
+  TextStore texts_;
+  std::unordered_set<std::string_view> keys_;
+  std::vector<Row> rows_;
+  std::optional<Row> edited_;
   std::optional<std::size_t> editedPlace_;  // of a row that is being changed
   std::int32_t rowID_ = 0;
   std::int32_t lastID_ = 0;
@@ -110,7 +108,7 @@ class SectionTables {
 
  private:
   std::vector<std::unique_ptr<SectionTable>> tables_;
-  std::unordered_map<std::string, SectionTable*> byName_;
+  std::unordered_map<std::string, SectionTable*, TextHash, std::equal_to<>> byName_;
 };
 
 }  // namespace orrerix

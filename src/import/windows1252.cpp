@@ -18,13 +18,19 @@ constexpr std::array<char32_t, 32> kUpperControls = {
 }  // namespace
 
 std::string FromWindows1252(std::string_view bytes) {
+  std::string converted;
+  return std::string(FromWindows1252(bytes, converted));
+}
+
+std::string_view FromWindows1252(std::string_view bytes, std::string& converted) {
   const std::size_t ascii = AsciiLength(bytes);
-  std::string text(bytes.substr(0, ascii));
+  if (ascii == bytes.size()) return bytes;
+  converted = bytes.substr(0, ascii);
   for (const char c : bytes.substr(ascii)) {
     const auto byte = static_cast<unsigned char>(c);
-    AppendUtf8(text, byte >= 0x80 && byte < 0xA0 ? kUpperControls[byte - 0x80] : byte);
+    AppendUtf8(converted, byte >= 0x80 && byte < 0xA0 ? kUpperControls[byte - 0x80] : byte);
   }
-  return text;
+  return converted;
 }
 
 bool IsInWindows1252(char32_t codePoint) {

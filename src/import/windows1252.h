@@ -11,6 +11,10 @@ namespace orrerix {
 // control characters of the same number.
 std::string FromWindows1252(std::string_view bytes);
 
+// The same without a copy where none is needed: the bytes themselves if they are ASCII, else what
+// is written into `converted`.
+std::string_view FromWindows1252(std::string_view bytes, std::string& converted);
+
 // Whether the character set has a character for this code point.
 bool IsInWindows1252(char32_t codePoint);
 

@@ -46,6 +46,15 @@ TEST_F(Engine, KeepsTheFormatsNumberInTheFile) {
   EXPECT_EQ(number[0].Get(), 64);
 }
 
+TEST_F(Engine, WhatComesIntoANewFileOutlivesALossOfPower) {
+  constexpr int full = 2;
+  Database database = Create(file);
+
+  Recordset synchronous = database.OpenRecordset(mustWork, "SELECT * FROM pragma_synchronous");
+
+  EXPECT_EQ(synchronous["synchronous"].Get(), full);
+}
+
 TEST_F(Engine, DoesNotCreateOverAFile) {
   Create(file).Close();
 

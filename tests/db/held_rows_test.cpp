@@ -73,6 +73,30 @@ TEST(HeldRows, RefuseWhatTheEnginesOwnKeyWouldRefuse) {
   EXPECT_NO_THROW(rows.Add(std::vector<Value>{"a\0cd"s, "x", 1}));
 }
 
+TEST(HeldRows, AreFoundByAKeyOfOneField) {
+  TableDef table = Goods();
+  table.PrimaryKey = Index{"k", {"price"}, false};
+  HeldRows rows(table);
+  rows.Add(std::vector<Value>{"base", "water", 12});
+  rows.Add(std::vector<Value>{Value(), "oxygen", 7});
+
+  EXPECT_TRUE(rows.IsKeyedBy("price"));
+  EXPECT_FALSE(rows.IsKeyedBy("good"));
+  EXPECT_EQ(rows.Find(7), 1u);
+  EXPECT_EQ(rows.Find(2), std::nullopt);
+  EXPECT_EQ(rows.Content(1, "good"), "oxygen");
+  EXPECT_EQ(rows.Content(1, "price"), 7);
+  EXPECT_TRUE(rows.Content(1, "base").IsNull());
+  EXPECT_TRUE(rows.Content(1, "missing").IsNull());
+}
+
+TEST(HeldRows, AKeyOfSeveralFieldsIsNoneOfOne) {
+  EXPECT_FALSE(HeldRows(Goods()).IsKeyedBy("base"));
+  TableDef keyless = Goods();
+  keyless.PrimaryKey.reset();
+  EXPECT_FALSE(HeldRows(keyless).IsKeyedBy("base"));
+}
+
 class HeldTable : public ::testing::Test {
  protected:
   HeldTable() { db = DBEngine::CreateInMemory(mustWork); }
@@ -129,15 +153,20 @@ TEST_F(HeldTable, ObeysItsKeyBeforeAndBehindTheFirstQuestion) {
   }
 }
 
-TEST_F(HeldTable, ALateKeyWaitsForAChangeOfItsRows) {
-  db.CreateHeldTable(mustWork, Goods(true));
-  Add(mustWork, "a", "water", 1);
-  EXPECT_EQ(Count(), 1u);
-  EXPECT_EQ(Keys(), 0u);
+TEST_F(HeldTable, ALateKeyWaitsForAChangeOfItsFieldsOrForMoreRows) {
+  for (const char* change :
+       {"UPDATE goods SET GOOD = 'wine'", "INSERT INTO goods (base) VALUES ('b')"}) {
+    db = DBEngine::CreateInMemory(mustWork);
+    db.CreateHeldTable(mustWork, Goods(true));
+    Add(mustWork, "a", "water", 1);
+    EXPECT_EQ(Count(), 1u);
+    db.Execute(mustWork, "UPDATE goods SET price = 2");
+    EXPECT_EQ(Keys(), 0u);
 
-  db.Execute(mustWork, "UPDATE goods SET price = 2");
+    db.Execute(mustWork, change);
 
-  EXPECT_EQ(Keys(), 1u);
+    EXPECT_EQ(Keys(), 1u) << change;
+  }
 }
 
 TEST_F(HeldTable, IsAskedForByItsTableNotByAFieldOfItsName) {
@@ -158,6 +187,42 @@ TEST_F(HeldTable, NativeStatementsFindItsRows) {
 
   EXPECT_EQ(db.OpenRecordset(mustWork, "SELECT * FROM copy").RecordCount(), 1u);
   EXPECT_EQ(Count(), 0u);
+}
+
+TEST_F(HeldTable, StaysInMemoryWhenARowIsLookedUpByItsKey) {
+  TableDef table = Goods();
+  table.PrimaryKey = Index{"k", {"price"}, false};
+  db.CreateHeldTable(mustWork, table);
+  Add(mustWork, "base", "water", 12);
+
+  EXPECT_EQ(db.LookUp(mustWork, "goods", "good", "price", 12), Value("water"));
+  EXPECT_EQ(db.LookUp(mustWork, "goods", "good", "price", 13), std::nullopt);
+  EXPECT_THAT(db.TakeHeldRows(), SizeIs(1));
+}
+
+TEST_F(HeldTable, IsWrittenWhenARowIsLookedUpByAnotherField) {
+  db.CreateHeldTable(mustWork, Goods());
+  Add(mustWork, "base", "water", 12);
+
+  EXPECT_EQ(db.LookUp(mustWork, "goods", "good", "price", 12), Value("water"));
+  EXPECT_THAT(db.TakeHeldRows(), IsEmpty());
+}
+
+TEST_F(HeldTable, ALookUpTellsNullFromNoRowBeforeAndBehindItsWriting) {
+  TableDef table = Goods();
+  table.PrimaryKey = Index{"k", {"price"}, false};
+  db.CreateHeldTable(mustWork, table);
+  Add(mustWork, "base", Value(), 12);
+
+  EXPECT_EQ(db.LookUp(mustWork, "goods", "good", "price", 12), Value());
+  db.WriteHeldRows(mustWork);
+  EXPECT_EQ(db.LookUp(mustWork, "goods", "good", "price", 12), Value());
+  EXPECT_EQ(db.LookUp(mustWork, "goods", "good", "price", 13), std::nullopt);
+}
+
+TEST_F(HeldTable, ALookUpThatFailsFindsNothing) {
+  EXPECT_EQ(db.LookUp(failures, "nowhere", "good", "price", 12), std::nullopt);
+  EXPECT_THAT(failures.Numbers(), ElementsAre(3078));
 }
 
 TEST_F(HeldTable, IsWrittenWithItsKeyOnDemand) {

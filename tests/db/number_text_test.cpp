@@ -35,6 +35,11 @@ INSTANTIATE_TEST_SUITE_P(
         ValCase{"1e", 1}, ValCase{"1e+", 1}, ValCase{"1ex", 1}, ValCase{"e5", 0}, ValCase{".e5", 0},
         ValCase{"1d3", 1}, ValCase{"0x10", 0}, ValCase{"&H10", 0}, ValCase{"inf", 0},
         ValCase{"nan", 0}, ValCase{"-0.25x", -0.25}, ValCase{"007", 7},
+        // Whole numbers that a double holds exactly, and those beyond.
+        ValCase{"999999999999999", 999999999999999.0},
+        ValCase{"-999999999999999", -999999999999999.0},
+        ValCase{"9007199254740993", 9007199254740992.0}, ValCase{"0000000000000000012", 12},
+        ValCase{"18446744073709551617", 18446744073709551616.0},
         // Beyond all numbers, and below them.
         ValCase{"1e999", kInfinity}, ValCase{"-1e999", -kInfinity}, ValCase{"0.5e999", kInfinity},
         ValCase{"0001e400", kInfinity}, ValCase{"1e-999", 0}, ValCase{"0.001e-999", 0},

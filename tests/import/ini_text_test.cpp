@@ -90,6 +90,21 @@ INSTANTIATE_TEST_SUITE_P(
                       LineEndCase{"a  =  = b", "a = = b"}, LineEndCase{"a\t  = 1", "a\t = 1"},
                       LineEndCase{"a  b  = 1", "a  b = 1"}));
 
+// The looks at a whole text take many characters at a time: wherever it is, one fault counts.
+TEST(FixCrLf, FindsOneFaultAtEveryPlaceOfALongText) {
+  const std::string line(70, 'x');
+  for (std::size_t at = 1; at + 2 < line.size(); ++at) {
+    const std::string before = line.substr(0, at);
+    const std::string behind = line.substr(at);
+    for (const auto& [fault, fixed] : {LineEndCase{"\n", "\r\n"}, LineEndCase{"\r", "\r\n"},
+                                       LineEndCase{"  =", " ="}, LineEndCase{"\r\n", "\r\n"}}) {
+      std::string text = before + std::string(fault) + behind;
+      FixCrLf(text);
+      EXPECT_EQ(text, before + std::string(fixed) + behind) << at;
+    }
+  }
+}
+
 TEST(UpperAscii, LeavesAllOtherBytesAlone) {
   EXPECT_EQ(UpperAscii("Li01_base \xE4\xFF{z}"), "LI01_BASE \xE4\xFF{Z}");
 }

@@ -296,6 +296,18 @@ TEST(FromUtf16, JoinsSurrogatePairs) {
   EXPECT_EQ(FromUtf16("\x3D\xD8"s), "?");
 }
 
+TEST(FromUtf16, FindsOneOtherCharacterAtEveryPlaceOfALongText) {
+  for (std::size_t at = 0; at <= 40; ++at) {
+    std::string bytes;
+    for (int i = 0; i < 40; ++i) bytes += "x\0"s;
+    const std::string before(at, 'x');
+    const std::string behind(40 - at, 'x');
+
+    EXPECT_EQ(FromUtf16(std::string(bytes).insert(2 * at, "\xFC\0"s)), before + "ü" + behind);
+    EXPECT_EQ(FromUtf16(std::string(bytes).insert(2 * at, "\x41\x01"s)), before + "Ł" + behind);
+  }
+}
+
 TEST(FromUtf16, ALastOddByteIsACharacter) {
   EXPECT_EQ(FromUtf16("a\0b\0c"s), "abc");
   EXPECT_EQ(FromUtf16("\xFC"), "ü");

@@ -40,6 +40,17 @@ TEST(SectionTable, HasAFieldForTheFileFromTheStart) {
   EXPECT_FALSE(table.FindField("nickname"));
 }
 
+TEST(SectionTable, FindsAFieldWhateverPlaceIsGuessed) {
+  SectionTable table("gun");
+  table.AddField("mass");
+
+  for (const SectionTable::FieldIndex guess : {0, 1, 2, 100}) {
+    EXPECT_EQ(table.FindField("mass", guess), 1u);
+    EXPECT_EQ(table.FindField("SourceFileName", guess), 0u);
+    EXPECT_FALSE(table.FindField("nickname", guess));
+  }
+}
+
 TEST(SectionTable, RefusesFieldsThatEveryRowHas) {
   SectionTable table("gun");
 

@@ -25,6 +25,15 @@ TEST(Windows1252, OpenBytesAreTheControlsOfTheSameNumber) {
   EXPECT_EQ(FromWindows1252("\x81\x8D\x8F\x90\x9D"), "\u0081\u008D\u008F\u0090\u009D");
 }
 
+TEST(Windows1252, AsciiNeedsNoCopy) {
+  const std::string ascii = "Li01_01_Base";
+  std::string converted = "before";
+
+  EXPECT_EQ(FromWindows1252(ascii, converted).data(), ascii.data());
+  EXPECT_EQ(FromWindows1252("M\xFCnchen", converted), "München");
+  EXPECT_EQ(converted, "München");
+}
+
 TEST(Windows1252, EveryByteIsOneCharacterThatTheSetHas) {
   for (int byte = 0; byte < 256; ++byte) {
     const std::string text = FromWindows1252(std::string(1, static_cast<char>(byte)));
