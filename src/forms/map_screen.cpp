@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "forms/map_screen.h"
 
-#include <QTimer>
 #include <utility>
 
 #include "map/option_switches.h"
@@ -16,8 +15,15 @@ MapScreen::MapScreen(PictureStore& pictures, Settings& settings, TextSource& tex
       settings_(settings),
       texts_(texts),
       scene_(pictures),
-      frame_(new SysmapFrame(scene_, form)) {
+      frame_(new SysmapFrame(scene_, form)),
+      sharpening_(new QTimer(frame_)) {
   frame_->hide();
+  QObject::connect(sharpening_, &QTimer::timeout, frame_, [this] { Sharpen(); });
+  pictures_.OnWanted = [this] { sharpening_->start(0); };
+}
+
+MapScreen::~MapScreen() {
+  pictures_.OnWanted = nullptr;
 }
 
 void MapScreen::LoadFormTXT() {
@@ -47,6 +53,13 @@ void MapScreen::ReadAhead() {
     if (++next == kSystemPictures) timer->deleteLater();
   });
   timer->start(0);
+}
+
+// Reading a finer picture takes longer than a redraw, so it is done behind one.
+void MapScreen::Sharpen() {
+  pictures_.ReadWanted();
+  scene_.update();
+  if (!pictures_.IsWanting()) sharpening_->stop();
 }
 
 MapOptions MapScreen::ReadOptions() {

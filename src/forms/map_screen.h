@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QTimer>
 #include <string>
 
 #include "forms/sysmap_frame.h"
@@ -16,6 +17,7 @@ class MapScreen {
  public:
   // Its widgets belong to `form`.
   MapScreen(PictureStore& pictures, Settings& settings, TextSource& texts, QWidget* form);
+  ~MapScreen();
   MapScreen(const MapScreen&) = delete;
   MapScreen& operator=(const MapScreen&) = delete;
 
@@ -47,6 +49,7 @@ class MapScreen {
  private:
   MapOptions ReadOptions();
   void ReadAhead();
+  void Sharpen();
 
   PictureStore& pictures_;
   Settings& settings_;
@@ -61,6 +64,7 @@ class MapScreen {
   std::string starMap_ = "StarMapPic";
   MapScene scene_;
   SysmapFrame* frame_;
+  QTimer* sharpening_;
 };
 
 }  // namespace orrerix

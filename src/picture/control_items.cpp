@@ -51,8 +51,12 @@ class PictureItem : public ControlItem {
     box.addRect(BoxOf(Shown()));
     return box;
   }
-  void paint(QPainter* painter, const QStyleOptionGraphicsItem*, QWidget*) override {
-    pictures_.Draw(*painter, file_, BoxOf(Shown()), seen_);
+  // A window shows what it has at once, and something finer a moment later; print and picture files
+  // wait for the best.
+  void paint(QPainter* painter, const QStyleOptionGraphicsItem*, QWidget* window) override {
+    using Reading = PictureStore::Reading;
+    pictures_.Draw(*painter, file_, BoxOf(Shown()), seen_,
+                   window == nullptr ? Reading::AtOnce : Reading::Later);
   }
 
  private:

@@ -124,8 +124,32 @@ QString PictureStore::VariantFor(const QString& file, QSize size) {
   return chosen->File;
 }
 
+QString PictureStore::FileFor(const QString& file, QSize size, Reading reading) {
+  const QString best = VariantFor(file, size);
+  if (reading == Reading::AtOnce || sources_.contains(best)) return best;
+  const std::vector<Variant>& variants = VariantsOf(file);
+  const auto finest =
+      std::find_if(variants.rbegin(), variants.rend(),
+                   [this](const Variant& variant) { return sources_.contains(variant.File); });
+  if (finest == variants.rend()) return best;
+  Want(best);
+  return finest->File;
+}
+
+void PictureStore::Want(const QString& file) {
+  if (std::find(wanted_.begin(), wanted_.end(), file) != wanted_.end()) return;
+  wanted_.push_back(file);
+  if (wanted_.size() == 1 && OnWanted) OnWanted();
+}
+
+void PictureStore::ReadWanted() {
+  if (wanted_.empty()) return;
+  Read(wanted_.front());
+  wanted_.pop_front();
+}
+
 QPixmap PictureStore::Render(const QString& file, QSize size) {
-  const Source& source = SourceOf(VariantFor(file, size));
+  const Source& source = SourceOf(file);
   if (source.Drawing) {
     QImage image(size, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
@@ -146,7 +170,10 @@ QPixmap PictureStore::Render(const QString& file, QSize size) {
 }
 
 QPixmap PictureStore::Scaled(const QString& file, QSize size) {
-  if (size.isEmpty()) return {};
+  return size.isEmpty() ? QPixmap() : ScaledOf(VariantFor(file, size), size);
+}
+
+QPixmap PictureStore::ScaledOf(const QString& file, QSize size) {
   const SizedFile key{file, size};
   if (const QPixmap* known = scaled_.object(key)) return *known;
   const QPixmap pixmap = Render(file, size);
@@ -154,9 +181,8 @@ QPixmap PictureStore::Scaled(const QString& file, QSize size) {
   return pixmap;
 }
 
-void PictureStore::DrawSource(QPainter& painter, const QString& file, const QRectF& place,
-                              QSize pixels) {
-  const Source& source = SourceOf(VariantFor(file, pixels));
+void PictureStore::DrawSource(QPainter& painter, const QString& file, const QRectF& place) {
+  const Source& source = SourceOf(file);
   if (source.Drawing) {
     source.Drawing->render(&painter, place);
   } else if (!source.Levels.empty()) {
@@ -169,27 +195,29 @@ void PictureStore::DrawPart(QPainter& painter, const QString& file, const QRect&
                             const QRect& part) {
   painter.save();
   painter.setClipRect(part, Qt::IntersectClip);
-  DrawSource(painter, file, target, target.size());
+  DrawSource(painter, file, target);
   painter.restore();
 }
 
 void PictureStore::Draw(QPainter& painter, const QString& file, const QRectF& place,
-                        const QRectF& seen) {
+                        const QRectF& seen, Reading reading) {
   if (file.isEmpty() || place.isEmpty() || seen.isEmpty()) return;
   const QTransform toDevice = painter.deviceTransform();
   if (!IsRaster(painter)) {
-    return DrawSource(painter, file, place, toDevice.mapRect(place).size().toSize());
+    const QSize size = toDevice.mapRect(place).size().toSize();
+    return DrawSource(painter, VariantFor(file, size), place);
   }
   const QRect target = SnappedToPixels(toDevice.mapRect(place));
   const QRect part = SnappedToPixels(toDevice.mapRect(seen)).intersected(target);
   if (part.isEmpty()) return;
+  const QString chosen = FileFor(file, target.size(), reading);
   // Within these lines the painter's pixels are the device's own.
   const QTransform world = painter.worldTransform();
   painter.setWorldTransform(toDevice.inverted() * world);
   if (AreaOf(part.size()) * kHiddenMostly < AreaOf(target.size())) {
-    DrawPart(painter, file, target, part);
+    DrawPart(painter, chosen, target, part);
   } else {
-    painter.drawPixmap(target.topLeft(), Scaled(file, target.size()));
+    painter.drawPixmap(target.topLeft(), ScaledOf(chosen, target.size()));
   }
   painter.setWorldTransform(world);
 }

@@ -8,6 +8,8 @@
 #include <QPixmap>
 #include <QString>
 #include <QSvgRenderer>
+#include <deque>
+#include <functional>
 #include <memory>
 #include <unordered_map>
 #include <vector>
@@ -21,6 +23,10 @@ namespace orrerix {
 // enlarged.
 class PictureStore {
  public:
+  // Whether drawing waits until the file is read that the size asks for. Where it does not, and a
+  // coarser brother has been read, that one is drawn, and the file is wanted.
+  enum class Reading { AtOnce, Later };
+
   PictureStore();
   PictureStore(const PictureStore&) = delete;
   PictureStore& operator=(const PictureStore&) = delete;
@@ -29,7 +35,8 @@ class PictureStore {
   // goes to whole pixels, so that it is sharp and neighbours meet without a seam; on a vector
   // device a drawing stays a drawing. A file that is no picture draws nothing. Of a picture that is
   // hidden for the most part only `seen` is worked out.
-  void Draw(QPainter& painter, const QString& file, const QRectF& place, const QRectF& seen);
+  void Draw(QPainter& painter, const QString& file, const QRectF& place, const QRectF& seen,
+            Reading reading = Reading::AtOnce);
   void Draw(QPainter& painter, const QString& file, const QRectF& place) {
     Draw(painter, file, place, place);
   }
@@ -42,6 +49,12 @@ class PictureStore {
 
   // Its own size, or that of the drawing in its place; empty if the file is no picture.
   QSize NaturalSize(const QString& file);
+
+  // Called when a file is wanted and none was before. ReadWanted reads one of them, for whoever
+  // draws next.
+  std::function<void()> OnWanted;
+  bool IsWanting() const { return !wanted_.empty(); }
+  void ReadWanted();
 
   // Reads a picture that will be needed soon.
   void Read(const QString& file) { SourceOf(file); }
@@ -70,12 +83,17 @@ class PictureStore {
 
   const Source& SourceOf(const QString& file);
   const std::vector<Variant>& VariantsOf(const QString& file);
+  QString FileFor(const QString& file, QSize size, Reading reading);
+  void Want(const QString& file);
+  // These draw out of just this file.
   QPixmap Render(const QString& file, QSize size);
-  void DrawSource(QPainter& painter, const QString& file, const QRectF& place, QSize pixels);
+  QPixmap ScaledOf(const QString& file, QSize size);
+  void DrawSource(QPainter& painter, const QString& file, const QRectF& place);
   void DrawPart(QPainter& painter, const QString& file, const QRect& target, const QRect& part);
 
   std::unordered_map<QString, Source> sources_;
   std::unordered_map<QString, std::vector<Variant>> variants_;  // the smallest first
+  std::deque<QString> wanted_;
   QCache<SizedFile, QPixmap> scaled_;
 };
 

@@ -85,5 +85,17 @@ TEST_F(MapScreenTest, ThePlayersOwnStarMapTakesThePlaceOfThePaintedOne) {
   EXPECT_EQ(picture, "/folder/SysMap.jpg");
 }
 
+// On a screen of 90000 x 67500 twips, 6000 x 4500 pixels, the star map is shown larger than it is.
+TEST_F(MapScreenTest, PicturesGetFinerBehindTheRedraw) {
+  map.Redraw(universe, 90000, 67500);
+
+  map.Frame().grab();
+  EXPECT_TRUE(pictures.IsWanting());
+  for (int i = 0; i < 1000 && pictures.IsWanting(); ++i) PassEvents();
+
+  map.Frame().grab();
+  EXPECT_FALSE(pictures.IsWanting());
+}
+
 }  // namespace
 }  // namespace orrerix

@@ -162,6 +162,36 @@ TEST_F(PictureVariantsTest, TheSmallestFileThatNeedNotBeEnlargedIsTaken) {
   EXPECT_EQ(ColorAt({20, 21}), QColor(Qt::blue));
 }
 
+TEST_F(PictureVariantsTest, LaterAFinerOneIsDrawnOnceItIsRead) {
+  int told = 0;
+  store.OnWanted = [&told] { ++told; };
+  store.Read(file);
+  const auto drawn = [this] {
+    QImage canvas = Canvas(1);
+    QPainter painter(&canvas);
+    store.Draw(painter, file, {0, 0, 20, 20}, {0, 0, 20, 20}, PictureStore::Reading::Later);
+    return canvas.pixelColor(3, 3);
+  };
+
+  EXPECT_EQ(drawn(), QColor(Qt::red));
+  EXPECT_EQ(drawn(), QColor(Qt::red));
+  EXPECT_EQ(told, 1);
+  ASSERT_TRUE(store.IsWanting());
+
+  store.ReadWanted();
+
+  EXPECT_FALSE(store.IsWanting());
+  EXPECT_EQ(drawn(), QColor(Qt::green));
+  EXPECT_EQ(told, 1);
+}
+
+TEST_F(PictureVariantsTest, AtOnceTheRightOneIsReadWhateverIsAtHand) {
+  store.Read(file);
+
+  EXPECT_EQ(ColorAt({20, 20}), QColor(Qt::green));
+  EXPECT_FALSE(store.IsWanting());
+}
+
 TEST_F(PictureVariantsTest, ALosslessPictureMayHaveABrotherThatIsAJpeg) {
   const QString thrice = Save("sky@3x.jpg", Qt::white, {30, 30});
 

@@ -195,6 +195,13 @@ void Tour::ZoomInto(int cells) {
   PassEvents();
 }
 
+// With all pictures as fine as they get.
+void Tour::TakeMain(const QString& name) {
+  run_.Main()->grab();
+  Wait("the pictures stay coarse", [this] { return !pictures_.IsWanting(); });
+  album_.Take(name, *run_.Main());
+}
+
 void Tour::ZoomOut() {
   Play().SysmapFrameMouseDown(10, 10);
   Play().SysmapFrameMouseUp(PointerButton::Right, 10, 10);

@@ -35,7 +35,7 @@ class Tour {
   MapPlay& Play() { return run_.Main()->Play(); }
   const MapDrawing& Drawing() { return run_.Main()->Map().Drawing(); }
   void Wait(const char* what, const std::function<bool()>& isSo);
-  void TakeMain(const QString& name) { album_.Take(name, *run_.Main()); }
+  void TakeMain(const QString& name);
   void ZoomInto(int cells);
   void ZoomOut();
   void ClickPanel(std::string_view name, int index);
