@@ -1,0 +1,107 @@
+// SPDX-License-Identifier: MIT
+// Commodities, goods with the add-ons of ship packages, and markets.
+#include <string_view>
+
+#include "db/number_text.h"
+#include "db/text.h"
+#include "import/ini_text.h"
+#include "import/known_sections.h"
+#include "import/resource_strings.h"
+#include "import/section_values.h"
+
+namespace orrerix {
+
+void KnownSections::ReadCommodity(BlockText block) {
+  routine_.AddNew(commodity_, RetryState::Commodity);
+  AssignTexts(commodity_, block, {{"NICKNAME", "nickname"}});
+  AssignNumbers(commodity_, block, {{"IDS_NAME", "ids_name"}, {"IDS_INFO", "ids_info"}});
+  AssignRealName(commodity_, "ids_name");
+  AssignNumbers(commodity_, block,
+                {{"UNITS_PER_CONTAINER", "units_per_container"},
+                 {"DECAY_PER_SECOND", "decay_per_second"},
+                 {"VOLUME", "volume"}});
+  commodity_.Update();
+}
+
+void KnownSections::ReadGood(BlockText block) {
+  const std::string category = TextValue(block, "CATEGORY");
+  const std::string nickname = TextValue(block, "NICKNAME");
+  const std::string hull = TextValue(block, "HULL");
+  routine_.AddNew(goods_, RetryState::Goods);
+  goods_["category"] = category;
+  goods_["nickname"] = nickname;
+  AssignTexts(goods_, block, {{"EQUIPMENT", "equipment"}, {"MSG_ID_PREFIX", "msg_id_prefix"}});
+  AssignNumbers(goods_, block, {{"PRICE", "price"}});
+  routine_.Try([&] {
+    const auto number = ToLong(Val(block.Value("IDS_NAME")));
+    if (!number) throw RuntimeFailure(failure_number::kOverflow);
+    goods_["realname"] = GetName(import_.Target, *number, nickname);
+  });
+  AssignNumbers(goods_, block, {{"IDS_INFO", "ids_info"}});
+  AssignTexts(goods_, block, {{"SHIP", "ship"}});
+  goods_["hull"] = hull;
+  AssignTexts(goods_, block, {{"FREE_AMMO", "free_ammo"}});
+  if (Ucase(category) == "COMMODITY") {
+    AssignCommodityName(nickname, TextValue(block, "EQUIPMENT"));
+  }
+  goods_.Update();
+  if (category == "ship" && !hull.empty()) ReadAddons(std::move(block), nickname);
+}
+
+void KnownSections::AssignCommodityName(const std::string& nickname, const std::string& equipment) {
+  constexpr std::size_t prefix = std::string_view("commodity_").size();
+  Recordset found = import_.Target.DB.OpenRecordset(
+      routine_, "SELECT * FROM commodity WHERE ucase(nickname) ='{}'", {Ucase(nickname)});
+  if (found.AtEnd()) {
+    const std::string_view front = Left(equipment, prefix);
+    goods_["realname"] = Trim(std::string_view(equipment).substr(front.size()));
+  } else {
+    goods_["realname"] = found["realname"].Get();
+  }
+}
+
+// The cut behind an add-on counts two characters less than its usual line has, so that the end of
+// the block may give one more row, without a nickname.
+void KnownSections::ReadAddons(BlockText block, const std::string& package) {
+  constexpr std::size_t shortestRest = 3;
+  constexpr std::size_t keyAndSign = std::string_view("addon=").size();
+  while (block.Size() > shortestRest) {
+    routine_.AddNew(packages_, RetryState::Packages);
+    const std::string_view value = block.Value("ADDON");
+    block.Cut(block.Find("ADDON").value_or(0));
+    packages_["PackageName"] = package;
+    const CommaCut name = CutAtComma(value);
+    packages_["NickName"] = Text(Trim(name.Before));
+    if (name.Found) {
+      const CommaCut hardpoint = CutAtComma(name.Behind);
+      packages_["HardPoint"] = Text(Trim(hardpoint.Before));
+      if (hardpoint.Found) packages_["Val"] = Val(hardpoint.Behind);
+    }
+    block.Cut(value.size() + keyAndSign);
+    packages_.Update();
+  }
+}
+
+void KnownSections::ReadBaseGood(BlockText block) {
+  constexpr std::string_view word = "MARKETGOOD";
+  constexpr std::size_t keyAndSign = word.size() + 1;
+  const std::string base = TextValue(block, "BASE");
+  while (const auto place = block.Find(word)) {
+    const std::string_view value = block.Value(word);
+    block.Cut(*place);
+    routine_.AddNew(baseGoods_, RetryState::BaseGoods);
+    baseGoods_["Base"] = base;
+    const CommaCut good = CutAtComma(value);
+    baseGoods_["GoodNick"] = Text(Trim(good.Before));
+    std::string_view rest = good.Behind;
+    for (const char* field : {"val1", "val2", "val3", "val4", "val5", "val6"}) {
+      baseGoods_[field] = good.Found ? Val(rest) : 0.0;
+      if (const CommaCut next = CutAtComma(rest); next.Found) rest = next.Behind;
+    }
+    routine_.SetCurrentLine(value);
+    block.Cut(value.size() + keyAndSign);
+    baseGoods_.Update();
+  }
+}
+
+}  // namespace orrerix

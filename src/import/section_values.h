@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: MIT
+// Values of blocks on their way into the tables.
+#pragma once
+
+#include <array>
+#include <initializer_list>
+#include <string>
+#include <string_view>
+
+#include "db/number_text.h"
+#include "db/recordset.h"
+#include "import/block_text.h"
+#include "import/ini_text.h"
+#include "import/windows1252.h"
+
+namespace orrerix {
+
+// A text of the files as the tables hold it.
+inline std::string Text(std::string_view bytes) {
+  return FromWindows1252(bytes);
+}
+
+inline std::string TextValue(const BlockText& block, std::string_view upperKey) {
+  return Text(block.Value(upperKey));
+}
+
+// A key of a block and the field that takes it.
+struct KeyField {
+  std::string_view Key;
+  std::string_view FieldName;
+};
+
+// Assign the values of keys, in their order, as texts or as numbers; 0 where no number is.
+inline void AssignTexts(Recordset& row, const BlockText& block,
+                        std::initializer_list<KeyField> keys) {
+  for (const auto& [key, field] : keys) row[field] = TextValue(block, key);
+}
+
+inline void AssignNumbers(Recordset& row, const BlockText& block,
+                          std::initializer_list<KeyField> keys) {
+  for (const auto& [key, field] : keys) row[field] = Val(block.Value(key));
+}
+
+// Numbers at the start of a text and behind each further comma; 0 where none is left.
+inline std::array<double, 3> ThreeNumbers(std::string_view text) {
+  std::array<double, 3> numbers{};
+  for (double& number : numbers) {
+    number = Val(text);
+    text = CutAtComma(text).Behind;
+  }
+  return numbers;
+}
+
+}  // namespace orrerix
