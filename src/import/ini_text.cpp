@@ -21,8 +21,8 @@ std::string_view UpToCarriageReturn(std::string_view text) {
 bool LineEndsAreWhole(std::string_view text) {
   std::uint8_t broken = 0;
   for (std::size_t i = 1; i + 1 < text.size(); ++i) {
-    broken |= std::uint8_t((text[i] == '\n') & (text[i - 1] != '\r'));
-    broken |= std::uint8_t((text[i] == '\r') & (text[i + 1] != '\n'));
+    broken |= std::uint8_t(int(text[i] == '\n') & int(text[i - 1] != '\r'));
+    broken |= std::uint8_t(int(text[i] == '\r') & int(text[i + 1] != '\n'));
   }
   return broken == 0;
 }
@@ -31,7 +31,7 @@ bool LineEndsAreWhole(std::string_view text) {
 bool HasBlanksBeforeSigns(std::string_view text) {
   std::uint8_t found = 0;
   for (std::size_t i = 2; i < text.size(); ++i) {
-    found |= std::uint8_t((text[i] == '=') & (text[i - 1] == ' ') & (text[i - 2] == ' '));
+    found |= std::uint8_t(int(text[i] == '=') & int(text[i - 1] == ' ') & int(text[i - 2] == ' '));
   }
   return found != 0;
 }
