@@ -62,12 +62,17 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   ErrorLog log(messages, AppVersion{1, 0, 0});
   Database database = DBEngine::CreateInMemory(ignore);
   database.Begin(ignore);
-  for (const TableDef& table : FixedTables()) database.CreateTable(ignore, table);
+  for (const TableDef& table : FixedTables()) database.CreateHeldTable(ignore, table);
   const GameFolder game(Game().string());
   Import import{{log, database}, game, host, {}, {}};
 
   ReadINI(import, game.Text() + "\\a.ini", "", "Li01");
   ReadINI(import, game.Text() + "\\a.ini", "", "Li02");
-  import.Sections.WriteTo(ignore, database);
+  database.WriteHeldRows(ignore);
+  for (const auto& table : import.Sections.Tables()) {
+    const TableDef definition = table->Definition();
+    database.CreateTable(ignore, definition);
+    table->AppendTo(ignore, database, definition);
+  }
   return 0;
 }

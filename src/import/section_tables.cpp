@@ -73,7 +73,8 @@ void SectionTable::MakeNicknameKey() {
 }
 
 void SectionTable::AddNew() {
-  edited_.emplace().ID = rowID_ = ++lastID_;
+  rowID_ = ++lastID_;
+  edited_ = Row{rowID_, {}};
   // Rows of one section are mostly alike.
   if (!rows_.empty()) edited_->Cells.reserve(rows_.back().Cells.size());
   editedPlace_.reset();

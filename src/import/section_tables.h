@@ -74,7 +74,7 @@ class SectionTable {
     std::string_view Text;  // in the table's store
   };
   struct Row {
-    std::int32_t ID = 0;
+    std::int32_t ID;
     std::vector<Cell> Cells;
     const std::string_view* Find(FieldIndex field) const;
   };

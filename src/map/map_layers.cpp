@@ -128,9 +128,10 @@ void AddJumpConnections(Routine& routine, Universe& universe, const MapState& st
     }
     if (!visible.IsZoomed()) continue;
     const std::string picture = type == kJumpHole ? "JumpHole" : "Jumpgate";
-    for (const auto& [here, there] : {std::pair{kFrom, kTo}, std::pair{kTo, kFrom}}) {
-      Control icon = MakeIcon(routine, counters.Image++, cells, visible, nodes, here, picture);
-      routine.Try([&] { icon.Tag = JumpTag(universe, state.Names, nodes, here, there); });
+    for (const PlaceFields* here : {&kFrom, &kTo}) {
+      const PlaceFields& there = here == &kFrom ? kTo : kFrom;
+      Control icon = MakeIcon(routine, counters.Image++, cells, visible, nodes, *here, picture);
+      routine.Try([&] { icon.Tag = JumpTag(universe, state.Names, nodes, *here, there); });
       layers.Icons.push_back(std::move(icon));
     }
   }
