@@ -35,6 +35,19 @@ class Redraw : public UniverseFixture {
                       {"PosY2", 0.75},
                       {"Type", type}});
   }
+  // A gate whose first end is odd.
+  void GateFrom(int mapX1, const Value& posX1) {
+    Add("JumpNodes", {{"nickname", "a"},
+                      {"MapX1", mapX1},
+                      {"MapY1", 4},
+                      {"MapX2", 8},
+                      {"MapY2", 4},
+                      {"PosX1", posX1},
+                      {"PosY1", 0.5},
+                      {"PosX2", 0.5},
+                      {"PosY2", 0.5},
+                      {"Type", kJumpGate}});
+  }
   void Lane() {
     Add("TradeLanes", {{"nickname", "a"},
                        {"nickname2", "b"},
@@ -400,16 +413,7 @@ TEST_F(Redraw, ADatabaseWithoutRowsGivesAMapWithoutLines) {
 
 TEST_F(Redraw, APointTooFarOffForAControlIsAFailureAndItsNumberStaysZero) {
   // 1e40 times any cell leaves 32-bit floats.
-  Add("JumpNodes", {{"nickname", "a"},
-                    {"MapX1", 7},
-                    {"MapY1", 4},
-                    {"MapX2", 8},
-                    {"MapY2", 4},
-                    {"PosX1", 1e40},
-                    {"PosY1", 0.5},
-                    {"PosX2", 0.5},
-                    {"PosY2", 0.5},
-                    {"Type", kJumpGate}});
+  GateFrom(7, 1e40);
 
   const MapDrawing drawing = Draw();
 
@@ -422,15 +426,7 @@ TEST_F(Redraw, APointTooFarOffForAControlIsAFailureAndItsNumberStaysZero) {
 
 TEST_F(Redraw, ANumberThatARowLacksIsAFailureOfEachStatementThatNeedsIt) {
   Zoom(kTwoCells);
-  Add("JumpNodes", {{"nickname", "a"},
-                    {"MapX1", 7},
-                    {"MapY1", 4},
-                    {"MapX2", 8},
-                    {"MapY2", 4},
-                    {"PosY1", 0.5},
-                    {"PosX2", 0.5},
-                    {"PosY2", 0.5},
-                    {"Type", kJumpGate}});
+  GateFrom(7, {});
 
   const MapDrawing drawing = Draw();
 
@@ -459,16 +455,7 @@ TEST_F(Redraw, ACancelledRedrawShowsWhatItHadComeTo) {
 }
 
 TEST_F(Redraw, ACellBeyondTheGridIsAFailureOnceForEachStatement) {
-  Add("JumpNodes", {{"nickname", "a"},
-                    {"MapX1", 18},
-                    {"MapY1", 4},
-                    {"MapX2", 8},
-                    {"MapY2", 4},
-                    {"PosX1", 0.5},
-                    {"PosY1", 0.5},
-                    {"PosX2", 0.5},
-                    {"PosY2", 0.5},
-                    {"Type", kJumpGate}});
+  GateFrom(18, 0.5);
 
   const MapDrawing drawing = Draw();
 
