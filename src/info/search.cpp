@@ -48,17 +48,21 @@ class SellerSearch {
   void AddMarkets(std::string_view query, std::string_view good) {
     for (Recordset rows = universe_.DB.OpenRecordset(routine_, query, {Ucase(good)}); !rows.AtEnd();
          rows.MoveNext()) {
-      if (auto place = PlaceOf(rows["Base"].Get().Text())) found_.push_back(std::move(*place));
+      const std::string base = rows["Base"].Get().Text();
+      if (auto place = PlaceOnMap(DockingRingOf(base).value_or(base))) {
+        found_.push_back(std::move(*place));
+      }
     }
   }
 
-  // A base with several bribing persons stands once.
+  // A base with several bribing persons stands once. The bar is on the planet, so its docking ring
+  // does not stand in for it.
   void AddBribes(std::string_view group) {
     for (Recordset rows = universe_.DB.OpenRecordset(
              routine_, "SELECT * from GF_NPC where ucase(bribe) = '{}' ORDER BY ucase(BaseNick)",
              {Ucase(group)});
          !rows.AtEnd(); rows.MoveNext()) {
-      auto place = PlaceOf(rows["BaseNick"].Get().Text());
+      auto place = PlaceOnMap(rows["BaseNick"].Get().Text());
       if (!place) continue;
       if (!found_.empty() && found_.back().Nickname == place->Nickname) continue;
       found_.push_back(std::move(*place));
@@ -66,17 +70,21 @@ class SellerSearch {
   }
 
  private:
-  // The place on the map that a base belongs to: its docking ring, the object of the same nickname,
-  // or the one whose nickname with an ending is the base's.
-  std::optional<SearchRow> PlaceOf(std::string place) {
+  std::optional<std::string> DockingRingOf(std::string_view base) {
     Recordset ring = universe_.DB.OpenRecordset(
         routine_,
         "SELECT * from Objects WHERE ucase(dock_with) = '{}' AND ucase(archetype)='DOCK_RING'",
-        {Ucase(place)});
-    if (!ring.AtEnd()) place = ring["nickname"].Get().Text();
-    Recordset dock = OnMap(Ucase(place));
+        {Ucase(base)});
+    if (ring.AtEnd()) return std::nullopt;
+    return ring["nickname"].Get().Text();
+  }
+
+  // The place on the map with a nickname, or else the one whose nickname lacks the ending of a
+  // base.
+  std::optional<SearchRow> PlaceOnMap(const std::string& nickname) {
+    Recordset dock = OnMap(Ucase(nickname));
     if (dock.AtEnd()) {
-      routine_.Try([&] { dock = OnMap(WithoutEnd(Ucase(place))); });
+      routine_.Try([&] { dock = OnMap(WithoutEnd(Ucase(nickname))); });
     }
     if (dock.AtEnd()) return std::nullopt;
     return SearchRow{dock["nickname"].Get().Text(), dock["realname"].Get().Text(), ""};

@@ -32,8 +32,9 @@ struct SearchRow {
 // all factions.
 std::vector<SearchRow> Search(Universe& universe, SearchType type, std::string_view text);
 
-// The places where a ship or a piece of equipment is sold or a faction's bribe is taken; of a
-// planet with a docking ring the ring. Places that the map lacks are left out. Nothing for a place.
+// The places where a ship or a piece of equipment is sold, or a faction's bribe is taken. A planet
+// with a docking ring sells under its ring, but takes bribes under its own name. Places that are
+// not on the map are left out. Nothing for a place.
 std::vector<SearchRow> SellersOf(Universe& universe, SearchType type, const SearchRow& row);
 
 // What the info box tells of a row; places have none.

@@ -192,6 +192,25 @@ TEST_F(SearchTest, ABaseWithSeveralPersonsTakesTheBribeOnce) {
   EXPECT_THAT(Sellers(SearchType::Bribe, {"lamp_grp", "", ""}), ElementsAre("anvil", "brook"));
 }
 
+TEST_F(SearchTest, APlanetWithADockingRingTakesBribesUnderItsOwnName) {
+  Place("ring_1", "Dockring: Whisper");
+  Place("whisper", "Whisper");
+  Add("Objects",
+      {{"nickname", "Ring_1"}, {"dock_with", "Whisper_Base"}, {"archetype", "dock_ring"}});
+  Bribe("whisper_base", "lamp_grp");
+
+  EXPECT_THAT(Sellers(SearchType::Bribe, {"lamp_grp", "", ""}), ElementsAre("whisper"));
+}
+
+TEST_F(SearchTest, ABribeAtARingWhosePlanetTheMapLacksIsDropped) {
+  Place("ring_1", "Dockring: Whisper");
+  Add("Objects",
+      {{"nickname", "Ring_1"}, {"dock_with", "Whisper_Base"}, {"archetype", "dock_ring"}});
+  Bribe("whisper_base", "lamp_grp");
+
+  EXPECT_THAT(Sellers(SearchType::Bribe, {"lamp_grp", "", ""}), IsEmpty());
+}
+
 TEST_F(SearchTest, PlacesHaveNeitherSellersNorAnInfoBox) {
   EXPECT_THAT(Sellers(SearchType::Place, {"anvil", "", ""}), IsEmpty());
   EXPECT_EQ(InfoTypeOf(SearchType::Place), std::nullopt);
