@@ -19,7 +19,7 @@ namespace {
 
 struct ImportOptions {
   std::string Game;
-  std::string Log;
+  std::optional<std::string> Log;
   bool Strict = false;
   bool Quiet = false;
 };
@@ -113,24 +113,24 @@ class ImportVerb {
 
   // Asked for before the import, so that none is made in vain.
   void RequireLogFile() const {
-    if (!import_.Log.empty()) OpenLogFile(std::ios::app);
+    if (import_.Log) OpenLogFile(std::ios::app);
   }
 
   std::ofstream OpenLogFile(std::ios::openmode mode) const {
-    std::ofstream file(import_.Log, std::ios::binary | mode);
-    if (!file) throw CouldNot(fmt::format("cannot write '{}'", import_.Log));
+    std::ofstream file(*import_.Log, std::ios::binary | mode);
+    if (!file) throw CouldNot(fmt::format("cannot write '{}'", *import_.Log));
     return file;
   }
 
   void WriteLog() const {
-    if (import_.Log.empty()) {
+    if (!import_.Log) {
       if (options_.Json) return;
       for (const std::string& line : log_.DataLines()) fmt::print("{}\n", line);
       return;
     }
     std::ofstream file = OpenLogFile(std::ios::trunc);
     for (const std::string& line : log_.DataLines()) file << line << '\n';
-    if (!file.flush()) throw CouldNot(fmt::format("cannot write '{}'", import_.Log));
+    if (!file.flush()) throw CouldNot(fmt::format("cannot write '{}'", *import_.Log));
   }
 
   void PrintJson(const fs::path& target) const {
@@ -172,7 +172,7 @@ void AddImportVerb(CLI::App& app, const CommonOptions& options, Verb& run) {
   auto import = std::make_shared<ImportOptions>();
   CLI::App* verb = app.add_subcommand("import", "Build the universe file anew");
   verb->add_option("--game", import->Game, "The game's folder")->required();
-  verb->add_option("--log", import->Log, "File for the lines of the data log");
+  AddText(*verb, "--log", import->Log, "File for the lines of the data log");
   verb->add_flag("--strict", import->Strict, "Exit code 3 if there is a log line or a failure");
   verb->add_flag("--quiet", import->Quiet, "No progress");
   verb->callback([&options, &run, import] {

@@ -5,6 +5,7 @@
 
 #include <fmt/format.h>
 
+#include "cli/spelling.h"
 #include "cli/verbs.h"
 #include "shell/version.h"
 
@@ -12,12 +13,48 @@ namespace {
 
 using namespace orrerix;
 
+// What a text that stands for nothing was probably meant to be.
+std::string Correction(const CLI::App& app, const std::string& unknown) {
+  std::vector<std::string> known;
+  const bool isOption = unknown.starts_with("-");
+  const auto chosen = app.get_subcommands();
+  if (isOption) {
+    for (const CLI::App* each : {chosen.empty() ? &app : chosen.front(), &app}) {
+      for (const CLI::Option* option : each->get_options()) {
+        for (const std::string& name : option->get_lnames()) known.push_back("--" + name);
+      }
+    }
+  } else if (chosen.empty()) {
+    for (const CLI::App* verb : app.get_subcommands([](const CLI::App*) { return true; })) {
+      known.push_back(verb->get_name());
+    }
+  }
+  if (known.empty()) return {};
+  // The value of "--option=value" is no part of the name.
+  const std::string name = unknown.substr(0, isOption ? unknown.find('=') : std::string::npos);
+  return fmt::format("there is no {} '{}'; did you mean '{}'?", isOption ? "option" : "verb", name,
+                     MostAlike(name, known));
+}
+
+// Prints why the arguments cannot be parsed, or the help that they ask for.
+int ExitOnParseError(const CLI::App& app, const CLI::ParseError& error) {
+  if (error.get_exit_code() == 0) return app.exit(error);
+  for (const std::string& unknown : app.remaining(true)) {
+    const std::string correction = Correction(app, unknown);
+    if (correction.empty()) continue;
+    fmt::print(stderr, "orrerix-cli: {}\n", correction);
+    return kWrongUsage;
+  }
+  app.exit(error);
+  return kWrongUsage;
+}
+
 int Run(int argc, char** argv) {
   CLI::App app("The universe of a game folder, for scripts");
   CommonOptions options;
   Verb run;
   app.set_version_flag("--version", "orrerix-cli " + CurrentVersion().Text());
-  app.add_option("--database", options.Database, "The universe file");
+  AddText(app, "--database", options.Database, "The universe file");
   app.add_option("--language", options.Language, "Language of captions")
       ->check(CLI::IsMember({"en", "de", "fr"}));
   app.add_option("--on-failure", options.OnFailure, "Answer to every failure question")
@@ -38,7 +75,7 @@ int Run(int argc, char** argv) {
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& error) {
-    return app.exit(error) == 0 ? kDone : kWrongUsage;
+    return ExitOnParseError(app, error);
   }
   return run();
 }

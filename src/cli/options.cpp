@@ -38,6 +38,13 @@ std::optional<std::string> StampOf(Database& universe) {
 
 }  // namespace
 
+void AddText(CLI::App& app, const std::string& name, std::optional<std::string>& text,
+             const std::string& help) {
+  // An option bound to the optional itself would take an empty text for none.
+  app.add_option_function<std::string>(
+      name, [&text](const std::string& given) { text = given; }, help);
+}
+
 MessageAnswer PolicyMessageBoxes::Show(const Message& message) {
   fmt::print(stderr, "{}{}{}\n", message.Title, message.Title.empty() ? "" : "\n", message.Text);
   if (message.Buttons == MessageButtons::AbortRetryIgnore) {
@@ -47,7 +54,7 @@ MessageAnswer PolicyMessageBoxes::Show(const Message& message) {
 }
 
 fs::path CommonOptions::DatabasePath() const {
-  if (!Database.empty()) return Database;
+  if (Database) return *Database;
   PolicyMessageBoxes messages(*this);
   ErrorLog log(messages, CurrentVersion());
   const auto registry = NativeRegistry();

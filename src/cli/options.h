@@ -4,8 +4,11 @@
 
 #include <filesystem>
 #include <functional>
+#include <optional>
 #include <stdexcept>
 #include <string>
+
+#include <CLI/CLI.hpp>
 
 #include "db/engine.h"
 #include "platform/message_box.h"
@@ -30,7 +33,7 @@ struct WrongUsage : std::runtime_error {
 };
 
 struct CommonOptions {
-  std::string Database;  // empty: the one in the save folder
+  std::optional<std::string> Database;  // none: the one in the save folder
   std::string Language = "en";
   std::string OnFailure = "ok";
   bool Json = false;
@@ -40,6 +43,11 @@ struct CommonOptions {
   // Number of the language: 0 English, 1 German, 2 French.
   int LanguageNumber() const;
 };
+
+// Adds an option that takes a text. An empty text is a text like any other; `text` stays empty only
+// where the option is not given.
+void AddText(CLI::App& app, const std::string& name, std::optional<std::string>& text,
+             const std::string& help);
 
 // Answers every failure question by the chosen policy and prints it to standard error, in the
 // dialog's own words. Other messages are printed, too.

@@ -21,7 +21,7 @@ namespace {
 struct RenderOptions {
   SceneOptions Scene;
   std::string File;
-  std::string Pixels;
+  std::optional<std::string> Pixels;
 };
 
 // Qt's fonts and pictures; never a display. One that is there already serves as well.
@@ -105,8 +105,8 @@ Writer WriterOf(const QString& file) {
 }
 
 QSize SizeOf(const RenderOptions& words, const MapScene& scene) {
-  if (words.Pixels.empty()) return scene.sceneRect().size().toSize();
-  const Extent extent = ParseExtent(words.Pixels);
+  if (!words.Pixels) return scene.sceneRect().size().toSize();
+  const Extent extent = ParseExtent(*words.Pixels);
   return {extent.Width, extent.Height};
 }
 
@@ -114,7 +114,7 @@ int RunRender(const CommonOptions& options, const RenderOptions& words) {
   const QString file = QString::fromStdString(words.File);
   const Writer write = WriterOf(file);
   ParseFormSize(words.Scene.Size);
-  if (!words.Pixels.empty()) ParseExtent(words.Pixels);
+  if (words.Pixels) ParseExtent(*words.Pixels);
   Database database = OpenUniverse(options);
   PolicyMessageBoxes messages(options);
   ErrorLog log(messages, CurrentVersion());
@@ -136,7 +136,7 @@ void AddRenderVerb(CLI::App& app, const CommonOptions& options, Verb& run) {
   auto words = std::make_shared<RenderOptions>();
   CLI::App* verb = app.add_subcommand("render", "The map as a picture");
   verb->add_option("FILE", words->File, "A file that ends in .png, .svg or .pdf")->required();
-  verb->add_option("--pixels", words->Pixels, "Size of the picture");
+  AddText(*verb, "--pixels", words->Pixels, "Size of the picture");
   AddSceneOptions(*verb, words->Scene);
   verb->callback(
       [&options, &run, words] { run = [&options, words] { return RunRender(options, *words); }; });

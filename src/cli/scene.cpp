@@ -32,7 +32,6 @@ std::vector<int> ParseNumbers(const std::string& text, char separator, std::size
 }
 
 ZoomRectangle ParseZoom(const std::string& text) {
-  if (text.empty()) return {};
   const std::vector<int> sides = ParseNumbers(text, ',', 4);
   const ZoomRectangle rectangle{sides[0], sides[1], sides[2], sides[3]};
   if (!rectangle.IsValid()) {
@@ -43,8 +42,7 @@ ZoomRectangle ParseZoom(const std::string& text) {
   return rectangle;
 }
 
-MapOptions ParseSwitches(const std::string& text, bool zoomed) {
-  if (text.empty()) return MapOptions::Defaults(zoomed);
+MapOptions ParseSwitches(const std::string& text) {
   if (text.size() != kMapSwitches || text.find_first_not_of("01") != std::string::npos) {
     throw WrongUsage("'" + text + "' is not six digits 0 or 1");
   }
@@ -76,7 +74,7 @@ class SceneMap {
         form_(ParseFormSize(words.Size)),
         texts_(options.LanguageNumber()),
         panel_(PanelTexts(texts_)) {
-    state_.Zoom.Reset(ParseZoom(words.Zoom));
+    if (words.Zoom) state_.Zoom.Reset(ParseZoom(*words.Zoom));
     state_.Names = GetSystemNames(universe, texts_);
   }
 
@@ -84,14 +82,16 @@ class SceneMap {
     for (const Gesture& gesture : words_.Gestures) Play(gesture);
     state_.PrintMode = words_.Print;
     MapDrawing drawing = Redraw();
-    if (!words_.Hover.empty()) Hover(drawing);
-    if (!words_.Info.empty()) ShowInfo(drawing);
+    if (words_.Hover) Hover(drawing);
+    if (words_.Info) ShowInfo(drawing);
     return {form_, state_.Zoom.Current(), state_.Zoom.ZoomDepth(), std::move(drawing)};
   }
 
  private:
   MapDrawing Redraw() {
-    const MapOptions switches = ParseSwitches(words_.Switches, state_.Zoom.Current().IsZoomed());
+    const MapOptions switches = words_.Switches
+                                    ? ParseSwitches(*words_.Switches)
+                                    : MapOptions::Defaults(state_.Zoom.Current().IsZoomed());
     return DrawMap(universe_, state_,
                    {form_.Width, form_.Height, switches, measure_, panel_, "StarMapPic"});
   }
@@ -111,10 +111,10 @@ class SceneMap {
   void Hover(MapDrawing& drawing) {
     const auto icon = std::find_if(
         drawing.Controls.begin(), drawing.Controls.end(), [this](const Control& control) {
-          return control.Name == "Image1" && Ucase(*control.Tag) == Ucase(words_.Hover);
+          return control.Name == "Image1" && Ucase(*control.Tag) == Ucase(*words_.Hover);
         });
     if (icon == drawing.Controls.end()) {
-      throw CouldNot("the map as it is shown has no icon of '" + words_.Hover + "'");
+      throw CouldNot("the map as it is shown has no icon of '" + *words_.Hover + "'");
     }
     HoverBox hover = OpenHoverBox(universe_, state_.Names, texts_, measure_, drawing, *icon);
     *icon = std::move(hover.Icon);
@@ -123,7 +123,7 @@ class SceneMap {
 
   // The large box is the hover box in another place; without a text neither is seen.
   void ShowInfo(MapDrawing& drawing) {
-    const InfoWord info = ParseInfo(words_.Info);
+    const InfoWord info = ParseInfo(*words_.Info);
     ControlList box = ShowInfoTextType(universe_, Wording{texts_, {}}, measure_, drawing,
                                        info.Nickname, info.Type);
     std::erase_if(drawing.Controls, [&](const Control& control) {
@@ -147,8 +147,8 @@ class SceneMap {
 
 void AddSceneOptions(CLI::App& verb, SceneOptions& scene) {
   verb.add_option("--size", scene.Size, "Outer size of the form, twips");
-  verb.add_option("--zoom", scene.Zoom, "Visible cells: X1,Y1,X2,Y2");
-  verb.add_option("--options", scene.Switches, "Six digits for the six display switches");
+  AddText(verb, "--zoom", scene.Zoom, "Visible cells: X1,Y1,X2,Y2");
+  AddText(verb, "--options", scene.Switches, "Six digits for the six display switches");
   verb.add_flag("--print", scene.Print, "As drawn for the printer");
 }
 
@@ -157,8 +157,8 @@ void AddMouseOptions(CLI::App& verb, SceneOptions& scene) {
       ->expected(1)
       ->take_all();
   verb.add_flag("--back")->description("Goes back with the right button; repeatable");
-  verb.add_option("--hover", scene.Hover, "Nickname of the object under the mouse");
-  verb.add_option("--info", scene.Info, "The large info box about TYPE:NICKNAME");
+  AddText(verb, "--hover", scene.Hover, "Nickname of the object under the mouse");
+  AddText(verb, "--info", scene.Info, "The large info box about TYPE:NICKNAME");
 }
 
 void ReadGestures(const CLI::App& verb, SceneOptions& scene) {

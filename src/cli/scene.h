@@ -2,6 +2,7 @@
 // One picture of the map as the command line's words ask for it.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <variant>
 #include <vector>
@@ -23,15 +24,15 @@ struct Drag {
 struct Back {};
 using Gesture = std::variant<Drag, Back>;
 
-// The words, as they were given.
+// The arguments, as they were given. An empty text is one that was given.
 struct SceneOptions {
   std::string Size = "24000x18000";
-  std::string Zoom;
-  std::string Switches;
+  std::optional<std::string> Zoom;
+  std::optional<std::string> Switches;
   bool Print = false;
-  std::vector<Gesture> Gestures;  // in their order
-  std::string Hover;              // nickname of the object under the mouse
-  std::string Info;               // "TYPE:NICKNAME" of the large info box
+  std::vector<Gesture> Gestures;     // in their order
+  std::optional<std::string> Hover;  // nickname of the object under the mouse
+  std::optional<std::string> Info;   // "TYPE:NICKNAME" of the large info box
 };
 
 // Adds the options that scene and render share.

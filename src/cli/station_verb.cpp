@@ -19,7 +19,7 @@ using Json = nlohmann::ordered_json;
 struct StationWords {
   std::string Nickname;
   std::string Mode = "#";
-  std::string Layout;  // "WxH"; empty for none
+  std::optional<std::string> Layout;  // "WxH"
 };
 
 // Everything that is told of a place.
@@ -32,7 +32,7 @@ struct StationAnswer {
 StationMode ModeOf(const StationWords& words) {
   const auto mode = static_cast<StationMode>(words.Mode.front());
   const bool prices = mode == StationMode::Prices || mode == StationMode::Trades;
-  if (!prices && words.Layout.empty()) {
+  if (!prices && !words.Layout) {
     throw WrongUsage("mode '" + words.Mode + "' needs --layout");
   }
   return mode;
@@ -43,10 +43,11 @@ StationAnswer ReadAnswer(OpenedUniverse& universe, const StationWords& words, St
   StationAnswer answer;
   answer.Data = ReadStation(universe.Data, names, universe.Texts, words.Nickname, mode);
   answer.Names = PriceRowNames(universe.Data, answer.Data, mode);
-  if (!words.Layout.empty()) {
-    const Extent form = ParseExtent(words.Layout);
+  if (words.Layout) {
+    const Extent form = ParseExtent(*words.Layout);
+    const StationTexts texts = ReadStationTexts({}, mode, universe.Texts);
     answer.Controls = LayOutStation(universe.Data, Wording{universe.Texts, {}}, FixedTextMeasure(),
-                                    {answer.Data, mode, form.Width, form.Height});
+                                    {answer.Data, texts, mode, form.Width, form.Height});
   }
   return answer;
 }
@@ -99,7 +100,7 @@ void PrintText(const StationAnswer& answer) {
 
 int RunStation(const CommonOptions& options, const StationWords& words) {
   const StationMode mode = ModeOf(words);
-  if (!words.Layout.empty()) ParseExtent(words.Layout);
+  if (words.Layout) ParseExtent(*words.Layout);
   OpenedUniverse universe(options);
   const StationAnswer answer = ReadAnswer(universe, words, mode);
   if (options.Json) {
@@ -118,7 +119,7 @@ void AddStationVerb(CLI::App& app, const CommonOptions& options, Verb& run) {
   verb->add_option("NICKNAME", words->Nickname, "The object's nickname")->required();
   verb->add_option("--mode", words->Mode, "The view")
       ->check(CLI::IsMember({"#", "$", "I", "2", "3"}));
-  verb->add_option("--layout", words->Layout, "Outer size of the window, twips: WxH");
+  AddText(*verb, "--layout", words->Layout, "Outer size of the window, twips: WxH");
   verb->callback(
       [&options, &run, words] { run = [&options, words] { return RunStation(options, *words); }; });
 }

@@ -57,7 +57,7 @@ class Fetch {
 
  private:
   void Redirect(const QUrl& to) {
-    if (to.scheme() == reply_->url().scheme()) {
+    if (IsRedirectFollowed(reply_->url(), to)) {
       emit reply_->redirectAllowed();
     } else {
       Break("The server leads to another kind of address");
@@ -76,6 +76,10 @@ class Fetch {
 };
 
 }  // namespace
+
+bool IsRedirectFollowed(const QUrl& from, const QUrl& to) {
+  return to.scheme() == from.scheme() || (from.scheme() == "http" && to.scheme() == "https");
+}
 
 std::string DesktopNetwork::Get(const std::string& address) {
   const QUrl url(QString::fromStdString(address), QUrl::StrictMode);

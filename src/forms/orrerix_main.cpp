@@ -49,7 +49,8 @@ OrrerixMain::OrrerixMain(const FormParts& parts, Settings& settings, Language& l
       search_(map_, *this, play_, parts.Log, language),
       newsPlay_(map_, parts.Log),
       stations_({parts.Log, parts.Pictures, parts.Sound, language, map_.State().Names,
-                 [this](Routine& routine) { return OpenUniverse(routine); }}),
+                 [this](Routine& routine) { return OpenUniverse(routine); },
+                 [this] { return frameGeometry().size() - size(); }}),
       host_(*this, *importScreen_, parts.Messages, parts.Log, startMemory, parts.Paths.Debugging) {
   setObjectName("OrrerixMain");
   setMinimumSize(kSmallestForm);

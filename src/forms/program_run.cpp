@@ -119,6 +119,7 @@ void ProgramRun::ShowUpdate(const News& news) {
 // No closing order: all windows go, and the program with them.
 void ProgramRun::EndAtOnce() {
   for (QWidget* form : QApplication::topLevelWidgets()) form->hide();
+  parts_.Sound.WaitForEnd();
   OnEnd();
 }
 

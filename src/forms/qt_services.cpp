@@ -6,11 +6,13 @@
 #include <QAudioDevice>
 #include <QDesktopServices>
 #include <QDir>
+#include <QEventLoop>
 #include <QFileInfo>
 #include <QMediaDevices>
 #include <QMessageBox>
 #include <QPrinterInfo>
 #include <QSoundEffect>
+#include <QTimer>
 #include <QUrl>
 
 #include "picture/picture_store.h"
@@ -124,6 +126,22 @@ void DesktopSound::Play(const std::filesystem::path& file) {
   last_ = &EffectOf(file);
   if (last_->audioDevice() != device) last_->setAudioDevice(device);
   last_->play();
+}
+
+void DesktopSound::WaitForEnd() {
+  constexpr int longest = 3000;  // milliseconds
+  if (last_ == nullptr) return;
+  const auto isSounding = [this] {
+    return last_->isPlaying() || last_->status() == QSoundEffect::Loading;
+  };
+  QEventLoop loop;
+  QTimer::singleShot(longest, &loop, &QEventLoop::quit);
+  const auto quitOnceSilent = [&] {
+    if (!isSounding()) loop.quit();
+  };
+  QObject::connect(last_, &QSoundEffect::playingChanged, &loop, quitOnceSilent);
+  QObject::connect(last_, &QSoundEffect::statusChanged, &loop, quitOnceSilent);
+  if (isSounding()) loop.exec(QEventLoop::ExcludeUserInputEvents);
 }
 
 void DesktopSound::Beep() {

@@ -37,6 +37,7 @@ class DesktopSound : public SoundPlayer {
   ~DesktopSound() override;
 
   void Play(const std::filesystem::path& file) override;
+  void WaitForEnd() override;
   void Beep() override;
 
  private:

@@ -1,11 +1,32 @@
 // SPDX-License-Identifier: MIT
 #include "forms/row_list.h"
 
+#include <QHelpEvent>
+#include <QToolTip>
+
+#include "forms/narrow_scroll_bar.h"
+#include "picture/plain_tool_tip.h"
+
 namespace orrerix {
 
 RowList::RowList(QWidget* parent) : QListWidget(parent) {
   setUniformItemSizes(true);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  setVerticalScrollBar(new NarrowScrollBar(this));
+}
+
+bool RowList::viewportEvent(QEvent* event) {
+  if (event->type() != QEvent::ToolTip) return QListWidget::viewportEvent(event);
+  const auto* help = static_cast<QHelpEvent*>(event);
+  const QListWidgetItem* item = itemAt(help->pos());
+  const bool isCut = item != nullptr && sizeHintForIndex(indexFromItem(item)).width() >
+                                            visualItemRect(item).width();
+  if (isCut) {
+    QToolTip::showText(help->globalPos(), PlainToolTip(item->text().toStdString()), this);
+  } else {
+    QToolTip::hideText();
+  }
+  return true;
 }
 
 int RowList::RowHeight() const {

@@ -6,13 +6,14 @@
 namespace orrerix {
 
 // A list of one-line rows that shows whole rows only: what is left below the last of them stays
-// free.
+// free. A row that is too long for the list shows its whole text as a tool tip.
 class RowList : public QListWidget {
  public:
   explicit RowList(QWidget* parent);
 
  protected:
   void updateGeometries() override;
+  bool viewportEvent(QEvent* event) override;
 
  private:
   int RowHeight() const;

@@ -93,7 +93,6 @@ void SearchPlay::Follow(SearchAnswer answer) {
 
 void SearchPlay::ShowInfo(ControlList box) {
   infoBox_->Show(box);
-  view_->raise();
   if (box.empty()) return play_.Box().Hide();
   play_.Box().ShowElsewhere(std::move(box));
 }
@@ -120,6 +119,7 @@ void SearchPlay::Jump(const std::string& nickname) {
     const int index = icon->Index.value_or(0);
     play_.Image1MouseMove(index);
     play_.Image1Click(index);
+    screen_.Frame().setFocus();
   });
 }
 

@@ -5,9 +5,9 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QStyle>
 #include <algorithm>
 
+#include "forms/fitted_button.h"
 #include "forms/form_geometry.h"
 #include "forms/painted_border.h"
 #include "forms/spoiler_layout.h"
@@ -53,7 +53,8 @@ Spoiler::Spoiler(const SpoilerTexts& texts, PictureStore& pictures) : pictures_(
   text_->setObjectName("Text");
   text_->setAccessibleName("Warning");
   text_->setReadOnly(true);
-  text_->document()->setDocumentMargin(kTextMargin);
+  text_->setLineWrapMode(QPlainTextEdit::NoWrap);
+  text_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   text_->setTabChangesFocus(true);
   text_->viewport()->installEventFilter(this);
   check1_ = new QCheckBox("Dont show that warning again (If I use the same map)", this);
@@ -70,7 +71,7 @@ Spoiler::Spoiler(const SpoilerTexts& texts, PictureStore& pictures) : pictures_(
 }
 
 QPushButton* Spoiler::AddButton(const char* name, const std::string& caption, const char* toolTip) {
-  auto* button = new QPushButton(QString::fromStdString(caption), this);
+  auto* button = new FittedButton(QString::fromStdString(caption), this);
   button->setObjectName(name);
   button->setToolTip(toolTip);
   return button;
@@ -80,7 +81,7 @@ QPushButton* Spoiler::AddButton(const char* name, const std::string& caption, co
 int Spoiler::FittingFont(const QString& text, int width) const {
   int size = 0;
   for (const QString& line : text.split('\n')) {
-    const int fits = OptFontSize(line.toStdString(), fixedMeasure_, kDesignFont, width);
+    const int fits = OptFontSize(line.toStdString(), courierMeasure_, kDesignFont, width);
     size = size == 0 ? fits : std::min(size, fits);
   }
   return size;
@@ -94,17 +95,25 @@ void Spoiler::FormResize() {
   ok_->setGeometry(PixelRect(places.Ok));
   cancel_->setGeometry(PixelRect(places.Cancel));
   for (QPushButton* button : {ok_, cancel_}) {
-    // On a wide screen the width alone would give letters larger than the button.
     button->setFont(FormFont(OptFontSize(button->text().toStdString(), formMeasure_, kDesignFont,
-                                         places.Ok.Width - kButtonMargin, places.Ok.Height)));
+                                         places.Ok.Width - kButtonMargin)));
   }
-  // Room for the frame and for a scroll bar, which would break the longest line.
-  const int sides = 2 * (kTextMargin + text_->frameWidth()) +
-                    style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, text_);
-  text_->setFont(FixedFont(
-      FittingFont(text_->toPlainText(), places.Text.Width - static_cast<int>(Twips(sides)))));
-  headLine_->setFont(
-      FixedFont(std::min(kLargestHeadLine, FittingFont(headLine_->text(), places.HeadLine.Width))));
+  FitText(places.Text.Width);
+  headLine_->setFont(CourierFont(
+      std::min(kLargestHeadLine, FittingFont(headLine_->text(), places.HeadLine.Width))));
+}
+
+// The longest line may fill the box from edge to edge; what it leaves becomes margin.
+void Spoiler::FitText(int width) {
+  const QString text = text_->toPlainText();
+  text_->setFont(CourierFont(FittingFont(text, width)));
+  const QFontMetricsF letters(text_->font());
+  double widest = 0;
+  for (const QString& line : text.split('\n')) {
+    widest = std::max(widest, letters.horizontalAdvance(line));
+  }
+  const double spare = (text_->width() - widest) / 2;
+  text_->document()->setDocumentMargin(std::clamp(spare, 0.0, double{kTextMargin}));
 }
 
 void Spoiler::paintEvent(QPaintEvent*) {

@@ -37,10 +37,11 @@ class Spoiler : public QDialog {
   QPushButton* AddButton(const char* name, const std::string& caption, const char* toolTip);
   void FormResize();
   int FittingFont(const QString& text, int width) const;
+  void FitText(int width);
 
   PictureStore& pictures_;
   QtTextMeasure formMeasure_;
-  QtTextMeasure fixedMeasure_{FixedFont};
+  QtTextMeasure courierMeasure_{CourierFont};
   QLabel* headLine_;
   QPlainTextEdit* text_;
   QCheckBox* check1_;

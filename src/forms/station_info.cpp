@@ -8,6 +8,7 @@
 #include <QScreen>
 #include <QShortcut>
 #include <QSignalBlocker>
+#include <QTimer>
 #include <algorithm>
 #include <utility>
 
@@ -67,6 +68,7 @@ StationInfo::StationInfo(const StationParts& parts, std::string nickname, std::s
                    [this](int row) { SearchListClick(row); });
   QObject::connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this,
                    [this] { close(); });
+  texts_ = ReadStationTexts({}, StationMode::Prices, parts_.Texts);
   Place();
   FormInitialize();
 }
@@ -106,13 +108,29 @@ void StationInfo::MakeModes() {
   }
 }
 
-// The right-hand third of the screen.
+// The right-hand third of the screen, decoration included.
 void StationInfo::Place() {
   constexpr int kept = 400;  // twips of the screen's height
   const QRect all = screen()->geometry();
   const int third = all.width() / 3;
-  move(all.left() + 2 * third, all.top());
-  resize(third, all.height() - static_cast<int>(Pixels(kept)));
+  place_ = QRect(all.left() + all.width() - third, all.top(), third,
+                 all.height() - static_cast<int>(Pixels(kept)));
+  move(place_.topLeft());
+  resize(place_.size() - Decoration());
+}
+
+// Only once it is on the screen does the window know its own decoration, which may be another than
+// the one that it was placed with.
+void StationInfo::Settle() {
+  if (std::exchange(settled_, true)) return;
+  const QSize inner = place_.size() - Decoration();
+  if (size() == inner) return FormResize();
+  move(place_.topLeft());
+  resize(inner);
+}
+
+QSize StationInfo::Decoration() const {
+  return settled_ ? frameGeometry().size() - size() : parts_.Decoration();
 }
 
 Wording StationInfo::Words() const {
@@ -123,21 +141,26 @@ void StationInfo::FormInitialize() {
   Routine routine(parts_.Log, "StationInfo.Form_Initialize", "While initializing Station-Infos");
   routine.Run([&] {
     Universe universe = parts_.OpenUniverse(routine);
+    texts_ = ReadStationTexts(std::move(texts_), modes_.Mode(), parts_.Texts);
     data_ = ReadStation(universe, parts_.Names, parts_.Texts, nick_, modes_.Mode());
   });
   setWindowTitle(QString::fromStdString(data_.Caption.empty() ? nick_ : data_.Caption));
+  ShowModeTexts();
   ShowModes();
   FormResize();
 }
 
-void StationInfo::ShowModes() {
-  const auto buttons = modes_.Buttons(data_, parts_.Texts);
+void StationInfo::ShowModeTexts() {
+  const auto buttons = modes_.Buttons(data_, texts_);
   for (std::size_t i = 0; i < kModeButtons; ++i) {
     mode_[i]->setText(QString::fromStdString(buttons[i].Caption));
     mode_[i]->setFont(FormFont(buttons[i].FontSize));
     mode_[i]->setToolTip(buttons[i].ToolTip.empty() ? QString(kModeNames[i])
                                                     : QString::fromStdString(buttons[i].ToolTip));
   }
+}
+
+void StationInfo::ShowModes() {
   const StationMode mode = modes_.Mode();
   mode_[0]->setChecked(mode == StationMode::Prices || mode == StationMode::Trades);
   mode_[1]->setChecked(mode == StationMode::Info);
@@ -153,7 +176,6 @@ void StationInfo::ModeClick(std::size_t button) {
         parts_.Sound.Beep();
         break;
       case ModeAnswer::Resize:
-        FillList();
         FormResize();
         break;
       case ModeAnswer::Read:
@@ -185,11 +207,13 @@ void StationInfo::FormResize() {
     Universe universe = parts_.OpenUniverse(routine);
     const bool isTable =
         modes_.Mode() == StationMode::Prices || modes_.Mode() == StationMode::Trades;
-    const auto selected = static_cast<std::size_t>(std::max(0, searchList_->currentRow()));
+    FillList();
     const TextMeasure& measure = modes_.Mode() == StationMode::Info ? fixedMeasure_ : formMeasure_;
+    const QSize outer = CountedOuterSize(size(), Decoration());
     const ControlList controls =
         LayOutStation(universe, Words(), measure,
-                      {data_, modes_.Mode(), OuterWidth(*this), OuterHeight(*this), selected});
+                      {data_, texts_, modes_.Mode(), static_cast<int>(Twips(outer.width())),
+                       static_cast<int>(Twips(outer.height()))});
     prices_->setVisible(isTable);
     infoText_->setVisible(!isTable);
     searchFrame_->setVisible(!isTable && modes_.Mode() != StationMode::Info);
@@ -211,7 +235,10 @@ void StationInfo::ShowControl(const Control& control) {
     searchFrame_->setGeometry(place & rect());
     searchFrame_->setTitle(QString::fromStdString(control.Caption.value_or("")));
   } else if (control.Name == "SearchList") {
-    searchList_->setGeometry(place & searchFrame_->rect());
+    // Its scroll bar and inner margins stand in the frame's own margin beside it.
+    QRect widened = place;
+    widened.setRight(searchFrame_->rect().right() - 1);
+    searchList_->setGeometry(widened & searchFrame_->rect());
   }
 }
 
@@ -229,6 +256,11 @@ void StationInfo::SearchListClick(int row) {
 void StationInfo::resizeEvent(QResizeEvent* event) {
   QWidget::resizeEvent(event);
   FormResize();
+}
+
+void StationInfo::paintEvent(QPaintEvent* event) {
+  QWidget::paintEvent(event);
+  if (!settled_) QTimer::singleShot(0, this, [this] { Settle(); });
 }
 
 void StationInfo::closeEvent(QCloseEvent* event) {

@@ -28,6 +28,7 @@ struct StationParts {
   TextSource& Texts;
   const CellNames& Names;
   std::function<Universe(Routine&)> OpenUniverse;
+  std::function<QSize()> Decoration;  // what the desktop adds to a window's size, pixels
 };
 
 // The station window of one object of the map: five views of what the universe knows of it.
@@ -45,6 +46,7 @@ class StationInfo : public QWidget {
 
  protected:
   void resizeEvent(QResizeEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
 
  private:
@@ -52,10 +54,13 @@ class StationInfo : public QWidget {
   void ShowPicture(const char* name, const QString& file, const QRect& place);
   void MakeModes();
   void Place();
+  void Settle();
+  QSize Decoration() const;
   void FormInitialize();
   void FormResize();
   void ModeClick(std::size_t button);
   void SearchListClick(int row);
+  void ShowModeTexts();
   void ShowModes();
   void ShowControl(const Control& control);
   void FillList();
@@ -67,6 +72,9 @@ class StationInfo : public QWidget {
   std::string picture_;
   StationData data_;
   StationModes modes_;
+  StationTexts texts_;
+  QRect place_;           // outer, pixels of the screen
+  bool settled_ = false;  // it has the size that its place asks for with its real decoration
   QtTextMeasure formMeasure_;
   QtTextMeasure fixedMeasure_{FixedFont};
   std::array<QAbstractButton*, kModeButtons> mode_{};

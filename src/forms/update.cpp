@@ -10,6 +10,7 @@
 #include "forms/painted_border.h"
 #include "forms/tiled_ground.h"
 #include "picture/form_font.h"
+#include "picture/plain_tool_tip.h"
 
 namespace orrerix {
 namespace {
@@ -36,7 +37,7 @@ Update::Update(const std::string& toolTip, PictureStore& pictures) : pictures_(p
   label1_->setFont(FormFont(kFont));
   label1_->setStyleSheet(kStyle);
   label1_->setCursor(Qt::PointingHandCursor);
-  label1_->setToolTip(QString::fromStdString(toolTip).toHtmlEscaped());
+  label1_->setToolTip(PlainToolTip(toolTip));
   layout->addWidget(label1_);
   QObject::connect(label1_, &QPushButton::clicked, this, [this] {
     if (OnLabel1Click) OnLabel1Click();

@@ -19,8 +19,6 @@ constexpr Color kHeadText{0x00FFFF};
 constexpr Color kRowText{0x000000};
 constexpr std::array<Color, kPriceGroups> kGroupBacks = {Color{0xFFC0C0}, Color{0x0000FF},
                                                          Color{0x00C000}};
-constexpr std::array<int, kPriceGroups> kPriceHeads = {19, 18, 28};
-constexpr std::array<int, kPriceGroups> kTradeHeads = {22, 21, 28};
 constexpr int kEmptyRows = 5;  // heads and air, in rows
 constexpr const char* kTradeTip = "...";
 
@@ -82,9 +80,9 @@ class TableWriter {
             WholeTwips(place.Height / (static_cast<double>(data.Prices.size()) + kEmptyRows))),
         controls_(controls) {}
 
-  void Write(const std::array<int, kPriceGroups>& heads, TextSource& texts) {
+  void Write(const std::array<std::string, kPriceGroups>& heads) {
     for (int group = kPriceGroups - 1; group >= 0; --group) {
-      WriteHead(group, texts.TXT(heads[static_cast<std::size_t>(group)]));
+      WriteHead(group, heads[static_cast<std::size_t>(group)]);
       for (const PriceItem& item : data_.Prices) {
         if (item.Group == group) WriteRow(item);
       }
@@ -158,11 +156,10 @@ std::vector<std::string> PriceRowNames(Universe& universe, const StationData& da
   return names;
 }
 
-void WritePriceTable(Routine& routine, Universe& universe, TextSource& texts,
-                     const TextMeasure& measure, const StationData& data, StationMode mode,
+void WritePriceTable(Routine& routine, Universe& universe, const TextMeasure& measure,
+                     const StationData& data, const StationTexts& texts, StationMode mode,
                      const Box& place, ControlList& controls) {
-  const auto& heads = mode == StationMode::Prices ? kPriceHeads : kTradeHeads;
-  TableWriter(routine, universe, measure, data, mode, place, controls).Write(heads, texts);
+  TableWriter(routine, universe, measure, data, mode, place, controls).Write(texts.Heads);
 }
 
 }  // namespace orrerix

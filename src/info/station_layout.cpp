@@ -73,9 +73,7 @@ ControlList ListView(Universe& universe, const Wording& wording, const TextMeasu
   list.FontSize = kStationText;
   list.ForeColor = kText;
   std::string text;
-  if (view.Selected < rows.size()) {
-    text = ForSaleText(universe, wording, view.Mode, rows[view.Selected]);
-  }
+  if (!rows.empty()) text = ForSaleText(universe, wording, view.Mode, rows.front());
   const Box place{kStationMargin + frameWidth, 0, MAXI(0.0, room.Width - frameWidth),
                   static_cast<double>(room.Height)};
   return {std::move(frame), std::move(list), InfoText(place, std::move(text))};
@@ -111,8 +109,8 @@ ControlList LayOutStation(Universe& universe, const Wording& wording, const Text
         const Room room = RoomOf(view);
         const Box place{kStationMargin + kGap, 0, static_cast<double>(room.Width),
                         static_cast<double>(room.Height)};
-        return WritePriceTable(routine, universe, wording.Texts, measure, view.Data, view.Mode,
-                               place, controls);
+        return WritePriceTable(routine, universe, measure, view.Data, view.Texts, view.Mode, place,
+                               controls);
       }
     }
   });

@@ -2,10 +2,9 @@
 // The views of a station window as plain controls.
 #pragma once
 
-#include <cstddef>
 #include <string>
 
-#include "info/station_data.h"
+#include "info/station_modes.h"
 #include "info/wording.h"
 #include "map/drawing_list.h"
 #include "map/text_measure.h"
@@ -19,16 +18,16 @@ inline constexpr int kStationText = 9;       // letters of InfoText and SearchLi
 // What a view needs to know.
 struct StationView {
   const StationData& Data;
+  const StationTexts& Texts;
   StationMode Mode = StationMode::Info;
   int FormWidth = 0;  // outer size of the window, twips
   int FormHeight = 0;
-  std::size_t Selected = 0;  // row of SearchList
 };
 
 // The controls of a view, back to front: the wrapped info text; the price table; or the list of
-// ships or equipment (its rows are those of the data) beside the text of the selected one. All
+// ships or equipment (its rows are those of the data) beside the text of the first one. All
 // places are twips from the window's top left corner, but that of SearchList, which lies in
-// SearchFrame.
+// SearchFrame. A list is filled anew by every lay-out, which selects its first row.
 ControlList LayOutStation(Universe& universe, const Wording& wording, const TextMeasure& measure,
                           const StationView& view);
 

@@ -2,6 +2,7 @@
 #include "info/station_modes.h"
 
 #include <cassert>
+#include <utility>
 
 #include "db/number_text.h"
 
@@ -10,6 +11,11 @@ namespace {
 
 constexpr int kToTradesText = 17;
 constexpr int kToPricesText = 20;
+constexpr int kBuyPricesText = 28;
+constexpr int kSellPricesText = 18;
+constexpr int kStandardSellPricesText = 19;
+constexpr int kTradesInsideText = 21;
+constexpr int kTradesOutsideText = 22;
 constexpr int kSymbolFont = 36;
 constexpr int kCountFont = 18;
 
@@ -19,6 +25,21 @@ ModeButton ListButton(std::size_t rows) {
 }
 
 }  // namespace
+
+StationTexts ReadStationTexts(StationTexts before, StationMode mode, TextSource& texts) {
+  StationTexts read = std::move(before);
+  read.Heads[2] = texts.TXT(kBuyPricesText);
+  if (mode == StationMode::Prices) {
+    read.PriceTip = texts.TXT(kToTradesText);
+    read.Heads[1] = texts.TXT(kSellPricesText);
+    read.Heads[0] = texts.TXT(kStandardSellPricesText);
+  } else if (mode == StationMode::Trades) {
+    read.PriceTip = texts.TXT(kToPricesText);
+    read.Heads[1] = texts.TXT(kTradesInsideText);
+    read.Heads[0] = texts.TXT(kTradesOutsideText);
+  }
+  return read;
+}
 
 ModeAnswer StationModes::Click(std::size_t button, const StationData& data) {
   assert(button < kModeButtons);
@@ -41,10 +62,8 @@ ModeAnswer StationModes::Click(std::size_t button, const StationData& data) {
 }
 
 std::array<ModeButton, kModeButtons> StationModes::Buttons(const StationData& data,
-                                                           TextSource& texts) const {
-  const bool prices = priceMode_ == StationMode::Prices;
-  return {ModeButton{prices ? "#" : "$", kSymbolFont,
-                     texts.TXT(prices ? kToTradesText : kToPricesText)},
+                                                           const StationTexts& texts) const {
+  return {ModeButton{priceMode_ == StationMode::Prices ? "#" : "$", kSymbolFont, texts.PriceTip},
           ModeButton{"I", kSymbolFont, ""}, ListButton(data.Ships.size()),
           ListButton(data.Equipment.size())};
 }

@@ -18,6 +18,17 @@ struct ModeButton {
   std::string ToolTip;
 };
 
+// The texts of a window that are set while its data is read, and stay through every lay-out and
+// every change of the language until the data is read again.
+struct StationTexts {
+  std::array<std::string, kPriceGroups> Heads;  // of the price table, by group
+  std::string PriceTip;                         // tool tip of the price button
+};
+
+// The texts once the data for a mode is read. The views without prices leave those of the price view
+// that was read before, but for the head of what the place sells.
+StationTexts ReadStationTexts(StationTexts before, StationMode mode, TextSource& texts);
+
 // What a click on a button asks of the window.
 enum class ModeAnswer {
   Beep,    // nothing to show; the view stays
@@ -38,7 +49,7 @@ class StationModes {
   // Buttons 0 to 3. `data` tells whether there are ships and equipment to list.
   ModeAnswer Click(std::size_t button, const StationData& data);
 
-  std::array<ModeButton, kModeButtons> Buttons(const StationData& data, TextSource& texts) const;
+  std::array<ModeButton, kModeButtons> Buttons(const StationData& data, const StationTexts& texts) const;
 
  private:
   void Enter(StationMode mode);

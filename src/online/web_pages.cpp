@@ -31,12 +31,16 @@ std::string PageAddress(std::string_view newsAddress, WebPage page) {
 
 void OpenLink(LinkOpener& links, std::string_view address) {
   if (address.empty()) return links.OpenManual();
-  if (IsWebAddress(address)) links.Open(std::string(address));
+  if (IsOpenable(address)) links.Open(std::string(address));
 }
 
 bool IsWebAddress(std::string_view address) {
   const std::string folded = FoldAscii(address);
   return folded.starts_with("http://") || folded.starts_with("https://");
+}
+
+bool IsOpenable(std::string_view address) {
+  return IsWebAddress(address) || FoldAscii(address).starts_with("mailto:");
 }
 
 bool IsFirstHalf(double x, double y, double width, double height) {

@@ -34,4 +34,10 @@ QFont FixedFont(int points) {
   return font;
 }
 
+QFont CourierFont(int points) {
+  QFont font = Sized({"Courier New", "Liberation Mono", "DejaVu Sans Mono"}, points);
+  font.setStyleHint(QFont::Monospace);
+  return font;
+}
+
 }  // namespace orrerix

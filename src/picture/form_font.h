@@ -12,4 +12,7 @@ QFont FormFont(int points);
 // The same size in a face whose characters share one width.
 QFont FixedFont(int points);
 
+// The face of the spoiler warning, "Courier New" or the one with its metrics.
+QFont CourierFont(int points);
+
 }  // namespace orrerix

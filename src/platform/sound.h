@@ -14,6 +14,10 @@ class SoundPlayer {
   // sound device.
   virtual void Play(const std::filesystem::path& file) = 0;
 
+  // Returns once the sound that plays has ended, or after a few seconds. A program that is about to
+  // end calls it, so that its last sound is heard.
+  virtual void WaitForEnd() = 0;
+
   // The system's plain beep.
   virtual void Beep() = 0;
 };

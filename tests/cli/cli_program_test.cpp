@@ -93,6 +93,32 @@ TEST_F(CommandLine, WrongWordsAreWrongUsage) {
   }
 }
 
+TEST_F(CommandLine, AMistypedVerbNamesTheClosestOne) {
+  const Answer answer = Run("scne --zoom 1,1,2,2");
+
+  EXPECT_EQ(answer.ExitCode, 2);
+  EXPECT_EQ(answer.Errors, "orrerix-cli: there is no verb 'scne'; did you mean 'scene'?\n");
+}
+
+TEST_F(CommandLine, AMistypedOptionNamesTheClosestOneOfItsVerbOrOfAll) {
+  EXPECT_EQ(Run("scene --zom=1,1,2,2").Errors,
+            "orrerix-cli: there is no option '--zom'; did you mean '--zoom'?\n");
+  EXPECT_EQ(Run("scene --databas u.fl").Errors,
+            "orrerix-cli: there is no option '--databas'; did you mean '--database'?\n");
+}
+
+TEST_F(CommandLine, AnEmptyTextOfAnOptionIsAText) {
+  Import();
+
+  for (const char* arguments : {"scene --options ''", "scene --zoom ''", "scene --info ''",
+                                "scene --size ''", "station x --layout ''", "station x --mode ''"}) {
+    EXPECT_EQ(Run(std::string(arguments) + " " + Database()).ExitCode, 2) << arguments;
+  }
+  EXPECT_EQ(Run("scene --hover '' " + Database()).ExitCode, 1);
+  EXPECT_EQ(Run("name 5 --database ''").ExitCode, 1);
+  EXPECT_EQ(Import("--log ''").ExitCode, 1);
+}
+
 TEST_F(CommandLine, AnImportTellsTablesLogAndFailures) {
   const Answer answer = Import("--json --log " + (folder.Path() / "log.txt").string());
 

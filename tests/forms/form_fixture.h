@@ -23,6 +23,8 @@ class FakeSound : public SoundPlayer {
   std::vector<std::filesystem::path> Played;
   int Beeps = 0;
   void Play(const std::filesystem::path& file) override { Played.push_back(file); }
+  int Awaited = 0;
+  void WaitForEnd() override { ++Awaited; }
   void Beep() override { ++Beeps; }
 };
 

@@ -294,7 +294,18 @@ TEST_F(NewsRunTest, AClickOnTheNoticeOpensTheMainPageAndEndsTheProgram) {
 
   EXPECT_EQ(links.Opened, (std::vector<std::string>{"http://x.example/OX"}));
   EXPECT_EQ(ends, 1);
+  EXPECT_EQ(sound.Awaited, 1);  // the click is heard before the program is gone
   EXPECT_EQ(UpdateForm(), nullptr);
+}
+
+TEST_F(NewsRunTest, TheTipOfTheNoticeIsPlainText) {
+  network.Page = "1.5\r\nFixes & \"more\"\r\nhttp://x.example/n\r\n";
+  Show();
+  run.Main()->activateWindow();
+  ASSERT_TRUE(WaitUntil([] { return UpdateForm() != nullptr; }));
+
+  EXPECT_EQ(Find(*UpdateForm(), "Label1").toolTip(),
+            "<span>Fixes &amp; &quot;more&quot;</span>");  // markup that shows the text as it is
 }
 
 TEST_F(NewsRunTest, TheRunningVersionIsNotAnnounced) {

@@ -111,6 +111,41 @@ TEST_F(SpoilerTest, NoLineOfAShortTextIsBroken) {
   EXPECT_EQ(text.document()->firstBlock().layout()->lineCount(), 1);
 }
 
+TEST_F(SpoilerTest, ItsFaceHasTheMetricsOfCourier) {
+  const QStringList courier{"Courier New", "Liberation Mono", "DejaVu Sans Mono"};
+
+  EXPECT_EQ(Find<QLabel>(form, "HeadLine").font().families(), courier);
+  EXPECT_EQ(Find<QPlainTextEdit>(form, "Text").font().families(), courier);
+}
+
+TEST_F(SpoilerTest, TheTextTakesTheLargestSizeThatFitsTheBoxFromEdgeToEdge) {
+  texts.Text = "Here be dragons, 33 letters wide.";
+  Spoiler mods(texts, pictures);
+  mods.resize(1200, 800);
+  mods.show();
+  PassEvents();
+
+  const auto& text = Find<QPlainTextEdit>(mods, "Text");
+  const auto widthAt = [&](int points) {
+    return QFontMetricsF(CourierFont(points)).horizontalAdvance(text.toPlainText());
+  };
+  int largest = 1;
+  while (widthAt(largest + 1) <= text.width()) ++largest;
+  EXPECT_EQ(text.font().pixelSize(), CourierFont(largest).pixelSize());
+}
+
+TEST_F(SpoilerTest, AButtonsSizeDependsOnItsWidthAlone) {
+  texts.Ok = "Go";
+  Spoiler mods(texts, pictures);
+  mods.resize(1200, 800);
+  mods.show();
+  PassEvents();
+
+  // Two letters in half of the window: far higher than the button.
+  const auto& button = Find<QPushButton>(mods, "Command1_0");
+  EXPECT_GT(QFontMetrics(button.font()).height(), button.height());
+}
+
 TEST_F(SpoilerTest, EveryTextFitsItsWidth) {
   const auto& text = Find<QPlainTextEdit>(form, "Text");
   const QFontMetrics letters(text.font());
@@ -120,7 +155,7 @@ TEST_F(SpoilerTest, EveryTextFitsItsWidth) {
   }
   EXPECT_LE(widest, text.width());
   const auto& head = Find<QLabel>(form, "HeadLine");
-  EXPECT_LE(head.font().pixelSize(), FixedFont(24).pixelSize());
+  EXPECT_LE(head.font().pixelSize(), CourierFont(24).pixelSize());
 }
 
 }  // namespace

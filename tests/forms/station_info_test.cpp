@@ -4,6 +4,8 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QLabel>
+#include <QScreen>
+#include <QScrollBar>
 #include <QTest>
 
 #include "form_fixture.h"
@@ -31,7 +33,8 @@ class StationInfoTest : public StationFixture {
   StationInfo& Window() {
     if (!window_) {
       window_ = std::make_unique<StationInfo>(
-          StationParts{log, pictures, sound, english, names, [this](Routine&) { return universe; }},
+          StationParts{log, pictures, sound, texts, names, [this](Routine&) { return universe; },
+                       [this] { return decoration; }},
           "pier", "Outpost");
       window_->show();
       PassEvents();
@@ -48,6 +51,12 @@ class StationInfoTest : public StationFixture {
 
   PictureStore pictures;
   FakeSound sound;
+  QSize decoration{0, 0};
+  // A player who changes the language while the window is open.
+  struct ChangingTexts : TextSource {
+    int Language = 0;
+    std::string TXT(int id) override { return FixedLanguage(Language).TXT(id); }
+  } texts;
 
  private:
   std::unique_ptr<StationInfo> window_;
@@ -114,15 +123,55 @@ TEST_F(StationInfoTest, ResizingTheWindowWrapsTheTextAnew) {
   EXPECT_GT(Text().count('\n'), wide);
 }
 
-TEST_F(StationInfoTest, AChosenRowOutlivesAResize) {
+TEST_F(StationInfoTest, EveryLayOutFillsTheListAnewAndSelectsItsFirstEntry) {
   ClickMode(3);
   List().setCurrentRow(1);
 
   Window().resize(900, 500);
   PassEvents();
 
-  EXPECT_EQ(List().currentRow(), 1);
-  EXPECT_TRUE(Text().contains("Price: 34"));
+  EXPECT_EQ(List().count(), 2);
+  EXPECT_EQ(List().currentRow(), 0);
+  EXPECT_TRUE(Text().contains("Price: 12"));
+}
+
+TEST_F(StationInfoTest, ItsTextsKeepTheLanguageInWhichItsDataWasRead) {
+  ClickMode(0);
+  texts.Language = 1;
+
+  Window().resize(900, 500);
+  PassEvents();
+  EXPECT_EQ(Prices().model()->index(0, 0).data().toString(), "Commodities Buy Prices");
+  EXPECT_EQ(Find(Window(), "Mode_0").toolTip(), "Click to switch to Pricelist.");
+  ClickMode(0);
+
+  EXPECT_EQ(Prices().model()->index(0, 0).data().toString(), "Waren Einkaufspreise");
+}
+
+TEST_F(StationInfoTest, ItsOuterRightEdgeMeetsTheScreens) {
+  decoration = QSize(10, 33);
+
+  const QRect screen = Window().screen()->geometry();
+  ASSERT_TRUE(WaitUntil([&] {
+    return Window().frameGeometry().size() ==
+           QSize(screen.width() / 3, screen.height() - 26);  // 400 twips are 26 pixels
+  }));
+  EXPECT_EQ(Window().frameGeometry().right(), screen.right());
+  EXPECT_EQ(Window().frameGeometry().top(), screen.top());
+}
+
+TEST_F(StationInfoTest, ALongNameInItsListIsShownWhole) {
+  for (int i = 0; i < 60; ++i) {
+    const std::string name = "lamp_" + std::to_string(i);
+    Good(name, "A lamp with a very long name indeed, number " + std::to_string(i), 12);
+    Market("pier", name);
+  }
+  Window().resize(900, 500);
+  PassEvents();
+  ClickMode(3);
+
+  ASSERT_TRUE(List().verticalScrollBar()->isVisible());
+  EXPECT_LE(List().sizeHintForColumn(0), List().viewport()->width());
 }
 
 TEST_F(StationInfoTest, RowsOfPricesCanBeCopied) {

@@ -25,7 +25,8 @@ class StationWindowsTest : public FormFixture {
   Database db = DBEngine::CreateInMemory(mustWork);
   StationWindows stations{{log, pictures, sound, english, names, [this](Routine&) {
                              return Universe{log, db};
-                           }}};
+                           },
+                           [] { return QSize(0, 0); }}};
 };
 
 TEST_F(StationWindowsTest, SeveralStandSideBySideEvenOfOneObject) {
@@ -58,9 +59,10 @@ TEST_F(StationWindowsTest, AWindowOpensInTheRightThirdOfTheScreen) {
 
   const StationInfo& window = *stations.Windows()[0];
   const QRect all = window.screen()->geometry();
-  EXPECT_EQ(window.width(), all.width() / 3);
-  EXPECT_EQ(window.x(), all.width() / 3 * 2);
-  EXPECT_EQ(window.height(), all.height() - 26);  // 400 twips
+  // With its decoration, which a window knows once it is on the screen.
+  ASSERT_TRUE(WaitUntil([&] { return window.frameGeometry().width() == all.width() / 3; }));
+  EXPECT_EQ(window.frameGeometry().right(), all.right());
+  EXPECT_EQ(window.frameGeometry().height(), all.height() - 26);  // 400 twips
 }
 
 }  // namespace

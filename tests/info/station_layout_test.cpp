@@ -14,10 +14,10 @@ using ::testing::SizeIs;
 class StationLayout : public StationFixture {
  protected:
   // A view in a window that leaves 9000 x 5000 twips to it.
-  ControlList LayOut(StationMode mode, std::size_t selected = 0, int width = 9000,
-                     int height = 5000) {
+  ControlList LayOut(StationMode mode, int width = 9000, int height = 5000) {
+    const StationTexts texts = ReadStationTexts({}, mode, english);
     return LayOutStation(universe, words, measure,
-                         {data, mode, kStationMargin + 50 + width, height + 200, selected});
+                         {data, texts, mode, kStationMargin + 50 + width, height + 200});
   }
 
   Wording words{english, {}};
@@ -35,20 +35,20 @@ TEST_F(StationLayout, TheInfoIsWrappedToTheWindow) {
   EXPECT_EQ(info[0].Caption, "\r\nabcd efgh \r\n");
 
   // With 1200 - 300 twips there is room for less than 900 / 108 = 8.3 characters.
-  EXPECT_EQ(LayOut(StationMode::Info, 0, 1200)[0].Caption, "\r\nabcd\r\nefgh \r\n");
+  EXPECT_EQ(LayOut(StationMode::Info, 1200)[0].Caption, "\r\nabcd\r\nefgh \r\n");
 }
 
 TEST_F(StationLayout, AWindowThatIsTooSmallHasAnEmptyBox) {
   data.Info = "a b";
 
-  const ControlList info = LayOut(StationMode::Info, 0, -5000, -5000);
+  const ControlList info = LayOut(StationMode::Info, -5000, -5000);
 
   EXPECT_EQ(info[0].Place.Width, 0);
   EXPECT_EQ(info[0].Place.Height, 0);
 }
 
-TEST_F(StationLayout, AListStandsBesideTheTextOfItsSelectedRow) {
-  data.Ships = {{"arrow_package", "Arrow"}, {"comet_package", "Long Comet"}};
+TEST_F(StationLayout, AListStandsBesideTheTextOfItsFirstRow) {
+  data.Ships = {{"comet_package", "Long Comet"}, {"arrow_package", "Arrow"}};
   Add("Ships", {{"NickName", "comet"},
                 {"packagename", "Comet_Package"},
                 {"price", 700},
@@ -58,7 +58,7 @@ TEST_F(StationLayout, AListStandsBesideTheTextOfItsSelectedRow) {
   Info(8, "First.");
   Info(9, "Second.");
 
-  const ControlList list = LayOut(StationMode::Ships, 1);
+  const ControlList list = LayOut(StationMode::Ships);
 
   ASSERT_THAT(list, SizeIs(3));
   EXPECT_EQ(list[0].Name, "SearchFrame");

@@ -15,6 +15,7 @@ using ::testing::IsEmpty;
 struct FakeSound : SoundPlayer {
   std::vector<std::filesystem::path> Played;
   void Play(const std::filesystem::path& file) override { Played.push_back(file); }
+  void WaitForEnd() override {}
   void Beep() override {}
 };
 

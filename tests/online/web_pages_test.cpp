@@ -23,7 +23,16 @@ TEST(WebPages, WithoutAHostThereIsNone) {
   EXPECT_EQ(PageAddress("file:///etc/hosts", WebPage::Main), "");
 }
 
-TEST(WebPages, OnlyHttpAndHttpsAreOpened) {
+TEST(WebPages, OnlyHttpHttpsAndMailAddressesAreOpened) {
+  EXPECT_TRUE(IsOpenable("https://x.example"));
+  EXPECT_TRUE(IsOpenable("MailTo:vantor@x.example"));
+  for (const char* address : {"", "ftp://x", "file:///x", "javascript:x", "mailto", " mailto:x"}) {
+    EXPECT_FALSE(IsOpenable(address)) << address;
+  }
+}
+
+TEST(WebPages, OnlyHttpAndHttpsBelongToTheWeb) {
+  EXPECT_FALSE(IsWebAddress("mailto:vantor@x.example"));
   EXPECT_TRUE(IsWebAddress("http://x.example"));
   EXPECT_TRUE(IsWebAddress("HTTPS://x.example"));
   for (const char* address :
@@ -46,8 +55,10 @@ TEST(OpenLink, AnEmptyAddressOpensTheManualAndAnUnsafeOneNothing) {
   OpenLink(browser, "http://x.example");
   OpenLink(browser, "");
   OpenLink(browser, "file:///etc/hostname");
+  OpenLink(browser, "mailto:vantor@x.example");
 
-  EXPECT_EQ(browser.Opened, std::vector<std::string>{"http://x.example"});
+  EXPECT_EQ(browser.Opened,
+            (std::vector<std::string>{"http://x.example", "mailto:vantor@x.example"}));
   EXPECT_EQ(browser.Manuals, 1);
 }
 

@@ -15,6 +15,7 @@ namespace orrerix {
 class NoSound : public SoundPlayer {
  public:
   void Play(const std::filesystem::path&) override {}
+  void WaitForEnd() override {}
   void Beep() override {}
 };
 
