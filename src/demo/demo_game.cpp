@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "demo/demo_game.h"
 
-#include "demo/writers.h"
+#include "demo/files/writers.h"
 
 namespace orrerix {
 

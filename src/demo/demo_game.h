@@ -3,8 +3,8 @@
 
 #include <filesystem>
 
-#include "demo/game_folder.h"
-#include "demo/universe_plan.h"
+#include "demo/files/game_folder.h"
+#include "demo/plan/universe_plan.h"
 
 namespace orrerix {
 

@@ -12,8 +12,8 @@
 #include <gtest/gtest.h>
 
 #include "db/working_copy.h"
-#include "demo/bini_writer.h"
-#include "demo/pe_writer.h"
+#include "demo/format/bini_writer.h"
+#include "demo/format/pe_writer.h"
 #include "shell/routine.h"
 #include "shell/startup.h"
 #include "support/reader_fixture.h"

@@ -8,7 +8,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "demo/bini_writer.h"
+#include "demo/format/bini_writer.h"
 #include "support/reader_fixture.h"
 
 namespace orrerix {

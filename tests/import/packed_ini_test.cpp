@@ -7,7 +7,7 @@
 
 #include <gtest/gtest.h>
 
-#include "demo/bini_writer.h"
+#include "demo/format/bini_writer.h"
 
 namespace orrerix {
 namespace {

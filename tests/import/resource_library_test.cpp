@@ -7,7 +7,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "demo/pe_writer.h"
+#include "demo/format/pe_writer.h"
 #include "import/info_card.h"
 
 namespace orrerix {

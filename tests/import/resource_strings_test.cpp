@@ -6,7 +6,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "demo/pe_writer.h"
+#include "demo/format/pe_writer.h"
 #include "support/reader_fixture.h"
 
 namespace orrerix {
