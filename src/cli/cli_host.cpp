@@ -43,8 +43,7 @@ void CliHost::AppendText(std::string_view text) {
   doing_ = LastLine(text);
 }
 
-void CliHost::ProgressIt(std::int32_t maximum, std::int32_t value,
-                         const ImportProgress& progress) {
+void CliHost::ProgressIt(std::int32_t maximum, std::int32_t value, const ImportProgress& progress) {
   if (!shown_) return;
   const double share = progress.ImportSteps == 0
                            ? 0

@@ -69,6 +69,9 @@ int Run(int argc, char** argv) {
   AddSearchVerbs(app, options, run);
   AddInfoVerb(app, options, run);
   AddStationVerb(app, options, run);
+  AddWayVerb(app, options, run);
+  AddTradeVerb(app, options, run);
+  AddTravelTimesVerb(app, options, run);
 #ifdef ORRERIX_WITH_QT
   AddRenderVerb(app, options, run);
 #endif

@@ -69,20 +69,19 @@ Database OpenUniverse(const CommonOptions& options) {
   const fs::path path = options.DatabasePath();
   std::error_code error;
   if (!fs::exists(path, error)) {
-    throw CouldNot(fmt::format("there is no universe file '{}'; 'import' makes one",
-                               path.string()));
+    throw CouldNot(
+        fmt::format("there is no universe file '{}'; 'import' makes one", path.string()));
   }
   Stop stop;
   WorkingCopy copy;
   Database universe = copy.Of(stop, path);
   const auto stamp = StampOf(universe);
   if (!stamp) {
-    throw CouldNot(fmt::format("'{}' is no finished universe file; import it anew",
-                               path.string()));
+    throw CouldNot(fmt::format("'{}' is no finished universe file; import it anew", path.string()));
   }
   if (*stamp != CurrentVersion().Stamp()) {
-    throw CouldNot(fmt::format("the universe file '{}' is of another version; import it anew",
-                               path.string()));
+    throw CouldNot(
+        fmt::format("the universe file '{}' is of another version; import it anew", path.string()));
   }
   return universe;
 }

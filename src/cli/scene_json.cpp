@@ -35,9 +35,12 @@ void AddPlace(Json& json, const Box& place) {
 
 const char* PanelName(PanelPlace place) {
   switch (place) {
-    case PanelPlace::Right: return "right";
-    case PanelPlace::Below: return "below";
-    case PanelPlace::None: break;
+    case PanelPlace::Right:
+      return "right";
+    case PanelPlace::Below:
+      return "below";
+    case PanelPlace::None:
+      break;
   }
   return "none";
 }

@@ -33,6 +33,9 @@ void AddHoverVerb(CLI::App& app, const CommonOptions& options, Verb& run);
 void AddSearchVerbs(CLI::App& app, const CommonOptions& options, Verb& run);
 void AddInfoVerb(CLI::App& app, const CommonOptions& options, Verb& run);
 void AddStationVerb(CLI::App& app, const CommonOptions& options, Verb& run);
+void AddTradeVerb(CLI::App& app, const CommonOptions& options, Verb& run);
+void AddTravelTimesVerb(CLI::App& app, const CommonOptions& options, Verb& run);
+void AddWayVerb(CLI::App& app, const CommonOptions& options, Verb& run);
 void AddRenderVerb(CLI::App& app, const CommonOptions& options, Verb& run);
 
 }  // namespace orrerix

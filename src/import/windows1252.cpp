@@ -33,6 +33,22 @@ std::string_view FromWindows1252(std::string_view bytes, std::string& converted)
   return converted;
 }
 
+std::string ToWindows1252(std::string_view text) {
+  std::string bytes;
+  for (std::size_t at = 0; at < text.size();) {
+    const char32_t codePoint = NextCodePoint(text, at);
+    const auto* control = std::find(kUpperControls.begin(), kUpperControls.end(), codePoint);
+    if (codePoint < 0x80 || (codePoint >= 0xA0 && codePoint < 0x100)) {
+      bytes += static_cast<char>(codePoint);
+    } else if (control != kUpperControls.end()) {
+      bytes += static_cast<char>(0x80 + (control - kUpperControls.begin()));
+    } else {
+      bytes += '?';
+    }
+  }
+  return bytes;
+}
+
 bool IsInWindows1252(char32_t codePoint) {
   if (codePoint < 0x80 || (codePoint >= 0xA0 && codePoint < 0x100)) return true;
   return std::find(kUpperControls.begin(), kUpperControls.end(), codePoint) != kUpperControls.end();

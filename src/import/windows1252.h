@@ -18,4 +18,7 @@ std::string_view FromWindows1252(std::string_view bytes, std::string& converted)
 // Whether the character set has a character for this code point.
 bool IsInWindows1252(char32_t codePoint);
 
+// UTF-8 as Windows-1252 bytes; a character that it lacks becomes "?".
+std::string ToWindows1252(std::string_view text);
+
 }  // namespace orrerix

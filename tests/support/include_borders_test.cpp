@@ -26,8 +26,9 @@ const std::map<std::string, std::set<std::string>> kMayInclude = {
     {"map", {"derived", "import", "shell", "db", "platform"}},
     {"info", {"map", "derived", "import", "shell", "db", "platform"}},
     {"online", {"import", "shell", "db", "platform"}},
+    {"routes", {"import", "shell", "db", "platform"}},
     {"picture", {"map", "derived", "import", "shell", "db", "platform"}},
-    {"cli", {"picture", "info", "online", "map", "derived", "import", "shell", "db", "platform"}},
+    {"cli", {"picture", "routes", "info", "online", "map", "derived", "import", "shell", "db", "platform"}},
     {"forms", {"picture", "info", "online", "map", "derived", "import", "shell", "db", "platform"}},
     {"demo", {}},
 };

@@ -1,0 +1,163 @@
+// SPDX-License-Identifier: MIT
+#include "cli/travel_options.h"
+
+#include <array>
+#include <charconv>
+#include <cmath>
+
+#include <fmt/format.h>
+
+#include "db/text.h"
+#include "routes/places.h"
+
+namespace orrerix {
+namespace {
+
+struct ConstantOption {
+  const char* Name;  // without the dashes; with "_" for "-" the key of the answer
+  const char* Help;
+  double TravelModel::*Field;
+  bool IsSpeed;
+};
+
+constexpr std::array<ConstantOption, 9> kConstants = {{
+    {"cruise-speed", "Cruise speed, game units a second", &TravelModel::CruiseSpeed, true},
+    {"impulse-speed", "Impulse speed", &TravelModel::ImpulseSpeed, true},
+    {"charge-seconds", "Time to charge the cruise engines", &TravelModel::ChargeSeconds, false},
+    {"lane-speed", "Speed in a trade lane", &TravelModel::LaneSpeed, true},
+    {"lane-seconds", "Time to enter and leave a lane", &TravelModel::LaneSeconds, false},
+    {"gate-seconds", "Time of a jump gate", &TravelModel::GateSeconds, false},
+    {"hole-seconds", "Time of a jump hole", &TravelModel::HoleSeconds, false},
+    {"dock-seconds", "Time to dock", &TravelModel::DockSeconds, false},
+    {"launch-seconds", "Time to launch", &TravelModel::LaunchSeconds, false},
+}};
+
+double ParseConstant(const ConstantOption& option, const std::string& text) {
+  const auto number = WholeTextNumber(text);
+  if (!number || *number < 0 || (option.IsSpeed && *number == 0)) {
+    throw WrongUsage(fmt::format("--{} needs a number {} 0, not '{}'", option.Name,
+                                 option.IsSpeed ? "above" : "from", text));
+  }
+  return *number;
+}
+
+void ApplyShip(Routine& routine, OpenedUniverse& universe, const std::string& nickname,
+               Travel& travel) {
+  const auto ship = TravelOfShip(routine, universe.Data.DB, nickname);
+  if (!ship) throw CouldNot(fmt::format("there is no ship '{}'", nickname));
+  travel.Model.CruiseSpeed = ship->CruiseSpeed.value_or(travel.Model.CruiseSpeed);
+  travel.Model.ImpulseSpeed = ship->ImpulseSpeed.value_or(travel.Model.ImpulseSpeed);
+  travel.Model.ChargeSeconds = ship->ChargeSeconds.value_or(travel.Model.ChargeSeconds);
+  travel.ShipHold = ship->HoldSize;
+}
+
+// An option counts before the ship, the ship before the game, the game before the default.
+void ReadModel(Routine& routine, OpenedUniverse& universe, const TravelArguments& arguments,
+               const std::optional<GameFolder>& game, Travel& travel) {
+  travel.Model.LaneSeconds = LaneSecondsOf(routine, universe.Data.DB);
+  if (game) {
+    travel.Model.CruiseSpeed = CruiseSpeedOfGame(*game).value_or(travel.Model.CruiseSpeed);
+  }
+  if (arguments.Ship) ApplyShip(routine, universe, *arguments.Ship, travel);
+  for (std::size_t i = 0; i < kConstants.size(); ++i) {
+    if (const auto& text = arguments.Constants[i].Text) {
+      travel.Model.*kConstants[i].Field = ParseConstant(kConstants[i], *text);
+    }
+  }
+}
+
+void ReadWishes(Routine& routine, OpenedUniverse& universe, const TravelArguments& arguments,
+                Travel& travel) {
+  travel.Wishes = arguments.Switches;
+  if (arguments.Avoid) travel.Wishes.Avoid = SplitList(*arguments.Avoid);
+  if (arguments.AvoidFactions) travel.Wishes.AvoidFactions = SplitList(*arguments.AvoidFactions);
+  for (const std::string& name : travel.Wishes.Avoid) {
+    if (NodesToAvoid(travel.Graph, name).empty() && !travel.Graph.FindSystem(name)) {
+      throw CouldNot(fmt::format("there is no system, object or base '{}' to avoid", name));
+    }
+  }
+  for (const std::string& faction : travel.Wishes.AvoidFactions) {
+    if (!IsFaction(routine, universe.Data.DB, travel.Graph, faction)) {
+      throw CouldNot(fmt::format("there is no faction '{}' to avoid", faction));
+    }
+  }
+}
+
+}  // namespace
+
+void AddTravelOptions(CLI::App& verb, TravelArguments& arguments) {
+  arguments.Constants.resize(kConstants.size());
+  for (std::size_t i = 0; i < kConstants.size(); ++i) {
+    arguments.Constants[i].Field = kConstants[i].Field;
+    AddText(verb, std::string("--") + kConstants[i].Name, arguments.Constants[i].Text,
+            kConstants[i].Help);
+  }
+  AddText(verb, "--ship", arguments.Ship, "Ship whose speeds and hold count");
+  AddText(verb, "--game", arguments.Game,
+          "Game folder, for its cruise speed and all its locked gates");
+  AddText(verb, "--avoid", arguments.Avoid, "Systems, objects and bases to keep away from: X,...");
+  AddText(verb, "--avoid-faction", arguments.AvoidFactions, "Factions that let nobody dock: F,...");
+  verb.add_flag("--no-gates", arguments.Switches.NoGates, "Take no jump gate");
+  verb.add_flag("--no-holes", arguments.Switches.NoHoles, "Take no jump hole");
+  verb.add_flag("--no-locked", arguments.Switches.NoLocked,
+                "Take no jump that the story keeps locked");
+}
+
+Travel ReadTravel(Routine& routine, OpenedUniverse& universe, const TravelArguments& arguments) {
+  Travel travel;
+  std::optional<GameFolder> game;
+  if (arguments.Game) game.emplace(*arguments.Game);
+  ReadModel(routine, universe, arguments, game, travel);
+  travel.Graph = ReadTravelGraph(routine, universe.Data.DB);
+  ReadWishes(routine, universe, arguments, travel);
+  travel.Locked = LockedNumbers(routine, universe.Data.DB, game ? &*game : nullptr);
+  travel.Limits = LimitsOf(travel.Graph, travel.Wishes, travel.Locked);
+  return travel;
+}
+
+std::vector<std::string> SplitList(const std::string& text) {
+  std::vector<std::string> parts;
+  std::string_view rest = text;
+  while (true) {
+    const std::size_t comma = rest.find(',');
+    parts.emplace_back(Trim(rest.substr(0, comma)));
+    if (comma == std::string_view::npos) return parts;
+    rest.remove_prefix(comma + 1);
+  }
+}
+
+std::optional<double> WholeTextNumber(const std::string& text) {
+  double number = 0;
+  const char* const end = text.data() + text.size();
+  const auto [next, error] = std::from_chars(text.data(), end, number);
+  if (error != std::errc() || next != end || !std::isfinite(number)) return std::nullopt;
+  return number;
+}
+
+std::int64_t ParseCount(std::string_view option, const std::string& text, std::int64_t least,
+                        std::int64_t most) {
+  std::int64_t number = 0;
+  const char* const end = text.data() + text.size();
+  const auto [next, error] = std::from_chars(text.data(), end, number);
+  if (error != std::errc() || next != end || number < least || number > most) {
+    throw WrongUsage(
+        fmt::format("{} needs a whole number from {} to {}, not '{}'", option, least, most, text));
+  }
+  return number;
+}
+
+nlohmann::ordered_json ModelJson(const TravelModel& model) {
+  nlohmann::ordered_json json;
+  for (const ConstantOption& constant : kConstants) {
+    std::string key = constant.Name;
+    std::replace(key.begin(), key.end(), '-', '_');
+    json[key] = model.*constant.Field;
+  }
+  return json;
+}
+
+double Seconds(std::int64_t milliseconds) {
+  return static_cast<double>(milliseconds) / 1000;
+}
+
+}  // namespace orrerix

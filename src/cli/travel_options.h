@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: MIT
+// What way, trade and travel-times have in common.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include <CLI/CLI.hpp>
+#include <nlohmann/json.hpp>
+
+#include "cli/opened_universe.h"
+#include "routes/travel_graph.h"
+#include "routes/travel_model.h"
+#include "routes/why_no_way.h"
+#include "shell/routine.h"
+
+namespace orrerix {
+
+// The arguments about ships, speeds and what to keep away from, as they were given.
+struct TravelArguments {
+  struct Constant {
+    double TravelModel::*Field;
+    std::optional<std::string> Text;
+  };
+  std::vector<Constant> Constants;
+  std::optional<std::string> Ship;
+  std::optional<std::string> Game;
+  std::optional<std::string> Avoid;
+  std::optional<std::string> AvoidFactions;
+  TravelWishes Switches;  // --no-gates and its like; its lists stay empty
+};
+
+void AddTravelOptions(CLI::App& verb, TravelArguments& arguments);
+
+// The travel graph of a universe under the arguments.
+struct Travel {
+  TravelGraph Graph;
+  TravelModel Model;
+  TravelWishes Wishes;
+  std::set<std::uint32_t> Locked;
+  TravelLimits Limits;
+  std::optional<double> ShipHold;  // of --ship
+};
+
+// Throws WrongUsage for a speed that is not above 0 or a time below 0, and CouldNot for a ship,
+// a place or a faction that is not there.
+Travel ReadTravel(Routine& routine, OpenedUniverse& universe, const TravelArguments& arguments);
+
+// The parts of a list with commas, trimmed of blanks.
+std::vector<std::string> SplitList(const std::string& text);
+
+// A number that is all of a text; nothing if it is not one or not finite.
+std::optional<double> WholeTextNumber(const std::string& text);
+
+// A whole number within bounds. Throws WrongUsage that names the option.
+std::int64_t ParseCount(std::string_view option, const std::string& text, std::int64_t least,
+                        std::int64_t most);
+
+nlohmann::ordered_json ModelJson(const TravelModel& model);
+
+// Milliseconds as seconds.
+double Seconds(std::int64_t milliseconds);
+
+}  // namespace orrerix
