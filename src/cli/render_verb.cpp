@@ -40,16 +40,25 @@ class OffscreenQt {
   std::unique_ptr<QApplication> application_;
 };
 
-// Renders the frame into a picture of `size`, as large as its proportions allow, in the middle;
-// what is left over takes the frame's colour.
-void Paint(MapScene& scene, QPaintDevice& device, QSizeF size) {
+// Where the frame stands in a picture: pixel for pixel in one that was made for it, else as large
+// as its proportions allow, in the middle.
+QRectF PlaceOfFrame(const MapScene& scene, QSize size) {
+  const QSizeF frame = scene.sceneRect().size();
+  if (size == frame.toSize()) return {QPointF(0, 0), frame};
+  QRectF place(QPointF(0, 0), frame.scaled(size, Qt::KeepAspectRatio));
+  place.moveCenter(QRectF(QPointF(0, 0), size).center());
+  return place;
+}
+
+// What the frame leaves over takes its colour.
+void Paint(MapScene& scene, QPaintDevice& device, QSize size) {
   QPainter painter(&device);
+  // First, for the pixels that the frame's edges cover in part.
+  painter.fillRect(QRect(QPoint(0, 0), size), scene.backgroundBrush());
   painter.setRenderHint(QPainter::Antialiasing);
-  const QSizeF fitted = scene.sceneRect().size().scaled(size, Qt::KeepAspectRatio);
-  const QPointF corner((size.width() - fitted.width()) / 2, (size.height() - fitted.height()) / 2);
-  const QRectF frame(corner, fitted);
+  const QRectF frame = PlaceOfFrame(scene, size);
   scene.render(&painter, frame, scene.sceneRect());
-  // Painted last: not every kind of file clips what leaves the frame.
+  // Again: not every kind of file clips what leaves the frame.
   painter.setRenderHint(QPainter::Antialiasing, false);
   const QRectF whole(QPointF(0, 0), size);
   for (const QRectF& rest : {QRectF(whole.topLeft(), QPointF(frame.left(), whole.bottom())),

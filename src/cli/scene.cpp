@@ -99,7 +99,7 @@ class SceneMap {
   // Every gesture meets a map that was drawn: background tiles stay from one to the next.
   void Play(const Gesture& gesture) {
     const MapDrawing drawing = Redraw();
-    MapGestures mouse(state_);
+    MapGestures mouse(universe_.Log, state_);
     if (const Drag* drag = std::get_if<Drag>(&gesture)) {
       mouse.MouseDown(drag->X1, drag->Y1);
       mouse.MouseUp(PointerButton::Left, drawing.Cells, drag->X2, drag->Y2);

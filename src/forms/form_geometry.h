@@ -2,7 +2,9 @@
 // Twips of forms and controls as Qt's whole pixels.
 #pragma once
 
+#include <QMargins>
 #include <QWidget>
+#include <algorithm>
 #include <cmath>
 
 #include "forms/import_screen_layout.h"
@@ -20,19 +22,33 @@ inline QRect PixelRect(const FormPlace& place) {
   return PixelRect(place.Left, place.Top, place.Width, place.Height);
 }
 
-// The outer size that a form counts with, out of its inner size and that of its decoration, pixels.
-// The lay-outs leave room for a decoration of 10 by 33 pixels and no more: a larger one counts as if
-// it had those, so that nothing of what is laid out is cut off.
-inline QSize CountedOuterSize(const QSize& inner, const QSize& decoration) {
-  return inner + decoration.boundedTo(QSize(10, 33));
+// What the layouts allow for beside and above the inside of a form, in sum.
+inline constexpr QSize kLargestDecoration{10, 33};
+
+// Outer size in twips of a form with this inside and decoration (both pixels). A decoration larger
+// than the layouts allow for counts as if it had the largest size, so that nothing is cut.
+inline QSize OuterTwips(const QSize& inside, const QSize& decoration) {
+  return (inside + decoration.boundedTo(kLargestDecoration)) * static_cast<int>(kTwipsPerPixel);
 }
 
 // Outer size of a form, frame and title included.
 inline int OuterWidth(const QWidget& form) {
-  return static_cast<int>(Twips(form.frameGeometry().width()));
+  return OuterTwips(form.size(), form.frameGeometry().size() - form.size()).width();
 }
 inline int OuterHeight(const QWidget& form) {
-  return static_cast<int>(Twips(form.frameGeometry().height()));
+  return OuterTwips(form.size(), form.frameGeometry().size() - form.size()).height();
+}
+
+// Where the inside of a form of this decoration has to be, so that the form lies within a part of
+// the screen: moved first, and made smaller only if it is too large.
+inline QRect InsideWithin(const QRect& inside, const QMargins& decoration, const QRect& screen) {
+  const QRect room = screen.marginsRemoved(decoration);
+  QRect fitted(inside.topLeft(), inside.size().boundedTo(room.size()));
+  fitted.moveRight(std::min(fitted.right(), room.right()));
+  fitted.moveBottom(std::min(fitted.bottom(), room.bottom()));
+  fitted.moveLeft(std::max(fitted.left(), room.left()));
+  fitted.moveTop(std::max(fitted.top(), room.top()));
+  return fitted;
 }
 
 }  // namespace orrerix

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/map_box.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "db/number_text.h"
@@ -12,6 +13,7 @@ bool MapBox::IsHoverBox() const {
 }
 
 void MapBox::ShowHover(const HoverBox& hover) {
+  hovered_ = hover.Icon.Tag.value_or("");
   scene_.Replace(hover.Icon);
   Show(hover.Box);
 }
@@ -31,11 +33,17 @@ void MapBox::EndHover() {
   const std::string tag = shown_.front().Tag.value_or("");
   Hide();
   const int index = static_cast<int>(Val(tag));
-  if (const Control* icon = scene_.Find("Image1", index)) scene_.Replace(RestoredIcon(*icon, tag));
+  const Control* icon = scene_.Find("Image1", index);
+  if (icon != nullptr && icon->Tag == hovered_) scene_.Replace(RestoredIcon(*icon, tag));
 }
 
 void MapBox::MapRedrawn() {
-  if (IsHoverBox()) Hide();
+  if (!IsHoverBox()) return;
+  const ControlList& controls = scene_.Drawing().Controls;
+  const auto icon = std::find_if(controls.begin(), controls.end(), [this](const Control& control) {
+    return control.Name == "Image1" && control.Tag == hovered_;
+  });
+  if (icon != controls.end()) ShowHover(MovedHoverBox(shown_, *icon, scene_.Drawing()));
 }
 
 }  // namespace orrerix

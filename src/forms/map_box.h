@@ -31,12 +31,14 @@ class MapBox {
   // Hides a hover box and gives its icon its own size again.
   void EndHover();
 
-  // The map was drawn anew, with all icons in their own size: a hover box is over, any other stays.
+  // The map was drawn anew, with all icons in their own size. A hover goes on: its icon is enlarged
+  // again with the box beside it. A box whose icon is no longer there stays where it is.
   void MapRedrawn();
 
  private:
   MapScene& scene_;
   ControlList shown_;
+  std::string hovered_;  // tag of the hover box's icon
 };
 
 }  // namespace orrerix

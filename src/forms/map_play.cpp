@@ -16,8 +16,9 @@ MapPlay::MapPlay(MapScreen& screen, MapForm& form, ErrorLog& log, Settings& sett
       log_(log),
       language_(language),
       sound_(sound),
-      gestures_(screen.State()),
-      switches_(log, settings, language, screen.State()),
+      gestures_(log, screen.State()),
+      switches_(log, settings, language, screen.State(),
+                [this](std::string_view path) { Play(path); }),
       box_(screen.Scene()),
       panelKeys_(screen.Frame(),
                  [this](std::string_view name, int index) { PanelKeyClick(name, index); }) {
@@ -74,7 +75,7 @@ void MapPlay::SysmapFrameMouseUp(PointerButton released, float x, float y) {
 }
 
 bool MapPlay::PushZoomStack(const ZoomRectangle& rectangle) {
-  const ZoomChange change = screen_.State().Zoom.PushZoomStack(rectangle);
+  const ZoomChange change = screen_.State().Zoom.PushZoomStack(log_, rectangle);
   if (change == ZoomChange::Beep) sound_.Beep();
   if (change == ZoomChange::Changed) Play(kZoomSound);
   return change == ZoomChange::Changed;
@@ -84,14 +85,16 @@ bool MapPlay::PushZoomStack(const ZoomRectangle& rectangle) {
 
 void MapPlay::Image1MouseMove(int index) {
   if (box_.Visible()) return;
-  const Control* icon = screen_.Scene().Find("Image1", index);
-  if (icon == nullptr) return;
+  const Control* shown = screen_.Scene().Find("Image1", index);
+  if (shown == nullptr) return;
+  // A question about a failure lets events through, and with them a redraw.
+  const Control icon = *shown;
   Routine routine(log_, "OrrerixMain.Image1_MouseMove");
   routine.Run([&] {
     Play(kHoverSound);
     Universe universe = form_.OpenUniverse(routine);
     box_.ShowHover(OpenHoverBox(universe, screen_.State().Names, language_, boxMeasure_,
-                                screen_.Drawing(), *icon));
+                                screen_.Drawing(), icon));
   });
 }
 
@@ -125,7 +128,6 @@ void MapPlay::SetLabelClick(int index) {
 }
 
 void MapPlay::Follow(const SwitchAnswer& answer) {
-  Play(answer.Sound);
   if (answer.LoadFormTXT) form_.LoadFormTXT();
   if (answer.Redraw) form_.FormResize();
 }

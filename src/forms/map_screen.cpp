@@ -68,8 +68,10 @@ MapOptions MapScreen::ReadOptions() {
 
 void MapScreen::Redraw(Universe& universe, int formWidth, int formHeight) {
   options_ = ReadOptions();
+  // News and language may change while a question about a failure is open.
+  const PanelContent panel = panel_;
   MapDrawing drawing =
-      DrawMap(universe, state_, {formWidth, formHeight, options_, measure_, panel_, starMap_});
+      DrawMap(universe, state_, {formWidth, formHeight, options_, measure_, panel, starMap_});
   // No pixel that the drawing does not reach to its far side.
   const QRectF frame = Pixels(drawing.Frame);
   frame_->setGeometry(QRect(frame.topLeft().toPoint(), QSize(static_cast<int>(frame.width()),

@@ -50,9 +50,6 @@ void NewsPlay::MapRedrawn() {
     const int top = WholeTwips(child.Place.Top);
     band_.push_back({top, WholeTwips(child.Place.Height), true});
   }
-  // Labels that have not come up yet would show through between logo and credit line.
-  for (BandLabel& label : band_) label.Visible = label.Top < bottom_;
-  ShowBand();
   timer_.start();
 }
 

@@ -3,6 +3,7 @@
 
 #include <QCloseEvent>
 #include <QGuiApplication>
+#include <QScopedValueRollback>
 #include <QScreen>
 #include <QTimer>
 #include <utility>
@@ -25,6 +26,7 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr QSize kSmallestForm{640, 480};
+constexpr int kDecorationDelay = 100;  // milliseconds
 constexpr QRgb kGround = 0xFF04081C;
 
 // A game folder as it is typed in, without what stands behind it by accident.
@@ -100,6 +102,17 @@ void OrrerixMain::ShowMaximised() {
   showMaximized();
 }
 
+// What a desktop remembers as the form's own size may leave no room for the decoration.
+void OrrerixMain::KeepOnScreen() {
+  if (windowState() != Qt::WindowNoState || printSide_ > 0) return;
+  const QRect inside = geometry();
+  const QRect outer = frameGeometry();
+  const QMargins decoration(inside.left() - outer.left(), inside.top() - outer.top(),
+                            outer.right() - inside.right(), outer.bottom() - inside.bottom());
+  const QRect fitted = InsideWithin(inside, decoration, screen()->availableGeometry());
+  if (fitted != inside) setGeometry(fitted);
+}
+
 void OrrerixMain::resizeEvent(QResizeEvent* event) {
   QWidget::resizeEvent(event);
   FormResize();
@@ -107,12 +120,25 @@ void OrrerixMain::resizeEvent(QResizeEvent* event) {
 
 void OrrerixMain::changeEvent(QEvent* event) {
   QWidget::changeEvent(event);
-  if (event->type() == QEvent::WindowStateChange) FormResize();
+  if (event->type() == QEvent::WindowStateChange) {
+    FormResize();
+    // The desktop tells the decoration of a form that is no longer maximised a moment later.
+    QTimer::singleShot(kDecorationDelay, this, [this] { KeepOnScreen(); });
+  }
   if (event->type() == QEvent::ActivationChange && isActiveWindow()) QueueFocus();
 }
 
 void OrrerixMain::FormResize() {
   if (!loaded_ || warning_ || isMinimized()) return;
+  // The question about a failure lets events through. A redraw that they ask for waits for this
+  // one.
+  redrawWanted_ = true;
+  if (redrawing_) return;
+  const QScopedValueRollback<bool> running(redrawing_, true);
+  while (std::exchange(redrawWanted_, false)) ShowScreen();
+}
+
+void OrrerixMain::ShowScreen() {
   std::error_code ignored;
   if (importing_ || !fs::exists(UniverseFile(), ignored)) {
     ShowImportScreen();
@@ -314,7 +340,7 @@ void OrrerixMain::PrintTheMap() {
     SetOuterGeometry({screenRect.topLeft(), QSize(screenRect.height(), screenRect.height())});
     FormResize();
     yield();
-    routine.Try([&] { PrintForm(map_.Scene(), parts_.Printing.DefaultPrinter()); });
+    routine.Try([&] { PrintForm(*this, map_.Frame(), parts_.Printing.DefaultPrinter()); });
     yield();
     map_.State().PrintMode = false;
     printSide_ = 0;

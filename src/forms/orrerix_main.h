@@ -87,7 +87,9 @@ class OrrerixMain : public QWidget, private MapForm {
   void RunImport();
   void PlaceForImport();
   void ShowImportScreen();
+  void ShowScreen();
   void ShowMap();
+  void KeepOnScreen();
   void SetOuterGeometry(const QRect& outer);
 
   const FormParts& parts_;
@@ -105,6 +107,8 @@ class OrrerixMain : public QWidget, private MapForm {
   bool complaining_ = false;  // that the game is missing
   bool mapShown_ = false;
   bool warning_ = false;  // the question before the first map is open, or was answered by an end
+  bool redrawing_ = false;
+  bool redrawWanted_ = false;  // while another one was running
   bool updateNoticeShown_ = false;
   News news_;
   int printSide_ = 0;  // twips of the form's sides while it prints; else 0

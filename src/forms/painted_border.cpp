@@ -10,8 +10,8 @@ namespace orrerix {
 
 void PaintBorder(QPainter& painter, BorderSet set, const QRect& place, PictureStore& pictures) {
   const auto side = [](int pixels) { return static_cast<int>(std::lround(Twips(pixels))); };
-  const ControlList pieces = SetRahmen(set, side(place.left()), side(place.top()),
-                                       side(place.right() + 1), side(place.bottom() + 1));
+  const ControlList pieces = BorderPieces(set, side(place.left()), side(place.top()),
+                                          side(place.right() + 1), side(place.bottom() + 1));
   for (const Control& piece : pieces) {
     pictures.Draw(painter, PictureFile(piece), Pixels(piece.Place));
   }

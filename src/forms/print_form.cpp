@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/print_form.h"
 
+#include <QImage>
 #include <QPainter>
 #include <QPrinter>
 
@@ -24,11 +25,11 @@ void SetTarget(QPrinter& printer, const PrintTarget& target) {
 }
 
 // In the middle of the page's printable part.
-QRectF PlaceOnPage(const QSizeF& frame, const QPrinter& printer) {
+QRectF PlaceOnPage(const QSizeF& form, const QPrinter& printer) {
   const QRectF page(QPointF(0, 0), printer.pageRect(QPrinter::DevicePixel).size());
   // A printer may not heed the resolution that it is asked for.
   const double pixel = static_cast<double>(printer.resolution()) / kDotsPerInch;
-  QSizeF size = frame * pixel;
+  QSizeF size = form * pixel;
   if (size.width() > page.width() || size.height() > page.height()) {
     size.scale(page.size(), Qt::KeepAspectRatio);
   }
@@ -37,16 +38,42 @@ QRectF PlaceOnPage(const QSizeF& frame, const QPrinter& printer) {
   return place;
 }
 
+// Widgets clip to whole pixels of the screen: painted on paper itself their parts leave seams.
+QImage PictureOf(QWidget& widget) {
+  constexpr int dotsPerPixel = 3;
+  QImage picture(widget.size() * dotsPerPixel, QImage::Format_ARGB32_Premultiplied);
+  picture.setDevicePixelRatio(dotsPerPixel);
+  picture.fill(Qt::transparent);
+  widget.render(&picture);
+  return picture;
+}
+
 }  // namespace
 
-void PrintForm(MapScene& scene, const std::optional<PrintTarget>& target) {
+// The scene is painted itself, not its view: on paper its pictures are as fine as they can be.
+void PaintForm(QPainter& painter, const QWidget& form, QGraphicsView& map) {
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setClipRect(form.rect(), Qt::IntersectClip);
+  const QPointF corner = map.mapTo(&form, QPoint(0, 0));
+  const QRectF frame = map.sceneRect();
+  map.scene()->render(&painter, QRectF(corner, frame.size()), frame);
+  // Children are in the order of their stacking.
+  for (QObject* child : map.children()) {
+    auto* widget = qobject_cast<QWidget*>(child);
+    if (widget == nullptr || widget == map.viewport() || !widget->isVisible()) continue;
+    painter.drawImage(widget->mapTo(&form, QPoint(0, 0)), PictureOf(*widget));
+  }
+  painter.restore();
+}
+
+void PrintForm(const QWidget& form, QGraphicsView& map, const std::optional<PrintTarget>& target) {
   if (!target) {
     throw Failure{kPrinterError, "The map cannot be printed: this computer has no printer."};
   }
   QPrinter printer(QPrinter::HighResolution);
   SetTarget(printer, *target);
   printer.setResolution(kDotsPerInch);
-  const QRectF frame = scene.sceneRect();
   printer.setDocName("FL Orrerix");
   QPainter painter;
   if (!painter.begin(&printer)) {
@@ -54,8 +81,10 @@ void PrintForm(MapScene& scene, const std::optional<PrintTarget>& target) {
                   fmt::format("The map cannot be printed: '{}' takes no pages.",
                               target->File.empty() ? target->Printer : target->File.string())};
   }
-  painter.setRenderHint(QPainter::Antialiasing);
-  scene.render(&painter, PlaceOnPage(frame.size(), printer), frame);
+  const QRectF place = PlaceOnPage(form.size(), printer);
+  painter.translate(place.topLeft());
+  painter.scale(place.width() / form.width(), place.height() / form.height());
+  PaintForm(painter, form, map);
 }
 
 }  // namespace orrerix

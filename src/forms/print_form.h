@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "picture/map_scene.h"
+#include <QGraphicsView>
+#include <QPainter>
+#include <optional>
+
 #include "platform/printer.h"
 
 namespace orrerix {
@@ -9,8 +12,12 @@ namespace orrerix {
 // The failure number of a printer that does not do its work.
 inline constexpr int kPrinterError = 482;
 
-// Prints what a scene shows on one page, as large as the page's proportions allow, never larger
-// than on the screen of 96 pixels an inch. Throws a Failure if there is nothing to print on.
-void PrintForm(MapScene& scene, const std::optional<PrintTarget>& target);
+// Prints the inside of a form on one page: its map, and the widgets that stand on the map, on white
+// paper. As large as the page's proportions allow, never larger than on a screen of 96 pixels an
+// inch. Throws a Failure if there is nothing to print on.
+void PrintForm(const QWidget& form, QGraphicsView& map, const std::optional<PrintTarget>& target);
+
+// The same on any painter, with the form's top left corner in its origin.
+void PaintForm(QPainter& painter, const QWidget& form, QGraphicsView& map);
 
 }  // namespace orrerix

@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "forms/search_panel_view.h"
 
+#include <QApplication>
 #include <QKeyEvent>
 #include <QSignalBlocker>
+#include <functional>
+#include <utility>
 
 #include "forms/form_geometry.h"
 #include "forms/row_list.h"
@@ -12,18 +15,43 @@ namespace orrerix {
 namespace {
 
 constexpr int kFont = 9;
+constexpr int kCaptionFont = 7;
 constexpr int kGap = 60;  // between text box and close button, twips
 
 // A light edge parts it from the panel that it covers.
 constexpr const char* kStyle =
     "#StSearchFrame { background: #060a26; border: 1px solid #5ab4dc; }"
     "QLineEdit, QListWidget { background: #0a1034; color: #e0e8ff; border: 1px solid #3a54a0; }"
+    "QLabel { color: #00cccc; }"
     "QLineEdit:focus, QListWidget:focus { border-color: #7ac8f0; }";
 
 QRect RectOf(const orrerix::Box& box) {
   return PixelRect(static_cast<int>(box.Left), static_cast<int>(box.Top),
                    static_cast<int>(box.Width), static_cast<int>(box.Height));
 }
+
+// Acts on the Escape key wherever on a panel's window the focus is, while the panel is seen.
+class EscapeKey : public QObject {
+ public:
+  EscapeKey(QWidget& panel, std::function<void()> act)
+      : QObject(&panel), panel_(panel), act_(std::move(act)) {
+    QApplication::instance()->installEventFilter(this);
+  }
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() != QEvent::KeyPress || !watched->isWidgetType()) return false;
+    if (static_cast<QKeyEvent*>(event)->key() != Qt::Key_Escape || !panel_.isVisible())
+      return false;
+    if (static_cast<QWidget*>(watched)->window() != panel_.window()) return false;
+    act_();
+    return true;
+  }
+
+ private:
+  QWidget& panel_;
+  std::function<void()> act_;
+};
 
 }  // namespace
 
@@ -34,6 +62,10 @@ SearchPanelView::SearchPanelView(SearchEvents& events, QWidget* map)
   setFrameShape(QFrame::StyledPanel);
   setStyleSheet(kStyle);
   setFont(FormFont(kFont));
+  caption_ = new QLabel(this);
+  caption_->setObjectName("StSearchCaption");
+  caption_->setFont(FormFont(kCaptionFont));
+  new EscapeKey(*this, [this] { events_.StSearchCloseClick(); });
   text_ = new QLineEdit(this);
   text_->setObjectName("StSearchText");
   text_->setAccessibleName("Search text");
@@ -67,10 +99,12 @@ QListWidget* SearchPanelView::AddList(const char* name, const char* accessibleNa
   return list;
 }
 
-void SearchPanelView::Show(const SearchPanel& panel) {
+void SearchPanelView::Show(const SearchPanel& panel, const QString& caption) {
   if (!panel.Visible()) return hide();
   setGeometry(RectOf(panel.Frame()));
   const QRect textRect = RectOf(panel.TextBox());
+  caption_->setText(caption);
+  caption_->setGeometry(textRect.left(), 0, width() - 2 * textRect.left(), textRect.top());
   text_->setGeometry(textRect);
   const int gap = static_cast<int>(Pixels(kGap));
   close_->setGeometry(textRect.right() + gap, textRect.top(), width() - textRect.right() - 2 * gap,
@@ -125,9 +159,6 @@ bool SearchPanelView::eventFilter(QObject* watched, QEvent* event) {
 
 bool SearchPanelView::KeyPress(QObject* control, int key) {
   switch (key) {
-    case Qt::Key_Escape:
-      events_.StSearchCloseClick();
-      return true;
     case Qt::Key_Return:
     case Qt::Key_Enter:
       events_.EnterKey(control == text_        ? SearchControl::Text

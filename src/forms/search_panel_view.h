@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QFrame>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QToolButton>
@@ -28,11 +29,12 @@ class SearchEvents {
 // The search panel's controls on the map: they show a SearchPanel and tell what is done to them.
 class SearchPanelView : public QFrame {
  public:
-  // `events` must outlive this.
+  // `events` must outlive this. While the panel is seen the Escape key closes it, wherever on its
+  // window the focus is.
   SearchPanelView(SearchEvents& events, QWidget* map);
 
-  // Shows the panel as it is now; hides it if it is closed.
-  void Show(const SearchPanel& panel);
+  // Shows the panel as it is now, with this caption at its head; hides it if it is closed.
+  void Show(const SearchPanel& panel, const QString& caption);
   void Focus(SearchControl control);
 
  protected:
@@ -44,6 +46,7 @@ class SearchPanelView : public QFrame {
   bool KeyPress(QObject* control, int key);
 
   SearchEvents& events_;
+  QLabel* caption_;
   QLineEdit* text_;
   QListWidget* subSearch_;
   QListWidget* list_;

@@ -10,6 +10,11 @@
 #include "shell/routine.h"
 
 namespace orrerix {
+namespace {
+
+constexpr int kCaptionText = 12;
+
+}  // namespace
 
 SearchPlay::SearchPlay(MapScreen& screen, MapForm& form, MapPlay& play, ErrorLog& log,
                        Language& language)
@@ -85,7 +90,7 @@ void SearchPlay::EnterKey(SearchControl in) {
 }
 
 void SearchPlay::Follow(SearchAnswer answer) {
-  view_->Show(panel_);
+  view_->Show(panel_, QString::fromStdString(language_.TXT(kCaptionText)));
   if (answer.InfoBox) ShowInfo(std::move(*answer.InfoBox));
   view_->Focus(answer.Focus);
   if (answer.Jump) Jump(*answer.Jump);
@@ -112,11 +117,11 @@ void SearchPlay::Jump(const std::string& nickname) {
     const auto icon = std::find_if(controls.begin(), controls.end(), [&](const Control& control) {
       return control.Name == "Image1" && control.Tag == target->Nickname;
     });
+    // The move may fold the options, which redraws the map.
+    const bool found = icon != controls.end();
+    const int index = found ? icon->Index.value_or(0) : 0;
     play_.SysmapFrameMouseMove(PointerButton::None, 0, 0);
-    if (icon == controls.end()) {
-      return routine.Fail(RuntimeFailure(failure_number::kSubscriptOutOfRange));
-    }
-    const int index = icon->Index.value_or(0);
+    if (!found) return routine.Fail(RuntimeFailure(failure_number::kSubscriptOutOfRange));
     play_.Image1MouseMove(index);
     play_.Image1Click(index);
     screen_.Frame().setFocus();

@@ -209,11 +209,10 @@ void StationInfo::FormResize() {
         modes_.Mode() == StationMode::Prices || modes_.Mode() == StationMode::Trades;
     FillList();
     const TextMeasure& measure = modes_.Mode() == StationMode::Info ? fixedMeasure_ : formMeasure_;
-    const QSize outer = CountedOuterSize(size(), Decoration());
+    const QSize outer = OuterTwips(size(), Decoration());
     const ControlList controls =
         LayOutStation(universe, Words(), measure,
-                      {data_, texts_, modes_.Mode(), static_cast<int>(Twips(outer.width())),
-                       static_cast<int>(Twips(outer.height()))});
+                      {data_, texts_, modes_.Mode(), outer.width(), outer.height()});
     prices_->setVisible(isTable);
     infoText_->setVisible(!isTable);
     searchFrame_->setVisible(!isTable && modes_.Mode() != StationMode::Info);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "forms/text_box.h"
 
+#include <QTextOption>
+
 #include "picture/form_font.h"
 
 namespace orrerix {
@@ -18,6 +20,7 @@ TextBox::TextBox(const char* name, QWidget* parent) : QPlainTextEdit(parent) {
   setReadOnly(true);
   setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   setTabChangesFocus(true);
+  setWordWrapMode(QTextOption::WordWrap);
   setUndoRedoEnabled(false);
   setFrameShape(QFrame::NoFrame);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

@@ -32,6 +32,14 @@ ControlList BoxControls(const Box& place, std::string text, std::string tag) {
   return {std::move(shape), BoxText(inner, std::move(text))};
 }
 
+// Enlarges the icon; the tag that says what it was before.
+std::string Enlarge(Control& icon) {
+  std::string tag = fmt::format("{},{}", icon.Index.value_or(0), NumberText(icon.Place.Width));
+  icon.Place.Width = kHoveredIcon;
+  icon.Place.Height = kHoveredIcon;
+  return tag;
+}
+
 }  // namespace
 
 HoverBox OpenHoverBox(Universe& universe, const CellNames& names, TextSource& texts,
@@ -39,15 +47,24 @@ HoverBox OpenHoverBox(Universe& universe, const CellNames& names, TextSource& te
   HoverBox hover{icon, {}};
   Routine routine(universe.Log, "OrrerixMain.Image1_MouseMove");
   routine.Run([&] {
-    std::string tag = fmt::format("{},{}", icon.Index.value_or(0), NumberText(icon.Place.Width));
-    hover.Icon.Place.Width = kHoveredIcon;
-    hover.Icon.Place.Height = kHoveredIcon;
+    std::string tag = Enlarge(hover.Icon);
     std::string text = icon.Tag.value_or("");
     WriteHoverText(routine, universe, names, texts, text);
     const TextExtent extent = MeasureLines(routine, text, measure, kBoxFont);
     hover.Box = BoxControls(HoverBoxPlace(hover.Icon.Place, extent, drawing), std::move(text),
                             std::move(tag));
   });
+  return hover;
+}
+
+HoverBox MovedHoverBox(const ControlList& box, const Control& icon, const MapDrawing& drawing) {
+  HoverBox hover{icon, {}};
+  std::string tag = Enlarge(hover.Icon);
+  const Box& before = box.front().Place;
+  const TextExtent extent{WholeTwips(before.Width) - 2 * kMargin,
+                          WholeTwips(before.Height) - 2 * kMargin};
+  hover.Box = BoxControls(HoverBoxPlace(hover.Icon.Place, extent, drawing),
+                          box.back().Caption.value_or(""), std::move(tag));
   return hover;
 }
 

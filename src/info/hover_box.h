@@ -21,6 +21,9 @@ struct HoverBox {
 HoverBox OpenHoverBox(Universe& universe, const CellNames& names, TextSource& texts,
                       const TextMeasure& measure, const MapDrawing& drawing, const Control& icon);
 
+// The box of a hover after a redraw: the same text beside the icon's new place.
+HoverBox MovedHoverBox(const ControlList& box, const Control& icon, const MapDrawing& drawing);
+
 // The icon at the size that the tag of its box keeps for it.
 Control RestoredIcon(Control icon, std::string_view shapeTag);
 

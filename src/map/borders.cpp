@@ -6,6 +6,7 @@
 #include <fmt/format.h>
 
 #include "map/numeric.h"
+#include "shell/routine.h"
 
 namespace orrerix {
 namespace {
@@ -18,24 +19,26 @@ Box NaturalSize(BorderSet set, int piece) {
   const Box corner = large ? Box{0, 0, 315, 315} : Box{0, 0, 225, 240};
   switch (piece) {
     case Top:
-    case Bottom: return {0, 0, 960, kBorderThickness};
+    case Bottom:
+      return {0, 0, 960, kBorderThickness};
     case LeftEdge:
-    case RightEdge: return {0, 0, kBorderThickness, 960};
-    default: return corner;
+    case RightEdge:
+      return {0, 0, kBorderThickness, 960};
+    default:
+      return corner;
   }
 }
 
 }  // namespace
 
-ControlList SetRahmen(BorderSet set, int left, int top, int right, int bottom) {
+ControlList BorderPieces(BorderSet set, int left, int top, int right, int bottom) {
   std::array<Box, kBorderPieces> boxes;
   for (int k = 0; k < kBorderPieces; ++k) boxes[static_cast<std::size_t>(k)] = NaturalSize(set, k);
   const auto moveTo = [](Box& box, double x, double y) { box.Left = x, box.Top = y; };
   moveTo(boxes[TopLeft], left, top);
   moveTo(boxes[TopRight], right - boxes[TopRight].Width, top);
   moveTo(boxes[BottomLeft], left, bottom - boxes[BottomLeft].Height);
-  moveTo(boxes[BottomRight], right - boxes[BottomRight].Width,
-         bottom - boxes[BottomRight].Height);
+  moveTo(boxes[BottomRight], right - boxes[BottomRight].Width, bottom - boxes[BottomRight].Height);
 
   moveTo(boxes[Top], left + boxes[TopLeft].Width, top);
   boxes[Top].Width = MAXI(0.0, boxes[TopRight].Left - boxes[Top].Left);
@@ -53,6 +56,13 @@ ControlList SetRahmen(BorderSet set, int left, int top, int right, int bottom) {
                                  boxes[static_cast<std::size_t>(k)],
                                  fmt::format("rahmen/set{}_{}.png", number, k)));
   }
+  return pieces;
+}
+
+ControlList SetRahmen(ErrorLog& log, BorderSet set, double right, double bottom) {
+  ControlList pieces;
+  Routine routine(log, "OrrerixMain.SetRahmen", "While calcing a border");
+  routine.Run([&] { pieces = BorderPieces(set, 0, 0, routine.Long(right), routine.Long(bottom)); });
   return pieces;
 }
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "map/drawing_list.h"
+#include "shell/error_log.h"
 
 namespace orrerix {
 
@@ -16,6 +17,11 @@ inline constexpr int kBorderThickness = 60;
 
 // The eight pieces (control `Rahmen`) of a set, fitted into the rectangle between the four sides.
 // Corners first, then the edges between them; no width or height goes below 0.
-ControlList SetRahmen(BorderSet set, int left, int top, int right, int bottom);
+ControlList BorderPieces(BorderSet set, int left, int top, int right, int bottom);
+
+// The pieces from the top left corner of their parent to these sides (twips), which are rounded to
+// 32-bit integers. A side outside that range is a failure of this routine; on OK it counts as 0, on
+// Cancel there are no pieces.
+ControlList SetRahmen(ErrorLog& log, BorderSet set, double right, double bottom);
 
 }  // namespace orrerix

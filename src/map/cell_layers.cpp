@@ -50,10 +50,10 @@ ControlList BackgroundTiles(MapState& state, const Box& frame) {
     MapTile& tile = state.Tiles[i];
     if (state.PrintMode) tile.Visible = false;
     if (!tile.Visible) continue;
-    tiles.push_back(MakePicture("Hintergrund", static_cast<int>(i),
-                                {static_cast<double>(tile.Left), static_cast<double>(tile.Top),
-                                 kTileSize, kTileSize},
-                                "Hintergrund"));
+    tiles.push_back(MakePicture(
+        "Hintergrund", static_cast<int>(i),
+        {static_cast<double>(tile.Left), static_cast<double>(tile.Top), kTileSize, kTileSize},
+        "Hintergrund"));
   }
   return tiles;
 }
@@ -87,7 +87,7 @@ ControlList Fillers(const CellNames& names, const CellGeometry& cells) {
   return fillers;
 }
 
-ControlList SystemLabels(const MapState& state, const CellGeometry& cells,
+ControlList SystemLabels(Routine& routine, const MapState& state, const CellGeometry& cells,
                          const TextMeasure& measure) {
   ControlList labels;
   const ZoomRectangle& visible = state.Zoom.Current();
@@ -97,7 +97,8 @@ ControlList SystemLabels(const MapState& state, const CellGeometry& cells,
       if (name.empty()) continue;
       Control label = MakeLabel("SysmapLabel", static_cast<int>(CellNames::Index({x, y})),
                                 cells.CellBox(x, y), name);
-      label.FontSize = LabelFont(name, cells.CellSize(), measure);
+      label.FontSize = kLargestFont;
+      routine.Try([&] { label.FontSize = LabelFont(name, cells.CellSize(), measure); });
       label.ForeColor = state.PrintMode ? kPrintText : kLabelText;
       label.BackColor = kLabelBack;
       labels.push_back(std::move(label));

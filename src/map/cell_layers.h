@@ -3,6 +3,7 @@
 #pragma once
 
 #include "map/redraw.h"
+#include "shell/routine.h"
 
 namespace orrerix {
 
@@ -20,7 +21,7 @@ ControlList Fillers(const CellNames& names, const CellGeometry& cells);
 
 // Names of the systems in the visible rectangle, in the largest font up to 10 points that fits the
 // cell, black in print.
-ControlList SystemLabels(const MapState& state, const CellGeometry& cells,
+ControlList SystemLabels(Routine& routine, const MapState& state, const CellGeometry& cells,
                          const TextMeasure& measure);
 
 }  // namespace orrerix

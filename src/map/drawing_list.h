@@ -71,6 +71,8 @@ struct Control {
   std::optional<std::string> Picture;  // name of the control or file that it comes from
   std::optional<std::string> Tag;
   std::optional<std::string> ToolTip;
+  bool Bordered = false;      // a picture with a line of one pixel in BorderColor inside its place
+  bool ClipsChildren = true;  // of a frame: what leaves its box is not seen
 
   std::vector<Control> Children;  // in the parent's coordinates, back to front
 

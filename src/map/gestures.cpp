@@ -88,10 +88,10 @@ ZoomRectangle MapGestures::Touched(const CellGeometry& cells, float x, float y) 
 }
 
 ReleaseAnswer MapGestures::ZoomIn(const ZoomRectangle& rectangle) {
-  const ZoomChange change = state_.Zoom.PushZoomStack(rectangle);
+  UnloadObjects(state_);
+  const ZoomChange change = state_.Zoom.PushZoomStack(log_, rectangle);
   ReleaseAnswer answer;
-  // A rectangle that stays is drawn anew all the same: its objects are unloaded by then.
-  answer.UnloadObjects = true;
+  // A rectangle that stays is redrawn too: its objects have been unloaded.
   answer.Redraw = true;
   answer.Beep = change == ZoomChange::Beep;
   if (change == ZoomChange::Changed) answer.Sound = kZoomSound;
@@ -100,7 +100,8 @@ ReleaseAnswer MapGestures::ZoomIn(const ZoomRectangle& rectangle) {
 
 ReleaseAnswer MapGestures::GoBack() {
   ReleaseAnswer answer;
-  answer.Redraw = answer.UnloadObjects = state_.Zoom.PopZoomStack();
+  answer.Redraw = state_.Zoom.PopZoomStack(log_);
+  if (answer.Redraw) UnloadObjects(state_);
   return answer;
 }
 

@@ -18,9 +18,8 @@ struct MoveAnswer {
   ControlList RubberBand;  // the four lines to be shown in front; empty: leave them as they are
 };
 
-// What a release asks of the window, in this order. The rubber band goes in any case.
+// What a release asks of the window, in this order. The rubber band is hidden in any case.
 struct ReleaseAnswer {
-  bool UnloadObjects = false;  // lines and icons are made anew by the next redraw
   bool Beep = false;
   std::string_view Sound;  // path below the game folder, empty for none
   bool Redraw = false;
@@ -30,8 +29,8 @@ struct ReleaseAnswer {
 // during a drag they may lie beyond its edges.
 class MapGestures {
  public:
-  // `state` must outlive this.
-  explicit MapGestures(MapState& state) : state_(state) {}
+  // Both must outlive this.
+  MapGestures(ErrorLog& log, MapState& state) : log_(log), state_(state) {}
 
   // Any button begins a drag.
   void MouseDown(float x, float y);
@@ -50,6 +49,7 @@ class MapGestures {
   ReleaseAnswer ZoomIn(const ZoomRectangle& rectangle);
   ReleaseAnswer GoBack();
 
+  ErrorLog& log_;
   MapState& state_;
   float dragStartX_ = 0;
   float dragStartY_ = 0;

@@ -16,6 +16,7 @@ constexpr Color kGateLine{0xFFFFFF};
 constexpr Color kGateLineInPrint{0x000000};
 constexpr Color kHoleLine{0x808080};
 constexpr Color kLaneLine{0xFF0000};
+constexpr Color kIconBorder{0x503828};
 
 // The fields of a row that say where a point of it is.
 struct PlaceFields {
@@ -82,6 +83,8 @@ Control MakeIcon(Routine& routine, int index, const CellGeometry& cells,
   const Box box{static_cast<float>(point.X - half), static_cast<float>(point.Y - half), size, size};
   Control icon = MakePicture("Image1", index, box, std::move(picture));
   icon.Tag = "";
+  icon.Bordered = true;
+  icon.BorderColor = kIconBorder;
   return icon;
 }
 

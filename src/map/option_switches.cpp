@@ -37,7 +37,7 @@ SwitchAnswer OptionSwitches::SetImageClick(int which, const MapOptions& shown) {
   SwitchAnswer answer;
   Routine routine(log_, "OrrerixMain.SetImage_Click", IndexText(which));
   routine.Run([&] {
-    answer.Sound = kSwitchSound;
+    playSound_(kSwitchSound);
     routine.Try([&] {
       if (which < 0 || which >= kMapSwitches) {
         throw RuntimeFailure(failure_number::kSubscriptOutOfRange);
@@ -46,7 +46,7 @@ SwitchAnswer OptionSwitches::SetImageClick(int which, const MapOptions& shown) {
       settings_.WriteSettingValue(SettingKey(state_.Zoom.Current().IsZoomed(), which),
                                   on ? "1" : "0");
     });
-    answer.UnloadObjects = true;
+    UnloadObjects(state_);
     answer.Redraw = true;
   });
   return answer;

@@ -2,7 +2,9 @@
 // The display switches and the language, as the options panel changes them.
 #pragma once
 
+#include <functional>
 #include <string_view>
+#include <utility>
 
 #include "map/redraw.h"
 #include "shell/settings.h"
@@ -15,24 +17,31 @@ MapOptions ReadMapOptions(Settings& settings, bool zoomed);
 
 // What a click on the panel asks of the window, in this order.
 struct SwitchAnswer {
-  std::string_view Sound;      // path below the game folder, empty for none
-  bool UnloadObjects = false;  // lines and icons are made anew by the next redraw
-  bool LoadFormTXT = false;    // the captions are to be read in the new language
+  bool LoadFormTXT = false;  // the captions are to be read in the new language
   bool Redraw = false;
 };
 
 // The panel's mouse events. Failures go to the user with the index of what was clicked.
 class OptionSwitches {
  public:
+  // Plays the sound with this path below the game folder.
+  using PlaySound = std::function<void(std::string_view path)>;
+
   // All of these must outlive this.
-  OptionSwitches(ErrorLog& log, Settings& settings, Language& language, MapState& state)
-      : log_(log), settings_(settings), language_(language), state_(state) {}
+  OptionSwitches(ErrorLog& log, Settings& settings, Language& language, MapState& state,
+                 PlaySound playSound)
+      : log_(log),
+        settings_(settings),
+        language_(language),
+        state_(state),
+        playSound_(std::move(playSound)) {}
 
   // The mouse touches the panel's caption: the options unfold, unless the search panel is open.
   // True if the map is to be redrawn.
   bool ShowOptionsLabelMouseMove(bool searchPanelOpen);
 
-  // Turns a switch over, from what the panel shows, in the set of the current view.
+  // Turns a switch over, from what the panel shows, in the set of the current view. The sound comes
+  // first, then the setting is written; the objects on the map are unloaded.
   SwitchAnswer SetImageClick(int which, const MapOptions& shown);
 
   // The same for a click on the switch's caption; the language's label goes to the next language.
@@ -45,6 +54,7 @@ class OptionSwitches {
   Settings& settings_;
   Language& language_;
   MapState& state_;
+  PlaySound playSound_;
 };
 
 }  // namespace orrerix

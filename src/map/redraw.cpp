@@ -23,6 +23,16 @@ double NotBelowZero(double size) {
   return MAXI(0.0, size);
 }
 
+// Where the panel stands when the map is shown for the first time, as the whole grid. A form that
+// leaves no room at the right of it counts as if it did.
+Box FirstPanelPlace(const Box& frame) {
+  const ZoomRectangle grid;
+  const double cells = grid.Columns() * CellGeometry(frame, grid).CellSize();
+  const double width =
+      MINI(frame.Width, MAXI(kNarrowestPanel, frame.Width - cells - kBorderMargin));
+  return {frame.Width - width, 0, width, frame.Height};
+}
+
 class Redraw {
  public:
   Redraw(Routine& routine, Universe& universe, MapState& state, const MapView& view,
@@ -30,49 +40,90 @@ class Redraw {
       : routine_(routine), universe_(universe), state_(state), view_(view), drawing_(drawing) {}
 
   void Run() {
-    PlaceFrame();
+    ZoomCalc();
     PlacePanel();
-    ControlList panel = Panel();
-    if (state_.PrintMode) {
-      Add(std::move(panel));
-    } else {
-      panel_ = std::move(panel);
-    }
-    DrawCells();
+    if (drawing_.Zoomed) SurroundCells();
+    routine_.Try([&] { LayOutPanel(); });
     DrawObjects();
-    DrawBorder();
+    state_.Objects = {};  // what a complete redraw has not placed is gone
+    state_.BorderShown = !state_.PrintMode;
   }
 
-  // Stacks the layers above the cells. A cancelled redraw shows what it had come to.
+  // Stacks all layers. Objects of the last redraw that a cancelled one has not reached stay.
   void Stack() {
-    Add(std::move(jumps_.Lines));
-    Add(std::move(lanes_));
-    Add(std::move(jumps_.Icons));
-    Add(std::move(objects_));
-    Add(std::move(border_));
-    Add(std::move(panel_));
+    MapObjects placed{std::move(jumps_.Lines), std::move(jumps_.Icons)};
+    Append(placed.Lines, std::move(lanes_));
+    Append(placed.Icons, std::move(objects_));
+    state_.Objects = {Over(std::move(state_.Objects.Lines), std::move(placed.Lines)),
+                      Over(std::move(state_.Objects.Icons), std::move(placed.Icons))};
+    if (state_.PrintMode) Append(drawing_.Controls, std::move(panel_));
+    for (ControlList* layer : {&tiles_, &painted_, &pictures_, &fillers_, &labels_}) {
+      Append(drawing_.Controls, std::move(*layer));
+    }
+    Append(drawing_.Controls, state_.Objects.Lines);
+    Append(drawing_.Controls, state_.Objects.Icons);
+    if (state_.BorderShown && !state_.PrintMode) Append(drawing_.Controls, std::move(border_));
+    if (!state_.PrintMode) Append(drawing_.Controls, std::move(panel_));
   }
 
  private:
   const ZoomRectangle& Visible() const { return state_.Zoom.Current(); }
 
-  void Add(ControlList layer) {
-    for (Control& control : layer) drawing_.Controls.push_back(std::move(control));
+  static void Append(ControlList& list, ControlList more) {
+    for (Control& control : more) list.push_back(std::move(control));
   }
 
-  void PlaceFrame() {
-    drawing_.Frame = FrameOn(view_.FormWidth, view_.FormHeight);
-    drawing_.FrameColor = state_.PrintMode ? kFrameBackInPrint : kFrameBack;
-    drawing_.Zoomed = Visible().IsZoomed();
-    drawing_.Cells = CellGeometry(drawing_.Frame, Visible());
-    const int cell = drawing_.Cells.CellSize();
-    drawing_.FreeRight =
-        WholeTwips(drawing_.Frame.Width - Visible().Columns() * cell - kBorderMargin);
-    drawing_.FreeBelow = WholeTwips(drawing_.Frame.Height - Visible().Rows() * cell);
+  // The elements placed now in front of those from before that they do not replace.
+  static ControlList Over(ControlList before, ControlList placed) {
+    const int last = placed.empty() ? 0 : placed.back().Index.value_or(0);
+    std::erase_if(before, [&](const Control& control) { return control.Index <= last; });
+    Append(before, std::move(placed));
+    return before;
+  }
+
+  // Frame, cells, and all layers that follow the cells.
+  void ZoomCalc() {
+    Routine routine(universe_.Log, "OrrerixMain.ZoomCalc");
+    routine.Run([&] {
+      drawing_.Zoomed = Visible().IsZoomed();
+      drawing_.PrintMode = state_.PrintMode;
+      drawing_.FrameColor = state_.PrintMode ? kFrameBackInPrint : kFrameBack;
+      drawing_.Frame = FrameOn(view_.FormWidth, view_.FormHeight);
+      drawing_.Cells = CellGeometry(drawing_.Frame, Visible());
+      const CellGeometry& cells = drawing_.Cells;
+      routine.Try([&] { tiles_ = BackgroundTiles(state_, drawing_.Frame); });
+      if (!drawing_.Zoomed && !state_.PrintMode) routine.Try([&] { ShowPaintedUniverse(); });
+      if (view_.Options[MapSwitch::SystemNames]) {
+        labels_ = SystemLabels(routine, state_, cells, view_.Measure);
+      }
+      if (state_.PrintMode) return;
+      if (view_.Options[MapSwitch::SystemBackgrounds]) {
+        routine.Try([&] { pictures_ = SystemPictures(cells); });
+      }
+      if (view_.Options[MapSwitch::EmptyBackgrounds]) {
+        routine.Try([&] { fillers_ = Fillers(state_.Names, cells); });
+      }
+    });
+  }
+
+  void ShowPaintedUniverse() {
+    painted_ = {PaintedUniverse(drawing_.Frame, view_.StarMapPicture)};
+    const Box& universe = painted_.front().Place;
+    border_ =
+        SetRahmen(universe_.Log, BorderSet::Map, universe.Width + kUniverseMargin, universe.Height);
+  }
+
+  void SurroundCells() {
+    const double cell = drawing_.Cells.CellSize();
+    border_ = SetRahmen(universe_.Log, BorderSet::Map, Visible().Columns() * cell + kBorderMargin,
+                        Visible().Rows() * cell);
   }
 
   void PlacePanel() {
     const Box& frame = drawing_.Frame;
+    const int cell = drawing_.Cells.CellSize();
+    drawing_.FreeRight = WholeTwips(frame.Width - Visible().Columns() * cell - kBorderMargin);
+    drawing_.FreeBelow = WholeTwips(frame.Height - Visible().Rows() * cell);
     if (drawing_.FreeRight > drawing_.FreeBelow) {
       drawing_.Panel = PanelPlace::Right;
       const int left = WholeTwips(frame.Width - drawing_.FreeRight);
@@ -86,34 +137,24 @@ class Redraw {
     }
   }
 
-  ControlList Panel() {
+  void LayOutPanel() {
+    const PanelView view{universe_.Log,      view_.Panel,      view_.Options,
+                         state_.OptionsOpen, state_.PrintMode, view_.Measure};
     Control panel = MakeFrame("MenuFrame", 0, drawing_.PanelBox, kPanelBack);
     panel.ForeColor = kPanelText;
     SidePanel content;
     if (drawing_.Panel == PanelPlace::Right) {
-      content = LayOutPanelRight(drawing_.PanelBox, view_.Panel, view_.Options, state_.OptionsOpen,
-                                 view_.Measure);
+      content = LayOutPanelRight(drawing_.PanelBox, view);
+      // A print has a form of its own; the screen's panel does not move because of it.
+      if (!state_.PrintMode) state_.PanelAtRight = drawing_.PanelBox;
     } else if (drawing_.Panel == PanelPlace::Below) {
-      content = LayOutPanelBelow(drawing_.PanelBox, view_.Panel);
+      content = LayOutPanelBelow(
+          drawing_.PanelBox, state_.PanelAtRight.value_or(FirstPanelPlace(drawing_.Frame)), view);
+      panel.ClipsChildren = !content.Overhangs;
     }
     panel.Children = std::move(content.Controls);
     drawing_.NewsScrolls = content.NewsScrolls;
-    return {std::move(panel)};
-  }
-
-  void DrawCells() {
-    const CellGeometry& cells = drawing_.Cells;
-    Add(BackgroundTiles(state_, drawing_.Frame));
-    if (!drawing_.Zoomed && !state_.PrintMode) {
-      Add({PaintedUniverse(drawing_.Frame, view_.StarMapPicture)});
-    }
-    if (view_.Options[MapSwitch::SystemBackgrounds] && !state_.PrintMode) {
-      Add(SystemPictures(cells));
-    }
-    if (view_.Options[MapSwitch::EmptyBackgrounds] && !state_.PrintMode) {
-      Add(Fillers(state_.Names, cells));
-    }
-    if (view_.Options[MapSwitch::SystemNames]) Add(SystemLabels(state_, cells, view_.Measure));
+    panel_ = {std::move(panel)};
   }
 
   void DrawObjects() {
@@ -128,27 +169,16 @@ class Redraw {
     }
   }
 
-  // Round the shown cells, or round the painted universe.
-  void DrawBorder() {
-    if (state_.PrintMode) return;
-    int right = 0;
-    int bottom = 0;
-    if (drawing_.Zoomed) {
-      right = Visible().Columns() * drawing_.Cells.CellSize() + kBorderMargin;
-      bottom = Visible().Rows() * drawing_.Cells.CellSize();
-    } else {
-      const Box universe = PaintedUniverse(drawing_.Frame, {}).Place;
-      right = WholeTwips(universe.Width + kUniverseMargin);
-      bottom = WholeTwips(universe.Height);
-    }
-    border_ = SetRahmen(BorderSet::Map, 0, 0, right, bottom);
-  }
-
   Routine& routine_;
   Universe& universe_;
   MapState& state_;
   const MapView& view_;
   MapDrawing& drawing_;
+  ControlList tiles_;
+  ControlList painted_;
+  ControlList pictures_;
+  ControlList fillers_;
+  ControlList labels_;
   JumpLayers jumps_;
   ControlList lanes_;
   ControlList objects_;
@@ -157,6 +187,10 @@ class Redraw {
 };
 
 }  // namespace
+
+void UnloadObjects(MapState& state) {
+  state.Objects = {};
+}
 
 MapDrawing DrawMap(Universe& universe, MapState& state, const MapView& view) {
   MapDrawing drawing;

@@ -2,6 +2,7 @@
 // One redraw of the map: from the form's size and the visible rectangle to a drawing list.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -23,11 +24,21 @@ struct MapTile {
   bool Visible = false;
 };
 
+// The elements of the arrays Line1 and Image1, back to front.
+struct MapObjects {
+  ControlList Lines;
+  ControlList Icons;
+};
+
 // What the map remembers from one redraw to the next.
 struct MapState {
   ZoomStack Zoom;
   CellNames Names;
   std::vector<MapTile> Tiles;
+  MapObjects Objects;        // as the last redraw left them
+  bool BorderShown = false;  // the map's border, by the last redraw that got that far
+  std::optional<Box>
+      PanelAtRight;  // where the panel stood on the screen when it was last at the right
   bool PrintMode = false;
   bool OptionsOpen = false;
 };
@@ -47,18 +58,23 @@ enum class PanelPlace { None, Right, Below };
 struct MapDrawing {
   Box Frame;
   Color FrameColor;
+  bool PrintMode = false;  // on white paper
   bool Zoomed = false;
   CellGeometry Cells;
   int FreeRight = 0;  // twips beside the shown cells
   int FreeBelow = 0;
   PanelPlace Panel = PanelPlace::None;
-  Box PanelBox;          // MenuFrame(0)
+  Box PanelBox;  // MenuFrame(0)
   bool NewsScrolls = false;
   ControlList Controls;  // visible children of the frame, back to front
 };
 
+// Drops the lines and icons of the last redraw. Called before a redraw whose objects differ.
+void UnloadObjects(MapState& state);
+
 // Draws the map as it stands. The database needs the tables of the derived stages; one without rows
-// gives a map without lines and icons.
+// gives a map without lines and icons. A redraw that the user cancels keeps the lines, icons and
+// border that the last one showed and that it has not placed itself.
 MapDrawing DrawMap(Universe& universe, MapState& state, const MapView& view);
 
 }  // namespace orrerix

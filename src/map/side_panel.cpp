@@ -18,7 +18,8 @@ constexpr Color kNewsText{0xFFFF80};
 constexpr Color kCreditText{0xC0A080};
 
 constexpr int kTools = 5;
-constexpr int kInnerLeft = 40;  // of the frames within the panel
+constexpr int kToolsMargin = 100;  // beside, and above and below their row, each in sum
+constexpr int kInnerLeft = 40;     // of the frames within the panel
 constexpr int kInnerRight = 20;
 constexpr int kCheckSize = 225;
 constexpr int kCheckLeft = 120;
@@ -57,6 +58,11 @@ void Append(ControlList& list, ControlList more) {
   for (Control& control : more) list.push_back(std::move(control));
 }
 
+ControlList Border(const PanelView& view, BorderSet set, double right, double bottom) {
+  if (view.PrintMode) return {};
+  return SetRahmen(view.Log, set, right, bottom);
+}
+
 // Fits a picture of the logo's proportions into a room, as wide as it can be.
 Box FitLogo(const PanelContent& content, double width, double mostHeight) {
   Box logo = WithSize(0, 0, width, 0);
@@ -89,19 +95,19 @@ Control Logo(const PanelContent& content, Box place) {
 }
 
 // The row of tool icons with its border.
-ControlList Tools(const Box& panel, int iconSize, const PanelContent& content) {
+ControlList Tools(const Box& panel, int iconSize, const PanelView& view) {
   ControlList tools;
   for (int i = 0; i < kTools; ++i) {
     Control tool = MakePicture("StationSearch", i,
                                {static_cast<double>(i * iconSize + 50), 50,
                                 static_cast<double>(iconSize), static_cast<double>(iconSize)},
                                kToolPictures[static_cast<std::size_t>(i)]);
-    tool.ToolTip = content.ToolTips[static_cast<std::size_t>(i)];
+    tool.ToolTip = view.Content.ToolTips[static_cast<std::size_t>(i)];
+    tool.BackColor = kBack;
     tools.push_back(std::move(tool));
   }
   constexpr int borderGap = 21;
-  Append(tools, SetRahmen(BorderSet::Tools, 0, 0, WholeTwips(panel.Width),
-                          iconSize + 100 - borderGap));
+  Append(tools, Border(view, BorderSet::Tools, panel.Width, iconSize + kToolsMargin - borderGap));
   return tools;
 }
 
@@ -121,16 +127,15 @@ ControlList Switches(double frameWidth, double top, const PanelContent& content,
                                 on ? "tools/check_on.svg" : "tools/check_off.svg");
     check.Tag = on ? "1" : "0";
     switches.push_back(std::move(check));
-    switches.push_back(Label("SetLabel", i,
-                             {left + kCheckSize, rowTop, kOptionLabel.Width, kOptionLabel.Height},
-                             content.Options[static_cast<std::size_t>(i)], kOptionFont,
-                             kOptionText));
+    switches.push_back(
+        Label("SetLabel", i, {left + kCheckSize, rowTop, kOptionLabel.Width, kOptionLabel.Height},
+              content.Options[static_cast<std::size_t>(i)], kOptionFont, kOptionText));
   }
   return switches;
 }
 
-Control OptionsFrame(const Box& panel, double top, const PanelContent& content,
-                     const MapOptions& options, bool optionsOpen) {
+Control OptionsFrame(const Box& panel, double top, const PanelView& view) {
+  const PanelContent& content = view.Content;
   const double width = NotBelowZero(panel.Width - kInnerLeft - kInnerRight);
   const Box caption{0, kBorderThickness, width, kShowOptionsHeight};
   const double switchesTop = caption.Bottom() + 2 * kBorderThickness;
@@ -144,13 +149,12 @@ Control OptionsFrame(const Box& panel, double top, const PanelContent& content,
             {caption.Right() - kOptionLabel.Width, caption.Bottom() - kOptionLabel.Height,
              kOptionLabel.Width, kOptionLabel.Height},
             content.Options[kLanguageLabel], kOptionFont, kOptionText));
-  if (optionsOpen) {
-    ControlList switches = Switches(width, switchesTop, content, options);
+  if (view.OptionsOpen) {
+    ControlList switches = Switches(width, switchesTop, content, view.Options);
     frame.Place.Height = switches.back().Place.Top + kOptionLabel.Height + kBorderThickness;
     Append(frame.Children, std::move(switches));
   }
-  Append(frame.Children, SetRahmen(BorderSet::Options, 0, 0, WholeTwips(width),
-                                   WholeTwips(frame.Place.Height)));
+  Append(frame.Children, Border(view, BorderSet::Options, width, frame.Place.Height));
   return frame;
 }
 
@@ -168,13 +172,11 @@ InfoBoxFoot FootOf(const Box& box, const PanelContent& content, const TextMeasur
       OptFontSize(content.Credit, measure, kCreditFont, WholeTwips(box.Width / 2));
   InfoBoxFoot foot{
       Label("WRTP", 0,
-            {0, 0, box.Width,
-             static_cast<double>(measure.TextHeight(content.Slogan, sloganFont))},
+            {0, 0, box.Width, static_cast<double>(measure.TextHeight(content.Slogan, sloganFont))},
             content.Slogan, sloganFont, kText),
       Logo(content, FitLogo(content, box.Width, 0)),
       Label("WRTP", 1,
-            {0, 0, box.Width,
-             static_cast<double>(measure.TextHeight(content.Credit, creditFont))},
+            {0, 0, box.Width, static_cast<double>(measure.TextHeight(content.Credit, creditFont))},
             content.Credit, creditFont, kCreditText)};
   foot.Slogan.BackColor = kBack;
   foot.Slogan.ToolTip = content.SloganTip;
@@ -192,35 +194,72 @@ struct InfoBox {
   bool NewsScrolls = false;
 };
 
-InfoBox MakeInfoBox(const Box& panel, double top, const PanelContent& content,
-                    const TextMeasure& measure) {
+Control InfoFrame(const Box& box) {
+  Control frame = MakeFrame("MenuFrame", 2, box, kBack);
+  frame.Caption = "Infobox";
+  frame.ForeColor = kText;
+  return frame;
+}
+
+InfoBox MakeInfoBox(const Box& panel, double top, const PanelView& view) {
+  const PanelContent& content = view.Content;
   InfoBox info;
-  const Box box = WithSize(kInnerLeft, top, panel.Width - kInnerLeft - kInnerRight,
-                           panel.Height - top);
-  info.Frame = MakeFrame("MenuFrame", 2, box, kBack);
-  info.Frame.Caption = "Infobox";
-  info.Frame.ForeColor = kText;
-  InfoBoxFoot foot = FootOf(box, content, measure);
+  const Box box =
+      WithSize(kInnerLeft, top, panel.Width - kInnerLeft - kInnerRight, panel.Height - top);
+  info.Frame = InfoFrame(box);
+  InfoBoxFoot foot = FootOf(box, content, view.Measure);
   const double sloganTop = foot.Slogan.Place.Top;
 
-  const double bandHeight =
-      box.Width / Val(kHeadBandTag.substr(4)) * Val(kHeadBandTag);
+  const double bandHeight = box.Width / Val(kHeadBandTag.substr(4)) * Val(kHeadBandTag);
   const Box background =
       WithSize(kBorderThickness, kBorderThickness, box.Width - 2 * kBorderThickness,
                sloganTop - kBorderThickness - kBorderThickness);
   ControlList& children = info.Frame.Children;
   children.push_back(MakePicture("ITACImage", 1, background, "itac_background.jpg"));
-  children.push_back(MakePicture("ITACImage", 0, {0, kBorderThickness, box.Width, bandHeight},
-                                 "itac_head.png"));
+  children.push_back(
+      MakePicture("ITACImage", 0, {0, kBorderThickness, box.Width, bandHeight}, "itac_head.png"));
   children.back().Tag = kHeadBandTag;
   Append(children, NewsLabels(content, box.Width, kBorderThickness + bandHeight));
   info.NewsScrolls = !content.News.empty() && children.back().Place.Bottom() > sloganTop;
-  Append(children, SetRahmen(BorderSet::InfoBox, 0, 0, WholeTwips(box.Width),
-                             WholeTwips(sloganTop)));
+  Append(children, Border(view, BorderSet::InfoBox, box.Width, sloganTop));
   children.push_back(std::move(foot.LogoPicture));
   children.push_back(std::move(foot.Slogan));
   children.push_back(std::move(foot.Credit));
   return info;
+}
+
+int IconSize(const Box& panel) {
+  return MAXI(0, WholeTwips((panel.Width - kToolsMargin) / kTools));
+}
+
+// The tools with the options below them, which come last.
+ControlList ToolsAndOptions(double width, const PanelView& view) {
+  const Box panel{0, 0, width, 0};
+  const int iconSize = IconSize(panel);
+  ControlList controls = Tools(panel, iconSize, view);
+  controls.push_back(OptionsFrame(panel, iconSize + kToolsMargin, view));
+  return controls;
+}
+
+// The width at which tools and folded options are no higher than the panel, if they can be. They
+// keep it while the options are unfolded, so that these do not move away from the mouse.
+double FittingWidth(const Box& panel, double width, PanelView view) {
+  view.OptionsOpen = false;
+  const Box options = ToolsAndOptions(width, view).back().Place;
+  if (options.Bottom() <= panel.Height) return width;
+  const double iconSize = panel.Height - options.Height - kToolsMargin;
+  return MINI(width, MAXI(kNarrowestPanel, kTools * iconSize + kToolsMargin));
+}
+
+Control InfoFrameBelow(const Box& panel, const PanelContent& content) {
+  const Box box = WithSize(0, 0, panel.Width, panel.Height);
+  Control frame = InfoFrame(box);
+  Append(frame.Children, NewsLabels(content, box.Width, 0));
+  Box logo = FitLogo(content, NotBelowZero(box.Width - 100), box.Height - 100);
+  logo.Left = NotBelowZero(box.Width - logo.Width) - 50;
+  logo.Top = NotBelowZero(box.Height - logo.Height) - 50;
+  frame.Children.push_back(Logo(content, logo));
+  return frame;
 }
 
 }  // namespace
@@ -239,39 +278,36 @@ PanelContent PanelTexts(TextSource& texts) {
   content.Credit = "Artwork: The Orrerix authors";
   for (std::size_t i = 0; i < toolTips.size(); ++i) content.ToolTips[i] = texts.TXT(toolTips[i]);
   content.ToolTips.back() = "Print Map";
-  content.News.push_back(
-      {"OX-Main-Webpage", "The Orrerix Project needs ur Support - click to open it´s MainPage.",
-       ""});
+  content.News.push_back({"OX-Main-Webpage",
+                          "The Orrerix Project needs ur Support - click to open it´s MainPage.",
+                          ""});
   return content;
 }
 
-SidePanel LayOutPanelRight(const Box& panel, const PanelContent& content,
-                           const MapOptions& options, bool optionsOpen,
-                           const TextMeasure& measure) {
-  const int iconSize = MAXI(0, WholeTwips((panel.Width - 100) / kTools));
+SidePanel LayOutPanelRight(const Box& panel, const PanelView& view) {
   SidePanel laidOut;
-  laidOut.Controls = Tools(panel, iconSize, content);
-  Control optionsFrame = OptionsFrame(panel, iconSize + 100, content, options, optionsOpen);
-  const double below = optionsFrame.Place.Bottom();
-  InfoBox info = MakeInfoBox(panel, below, content, measure);
+  laidOut.Controls = ToolsAndOptions(panel.Width, view);
+  Control optionsFrame = std::move(laidOut.Controls.back());
+  laidOut.Controls.pop_back();
+  InfoBox info = MakeInfoBox(panel, optionsFrame.Place.Bottom(), view);
   laidOut.NewsScrolls = info.NewsScrolls;
   laidOut.Controls.push_back(std::move(info.Frame));
   laidOut.Controls.push_back(std::move(optionsFrame));
   return laidOut;
 }
 
-SidePanel LayOutPanelBelow(const Box& panel, const PanelContent& content) {
-  const Box box = WithSize(0, 0, panel.Width, panel.Height);
-  Control frame = MakeFrame("MenuFrame", 2, box, kBack);
-  frame.Caption = "Infobox";
-  frame.ForeColor = kText;
-  Append(frame.Children, NewsLabels(content, box.Width, 0));
-  Box logo = FitLogo(content, NotBelowZero(box.Width - 100), box.Height - 100);
-  logo.Left = NotBelowZero(box.Width - logo.Width) - 50;
-  logo.Top = NotBelowZero(box.Height - logo.Height) - 50;
-  frame.Children.push_back(Logo(content, logo));
+SidePanel LayOutPanelBelow(const Box& panel, const Box& atRight, const PanelView& view) {
+  const double width = FittingWidth(panel, MINI(atRight.Width, panel.Width), view);
+  ControlList inFront = ToolsAndOptions(width, view);
   SidePanel laidOut;
-  laidOut.Controls.push_back(std::move(frame));
+  const double missing = inFront.back().Place.Bottom() - panel.Height;
+  if (missing > 0) {
+    laidOut.Overhangs = true;
+    const double up = MINI(missing, panel.Top);
+    for (Control& control : inFront) control.Place.Top -= up;
+  }
+  laidOut.Controls.push_back(InfoFrameBelow(panel, view.Content));
+  Append(laidOut.Controls, std::move(inFront));
   return laidOut;
 }
 

@@ -9,6 +9,7 @@
 #include "map/drawing_list.h"
 #include "map/map_options.h"
 #include "map/text_measure.h"
+#include "shell/error_log.h"
 #include "shell/language.h"
 
 namespace orrerix {
@@ -24,9 +25,9 @@ struct NewsItem {
 struct PanelContent {
   std::array<std::string, 7> Options;  // SetLabel(0) to (6)
   std::string ShowOptions;
-  std::string Slogan;                  // WRTP(0)
+  std::string Slogan;  // WRTP(0)
   std::string SloganTip;
-  std::string Credit;                  // WRTP(1)
+  std::string Credit;  // WRTP(1)
   std::string LogoTip;
   std::array<std::string, 5> ToolTips;  // StationSearch(0) to (4)
   std::vector<NewsItem> News;           // element 0 is the program's own
@@ -37,16 +38,33 @@ struct PanelContent {
 // The captions from a language's texts, without news but the program's own line.
 PanelContent PanelTexts(TextSource& texts);
 
+// What a lay-out of the panel depends on besides its place.
+struct PanelView {
+  ErrorLog& Log;
+  const PanelContent& Content;
+  const MapOptions& Options;
+  bool OptionsOpen = false;
+  bool PrintMode = false;  // no border is visible
+  const TextMeasure& Measure;
+};
+
 struct SidePanel {
   ControlList Controls;      // children of MenuFrame(0), back to front
   bool NewsScrolls = false;  // the news does not fit
+  bool Overhangs = false;    // tools and options reach over the panel's upper edge
 };
 
-// Lays out the panel at the map's right, or in its reduced form below. `panel` is the place of
-// MenuFrame(0) on the map frame. No width or height goes below 0.
-SidePanel LayOutPanelRight(const Box& panel, const PanelContent& content,
-                           const MapOptions& options, bool optionsOpen,
-                           const TextMeasure& measure);
-SidePanel LayOutPanelBelow(const Box& panel, const PanelContent& content);
+// Lays out the panel at the map's right. `panel` is the place of MenuFrame(0) on the map frame. No
+// width or height goes below 0. The captions of the frames are covered by what stands in them.
+SidePanel LayOutPanelRight(const Box& panel, const PanelView& view);
+
+// The narrowest panel, twips, in which the tools can still be hit.
+inline constexpr double kNarrowestPanel = 3000;
+
+// The reduced panel below the map: news, logo, and in front of them tools and options where they
+// were laid out in `atRight`, the panel's last place at the map's right. In a panel too low for
+// them they are smaller, down to those of the narrowest panel, and reach up over the map if that is
+// not enough, so that they can always be used.
+SidePanel LayOutPanelBelow(const Box& panel, const Box& atRight, const PanelView& view);
 
 }  // namespace orrerix

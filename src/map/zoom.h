@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "derived/system_grid.h"
+#include "shell/error_log.h"
 
 namespace orrerix {
 
@@ -38,11 +39,12 @@ class ZoomStack {
   void Reset(const ZoomRectangle& rectangle = {});
 
   // Saves the current rectangle and takes a new one. The same one again only beeps, but for the
-  // first: at depth 0 it is saved like any other.
-  ZoomChange PushZoomStack(const ZoomRectangle& rectangle);
+  // first: at depth 0 it is saved like any other. The depth is a 16-bit number: a step beyond it is
+  // a failure, on OK the new rectangle replaces the current one and that is saved as the last one.
+  ZoomChange PushZoomStack(ErrorLog& log, const ZoomRectangle& rectangle);
 
   // Goes back to the rectangle saved last. False if there is none.
-  bool PopZoomStack();
+  bool PopZoomStack(ErrorLog& log);
 
  private:
   ZoomRectangle current_;

@@ -55,11 +55,27 @@ class PictureItem : public ControlItem {
   // wait for the best.
   void paint(QPainter* painter, const QStyleOptionGraphicsItem*, QWidget* window) override {
     using Reading = PictureStore::Reading;
-    pictures_.Draw(*painter, file_, BoxOf(Shown()), seen_,
+    const QRectF box = BoxOf(Shown());
+    if (Shown().BackColor) painter->fillRect(box, ToQColor(*Shown().BackColor));
+    pictures_.Draw(*painter, file_, box, seen_,
                    window == nullptr ? Reading::AtOnce : Reading::Later);
+    if (Shown().Bordered) DrawBorder(*painter, box);
   }
 
  private:
+  // On the device's whole pixels, as the picture is; half a pixel would be a pale one.
+  void DrawBorder(QPainter& painter, const QRectF& box) const {
+    const double width = painter.device()->devicePixelRatioF();
+    const QRectF outer = PictureStore::PlaceOnDevice(painter, box);
+    QPainterPath line;
+    line.addRect(outer);
+    line.addRect(outer.adjusted(width, width, -width, -width));
+    const QTransform world = painter.worldTransform();
+    painter.setWorldTransform(painter.deviceTransform().inverted() * world);
+    painter.fillPath(line, ToQColor(Shown().BorderColor));
+    painter.setWorldTransform(world);
+  }
+
   PictureStore& pictures_;
   QString file_;
   QRectF seen_;
@@ -88,8 +104,9 @@ Stretch StretchWithin(const QLineF& line, const QRectF& place) {
 // pales where it crosses one.
 class LineItem : public ControlItem {
  public:
-  LineItem(const Control& control, QGraphicsItem* parent)
+  LineItem(const Control& control, bool onPaper, QGraphicsItem* parent)
       : ControlItem(control, parent),
+        onPaper_(onPaper),
         line_(Pixels(control.Ends.X1), Pixels(control.Ends.Y1), Pixels(control.Ends.X2),
               Pixels(control.Ends.Y2)) {
     setPos(0, 0);
@@ -102,6 +119,7 @@ class LineItem : public ControlItem {
   QPainterPath shape() const override { return {}; }
 
   void SpareLetters(const std::vector<QRectF>& letters) override {
+    if (onPaper_) return;
     pale_.clear();
     for (const QRectF& place : letters) {
       const Stretch within = StretchWithin(line_, place);
@@ -112,6 +130,9 @@ class LineItem : public ControlItem {
   }
 
   void paint(QPainter* painter, const QStyleOptionGraphicsItem*, QWidget*) override {
+    // A line along the pixels is sharp on one row of them, and a pale band between two.
+    const bool smooth = painter->testRenderHint(QPainter::Antialiasing);
+    if (line_.dx() == 0 || line_.dy() == 0) painter->setRenderHint(QPainter::Antialiasing, false);
     double done = 0;
     for (const Stretch& pale : pale_) {
       if (pale.From > done) Draw(*painter, {done, pale.From});
@@ -121,6 +142,7 @@ class LineItem : public ControlItem {
       done = std::max(done, pale.To);
     }
     if (done < 1) Draw(*painter, {done, 1});
+    painter->setRenderHint(QPainter::Antialiasing, smooth);
   }
 
  private:
@@ -128,8 +150,10 @@ class LineItem : public ControlItem {
     if (stretch.Empty()) return;
     const QLineF part(line_.pointAt(stretch.From), line_.pointAt(stretch.To));
     const double ratio = painter.device()->devicePixelRatioF();
-    if (Shown().BorderColor == kTradeLaneBlue) DrawUnder(painter, part, kHalo, ratio);
-    if (Shown().Style == LineStyle::Dotted) DrawUnder(painter, part, kDotGround, ratio);
+    if (!onPaper_) {
+      if (Shown().BorderColor == kTradeLaneBlue) DrawUnder(painter, part, kHalo, ratio);
+      if (Shown().Style == LineStyle::Dotted) DrawUnder(painter, part, kDotGround, ratio);
+    }
     painter.setPen(PenOf(Shown(), ratio));
     painter.drawLine(part);
   }
@@ -162,6 +186,7 @@ class LineItem : public ControlItem {
     return pen;
   }
 
+  bool onPaper_;
   QLineF line_;
   std::vector<Stretch> pale_;  // in the order along the line
 };
@@ -259,14 +284,15 @@ class ShapeItem : public ControlItem {
   }
 };
 
-// Clips its children to its box.
 class FrameItem : public ControlItem {
  public:
-  FrameItem(const Control& control, PictureStore& pictures, QGraphicsItem* parent)
+  FrameItem(const Control& control, PictureStore& pictures, const ItemView& view,
+            QGraphicsItem* parent)
       : ControlItem(control, parent) {
-    setFlag(ItemClipsChildrenToShape);
+    setFlag(ItemClipsChildrenToShape, control.ClipsChildren);
     for (const Control& child : control.Children) {
-      MakeControlItem(child, pictures, BoxOf(control), this);
+      const QRectF open = control.ClipsChildren ? BoxOf(control) : Pixels(child.Place);
+      MakeControlItem(child, pictures, {open, view.OnPaper}, this);
     }
   }
 
@@ -297,20 +323,20 @@ void ControlItem::Rebind(const Control& same) {
   }
 }
 
-ControlItem* MakeControlItem(const Control& control, PictureStore& pictures, const QRectF& open,
+ControlItem* MakeControlItem(const Control& control, PictureStore& pictures, const ItemView& view,
                              QGraphicsItem* parent) {
   switch (control.Kind) {
     case ControlKind::Line:
-      return new LineItem(control, parent);
+      return new LineItem(control, view.OnPaper, parent);
     case ControlKind::Label:
       return new LabelItem(control, parent);
     case ControlKind::Frame:
       if (control.Shape) return new ShapeItem(control, parent);
-      return new FrameItem(control, pictures, parent);
+      return new FrameItem(control, pictures, view, parent);
     case ControlKind::Picture:
       break;
   }
-  return new PictureItem(control, pictures, open, parent);
+  return new PictureItem(control, pictures, view.Open, parent);
 }
 
 }  // namespace orrerix

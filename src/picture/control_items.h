@@ -37,10 +37,15 @@ class ControlItem : public QGraphicsItem {
   const Control* control_;
 };
 
+// What items are made for.
+struct ItemView {
+  QRectF Open;           // what can be seen of a picture, in the parent's coordinates
+  bool OnPaper = false;  // lines are drawn as they are, without what helps them on a dark sky
+};
+
 // Makes the item of a control, with those of its children. It belongs to the parent or, without
-// one, to the caller. Of a picture only what lies in `open`, in the parent's coordinates, can be
-// seen.
-ControlItem* MakeControlItem(const Control& control, PictureStore& pictures, const QRectF& open,
+// one, to the caller.
+ControlItem* MakeControlItem(const Control& control, PictureStore& pictures, const ItemView& view,
                              QGraphicsItem* parent);
 
 }  // namespace orrerix

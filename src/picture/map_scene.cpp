@@ -35,7 +35,7 @@ QRectF MapScene::OpenPart(const MapDrawing& drawing) {
 // tells how many are left. What the panel leaves open is part of an item.
 std::size_t MapScene::KeepItems(const MapDrawing& next) {
   std::size_t kept = 0;
-  if (OpenPart(next) == OpenPart(drawing_)) {
+  if (OpenPart(next) == OpenPart(drawing_) && next.PrintMode == drawing_.PrintMode) {
     const ControlList& before = drawing_.Controls;
     const auto differ =
         std::mismatch(before.begin(), before.end(), next.Controls.begin(), next.Controls.end());
@@ -55,9 +55,9 @@ void MapScene::Show(MapDrawing drawing) {
   // The controls of a list that is moved stay where they are.
   drawing_ = std::move(drawing);
   setSceneRect(0, 0, Pixels(drawing_.Frame.Width), Pixels(drawing_.Frame.Height));
-  const QRectF open = OpenPart(drawing_);
+  const ItemView view{OpenPart(drawing_), drawing_.PrintMode};
   for (std::size_t i = kept; i < drawing_.Controls.size(); ++i) {
-    items_.push_back(MakeControlItem(drawing_.Controls[i], pictures_, open, nullptr));
+    items_.push_back(MakeControlItem(drawing_.Controls[i], pictures_, view, nullptr));
     addItem(items_.back());
   }
   SpareLetters(kept);
@@ -85,7 +85,7 @@ void MapScene::MakeFrontItems(FrontLayer layer) {
   Layer& shown = front_[static_cast<std::size_t>(layer)];
   shown.Items.clear();
   for (const Control& control : shown.Controls) {
-    shown.Items.push_back(MakeControlItem(control, pictures_, sceneRect(), nullptr));
+    shown.Items.push_back(MakeControlItem(control, pictures_, {sceneRect()}, nullptr));
     shown.Items.back()->setZValue(1 + static_cast<int>(layer));
     addItem(shown.Items.back());
   }
@@ -105,7 +105,8 @@ void MapScene::Replace(const Control& control) {
     const Control changed = control;  // which may be the one that goes
     delete items_[i];
     known = changed;
-    items_[i] = MakeControlItem(known, pictures_, OpenPart(drawing_), nullptr);
+    items_[i] =
+        MakeControlItem(known, pictures_, {OpenPart(drawing_), drawing_.PrintMode}, nullptr);
     addItem(items_[i]);
     if (i + 1 < items_.size()) items_[i]->stackBefore(items_[i + 1]);
     return;

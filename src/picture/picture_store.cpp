@@ -199,6 +199,11 @@ void PictureStore::DrawPart(QPainter& painter, const QString& file, const QRect&
   painter.restore();
 }
 
+QRectF PictureStore::PlaceOnDevice(const QPainter& painter, const QRectF& place) {
+  const QRectF mapped = painter.deviceTransform().mapRect(place);
+  return IsRaster(painter) ? QRectF(SnappedToPixels(mapped)) : mapped;
+}
+
 void PictureStore::Draw(QPainter& painter, const QString& file, const QRectF& place,
                         const QRectF& seen, Reading reading) {
   if (file.isEmpty() || place.isEmpty() || seen.isEmpty()) return;

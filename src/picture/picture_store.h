@@ -59,6 +59,9 @@ class PictureStore {
   // Reads a picture that will be needed soon.
   void Read(const QString& file) { SourceOf(file); }
 
+  // Where Draw puts a picture, in the device's own coordinates.
+  static QRectF PlaceOnDevice(const QPainter& painter, const QRectF& place);
+
  private:
   // One of the two, or neither for a file that is no picture.
   struct Source {

@@ -3,6 +3,9 @@
 
 #include <QAbstractScrollArea>
 #include <QImage>
+#include <QRegularExpression>
+#include <QTextBlock>
+#include <QTextLayout>
 
 #include <gtest/gtest.h>
 
@@ -26,6 +29,36 @@ TEST(InfoBox, HasItsOwnColoursAlsoOnAListsView) {
   EXPECT_EQ(image.pixelColor(100, 99), QColor(64, 128, 176));
   EXPECT_EQ(image.pixelColor(5, 50), QColor(0, 0, 64));
   EXPECT_EQ(image.pixelColor(190, 95), QColor(0, 0, 64));
+}
+
+// The characters before and after each place where the box breaks a line of the text.
+QStringList BreaksOf(const TextBox& box) {
+  QStringList breaks;
+  for (QTextBlock block = box.document()->begin(); block.isValid(); block = block.next()) {
+    for (int i = 1; i < block.layout()->lineCount(); ++i) {
+      breaks << block.text().mid(block.layout()->lineAt(i).textStart() - 1, 2);
+    }
+  }
+  return breaks;
+}
+
+TEST(InfoBox, AtEveryWidthItsTextBreaksBetweenWords) {
+  const std::string text =
+      "\r\n   Price: 120  -  The Autocannons of the Navy, reliable as ever\r\n"
+      "          Refire-Rate: 0.12 = 8.33 Shots per second";
+  const QRegularExpression withinWord("\\w\\w");
+  QWidget map;
+  map.resize(1000, 400);
+  InfoBox box(&map);
+  map.show();
+
+  // From less than one word to the whole line.
+  for (int width = 300; width < 9000; width += 105) {
+    box.Show({BoxShape({0, 0, width + 450.0, 3000}, ShapeForm::Rectangle),
+              BoxText({200, 150, static_cast<double>(width), 2700}, text)});
+    const QStringList breaks = BreaksOf(*box.findChild<TextBox*>("InfoText"));
+    EXPECT_EQ(breaks.filter(withinWord).join(' ').toStdString(), "") << width;
+  }
 }
 
 TEST(InfoBox, HidesWithoutControls) {

@@ -65,7 +65,7 @@ class MapPlayFixture : public UniverseFixture, private MapForm {
 
   // Shows just this rectangle, with the whole grid behind it.
   void Zoom(const ZoomRectangle& rectangle) {
-    map.State().Zoom.PushZoomStack(rectangle);
+    map.State().Zoom.PushZoomStack(log, rectangle);
     Redraw();
     redraws = 0;
   }

@@ -98,13 +98,48 @@ TEST_F(MapPlayHoverTest, AMoveOnThePanelLeavesItUp) {
   EXPECT_THAT(Shown("Shape1"), SizeIs(1));
 }
 
-TEST_F(MapPlayHoverTest, ARedrawEndsItWithTheIconInItsOwnSize) {
+TEST_F(MapPlayHoverTest, ItGoesOnThroughARedrawWithItsBoxPlacedAnew) {
   Hover("li01_nw_base");
+  const orrerix::Box before = Shown("Shape1").at(0)->Place;
+  const std::optional<std::string> text = Shown("InfoText").at(0)->Caption;
 
-  Redraw();
+  map.Redraw(universe, 14200, 6550);  // the cell is 6000 instead of 8550 twips wide
+  play.MapRedrawn();
+
+  ASSERT_THAT(Shown("Shape1"), SizeIs(1));
+  const orrerix::Box icon = Icon("li01_nw_base").Place;
+  EXPECT_EQ(icon.Width, 600);
+  EXPECT_FLOAT_EQ(static_cast<float>(icon.Left), 500);  // 6000 x 0.1 - 100
+  const orrerix::Box box = Shown("Shape1").at(0)->Place;
+  EXPECT_FLOAT_EQ(static_cast<float>(box.Top), 1200);  // 500 + 600 + 100
+  EXPECT_EQ(box.Width, before.Width);
+  EXPECT_EQ(Shown("InfoText").at(0)->Caption, text);
+
+  Move({300, 300});
 
   EXPECT_THAT(Shown("Shape1"), IsEmpty());
   EXPECT_EQ(Icon("li01_nw_base").Place.Width, 200);
+}
+
+TEST_F(MapPlayHoverTest, ItsBoxStaysWhenTheIconIsNoLongerThereUntilTheMouseMoves) {
+  Hover("li01_nw_base");
+  Key(Qt::Key_Backspace);
+  ASSERT_EQ(Visible(), ZoomRectangle{});
+
+  EXPECT_THAT(Shown("Shape1"), SizeIs(1));
+  Move({300, 300});
+  EXPECT_THAT(Shown("Shape1"), IsEmpty());
+}
+
+TEST_F(MapPlayHoverTest, ARedrawWhileAQuestionIsOpenLeavesNoIconBehind) {
+  const QPoint at = At("li01_nw_base");
+  db.Execute(mustWork, "DROP TABLE Objects");
+  messages.WhileShown = [this] { Redraw(); };
+
+  Move(at);
+
+  EXPECT_FALSE(log.Failures().empty());
+  EXPECT_EQ(Icon("li01_nw_base").Place.Width, 600);
 }
 
 TEST_F(MapPlayHoverTest, AnotherBoxStaysThroughMovesAndRedrawsAndKeepsHoversAway) {

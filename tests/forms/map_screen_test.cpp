@@ -57,7 +57,7 @@ TEST_F(MapScreenTest, TheSwitchesOfTheWholeGridComeFromTheFirstSet) {
 TEST_F(MapScreenTest, AZoomedMapHasItsOwnSwitches) {
   settings.ReadSetting("LANG");
   settings.WriteSettingValue("SET2-1", "0");
-  map.State().Zoom.PushZoomStack({7, 9, 9, 11});
+  map.State().Zoom.PushZoomStack(log, {7, 9, 9, 11});
 
   map.Redraw(universe, 12000, 9000);
 

@@ -53,8 +53,10 @@ TEST_F(NewsPlayTest, NewsThatDoNotFitMoveUpAStepAtATime) {
   EXPECT_NEAR(after.at(1), before.at(1) - 21, 0.5);
 }
 
-TEST_F(NewsPlayTest, LabelsBelowTheBoxAreHiddenAndComeUpLater) {
+TEST_F(NewsPlayTest, LabelsBelowTheBoxAreHiddenAtTheFirstStepAndComeUpLater) {
   ShowNews(60);
+  EXPECT_EQ(Labels().size(), 61U);
+  news.NewsTimerTimer();
   const auto shown = Labels().size();
   EXPECT_LT(shown, 61U);
   for (int i = 0; i < 14; ++i) news.NewsTimerTimer();  // 14 x 21 twips are more than a label's 270

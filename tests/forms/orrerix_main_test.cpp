@@ -279,6 +279,29 @@ TEST_F(OrrerixMainMapTest, FourToolsOpenTheSearchPanelAndTheLastOnePrints) {
   EXPECT_TRUE(std::filesystem::exists(printers.File));
 }
 
+TEST_F(OrrerixMainMapTest, ARedrawAskedForDuringAQuestionRunsAfterTheOneThatAsks) {
+  class Ignore : public FailureSink {
+    void Fail(const Failure&) override {}
+  } ignore;
+  DBEngine::OpenDatabase(ignore, UniverseFile()).Execute(ignore, "DROP TABLE TradeLanes");
+  form->showNormal();
+  PassEvents();
+  messages.Shown.clear();
+  std::vector<double> widths;  // of the map as each question finds it
+  messages.WhileShown = [&] {
+    if (widths.empty()) form->resize(800, 600);
+    widths.push_back(form->Map().Drawing().Frame.Width);
+  };
+
+  form->resize(700, 500);
+
+  // The second question is that of the second redraw: by then the first has shown its map.
+  ASSERT_EQ(widths.size(), 2U);
+  const int decoration = form->frameGeometry().width() - form->width();
+  EXPECT_EQ(widths[1], (700 + decoration) * 15 - 200);
+  EXPECT_EQ(form->Map().Drawing().Frame.Width, (800 + decoration) * 15 - 200);
+}
+
 TEST_F(OrrerixMainMapTest, TheWholeMapIsPrintedOnWhiteFromASquareForm) {
   form->PrintTheMap();
 

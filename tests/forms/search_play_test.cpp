@@ -150,6 +150,48 @@ TEST_F(SearchPlayTest, EscapeAndTheCloseButtonHidePanelAndBox) {
   EXPECT_FALSE(Part("StSearchFrame").isVisible());
 }
 
+TEST_F(SearchPlayTest, EscapeClosesThePanelWhereverTheFocusIs) {
+  Zoom({8, 10, 8, 10});
+  for (QWidget* focused :
+       {static_cast<QWidget*>(&map.Frame()), &Part("SubSearch"), &Part("StSearchList"),
+        &Part("InfoText"), &Part("StSearchClose"), &Part("StationSearch_2")}) {
+    search.StationSearchClick(SearchType::Equipment);
+    ASSERT_TRUE(InfoShown());
+    focused->setFocus();
+
+    QTest::keyClick(focused, Qt::Key_Escape);
+
+    EXPECT_FALSE(Part("StSearchFrame").isVisible()) << focused->objectName().toStdString();
+    EXPECT_FALSE(InfoShown());
+    // The map does not go back at the same time.
+    EXPECT_EQ(Visible(), (ZoomRectangle{8, 10, 8, 10}));
+  }
+}
+
+TEST_F(SearchPlayTest, WithThePanelClosedEscapeIsForTheMapAgain) {
+  Zoom({8, 10, 8, 10});
+  search.StationSearchClick(SearchType::Place);
+  QTest::keyClick(&Text(), Qt::Key_Escape);
+
+  Key(Qt::Key_Escape);
+
+  EXPECT_EQ(Visible(), ZoomRectangle{});
+}
+
+TEST_F(SearchPlayTest, TheCaptionStandsAtTheHeadInTheLanguageInUse) {
+  search.StationSearchClick(SearchType::Place);
+
+  const QLabel& caption = Part<QLabel>("StSearchCaption");
+  EXPECT_TRUE(caption.isVisible());
+  EXPECT_EQ(caption.text().toStdString(), language.TXT(12));
+  EXPECT_LE(caption.geometry().bottom(), Text().geometry().top());
+  EXPECT_GE(caption.height(), caption.fontMetrics().height());
+
+  language.CurrentLanguage = 1;
+  search.StationSearchClick(SearchType::Ship);
+  EXPECT_EQ(caption.text().toStdString(), language.TXT(12));
+}
+
 TEST_F(SearchPlayTest, AQuoteIsAFailureAndThePanelGoesOn) {
   search.StationSearchClick(SearchType::Place);
 

@@ -4,6 +4,7 @@
 #include <gmock/gmock.h>
 
 #include "map/game_sounds.h"
+#include "support/fake_message_boxes.h"
 
 namespace orrerix {
 namespace {
@@ -18,25 +19,32 @@ class Gestures : public ::testing::Test {
 
   CellGeometry Cells() const { return CellGeometry(kFrame, state.Zoom.Current()); }
 
+  void ShowIcon() { state.Objects.Icons = {MakePicture("Image1", 1, {}, "Jumpgate")}; }
+  bool Unloaded() const { return state.Objects.Icons.empty(); }
+
   ReleaseAnswer Drag(float x1, float y1, float x2, float y2) {
+    ShowIcon();
     gestures.MouseDown(x1, y1);
     return gestures.MouseUp(PointerButton::Left, Cells(), x2, y2);
   }
   ReleaseAnswer Click(float x, float y) { return Drag(x, y, x, y); }
   ReleaseAnswer RightClick() {
+    ShowIcon();
     gestures.MouseDown(500, 500);
     return gestures.MouseUp(PointerButton::Right, Cells(), 500, 500);
   }
 
   MapState state;
-  MapGestures gestures{state};
+  FakeMessageBoxes messages;
+  ErrorLog log{messages, AppVersion{1, 0, 0}};
+  MapGestures gestures{log, state};
 };
 
 TEST_F(Gestures, ADragZoomsIntoAllCellsThatItTouches) {
   const ReleaseAnswer answer = Drag(2900, 3900, 4100, 5100);
 
   EXPECT_EQ(state.Zoom.Current(), (ZoomRectangle{2, 3, 4, 5}));
-  EXPECT_TRUE(answer.UnloadObjects);
+  EXPECT_TRUE(Unloaded());
   EXPECT_TRUE(answer.Redraw);
   EXPECT_FALSE(answer.Beep);
   EXPECT_EQ(answer.Sound, R"(\DATA\AUDIO\SOUNDS\UI\ui_nav_map_fade.wav)");
@@ -141,7 +149,7 @@ TEST_F(Gestures, AClickIntoASingleCellBeepsAndRedrawsItsIcons) {
   EXPECT_EQ(state.Zoom.ZoomDepth(), 1u);
   EXPECT_TRUE(answer.Beep);
   EXPECT_EQ(answer.Sound, "");
-  EXPECT_TRUE(answer.UnloadObjects);
+  EXPECT_TRUE(Unloaded());
   EXPECT_TRUE(answer.Redraw);
 }
 
@@ -159,7 +167,7 @@ TEST_F(Gestures, ARightClickGoesBackWithoutASound) {
   const ReleaseAnswer answer = RightClick();
 
   EXPECT_EQ(state.Zoom.Current(), ZoomRectangle{});
-  EXPECT_TRUE(answer.UnloadObjects);
+  EXPECT_TRUE(Unloaded());
   EXPECT_TRUE(answer.Redraw);
   EXPECT_FALSE(answer.Beep);
   EXPECT_EQ(answer.Sound, "");
@@ -168,7 +176,7 @@ TEST_F(Gestures, ARightClickGoesBackWithoutASound) {
 TEST_F(Gestures, ARightClickOnTheFirstRectangleDoesNothing) {
   const ReleaseAnswer answer = RightClick();
 
-  EXPECT_FALSE(answer.UnloadObjects);
+  EXPECT_FALSE(Unloaded());
   EXPECT_FALSE(answer.Redraw);
   EXPECT_FALSE(answer.Beep);
   EXPECT_EQ(answer.Sound, "");

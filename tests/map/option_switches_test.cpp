@@ -18,7 +18,12 @@ constexpr int kTradeLanes = 4;
 
 class Switches : public ::testing::Test {
  protected:
-  Switches() { settings.CreateSettings(); }
+  Switches() {
+    settings.CreateSettings();
+    state.Objects.Icons = {MakePicture("Image1", 1, {}, "Jumpgate")};
+  }
+
+  bool Unloaded() const { return state.Objects.Icons.empty(); }
 
   void Zoom() { state.Zoom.Reset({7, 4, 8, 5}); }
   SwitchAnswer Click(int which) {
@@ -34,7 +39,13 @@ class Switches : public ::testing::Test {
   Settings settings{log, folder.Path(), JetVersionOption::Version30};
   Language language{log, folder.Path(), JetVersionOption::Version30};
   MapState state;
-  OptionSwitches switches{log, settings, language, state};
+  // What a setting held when the sound came, sound by sound.
+  std::vector<std::string> stored;
+  std::string watched = "SET1-4";
+  OptionSwitches switches{log, settings, language, state, [this](std::string_view path) {
+                            EXPECT_EQ(path, R"(\DATA\AUDIO\SOUNDS\UI\ui_item_select.wav)");
+                            stored.push_back(settings.ReadSetting(watched));
+                          }};
 };
 
 TEST_F(Switches, EachViewHasItsOwnSet) {
@@ -62,14 +73,20 @@ TEST_F(Switches, AClickTurnsOneOverAndStoresIt) {
   const SwitchAnswer answer = Click(kTradeLanes);
 
   EXPECT_EQ(settings.ReadSetting("SET1-4"), "0");
-  EXPECT_EQ(answer.Sound, R"(\DATA\AUDIO\SOUNDS\UI\ui_item_select.wav)");
-  EXPECT_TRUE(answer.UnloadObjects);
+  EXPECT_TRUE(Unloaded());
   EXPECT_TRUE(answer.Redraw);
   EXPECT_FALSE(answer.LoadFormTXT);
 
   Click(kTradeLanes);
 
   EXPECT_EQ(settings.ReadSetting("SET1-4"), "1");
+}
+
+TEST_F(Switches, TheSoundComesBeforeTheSettingIsWritten) {
+  Click(kTradeLanes);
+
+  EXPECT_THAT(stored, ElementsAre("1"));
+  EXPECT_EQ(settings.ReadSetting(watched), "0");
 }
 
 TEST_F(Switches, AClickInAZoomedMapLeavesTheWholeGridsSetAlone) {
@@ -98,10 +115,10 @@ TEST_F(Switches, WhatThePanelShowsIsTurnedOverNotWhatIsStored) {
 }
 
 TEST_F(Switches, AClickOnACaptionIsAClickOnItsBox) {
-  const SwitchAnswer answer = ClickLabel(5);
+  ClickLabel(5);
 
   EXPECT_EQ(settings.ReadSetting("SET1-5"), "0");
-  EXPECT_TRUE(answer.UnloadObjects);
+  EXPECT_TRUE(Unloaded());
 }
 
 TEST_F(Switches, TheLanguagesAreGoneThroughDownwards) {
@@ -111,8 +128,8 @@ TEST_F(Switches, TheLanguagesAreGoneThroughDownwards) {
   EXPECT_EQ(settings.ReadSetting("LANG"), "2");
   EXPECT_TRUE(answer.LoadFormTXT);
   EXPECT_TRUE(answer.Redraw);
-  EXPECT_FALSE(answer.UnloadObjects);
-  EXPECT_EQ(answer.Sound, "");
+  EXPECT_FALSE(Unloaded());
+  EXPECT_THAT(stored, IsEmpty());
 }
 
 TEST_F(Switches, ThreeClicksOnTheLanguageReturnToTheStart) {
@@ -141,7 +158,7 @@ TEST_F(Switches, CancelBehindAFailureLeavesTheMapAsItIs) {
 
   const SwitchAnswer answer = switches.SetImageClick(6, {});
 
-  EXPECT_FALSE(answer.UnloadObjects);
+  EXPECT_FALSE(Unloaded());
   EXPECT_FALSE(answer.Redraw);
 }
 

@@ -393,6 +393,21 @@ TEST_F(Print, PicturesTilesFillersAndBordersAreLeftOutAndThePanelLiesAtTheBack) 
   EXPECT_THAT(Layers(Draw()), ElementsAre("MenuFrame", "SysmapLabel", "Line1", "Image1"));
 }
 
+TEST_F(Print, NoBorderIsVisibleInThePanelEither) {
+  const MapDrawing drawing = Draw();
+
+  ASSERT_EQ(drawing.Panel, PanelPlace::Right);
+  EXPECT_FALSE(PlaceOf(drawing.Controls, "Rahmen"));
+  EXPECT_TRUE(PlaceOf(drawing.Controls, "StationSearch"));
+  EXPECT_TRUE(drawing.PrintMode);
+}
+
+TEST_F(Print, ThePanelOfTheScreenIsNotMovedByAPrint) {
+  Draw();
+
+  EXPECT_FALSE(state.PanelAtRight);
+}
+
 TEST_F(Print, ThereIsNoPanelBelow) {
   Zoom(kTwoCells);
   formWidth = 12000;
@@ -448,10 +463,148 @@ TEST_F(Redraw, ACancelledRedrawShowsWhatItHadComeTo) {
 
   const MapDrawing drawing = Draw();
 
-  // The second lane ends the redraw; the border is shown behind the lines only.
+  // The second lane ends the redraw; the border is shown after the lines only.
   EXPECT_EQ(Named(drawing, "Line1").size(), 2u);
   EXPECT_THAT(Layers(drawing),
               ElementsAre("Hintergrund", "StarMapPic", "SysmapLabel", "Line1", "MenuFrame"));
+}
+
+// A map of a gate and two lanes that was drawn once; the gate's row cannot be drawn any more.
+class RedrawnWithAFailure : public Redraw {
+ protected:
+  RedrawnWithAFailure() {
+    Jump(kJumpGate);
+    Lane();
+    Lane();
+    before = Draw();
+    db.Execute(mustWork, "UPDATE JumpNodes SET PosX1 = 1e40");
+    messages.Answer = MessageAnswer::Cancel;
+  }
+
+  MapDrawing before;
+};
+
+TEST_F(RedrawnWithAFailure, CancelledItKeepsTheBorderAndTheLinesItDidNotReach) {
+  const MapDrawing drawing = Draw();
+
+  EXPECT_EQ(Named(drawing, "Rahmen"), Named(before, "Rahmen"));
+  EXPECT_EQ(Named(drawing, "Line1"), Named(before, "Line1"));
+}
+
+TEST_F(RedrawnWithAFailure, CancelledItsBorderSurroundsTheCellsThatAreShownNow) {
+  Zoom(kTwoCells);
+
+  const ControlList border = Named(Draw(), "Rahmen");
+
+  ASSERT_EQ(border.size(), 8u);
+  EXPECT_EQ(border.at(7).Place.Right(), 2 * 11900 + 100);
+}
+
+TEST_F(RedrawnWithAFailure, ObjectsThatWereUnloadedDoNotComeBack) {
+  UnloadObjects(state);
+
+  EXPECT_THAT(Named(Draw(), "Line1"), IsEmpty());
+}
+
+TEST_F(Redraw, SurplusElementsOfTheLastRedrawVanish) {
+  Zoom(kTwoCells);
+  Jump(kJumpGate);
+  Dock("dock", "depot");
+  ASSERT_EQ(Named(Draw(), "Image1").size(), 3u);
+  db.Execute(mustWork, "DELETE FROM DockObjects");
+
+  EXPECT_EQ(Named(Draw(), "Image1").size(), 2u);
+}
+
+// Fails to measure one name.
+class FailingMeasure : public FixedTextMeasure {
+ public:
+  int TextWidth(std::string_view text, int fontSize) const override {
+    if (text == "Lantern") throw RuntimeFailure(failure_number::kOverflow);
+    return FixedTextMeasure::TextWidth(text, fontSize);
+  }
+};
+
+TEST_F(Redraw, AFailureAmongTheCellsIsOneOfZoomCalcAndTheNextStepRuns) {
+  const FailingMeasure failing;
+  const MapDrawing drawing =
+      DrawMap(universe, state,
+              {formWidth, formHeight, MapOptions::Defaults(false), failing, panel, "StarMapPic"});
+
+  ASSERT_EQ(log.Failures().size(), 1u);
+  EXPECT_EQ(log.Failures()[0].Source, "OrrerixMain.ZoomCalc");
+  EXPECT_EQ(Named(drawing, "SysmapLabel").size(), 2u);
+  EXPECT_EQ(Named(drawing, "MenuFrame").size(), 1u);
+}
+
+TEST_F(Redraw, CancelledInZoomCalcTheRedrawGoesOn) {
+  messages.Answer = MessageAnswer::Cancel;
+  Lane();
+  const FailingMeasure failing;
+  const MapDrawing drawing =
+      DrawMap(universe, state,
+              {formWidth, formHeight, MapOptions::Defaults(false), failing, panel, "StarMapPic"});
+
+  EXPECT_THAT(Named(drawing, "SysmapLabel"), IsEmpty());
+  EXPECT_EQ(Named(drawing, "Line1").size(), 1u);
+}
+
+TEST_F(Redraw, APanelBelowKeepsTheToolsWhereTheyWereAtTheRight) {
+  const auto atRight = PlaceOf(Draw().Controls, "StationSearch");
+  Zoom(kTwoCells);
+
+  const MapDrawing drawing = Draw();
+
+  // Two cells of 11900 leave 17450 - 11900 = 5550 below; panel 23800 - 18 x 918 - 100 wide.
+  ASSERT_EQ(drawing.Panel, PanelPlace::Below);
+  const auto below = PlaceOf(drawing.Controls, "StationSearch");
+  ASSERT_TRUE(atRight && below);
+  EXPECT_EQ(below->Left, 50);
+  EXPECT_EQ(below->Top, 11900 + 50);
+  EXPECT_EQ(below->Width, atRight->Width);
+}
+
+TEST_F(Redraw, APanelThatIsBelowFromTheStartHasToolsAndOptionsAsTheWholeGridHadThem) {
+  Zoom(kTwoCells);
+
+  const MapDrawing drawing = Draw();
+
+  ASSERT_EQ(drawing.Panel, PanelPlace::Below);
+  // (23800 - 16524 - 100 - 100) / 5 = 1415.2
+  EXPECT_EQ(PlaceOf(drawing.Controls, "StationSearch")->Width, 1415);
+  EXPECT_TRUE(PlaceOf(drawing.Controls, "ShowOptionsLabel"));
+  EXPECT_TRUE(PlaceOf(drawing.Controls, "SetLabel"));
+}
+
+TEST_F(Redraw, AFormWithoutRoomAtTheRightHasToolsAllTheSame) {
+  formWidth = 12000;
+  formHeight = 18000;
+
+  // (3000 - 100) / 5
+  EXPECT_EQ(PlaceOf(Draw().Controls, "StationSearch")->Width, 580);
+}
+
+TEST_F(Redraw, AMapThatFillsTheFrameIsOverlaidByTheTools) {
+  Zoom({0, 0, 1, 0});
+  formWidth = 20200;  // two cells of 10000
+  formHeight = 10650;
+
+  const MapDrawing drawing = Draw();
+
+  ASSERT_EQ(drawing.FreeBelow, 100);
+  EXPECT_FALSE(drawing.Controls.back().ClipsChildren);
+  EXPECT_LT(PlaceOf(drawing.Controls, "StationSearch")->Top, 10000);
+}
+
+TEST_F(Redraw, IconsHaveADarkBorder) {
+  Zoom(kTwoCells);
+  Jump(kJumpGate);
+  Dock("dock", "depot");
+
+  for (const Control& icon : Named(Draw(), "Image1")) {
+    EXPECT_TRUE(icon.Bordered);
+    EXPECT_LT(icon.BorderColor.Red() + icon.BorderColor.Green() + icon.BorderColor.Blue(), 255);
+  }
 }
 
 TEST_F(Redraw, ACellBeyondTheGridIsAFailureOnceForEachStatement) {

@@ -4,6 +4,7 @@
 #include <gmock/gmock.h>
 
 #include "map/borders.h"
+#include "support/fake_message_boxes.h"
 
 namespace orrerix {
 namespace {
@@ -16,13 +17,28 @@ const Control* Find(const ControlList& list, std::string_view name, std::optiona
   return nullptr;
 }
 
+int CountOf(const ControlList& list, std::string_view name) {
+  int count = 0;
+  for (const Control& control : list) {
+    count += (control.Name == name ? 1 : 0) + CountOf(control.Children, name);
+  }
+  return count;
+}
+
+// Where the panel stood at the right of a map 17450 high.
+constexpr Box kAtRight{10000, 0, 7100, 17450};
+
 class Panel : public ::testing::Test {
  protected:
   SidePanel LayOut(double width, double height = 17450, bool open = false) {
-    return LayOutPanelRight({0, 0, width, height}, content, MapOptions::Defaults(false), open,
-                            measure);
+    return LayOutPanelRight({0, 0, width, height}, View(open));
   }
+  PanelView View(bool open = false) { return {log, content, switches, open, printMode, measure}; }
 
+  FakeMessageBoxes messages;
+  ErrorLog log{messages, AppVersion{1, 0, 0}};
+  const MapOptions switches = MapOptions::Defaults(false);
+  bool printMode = false;
   FixedLanguage english{0};
   PanelContent content = PanelTexts(english);
   FixedTextMeasure measure;
@@ -137,13 +153,85 @@ TEST_F(Panel, ATinyPanelHasNoNegativeSizes) {
 }
 
 TEST_F(Panel, TheReducedPanelShowsNewsAndLogo) {
-  const SidePanel panel = LayOutPanelBelow({0, 9000, 12000, 3000}, content);
+  const SidePanel panel = LayOutPanelBelow({0, 9000, 12000, 3000}, kAtRight, View());
 
   EXPECT_EQ(Find(panel.Controls, "MenuFrame", 2)->Place, (Box{0, 0, 12000, 3000}));
   EXPECT_EQ(Find(panel.Controls, "InfoBoxLabel", 0)->Place.Top, 0);
   // 3000 - 100 high, 4 : 1; its right edge 50 twips from the panel's.
   EXPECT_DOUBLE_EQ(Find(panel.Controls, "ImageClan", std::nullopt)->Place.Height, 2900);
-  EXPECT_EQ(Find(panel.Controls, "StationSearch", 0), nullptr);
+}
+
+TEST_F(Panel, BelowToolsAndOptionsStayInFrontWhereTheyWereAtTheRight) {
+  const ControlList right = LayOutPanelRight(kAtRight, View()).Controls;
+
+  const SidePanel below = LayOutPanelBelow({0, 9000, 12000, 3000}, kAtRight, View());
+
+  for (int i = 0; i < 5; ++i) {
+    EXPECT_EQ(*Find(below.Controls, "StationSearch", i), *Find(right, "StationSearch", i));
+  }
+  EXPECT_EQ(*Find(below.Controls, "MenuFrame", 1), *Find(right, "MenuFrame", 1));
+  EXPECT_EQ(below.Controls.front().Index, 2);
+  EXPECT_FALSE(below.Overhangs);
+}
+
+TEST_F(Panel, BelowTheOptionsUnfoldToo) {
+  const SidePanel below = LayOutPanelBelow({0, 4000, 12000, 9000}, kAtRight, View(true));
+
+  EXPECT_NE(Find(below.Controls, "SetImage", 5), nullptr);
+}
+
+TEST_F(Panel, APanelTooLowForToolsAndOptionsLetsThemReachUp) {
+  // Five icons of (3000 - 100) / 5 = 580: the options begin at 680 and are 675 high.
+  const SidePanel below = LayOutPanelBelow({0, 9000, 12000, 175}, kAtRight, View());
+
+  EXPECT_TRUE(below.Overhangs);
+  EXPECT_EQ(Find(below.Controls, "MenuFrame", 1)->Place.Bottom(), 175);
+  EXPECT_EQ(Find(below.Controls, "StationSearch", 0)->Place.Top, 50 - 1180);
+}
+
+TEST_F(Panel, InALowPanelTheToolsAreAsLargeAsItsHeightAllows) {
+  const PanelView unfolded = View(true);
+  const SidePanel below = LayOutPanelBelow({0, 9000, 12000, 1600}, kAtRight, View());
+
+  // 1600 - 675 for the options - 100
+  EXPECT_EQ(Find(below.Controls, "StationSearch", 0)->Place, (Box{50, 50, 825, 825}));
+  EXPECT_FALSE(below.Overhangs);
+  // Unfolded they stay as wide and reach up.
+  const SidePanel open = LayOutPanelBelow({0, 9000, 12000, 1600}, kAtRight, unfolded);
+  EXPECT_EQ(Find(open.Controls, "StationSearch", 0)->Place.Width, 825);
+  EXPECT_TRUE(open.Overhangs);
+}
+
+TEST_F(Panel, ToolsNeverReachUpBeyondTheMap) {
+  const SidePanel below = LayOutPanelBelow({0, 1000, 12000, 0}, kAtRight, View());
+
+  EXPECT_EQ(Find(below.Controls, "StationSearch", 0)->Place.Top, 50 - 1000);
+}
+
+TEST_F(Panel, ANarrowerFormHasNarrowerToolsBelow) {
+  // (6100 - 100) / 5 = 1200
+  const SidePanel below = LayOutPanelBelow({0, 4000, 6100, 9000}, kAtRight, View());
+
+  EXPECT_EQ(Find(below.Controls, "StationSearch", 4)->Place.Right(), 5 * 1200 + 50);
+}
+
+TEST_F(Panel, InPrintNoneOfItsBordersIsVisible) {
+  printMode = true;
+
+  EXPECT_EQ(CountOf(LayOut(7100, 17450, true).Controls, "Rahmen"), 0);
+  printMode = false;
+  // Those of the tools, the options and the info box.
+  EXPECT_EQ(CountOf(LayOut(7100, 17450, true).Controls, "Rahmen"), 3 * 8);
+}
+
+TEST_F(Panel, ABorderThatFailsLeavesTheRestOfThePanel) {
+  const SidePanel panel = LayOut(1e11);
+
+  EXPECT_FALSE(log.Failures().empty());
+  for (const FailureEntry& entry : log.Failures()) {
+    EXPECT_EQ(entry.Source, "OrrerixMain.SetRahmen");
+  }
+  EXPECT_NE(Find(panel.Controls, "ImageClan", std::nullopt), nullptr);
 }
 
 }  // namespace

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include "support/fake_message_boxes.h"
+
 namespace orrerix {
 namespace {
 
@@ -29,44 +31,77 @@ TEST(ZoomRectangle, SwappedEndsAndSidesBeyondTheGridAreNotValid) {
   EXPECT_FALSE((ZoomRectangle{-1, 0, 17, 18}).IsValid());
 }
 
-TEST(ZoomStack, ItStartsWithTheWholeGridAndNothingBehindIt) {
-  const ZoomStack stack;
+class ZoomStackTest : public ::testing::Test {
+ protected:
+  FakeMessageBoxes messages;
+  ErrorLog log{messages, AppVersion{1, 0, 0}};
+  ZoomStack stack;
+};
 
+TEST_F(ZoomStackTest, ItStartsWithTheWholeGridAndNothingBehindIt) {
   EXPECT_EQ(stack.Current(), ZoomRectangle{});
   EXPECT_EQ(stack.ZoomDepth(), 0u);
 }
 
-TEST(ZoomStack, APushedRectangleIsShownAndTheOldOneComesBack) {
-  ZoomStack stack;
-
-  EXPECT_EQ(stack.PushZoomStack(kSome), ZoomChange::Changed);
+TEST_F(ZoomStackTest, APushedRectangleIsShownAndTheOldOneComesBack) {
+  EXPECT_EQ(stack.PushZoomStack(log, kSome), ZoomChange::Changed);
   EXPECT_EQ(stack.Current(), kSome);
-  EXPECT_TRUE(stack.PopZoomStack());
+  EXPECT_TRUE(stack.PopZoomStack(log));
   EXPECT_EQ(stack.Current(), ZoomRectangle{});
   EXPECT_EQ(stack.ZoomDepth(), 0u);
 }
 
-TEST(ZoomStack, PushingTheCurrentRectangleAtDepthOneOnlyBeeps) {
-  ZoomStack stack;
-  stack.PushZoomStack(kSome);
+TEST_F(ZoomStackTest, PushingTheCurrentRectangleAtDepthOneOnlyBeeps) {
+  stack.PushZoomStack(log, kSome);
 
-  EXPECT_EQ(stack.PushZoomStack(kSome), ZoomChange::Beep);
+  EXPECT_EQ(stack.PushZoomStack(log, kSome), ZoomChange::Beep);
   EXPECT_EQ(stack.ZoomDepth(), 1u);
 }
 
-TEST(ZoomStack, PushingTheCurrentRectangleAtDepthZeroSavesIt) {
-  ZoomStack stack;
-
-  EXPECT_EQ(stack.PushZoomStack({}), ZoomChange::Changed);
+TEST_F(ZoomStackTest, PushingTheCurrentRectangleAtDepthZeroSavesIt) {
+  EXPECT_EQ(stack.PushZoomStack(log, {}), ZoomChange::Changed);
   EXPECT_EQ(stack.ZoomDepth(), 1u);
   EXPECT_EQ(stack.Current(), ZoomRectangle{});
 }
 
-TEST(ZoomStack, PoppingAtDepthZeroDoesNothing) {
-  ZoomStack stack;
-
-  EXPECT_FALSE(stack.PopZoomStack());
+TEST_F(ZoomStackTest, PoppingAtDepthZeroDoesNothing) {
+  EXPECT_FALSE(stack.PopZoomStack(log));
   EXPECT_EQ(stack.Current(), ZoomRectangle{});
+}
+
+// One rectangle after the other, none the same as the one before.
+ZoomRectangle Cell(int n) {
+  return {n % 2, 0, n % 2, 0};
+}
+
+class FullZoomStack : public ZoomStackTest {
+ protected:
+  FullZoomStack() {
+    for (int n = 0; n < 32767; ++n) stack.PushZoomStack(log, Cell(n));
+  }
+};
+
+TEST_F(FullZoomStack, OneStepDeeperOverflowsAndOnOkReplacesTheLastOne) {
+  EXPECT_EQ(stack.ZoomDepth(), 32767u);
+  ASSERT_TRUE(log.Failures().empty());
+
+  EXPECT_EQ(stack.PushZoomStack(log, kSome), ZoomChange::Changed);
+
+  ASSERT_EQ(log.Failures().size(), 1u);
+  EXPECT_EQ(log.Failures()[0].Source, "OrrerixMain.PushZoomStack");
+  EXPECT_EQ(log.Failures()[0].What.Number, 6);
+  EXPECT_EQ(stack.Current(), kSome);
+  EXPECT_EQ(stack.ZoomDepth(), 32767u);
+  EXPECT_TRUE(stack.PopZoomStack(log));
+  EXPECT_EQ(stack.Current(), Cell(32766));
+}
+
+TEST_F(FullZoomStack, OnCancelTheRectangleStays) {
+  messages.Answer = MessageAnswer::Cancel;
+
+  EXPECT_EQ(stack.PushZoomStack(log, kSome), ZoomChange::None);
+
+  EXPECT_EQ(stack.Current(), Cell(32766));
 }
 
 }  // namespace

@@ -134,6 +134,90 @@ TEST_F(MapSceneTest, GreyDotsHaveADarkGroundOnABrightOne) {
   }
 }
 
+TEST_F(MapSceneTest, OnPaperLinesAreDrawnAsTheyAre) {
+  drawing.PrintMode = true;
+  drawing.FrameColor = {0xFFFFFF};
+  Control dots = Line(750, 0, 750, 1500, {0x808080});
+  dots.Style = LineStyle::Dotted;
+  drawing.Controls = {Line(0, 307, 1500, 307, {0xFF0000}), dots};
+
+  const QImage image = Rendered();
+
+  EXPECT_EQ(image.pixelColor(20, 20), QColor(Qt::blue));
+  EXPECT_EQ(image.pixelColor(20, 19), QColor(Qt::white));
+  EXPECT_EQ(image.pixelColor(20, 21), QColor(Qt::white));
+  for (int y = 30; y < 90; ++y) {
+    EXPECT_EQ(image.pixelColor(48, y), QColor(Qt::white)) << y;
+    EXPECT_EQ(image.pixelColor(52, y), QColor(Qt::white)) << y;
+  }
+}
+
+TEST_F(MapSceneTest, ALineOfTheScreenIsPaintedAnewOnPaper) {
+  drawing.Controls = {Line(0, 307, 1500, 307, {0xFF0000})};
+  Rendered();
+  drawing.PrintMode = true;
+
+  EXPECT_EQ(Rendered().pixelColor(20, 21), QColor(Qt::black));
+}
+
+TEST_F(MapSceneTest, ALineAlongThePixelsIsSharpInItsColour) {
+  // Both lie between two rows or columns of pixels.
+  drawing.Controls = {Line(150, 300, 1350, 300, {0x00FFFF}), Line(600, 450, 600, 1350, {0x00FFFF})};
+
+  const QImage image = Rendered();
+
+  const auto isYellow = [&](int x, int y) { return image.pixelColor(x, y) == QColor(Qt::yellow); };
+  EXPECT_TRUE(isYellow(50, 19) != isYellow(50, 20));
+  EXPECT_TRUE(isYellow(39, 60) != isYellow(40, 60));
+  for (int n = 0; n < 100; ++n) {
+    EXPECT_TRUE(isYellow(50, n) || image.pixelColor(50, n) == QColor(Qt::black)) << n;
+    EXPECT_TRUE(isYellow(n, 60) || image.pixelColor(n, 60) == QColor(Qt::black)) << n;
+  }
+}
+
+TEST_F(MapSceneTest, ABorderedPictureHasALineOfOnePixelInsideItsPlace) {
+  Control icon = MakePicture("Image1", 1, {300, 450, 150, 150}, "Planet1");
+  icon.Bordered = true;
+  icon.BorderColor = {0x503828};
+  drawing.FrameColor = {0xFFFFFF};
+  drawing.Controls = {icon};
+
+  const QImage image = Rendered();
+
+  // Pixels 20 to 29 across, 30 to 39 down.
+  const QColor border(0x28, 0x38, 0x50);
+  for (int n = 0; n < 10; ++n) {
+    EXPECT_EQ(image.pixelColor(20 + n, 30), border);
+    EXPECT_EQ(image.pixelColor(20 + n, 39), border);
+    EXPECT_EQ(image.pixelColor(20, 30 + n), border);
+    EXPECT_EQ(image.pixelColor(29, 30 + n), border);
+  }
+  EXPECT_NE(image.pixelColor(25, 35), border);
+  EXPECT_EQ(image.pixelColor(19, 35), QColor(Qt::white));
+  EXPECT_EQ(image.pixelColor(30, 35), QColor(Qt::white));
+}
+
+TEST_F(MapSceneTest, AFrameThatDoesNotClipShowsWhatReachesOverItsEdge) {
+  Control frame = Rectangle({150, 750, 900, 300}, {0x0000FF});
+  frame.ClipsChildren = false;
+  frame.Children = {Rectangle({0, -300, 300, 450}, {0x00FF00})};
+  drawing.Controls = {frame};
+
+  EXPECT_EQ(Rendered().pixelColor(15, 35), QColor(Qt::green));
+}
+
+TEST_F(MapSceneTest, TheCaptionOfAFrameIsNotPainted) {
+  Control frame = Rectangle({150, 150, 900, 900}, {0x0000FF});
+  frame.Caption = "Infobox";
+  frame.ForeColor = Color{0xFFFFFF};
+  drawing.Controls = {frame};
+  const QImage image = Rendered();
+
+  for (int y = 10; y < 70; ++y) {
+    for (int x = 10; x < 70; ++x) ASSERT_EQ(image.pixelColor(x, y), QColor(Qt::red));
+  }
+}
+
 TEST_F(MapSceneTest, AFrameClipsWhatIsInIt) {
   Control frame = Rectangle({150, 150, 300, 300}, {0x0000FF});
   frame.Children = {Rectangle({150, 150, 900, 900}, {0x00FF00})};

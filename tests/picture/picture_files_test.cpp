@@ -81,7 +81,7 @@ TEST(PictureFiles, BorderPiecesAreDrawingsOfTheSizesThatTheirControlsHave) {
   PictureStore store;
   for (const auto set :
        {BorderSet::Map, BorderSet::InfoBox, BorderSet::Options, BorderSet::Tools}) {
-    const ControlList pieces = SetRahmen(set, 0, 0, 15 * 1000, 15 * 1000);
+    const ControlList pieces = BorderPieces(set, 0, 0, 15 * 1000, 15 * 1000);
     for (std::size_t k = 0; k < pieces.size(); ++k) {
       const QString file = PictureFile(pieces[k]);
       const QSize natural = store.NaturalSize(file);

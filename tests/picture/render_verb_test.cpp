@@ -52,6 +52,20 @@ TEST_F(RenderVerb, ThePictureIsThatOfTheFrame) {
   EXPECT_EQ(Picture("map.png").size(), QSize(1587, 1163));
 }
 
+TEST_F(RenderVerb, ItsOuterColumnsAndRowsAreThoseOfTheMap) {
+  ASSERT_EQ(Call({"render", File("edges.png"), "--print"}), kDone);
+  const QImage image = Picture("edges.png");
+
+  // Nothing but paper, names and lines: an edge that was not filled would be grey.
+  for (int y = 0; y < image.height(); y += 7) {
+    EXPECT_EQ(image.pixelColor(0, y), QColor(Qt::white)) << y;
+  }
+  for (int x = 0; x < 900; x += 7) {
+    EXPECT_EQ(image.pixelColor(x, 0), QColor(Qt::white)) << x;
+    EXPECT_EQ(image.pixelColor(x, image.height() - 1), QColor(Qt::white)) << x;
+  }
+}
+
 TEST_F(RenderVerb, PixelsScaleIt) {
   EXPECT_EQ(Call({"render", File("small.png"), "--pixels", "400x300"}), kDone);
   EXPECT_EQ(Picture("small.png").size(), QSize(400, 300));
