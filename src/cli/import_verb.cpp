@@ -4,6 +4,8 @@
 #include <cstdio>
 #include <fstream>
 #include <memory>
+#include <optional>
+#include <utility>
 
 #include <fmt/format.h>
 #include <nlohmann/json.hpp>
@@ -12,6 +14,7 @@
 #include "cli/verbs.h"
 #include "derived/stages.h"
 #include "import/import_driver.h"
+#include "platform/folder_lock.h"
 
 namespace orrerix {
 namespace fs = std::filesystem;
@@ -29,7 +32,39 @@ struct TableCount {
   std::int64_t Rows;
 };
 
-// Names the file's folder; the import itself names its files.
+// A folder beside a universe file that an import works in; it goes with everything in it.
+class WorkFolder {
+ public:
+  explicit WorkFolder(const fs::path& target) : path_(target.string() + ".import") {
+    std::error_code error;
+    fs::create_directory(path_, error);
+    lock_ = FolderLock::TryHold(path_);
+    if (!lock_) {
+      throw CouldNot(fmt::format("the universe file '{}' is being imported by another process",
+                                 target.string()));
+    }
+    if (!fs::is_directory(path_, error)) {
+      throw CouldNot(fmt::format("cannot make the folder '{}'", path_.string()));
+    }
+    // What a killed import left behind.
+    for (const auto& entry : fs::directory_iterator(path_, error)) {
+      fs::remove_all(entry.path(), error);
+    }
+  }
+  WorkFolder(const WorkFolder&) = delete;
+  WorkFolder& operator=(const WorkFolder&) = delete;
+  ~WorkFolder() {
+    std::error_code ignored;
+    fs::remove_all(path_, ignored);
+  }
+
+  const fs::path& Path() const { return path_; }
+
+ private:
+  fs::path path_;
+  std::optional<FolderLock> lock_;
+};
+
 class ImportVerb {
  public:
   ImportVerb(const CommonOptions& options, const ImportOptions& import)
@@ -38,6 +73,7 @@ class ImportVerb {
   int Run() {
     const auto start = std::chrono::steady_clock::now();
     const fs::path target = RequireTarget();
+    const auto lock = RequireUnused(target);
     RequireLogFile();
     const bool finished = Import(target);
     seconds_ = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
@@ -57,10 +93,37 @@ class ImportVerb {
     }
     fs::path target = fs::absolute(options_.DatabasePath()).lexically_normal();
     std::error_code error;
+    fs::create_directories(target.parent_path(), error);
     if (!fs::is_directory(target.parent_path(), error)) {
-      throw CouldNot(fmt::format("there is no folder '{}'", target.parent_path().string()));
+      throw CouldNot(fmt::format("cannot make the folder '{}'", target.parent_path().string()));
     }
     return target;
+  }
+
+  // The window imports in the folder of its own universe file, and holds that folder meanwhile.
+  static FolderLock RequireUnused(const fs::path& target) {
+    const auto inUse = [&target] {
+      return CouldNot(
+          fmt::format("the universe file '{}' is being used by another process", target.string()));
+    };
+    FolderLock unlocked;
+    if (target.filename() == "Orrerix.fl") {
+      auto lock = FolderLock::TryHold(target.parent_path());
+      if (!lock) throw inUse();
+      unlocked = std::move(*lock);
+    }
+    std::error_code ignored;
+    if (!fs::exists(target, ignored)) return unlocked;
+    class InUse : public FailureSink {
+     public:
+      bool Is = false;
+      void Fail(const Failure& failure) override {
+        Is = Is || failure.Number == failure_number::kFileInUse;
+      }
+    } probe;
+    DBEngine::OpenDatabase(probe, target);
+    if (probe.Is) throw inUse();
+    return unlocked;
   }
 
   std::string GameText() const {
@@ -72,24 +135,23 @@ class ImportVerb {
   // Works in a folder beside the target, so that files of the import's own names never meet
   // others, and an older universe file is replaced only by a finished one.
   bool Import(const fs::path& target) {
-    const fs::path work = target.string() + ".import";
-    std::error_code error;
-    fs::remove_all(work, error);
-    if (!fs::create_directory(work, error)) {
-      throw CouldNot(fmt::format("cannot make the folder '{}'", work.string()));
-    }
+    const WorkFolder work(target);
     const GameFolder game(GameText());
     CliHost host(messages_, import_.Quiet);
-    const bool finished =
-        ImportGame(log_, host, database_,
-                   {game, work, JetVersionOption::Version30, CurrentVersion()}, DerivedStages());
+    bool finished = false;
+    try {
+      finished = ImportGame(log_, host, database_,
+                            {game, work.Path(), JetVersionOption::Version30, CurrentVersion()},
+                            DerivedStages());
+    } catch (const ImportEnded&) {
+      // The answer to the question about memory was to abort.
+    }
     CountTables();
     database_.Close();
-    const bool usable = finished && IsStamped();
-    if (usable) fs::rename(work / "Orrerix.fl", target, error);
-    const bool moved = usable && !error;
-    fs::remove_all(work, error);
-    return moved;
+    if (!finished || !IsStamped()) return false;
+    std::error_code error;
+    fs::rename(work.Path() / "Orrerix.fl", target, error);
+    return !error;
   }
 
   void CountTables() {
@@ -97,10 +159,11 @@ class ImportVerb {
     class Ignore : public FailureSink {
       void Fail(const Failure&) override {}
     } ignore;
-    for (const TableDef& table : database_.TableDefs(ignore)) {
-      Recordset rows =
-          database_.OpenRecordset(ignore, "SELECT count(*) AS rows FROM " + QuoteName(table.Name));
-      counts_.push_back({table.Name, *rows["rows"].Get().Whole()});
+    for (Recordset tables = database_.OpenRecordset(
+             ignore, "SELECT name FROM sqlite_master WHERE type = 'table' ORDER BY rowid");
+         !tables.AtEnd(); tables.MoveNext()) {
+      const std::string name = tables["name"].Get().Text();
+      counts_.push_back({name, database_.RowCount(ignore, name).value_or(0)});
     }
   }
 

@@ -50,6 +50,7 @@ MessageAnswer PolicyMessageBoxes::Show(const Message& message) {
   if (message.Buttons == MessageButtons::AbortRetryIgnore) {
     return options_.OnFailure == "ok" ? MessageAnswer::Ignore : MessageAnswer::Abort;
   }
+  if (message.Buttons == MessageButtons::RetryLeave) return MessageAnswer::Leave;
   return options_.OnFailure == "ok" ? MessageAnswer::Ok : MessageAnswer::Cancel;
 }
 

@@ -29,8 +29,8 @@ void Appender::Append() {
   std::optional<Failure> failed;
   try {
     inserter_->EndRow();
-  } catch (const Failure& failure) {
-    failed = failure;
+  } catch (...) {
+    failed = CaughtFailure();
   }
   if (failed) sink_->Fail(*failed);
 }

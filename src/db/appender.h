@@ -16,7 +16,7 @@ class Connection;
 class RowInserter;
 
 // Takes as many rows as it was opened for. Texts must live until the last of them; fields that were
-// not set are Null, and a unique ID is left to the engine. Nothing is tested but what the engine
+// not set are Null, and a unique ID is drawn for each row. Nothing is tested but what the engine
 // tests itself.
 class Appender {
  public:

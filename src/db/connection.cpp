@@ -23,6 +23,7 @@ void Connection::Close() {
   editableQueries_.clear();
   statements_.clear();
   tables_.clear();
+  uniqueIDs_.clear();
   sqlite3_close_v2(handle_);
   handle_ = nullptr;
 }
@@ -58,18 +59,50 @@ std::shared_ptr<const TableDef> Connection::Find(std::string_view table) {
   RequireOpen();
   const std::string key = FoldAscii(table);
   if (const auto found = tables_.find(key); found != tables_.end()) return found->second;
+  if (!Exists(std::string(table))) return nullptr;
 
   StatementLoan master(
       Prepare("SELECT name, sql FROM sqlite_master WHERE type = 'table' AND name = ?1 "
               "COLLATE NOCASE"));
   Bind(master.get(), 1, table);
   if (sqlite3_step(master.get()) != SQLITE_ROW) return nullptr;
-  auto definition = std::make_shared<TableDef>();
-  definition->Name = Column(master.get(), 0).Text();
-  const std::string sql = Column(master.get(), 1).Text();
+  const auto definition =
+      ReadDefinition(Column(master.get(), 0).Text(), Column(master.get(), 1).Text());
+  tables_[key] = definition;
+  return definition;
+}
 
+// Looks into the schema that the engine has in memory; its table has no index on names.
+bool Connection::Exists(const std::string& table) const {
+  return sqlite3_table_column_metadata(handle_, "main", table.c_str(), nullptr, nullptr, nullptr,
+                                       nullptr, nullptr, nullptr) == SQLITE_OK;
+}
+
+std::vector<std::shared_ptr<const TableDef>> Connection::FindAll() {
+  std::vector<std::pair<std::string, std::string>> found;  // names and statements
+  {
+    StatementLoan master(
+        Prepare("SELECT name, sql FROM sqlite_master WHERE type = 'table' "
+                "AND name NOT LIKE 'sqlite[_]*' ORDER BY rowid"));
+    while (sqlite3_step(master.get()) == SQLITE_ROW) {
+      found.emplace_back(Column(master.get(), 0).Text(), Column(master.get(), 1).Text());
+    }
+  }
+  std::vector<std::shared_ptr<const TableDef>> tables;
+  for (const auto& [name, sql] : found) {
+    std::shared_ptr<const TableDef>& known = tables_[FoldAscii(name)];
+    if (known == nullptr) known = ReadDefinition(name, sql);
+    tables.push_back(known);
+  }
+  return tables;
+}
+
+std::shared_ptr<const TableDef> Connection::ReadDefinition(const std::string& name,
+                                                           const std::string& sql) {
+  auto definition = std::make_shared<TableDef>();
+  definition->Name = name;
   StatementLoan columns(Prepare("SELECT name, type, dflt_value FROM pragma_table_info(?1)"));
-  Bind(columns.get(), 1, table);
+  Bind(columns.get(), 1, name);
   while (sqlite3_step(columns.get()) == SQLITE_ROW) {
     definition->Fields.push_back(ReadField(Column(columns.get(), 0).Text(),
                                            Column(columns.get(), 1).Text(),
@@ -78,12 +111,11 @@ std::shared_ptr<const TableDef> Connection::Find(std::string_view table) {
   StatementLoan keys(
       Prepare("SELECT ii.name FROM pragma_index_list(?1) il, pragma_index_info(il.name) ii "
               "WHERE il.[unique] AND ii.name IS NOT NULL ORDER BY ii.seqno"));
-  Bind(keys.get(), 1, table);
+  Bind(keys.get(), 1, name);
   while (sqlite3_step(keys.get()) == SQLITE_ROW) {
     if (!definition->PrimaryKey) definition->PrimaryKey = Index{"key", {}, false};
     definition->PrimaryKey->Fields.push_back(Column(keys.get(), 0).Text());
   }
-  tables_[key] = definition;
   return definition;
 }
 
@@ -190,6 +222,17 @@ void Connection::MakeLateKey(std::string_view table) {
   RunAll(CreateKeyStatement(keyed));
 }
 
+UniqueNumbers& Connection::UniqueIDs(const TableDef& table) {
+  const std::string key = FoldAscii(table.Name);
+  if (const auto found = uniqueIDs_.find(key); found != uniqueIDs_.end()) return found->second;
+  UniqueNumbers numbers(idSource_);
+  const PreparedStatement rows =
+      PrepareOnce("SELECT " + QuoteName(table.Fields[*table.UniqueIDField()].Name) + " FROM " +
+                  QuoteName(table.Name));
+  while (sqlite3_step(rows.get()) == SQLITE_ROW) numbers.Take(sqlite3_column_int64(rows.get(), 0));
+  return uniqueIDs_.emplace(key, std::move(numbers)).first->second;
+}
+
 void Connection::RunAll(const std::string& statements) {
   RequireOpen();
   const char* rest = statements.c_str();
@@ -244,6 +287,10 @@ Failure Connection::LastFailure() const {
   switch (code & 0xFF) {
     case SQLITE_NOMEM:
       return RuntimeFailure(failure_number::kOutOfMemory);
+    case SQLITE_BUSY:
+    case SQLITE_LOCKED:
+      return EngineFailure(failure_number::kFileInUse,
+                           fmt::format("Could not use '{}'; file already in use.", file));
     case SQLITE_FULL:
       return EngineFailure(failure_number::kDiskFull,
                            fmt::format("Not enough space on disk for '{}'.", file));

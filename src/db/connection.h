@@ -16,6 +16,7 @@
 #include "db/query_text.h"
 #include "db/table_def.h"
 #include "db/text.h"
+#include "db/unique_numbers.h"
 #include "db/value.h"
 
 namespace orrerix {
@@ -71,6 +72,8 @@ class Connection {
 
   // The definition of a table, nothing if there is none of that name in whatever case.
   std::shared_ptr<const TableDef> Find(std::string_view table);
+  // All tables in the order of their creation.
+  std::vector<std::shared_ptr<const TableDef>> FindAll();
   void Forget(std::string_view table);
 
   // Keeps what is appended to a table, which has neither rows nor its key yet, in memory. As soon
@@ -81,8 +84,12 @@ class Connection {
   // if it is a table like any other.
   HeldRows* Held(std::string_view table);
   HeldRows* Held(const std::shared_ptr<const TableDef>& table);
-  void WriteHeld();                        // with all keys
+  void WriteHeld();  // with all keys
   std::vector<HeldRows> TakeHeld();
+
+  // The numbers of a table's unique IDs; those that stand in its rows are never drawn.
+  UniqueNumbers& UniqueIDs(const TableDef& table);
+  void DrawUniqueIDsFrom(UniqueNumbers::Source source) { idSource_ = std::move(source); }
 
   // Runs all statements of a text and drops their rows.
   void RunAll(const std::string& statements);
@@ -100,6 +107,8 @@ class Connection {
   void RequireOpen() const;
 
  private:
+  bool Exists(const std::string& table) const;
+  std::shared_ptr<const TableDef> ReadDefinition(const std::string& name, const std::string& sql);
   static int NoteTable(void* self, int action, const char* first, const char* second,
                        const char* database, const char* trigger);
   bool IsKeyField(const char* table, const char* field) const;
@@ -121,6 +130,8 @@ class Connection {
   // With the numbers of their rows.
   std::unordered_map<std::string, Query, TextHash, std::equal_to<>> editableQueries_;
   std::unordered_map<std::string, std::shared_ptr<const TableDef>> tables_;
+  UniqueNumbers::Source idSource_ = UniqueNumbers::DrawAtRandom;
+  std::unordered_map<std::string, UniqueNumbers> uniqueIDs_;
 };
 
 // Binds one parameter, counted from 1, or all of them in their order.

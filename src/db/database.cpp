@@ -2,12 +2,14 @@
 #include "db/database.h"
 
 #include <algorithm>
+#include <unordered_set>
 #include <utility>
 
 #include <fmt/format.h>
 
 #include "db/connection.h"
 #include "db/query_text.h"
+#include "db/schema_aside.h"
 #include "db/text.h"
 
 namespace orrerix {
@@ -19,10 +21,15 @@ void Guard(FailureSink& sink, Step&& step) {
   std::optional<Failure> failed;
   try {
     step();
-  } catch (const Failure& failure) {
-    failed = failure;
+  } catch (...) {
+    failed = CaughtFailure();
   }
   if (failed) sink.Fail(*failed);
+}
+
+Failure TableExists(const TableDef& table) {
+  return EngineFailure(failure_number::kTableExists,
+                       fmt::format("Table '{}' already exists.", table.Name));
 }
 
 void StepToEnd(Connection& connection, sqlite3_stmt* statement) {
@@ -82,14 +89,7 @@ std::vector<TableDef> Database::TableDefs(FailureSink& sink) const {
   std::vector<TableDef> tables;
   Guard(sink, [&] {
     RequireOpen();
-    std::vector<std::string> names;
-    StatementLoan master(connection_->Prepare(
-        "SELECT name FROM sqlite_master WHERE type = 'table' AND name NOT LIKE 'sqlite[_]*' "
-        "ORDER BY rowid"));
-    while (sqlite3_step(master.get()) == SQLITE_ROW) {
-      names.push_back(Column(master.get(), 0).Text());
-    }
-    for (const std::string& name : names) tables.push_back(*connection_->Find(name));
+    for (const auto& table : connection_->FindAll()) tables.push_back(*table);
   });
   return tables;
 }
@@ -107,17 +107,17 @@ bool Database::HasField(std::string_view table, std::string_view field) const {
 void Database::MakeTable(const TableDef& table) {
   RequireOpen();
   if (HasTable(table.Name)) {
-    throw EngineFailure(failure_number::kTableExists,
-                        fmt::format("Table '{}' already exists.", table.Name));
+    throw TableExists(table);
   }
-  StepToEnd(*connection_, StatementLoan(connection_->Prepare(CreateStatement(table))).get());
+  // The engine looks through all prepared statements whenever the schema changes: keep none.
+  StepToEnd(*connection_, connection_->PrepareOnce(CreateStatement(table)).get());
 }
 
 void Database::CreateTable(FailureSink& sink, const TableDef& table) {
   Guard(sink, [&] {
     MakeTable(table);
     if (table.PrimaryKey) {
-      StepToEnd(*connection_, StatementLoan(connection_->Prepare(CreateKeyStatement(table))).get());
+      StepToEnd(*connection_, connection_->PrepareOnce(CreateKeyStatement(table)).get());
     }
     connection_->Forget(table.Name);
   });
@@ -247,6 +247,38 @@ std::vector<std::size_t> Database::LongestAttachedTexts(FailureSink& sink,
   return longest;
 }
 
+std::optional<std::int64_t> Database::RowCount(FailureSink& sink, std::string_view table) const {
+  std::optional<std::int64_t> count;
+  Guard(sink, [&] {
+    RequireOpen();
+    const PreparedStatement rows =
+        connection_->PrepareOnce("SELECT count(*) FROM " + QuoteName(table));
+    if (sqlite3_step(rows.get()) != SQLITE_ROW) throw connection_->LastFailure();
+    count = sqlite3_column_int64(rows.get(), 0);
+  });
+  return count;
+}
+
+void Database::CreateTables(FailureSink& sink, std::span<const TableDef> tables) {
+  constexpr std::size_t many = 256;
+  if (tables.size() < many) {
+    for (const TableDef& table : tables) CreateTable(sink, table);
+    return;
+  }
+  std::unordered_set<std::string> names;
+  for (const TableDef& table : TableDefs(sink)) names.insert(FoldAscii(table.Name));
+  SchemaAside aside;
+  for (std::size_t i = 0; i < tables.size(); ++i) {
+    if (i % many == 0) Guard(sink, [&] { aside.Take(*connection_); });
+    if (names.insert(FoldAscii(tables[i].Name)).second) {
+      CreateTable(sink, tables[i]);
+    } else {
+      sink.Fail(TableExists(tables[i]));
+    }
+  }
+  Guard(sink, [&] { aside.PutBack(*connection_); });
+}
+
 void Database::Attach(FailureSink& sink, const std::filesystem::path& path) {
   Guard(sink, [&] {
     RequireOpen();
@@ -256,15 +288,7 @@ void Database::Attach(FailureSink& sink, const std::filesystem::path& path) {
   });
 }
 
-bool Database::CanBeNamedInStatements(FailureSink& sink) const {
-  const auto quoted = TranslateText("INSERT INTO t IN '" + Path().string() + "' SELECT * FROM t;");
-  const Failure* failure = std::get_if<Failure>(&quoted);
-  if (failure != nullptr) sink.Fail(*failure);
-  return failure == nullptr;
-}
-
 void Database::CopyFromAttached(FailureSink& sink, std::string_view table) {
-  if (!CanBeNamedInStatements(sink)) return;
   Guard(sink, [&] {
     RequireOpen();
     const std::string name = QuoteName(table);
@@ -291,6 +315,10 @@ void Database::UseForBuilding(FailureSink& sink) {
   UseForFilling(sink);
   // Nothing is ever rolled back: a statement tests its keys before it writes.
   ExecuteNative(sink, "PRAGMA journal_mode = OFF; PRAGMA synchronous = OFF;");
+}
+
+void Database::DrawUniqueIDsFrom(UniqueNumbers::Source source) {
+  if (IsOpen()) connection_->DrawUniqueIDsFrom(std::move(source));
 }
 
 void Database::Begin(FailureSink& sink) {

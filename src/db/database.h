@@ -7,6 +7,7 @@
 #include <initializer_list>
 #include <memory>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -16,6 +17,7 @@
 #include "db/held_rows.h"
 #include "db/recordset.h"
 #include "db/table_def.h"
+#include "db/unique_numbers.h"
 #include "db/value.h"
 
 struct sqlite3;
@@ -48,6 +50,10 @@ class Database {
   // Makes a table with its key. Fails with 3010 if one of that name, in whatever case, is there.
   void CreateTable(FailureSink& sink, const TableDef& table);
 
+  // Makes many tables in the time that their number takes. What fails is one failure each. A
+  // transaction must be open; if it is not committed no table stays.
+  void CreateTables(FailureSink& sink, std::span<const TableDef> tables);
+
   // Makes a table whose rows, as recordsets append them, are kept in memory until a statement asks
   // for the table: writing them together costs less. It obeys its key all the same. Fails like
   // CreateTable.
@@ -72,6 +78,9 @@ class Database {
   std::optional<Value> LookUp(FailureSink& sink, std::string_view table, std::string_view field,
                               std::string_view keyField, std::int64_t key);
 
+  // Number of a table's rows; nothing if it cannot be read.
+  std::optional<std::int64_t> RowCount(FailureSink& sink, std::string_view table) const;
+
   // Opens a table to append to; it shows no rows.
   Recordset OpenTable(FailureSink& sink, std::string_view table);
 
@@ -91,10 +100,6 @@ class Database {
   // for all other fields.
   std::vector<std::size_t> LongestAttachedTexts(FailureSink& sink, const TableDef& table) const;
 
-  // Whether a table can be filled by "INSERT INTO [table] IN 'path' SELECT * FROM [table];", which
-  // is what copying runs: a path that holds a "'" breaks that statement (3075).
-  bool CanBeNamedInStatements(FailureSink& sink) const;
-
   // Runs the engine's native statement, as it stands: indexes, pragmas and the like.
   void ExecuteNative(FailureSink& sink, const std::string& statement);
 
@@ -105,6 +110,9 @@ class Database {
   // The same, and trades safety against loss of power for speed: for files that are thrown away if
   // they are not finished. Keys work as ever; what was written is not taken back.
   void UseForBuilding(FailureSink& sink);
+
+  // Where the numbers of unique IDs come from; tests hand in their own.
+  void DrawUniqueIDsFrom(UniqueNumbers::Source source);
 
   void Begin(FailureSink& sink);
   void Commit(FailureSink& sink);

@@ -55,8 +55,8 @@ Database Guarded(FailureSink& sink, Open&& open) {
   std::optional<Failure> failed;
   try {
     return Database(open());
-  } catch (const Failure& failure) {
-    failed = failure;
+  } catch (...) {
+    failed = CaughtFailure();
   }
   sink.Fail(*failed);
   return Database();

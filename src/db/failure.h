@@ -18,12 +18,14 @@ inline constexpr int kFileNotFound = 53;
 inline constexpr int kPathFileAccess = 75;
 inline constexpr int kInvalidPattern = 93;
 inline constexpr int kInvalidUseOfNull = 94;
+inline constexpr int kInvalidPicture = 481;
 inline constexpr int kTableExists = 3010;
 inline constexpr int kNoCurrentRecord = 3021;
 inline constexpr int kDuplicateKey = 3022;
 inline constexpr int kCannotOpenFile = 3024;
 inline constexpr int kDiskFull = 3026;
 inline constexpr int kReadOnly = 3027;
+inline constexpr int kFileInUse = 3045;
 inline constexpr int kNullInKey = 3058;
 inline constexpr int kSyntaxError = 3075;
 inline constexpr int kNoSuchTable = 3078;
@@ -53,6 +55,10 @@ Failure NullInKey();
 // A failure of the language's own operations, with its standard description (Overflow, Division by
 // zero and so on).
 Failure RuntimeFailure(int number);
+
+// The exception being handled, as a failure: a Failure itself, lack of memory, or what the file
+// system refused. Throws any other exception again. Called within a catch block only.
+Failure CaughtFailure();
 
 // The standard message for a failure number; numbers that are not the language's own share one.
 std::string_view StandardMessage(int number);

@@ -65,11 +65,22 @@ HeldRows::Cell HeldRows::Keep(const Value& value) {
 }
 
 void HeldRows::Add(std::span<const Value> row) {
-  if (!keyFields_.empty() && !keys_.emplace(texts_.Keep(KeyOf(row)), rowCount_).second) {
-    throw DuplicateKey();
+  if (chunks_.size() * kRowsOfChunk == rowCount_) {
+    std::vector<Cell> chunk;
+    chunk.reserve(kRowsOfChunk * row.size());
+    chunks_.push_back(std::move(chunk));
   }
-  if (rowCount_ % kRowsOfChunk == 0) chunks_.emplace_back().reserve(kRowsOfChunk * row.size());
-  for (const Value& value : row) chunks_.back().push_back(Keep(value));
+  std::vector<Cell>& chunk = chunks_.back();
+  const std::size_t before = chunk.size();
+  try {
+    for (const Value& value : row) chunk.push_back(Keep(value));
+    if (!keyFields_.empty() && !keys_.emplace(texts_.Keep(KeyOf(row)), rowCount_).second) {
+      throw DuplicateKey();
+    }
+  } catch (...) {
+    chunk.resize(before);  // no half a row stays
+    throw;
+  }
   ++rowCount_;
 }
 

@@ -31,7 +31,8 @@ class HeldRows {
   const TableDef& Definition() const { return *table_; }
   const std::shared_ptr<const TableDef>& SharedDefinition() const { return table_; }
 
-  // Takes a row, one value for each field. Throws 3022 if the key exists.
+  // Takes a row, one value for each field. Throws 3022 if the key exists. A row whose taking fails,
+  // for lack of memory too, leaves nothing behind.
   void Add(std::span<const Value> row);
 
   // Whether the table's key is this field alone, its name as the definition has it.

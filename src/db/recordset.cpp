@@ -2,6 +2,7 @@
 #include "db/recordset.h"
 
 #include <cmath>
+#include <new>
 #include <utility>
 
 #include <fmt/format.h>
@@ -162,7 +163,12 @@ void Recordset::Assign(std::optional<std::size_t> field, Value& value) {
     return sink_->Fail(
         EngineFailure(failure_number::kNoSuchItem, "Item not found in this collection."));
   }
-  const auto refused = FitInto(table_->Fields[*field], table_->Name, value);
+  std::optional<Failure> refused;
+  try {
+    refused = FitInto(table_->Fields[*field], table_->Name, value);
+  } catch (const std::bad_alloc&) {
+    refused = RuntimeFailure(failure_number::kOutOfMemory);
+  }
   if (refused) return sink_->Fail(*refused);
   edited_[*field] = std::move(value);
   assigned_[*field] = true;
@@ -195,9 +201,14 @@ void Recordset::AddNew() {
     return;
   }
   const std::size_t fields = table_->Fields.size();
-  edited_.clear();
-  edited_.resize(fields);
-  assigned_.assign(fields, false);
+  editing_ = Editing::None;
+  try {
+    edited_.clear();
+    edited_.resize(fields);
+    assigned_.assign(fields, false);
+  } catch (const std::bad_alloc&) {
+    return sink_->Fail(RuntimeFailure(failure_number::kOutOfMemory));
+  }
   for (std::size_t i = 0; i < fields; ++i) {
     if (table_->Fields[i].Type == FieldType::Boolean) edited_[i] = 0;
   }
@@ -234,25 +245,26 @@ void Recordset::Update() {
     if (KeyHoldsNull()) throw NullInKey();
     connection_->RequireOpen();
     editing == Editing::Added ? Insert() : Rewrite();
-  } catch (const Failure& failure) {
-    failed = failure;
+  } catch (...) {
+    failed = CaughtFailure();
   }
   if (failed) sink_->Fail(*failed);
 }
 
 void Recordset::Insert() {
-  UniqueIDs ids = UniqueIDs::Generated;
-  for (std::size_t i = 0; i < edited_.size(); ++i) {
-    if (table_->Fields[i].IsUniqueID && assigned_[i]) ids = UniqueIDs::Given;
-  }
-  if (ids == UniqueIDs::Generated) {
+  const auto idField = table_->UniqueIDField();
+  const bool drawsID = idField && !assigned_[*idField];
+  if (!idField || drawsID) {
     if (HeldRows* held = connection_->Held(table_)) return held->Add(edited_);
-    if (insert_ == nullptr) insert_ = connection_->Prepare(InsertStatement(*table_, ids));
   }
-  const StatementLoan insert(
-      ids == UniqueIDs::Generated ? insert_ : connection_->Prepare(InsertStatement(*table_, ids)));
+  if (idField) {
+    UniqueNumbers& ids = connection_->UniqueIDs(*table_);
+    if (drawsID) edited_[*idField] = ids.Draw();
+    if (!drawsID) ids.Take(static_cast<std::int64_t>(edited_[*idField].Number()));
+  }
+  if (insert_ == nullptr) insert_ = connection_->Prepare(InsertStatement(*table_));
+  const StatementLoan insert(insert_);
   for (std::size_t i = 0; i < edited_.size(); ++i) {
-    if (table_->Fields[i].IsUniqueID && ids == UniqueIDs::Generated) continue;
     Bind(insert.get(), static_cast<int>(i) + 1, edited_[i], BoundText::Stays);
   }
   if (sqlite3_step(insert.get()) != SQLITE_DONE) throw connection_->LastFailure();

@@ -117,7 +117,7 @@ class Recordset {
   std::vector<Value> edited_;
   std::vector<bool> assigned_;
   std::size_t nextField_ = 0;  // behind the one asked for last: fields are mostly used in order
-  sqlite3_stmt* insert_ = nullptr;  // of a row whose unique ID is left to the engine
+  sqlite3_stmt* insert_ = nullptr;
 };
 
 }  // namespace orrerix

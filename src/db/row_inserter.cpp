@@ -20,13 +20,15 @@ std::size_t RowsOfMany(std::size_t fields, std::size_t rowCount) {
 
 RowInserter::RowInserter(Connection& connection, const TableDef& table, std::size_t rowCount)
     : connection_(connection),
+      idField_(table.UniqueIDField()),
       fields_(table.Fields.size()),
       rowsOfMany_(RowsOfMany(fields_, rowCount)),
       rowsLeft_(rowCount),
-      one_(connection.PrepareOnce(InsertStatement(table, UniqueIDs::Generated))) {
+      one_(connection.PrepareOnce(InsertStatement(table))) {
   if (rowsOfMany_ > 1) {
-    many_ = connection.PrepareOnce(InsertStatement(table, UniqueIDs::Generated, rowsOfMany_));
+    many_ = connection.PrepareOnce(InsertStatement(table, rowsOfMany_));
   }
+  if (idField_) ids_ = &connection.UniqueIDs(table);
   BeginStatement();
 }
 
@@ -49,6 +51,7 @@ void RowInserter::Set(std::size_t field, double real) {
 }
 
 void RowInserter::EndRow() {
+  if (ids_ != nullptr) Set(*idField_, ids_->Draw());
   ++row_;
   if (statement_ == many_.get() && row_ < rowsOfMany_) return;
   rowsLeft_ -= std::min(rowsLeft_, row_);

@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string_view>
 
 #include "db/connection.h"
@@ -18,7 +19,7 @@ class RowInserter {
   RowInserter(Connection& connection, const TableDef& table, std::size_t rowCount);
 
   // Sets a field of the row to come, counted from 0. Texts must live until all rows are written; a
-  // field that is not set is Null, and a unique ID is left to the engine.
+  // field that is not set is Null; a unique ID is drawn for each row.
   void Set(std::size_t field, std::string_view text);
   void Set(std::size_t field, std::int64_t whole);
   void Set(std::size_t field, double real);
@@ -35,6 +36,8 @@ class RowInserter {
   int Parameter(std::size_t field) const { return static_cast<int>(row_ * fields_ + field) + 1; }
 
   Connection& connection_;
+  std::optional<std::size_t> idField_;
+  UniqueNumbers* ids_ = nullptr;  // for that field
   std::size_t fields_;
   std::size_t rowsOfMany_;
   std::size_t rowsLeft_;

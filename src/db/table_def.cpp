@@ -65,6 +65,13 @@ std::optional<std::size_t> TableDef::Find(std::string_view field, std::size_t gu
   return std::nullopt;
 }
 
+std::optional<std::size_t> TableDef::UniqueIDField() const {
+  const auto found = std::find_if(Fields.begin(), Fields.end(),
+                                  [](const Field& field) { return field.IsUniqueID; });
+  if (found == Fields.end()) return std::nullopt;
+  return static_cast<std::size_t>(found - Fields.begin());
+}
+
 std::string QuoteName(std::string_view name) {
   std::string quoted = "\"";
   for (char c : name) {
@@ -96,7 +103,7 @@ std::string CreateKeyStatement(const TableDef& table) {
                      QuoteName(table.Name), fields);
 }
 
-std::string InsertStatement(const TableDef& table, UniqueIDs ids, std::size_t rows) {
+std::string InsertStatement(const TableDef& table, std::size_t rows) {
   const std::size_t fields = table.Fields.size();
   std::string columns;
   std::string values;
@@ -104,7 +111,6 @@ std::string InsertStatement(const TableDef& table, UniqueIDs ids, std::size_t ro
     const Field& field = table.Fields[parameter % fields];
     const bool isFirst = parameter % fields == 0;
     if (isFirst && parameter > 0) values += "),(";
-    if (field.IsUniqueID && ids == UniqueIDs::Generated) continue;
     if (!values.empty() && values.back() != '(') values += ',';
     values += fmt::format("?{}", parameter + 1);
     if (parameter < fields) columns += (columns.empty() ? "" : ",") + QuoteName(field.Name);

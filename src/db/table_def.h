@@ -46,6 +46,9 @@ struct TableDef {
   std::vector<Field> Fields;
   std::optional<Index> PrimaryKey;
 
+  // Place of the field that takes a unique ID; nothing if there is none.
+  std::optional<std::size_t> UniqueIDField() const;
+
   // Place of a field, its name compared without case; nothing if there is none. It is looked
   // for from the place `guess` on.
   std::optional<std::size_t> Find(std::string_view field, std::size_t guess = 0) const;
@@ -62,9 +65,8 @@ std::string CreateStatement(const TableDef& table, std::string_view schema = {})
 std::string CreateKeyStatement(const TableDef& table);
 
 // The statement that appends so many rows: parameter ?N is the Nth field of the first, and the
-// parameters of the next row follow. A unique ID can be left to the engine.
-enum class UniqueIDs { Given, Generated };
-std::string InsertStatement(const TableDef& table, UniqueIDs ids, std::size_t rows = 1);
+// parameters of the next row follow.
+std::string InsertStatement(const TableDef& table, std::size_t rows = 1);
 
 // Reads back what CreateStatement declared. A type that it never writes counts as Memo.
 Field ReadField(std::string name, std::string_view declaredType, std::string_view defaultValue,

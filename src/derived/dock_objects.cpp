@@ -29,7 +29,7 @@ class DockStage {
     for (Recordset objects =
              universe_.DB.OpenRecordset(routine_, kDockable, {}, RecordsetType::Dynaset);
          !objects.AtEnd(); objects.MoveNext()) {
-      Append(objects);
+      routine_.Try([&] { Append(objects); });
       host_.Yield();
     }
   }

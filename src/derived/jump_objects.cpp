@@ -34,7 +34,7 @@ class JumpStage {
     for (Recordset objects = universe_.DB.OpenRecordset(
              routine_, "SELECT * from Objects where len(jump_effect)>0 ORDER BY jump_effect");
          !objects.AtEnd(); objects.MoveNext()) {
-      Connect(objects);
+      routine_.Try([&] { Connect(objects); });
       host_.Yield();
     }
   }

@@ -27,8 +27,8 @@ class PackageStage {
     for (Recordset ships = universe_.DB.OpenRecordset(routine_, "SELECT * from Ships", {},
                                                       RecordsetType::Dynaset);
          !ships.AtEnd(); ships.MoveNext()) {
-      TakeHull(ships);
-      AddPackage(ships);
+      routine_.Try([&] { TakeHull(ships); });
+      routine_.Try([&] { AddPackage(ships); });
     }
   }
 

@@ -35,7 +35,7 @@ class LaneStage {
     for (Recordset starts = universe_.DB.OpenRecordset(
              routine_, "SELECT * from Objects where len(prev_ring)=0 and len(next_ring)>0");
          !starts.AtEnd(); starts.MoveNext()) {
-      Walk(starts);
+      routine_.Try([&] { Walk(starts); });
       host_.Yield();
     }
   }

@@ -6,6 +6,7 @@
 #include <QScreen>
 #include <QScrollBar>
 #include <QTextCursor>
+#include <QTimer>
 #include <utility>
 
 #include "forms/form_geometry.h"
@@ -86,7 +87,7 @@ ErrorLogWindow::Log ErrorLogWindow::AddLog(const char* name, QColor letters,
   palette.setColor(QPalette::Base, QColor(0, 0, 128));
   palette.setColor(QPalette::Text, letters);
   box->setPalette(palette);
-  return {box, {}};
+  return {box};
 }
 
 void ErrorLogWindow::ShowWindow() {
@@ -95,30 +96,39 @@ void ErrorLogWindow::ShowWindow() {
     move(screen.bottomRight() - rect().bottomRight());
   }
   setWindowIcon(QGuiApplication::windowIcon());
-  TextsChanged();
+  ShowTexts();
   show();
 }
 
-// The log only grows while its window lives, so that the new end is all there is to add.
 void ErrorLogWindow::ShowText(Log& log, const std::string& text) {
-  if (text == log.Shown) return;
-  if (text.starts_with(log.Shown)) {
-    QTextCursor end(log.Box->document());
-    end.movePosition(QTextCursor::End);
-    end.insertText(QString::fromStdString(text.substr(log.Shown.size())).remove('\r'));
-  } else {
-    log.Box->setPlainText(QString::fromStdString(text).remove('\r'));
-  }
-  log.Shown = text;
+  if (text.size() == log.Shown) return;
+  QTextCursor end(log.Box->document());
+  end.movePosition(QTextCursor::End);
+  end.insertText(
+      QString::fromUtf8(text.data() + log.Shown, static_cast<qsizetype>(text.size() - log.Shown))
+          .remove('\r'));
+  log.Shown = text.size();
   log.Box->moveCursor(QTextCursor::End);
   // The last entry is read from the beginning of its lines.
   log.Box->horizontalScrollBar()->setValue(0);
 }
 
-void ErrorLogWindow::TextsChanged() {
+void ErrorLogWindow::ShowTexts() {
+  showsQueued_ = false;
+  if (std::exchange(loads_, log_.Loads()) != loads_) {
+    for (Log* log : {&dataLog_, &programLog_}) {
+      log->Box->clear();
+      log->Shown = 0;
+    }
+  }
   ShowText(dataLog_, log_.DataLog());
   ShowText(programLog_, log_.ProgramLog());
   FormResize();
+}
+
+void ErrorLogWindow::TextsChanged() {
+  if (std::exchange(showsQueued_, true)) return;
+  QTimer::singleShot(0, this, [this] { ShowTexts(); });
 }
 
 // A log whose end was seen shows it in its new place too.

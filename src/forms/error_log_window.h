@@ -12,7 +12,8 @@
 namespace orrerix {
 
 // Shows the two logs: the remarks on the game's files and, from the first one on, the program's own
-// failures below them.
+// failures below them. New texts appear when events are processed, all together: a line takes no
+// longer the more there are.
 class ErrorLogWindow : public QWidget, public ErrorLogView {
  public:
   // `importing` tells whether an import runs: closing then only hides the window.
@@ -27,14 +28,15 @@ class ErrorLogWindow : public QWidget, public ErrorLogView {
   void closeEvent(QCloseEvent* event) override;
 
  private:
-  // A log's box with as much of its text as it shows.
+  // A log's box, and how much of its text it shows.
   struct Log {
     QPlainTextEdit* Box;
-    std::string Shown;
+    std::size_t Shown = 0;  // bytes
   };
 
   QLabel* AddHeading(int index, const QString& caption, QColor letters);
   Log AddLog(const char* name, QColor letters, QPlainTextEdit::LineWrapMode wrap);
+  void ShowTexts();
   static void ShowText(Log& log, const std::string& text);
   static void PlaceLog(Log& log, const QRect& place);
   void FormResize();
@@ -45,6 +47,8 @@ class ErrorLogWindow : public QWidget, public ErrorLogView {
   Log dataLog_;
   QLabel* programHeading_;
   Log programLog_;
+  int loads_ = 0;             // of the log whose texts are shown
+  bool showsQueued_ = false;  // the new texts, from the event loop
 };
 
 }  // namespace orrerix

@@ -3,9 +3,11 @@
 
 #include <QCloseEvent>
 #include <QGuiApplication>
+#include <QImage>
 #include <QScopedValueRollback>
 #include <QScreen>
 #include <QTimer>
+#include <new>
 #include <utility>
 
 #include <fmt/format.h>
@@ -18,6 +20,7 @@
 #include "map/game_sounds.h"
 #include "online/web_pages.h"
 #include "platform/game_path.h"
+#include "shell/files.h"
 #include "shell/routine.h"
 #include "shell/startup.h"
 
@@ -66,34 +69,71 @@ OrrerixMain::OrrerixMain(const FormParts& parts, Settings& settings, Language& l
 
 OrrerixMain::~OrrerixMain() = default;
 
-void OrrerixMain::FormLoad() {
+bool OrrerixMain::FormLoad() {
+  bool leaves = false;
   Routine routine(parts_.Log, "OrrerixMain.Form_Load",
                   "While opening Database and checking for version.");
   routine.Run([&] {
     const StartPaths& paths = parts_.Paths;
-    saveFolder_ =
-        paths.SaveFolder ? *paths.SaveFolder : SaveFolderBelow(parts_.Registry.GetPersonalFolder());
+    routine.Try([&] {
+      saveFolder_ = paths.SaveFolder ? *paths.SaveFolder
+                                     : SaveFolderBelow(parts_.Registry.GetPersonalFolder());
+    });
     MakeShortcuts(parts_.Log, routine, parts_.Registry, paths.ApplicationFolder, paths.Executable,
                   parts_.Version);
     importScreen_->Text2().setText(QString::fromStdString(parts_.GamePath()));
     setWindowTitle(QString::fromStdString(StartCaption(parts_.Version)));
-    std::error_code ignored;
-    const fs::path ownMap = fs::absolute(paths.ApplicationFolder / "SysMap.jpg", ignored);
-    if (fs::exists(ownMap, ignored)) map_.ReplaceStarMap(ownMap.string());
-    if (ExamineUniverse(routine, saveFolder_, parts_.Version) != UniverseState::Absent) {
-      language_.InitLanguages();
-    }
+    ReplaceStarMap(routine, paths.ApplicationFolder / "SysMap.jpg");
+    leaves = !ExamineUniverseFile(routine);
+    if (leaves) return;
+    LoadFormTXT();
+    isMaximised_ = true;
   });
-  LoadFormTXT();
   loaded_ = true;
+  return !leaves;
+}
+
+// A picture of the user's own in place of the built-in one, which stays if it cannot be read.
+void OrrerixMain::ReplaceStarMap(Routine& routine, const fs::path& picture) {
+  if (!FileExists(routine, picture)) return;
+  std::error_code ignored;
+  const fs::path file = fs::absolute(picture, ignored);
+  if (QImage(QString::fromStdString(file.string())).isNull()) {
+    routine.Fail({failure_number::kInvalidPicture,
+                  fmt::format("Invalid picture: '{}' cannot be read.", file.string())});
+    return;
+  }
+  map_.ReplaceStarMap(file.string());
+}
+
+// False if another process works with the file and the user leaves the program.
+bool OrrerixMain::ExamineUniverseFile(Routine& routine) {
+  UniverseState state = ExamineUniverse(routine, saveFolder_, parts_.Version);
+  while (state == UniverseState::InUse) {
+    if (!AsksAgain()) return false;
+    state = ExamineUniverse(routine, saveFolder_, parts_.Version);
+  }
+  if (state != UniverseState::Absent) language_.InitLanguages();
+  return true;
+}
+
+bool OrrerixMain::AsksAgain() {
+  const int language = static_cast<int>(Val(settings_.ReadSetting("LANG")));
+  return parts_.Messages.Show(UniverseInUseQuestion(language, UniverseFile(), parts_.Version)) ==
+         MessageAnswer::Retry;
 }
 
 void OrrerixMain::LoadFormTXT() {
   Routine routine(parts_.Log, "OrrerixMain.LoadFormTXT", "While reading language-text.");
   routine.Run([&] {
-    language_.CurrentLanguage = routine.Integer(Val(settings_.ReadSetting("LANG")));
+    language_.CurrentLanguage =
+        routine.Integer(Val(settings_.ReadSetting("LANG")), language_.CurrentLanguage);
     map_.LoadFormTXT();
   });
+}
+
+void OrrerixMain::ShowLoaded() {
+  isMaximised_ ? ShowMaximised() : show();
 }
 
 void OrrerixMain::ShowMaximised() {
@@ -189,6 +229,10 @@ void OrrerixMain::PlaceForImport() {
   const QRect outer = PixelRect(place).translated(screenRect.topLeft());
   setWindowState(windowState() & ~Qt::WindowMaximized);
   SetOuterGeometry(outer);
+  // A normal window's decoration is not that of a maximised one, and is known a little later.
+  QTimer::singleShot(kDecorationDelay, this, [this, outer] {
+    if (importing_ && windowState() == Qt::WindowNoState) SetOuterGeometry(outer);
+  });
 }
 
 void OrrerixMain::SetOuterGeometry(const QRect& outer) {
@@ -198,12 +242,13 @@ void OrrerixMain::SetOuterGeometry(const QRect& outer) {
 }
 
 void OrrerixMain::Command1Click() {
-  if (importRuns_) return;
+  if (importRuns_ || complaining_ || !PrepareSaveFolder()) return;
   importRuns_ = true;
   importing_ = true;
   FormResize();
   RunImport();
   importRuns_ = false;
+  lock_.reset();
   if (host_.Ended()) {
     importing_ = false;
     close();
@@ -214,6 +259,24 @@ void OrrerixMain::Command1Click() {
   FormResize();
 }
 
+// Makes the folder of the universe file and holds it for the import. False if there is none: the
+// user has been told.
+bool OrrerixMain::PrepareSaveFolder() {
+  complaining_ = true;
+  std::error_code ignored;
+  fs::create_directories(saveFolder_, ignored);
+  bool isReady = fs::is_directory(saveFolder_, ignored);
+  if (!isReady) {
+    parts_.Messages.Show(
+        FolderMissingMessage(language_.CurrentLanguage, saveFolder_, parts_.Version));
+  }
+  while (isReady && !(lock_ = FolderLock::TryHold(saveFolder_))) isReady = AsksAgain();
+  const bool leaves = !isReady && fs::is_directory(saveFolder_, ignored);
+  complaining_ = false;
+  if (leaves) close();
+  return isReady;
+}
+
 void OrrerixMain::RunImport() {
   PlaceForImport();
   Database database;
@@ -222,14 +285,19 @@ void OrrerixMain::RunImport() {
     importing_ = !ImportGame(parts_.Log, host_, database,
                              {game, saveFolder_, format_, parts_.Version}, DerivedStages());
   } catch (const ImportEnded&) {
-    // Whoever closes the form wants the program to end; Command1Click goes on with that.
+    // Whoever closes the form or aborts for lack of memory wants the program to end; Command1Click
+    // goes on with that.
+    host_.End();
+  } catch (const std::bad_alloc&) {
+    // There was not even memory for the question.
+    host_.End();
   }
   database.Close();
-  importScreen_->HideProgress();
 }
 
 void OrrerixMain::ShowMap() {
   setWindowTitle(QString::fromStdString(MapCaption(parts_.Version)));
+  importScreen_->HideProgress();
   importScreen_->hide();
   Routine routine(parts_.Log, "OrrerixMain.Form_Resize");
   routine.Run([&] {

@@ -4,6 +4,7 @@
 #include <QWidget>
 #include <filesystem>
 #include <functional>
+#include <optional>
 
 #include "db/engine.h"
 #include "db/working_copy.h"
@@ -17,6 +18,7 @@
 #include "forms/station_windows.h"
 #include "forms/window_host.h"
 #include "online/news.h"
+#include "platform/folder_lock.h"
 
 namespace orrerix {
 
@@ -28,8 +30,13 @@ class OrrerixMain : public QWidget, private MapForm {
               const MemoryStatus& startMemory, JetVersionOption format);
   ~OrrerixMain() override;
 
-  // Finds the folders, tests the universe file, and asks for the maximised state.
-  void FormLoad();
+  // Finds the folders, tests the universe file, and asks for captions and the maximised state,
+  // unless the user cancels a failed step. False if the universe file is in use and the user would
+  // rather leave the program.
+  bool FormLoad();
+
+  // Shows the form as FormLoad left it: over the whole screen unless it was cancelled.
+  void ShowLoaded();
 
   // Shows it over the whole screen.
   void ShowMaximised();
@@ -83,6 +90,10 @@ class OrrerixMain : public QWidget, private MapForm {
   void FormGotFocus();
   std::string GameFolderText() const;
   void LookForGame();
+  void ReplaceStarMap(Routine& routine, const std::filesystem::path& picture);
+  bool ExamineUniverseFile(Routine& routine);
+  bool AsksAgain();
+  bool PrepareSaveFolder();
   void Command1Click();
   void RunImport();
   void PlaceForImport();
@@ -101,8 +112,10 @@ class OrrerixMain : public QWidget, private MapForm {
   WorkingCopy copy_;
 
   bool loaded_ = false;
+  bool isMaximised_ = false;  // as FormLoad wants it
   bool importing_ = false;
   bool importRuns_ = false;   // its routine is on the stack
+  std::optional<FolderLock> lock_;  // of the save folder, while it runs
   bool lookQueued_ = false;   // for the game, from the event loop
   bool complaining_ = false;  // that the game is missing
   bool mapShown_ = false;

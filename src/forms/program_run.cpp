@@ -37,16 +37,27 @@ void ProgramRun::Start() {
 void ProgramRun::FormGotFocus() {
   memStart_ = GlobalMemoryStatus();
   Yield();
-  if (!CheckEngine()) return OnEnd();
-  Yield();
   Routine routine(parts_.Log, "loading.Form_GotFocus",
                   "While loading News via MSINET.OCX and starting OX.");
-  std::string news;
-  routine.Run([&] { news = LoadNews(); });
-  LoadMain();
-  if (IsNewsFile(news)) main_->InfoBoxLabelFillup(news);
+  enum class Next { ShowMain, Leave } next = Next::ShowMain;
+  routine.Run([&] {
+    bool hasEngine = true;
+    routine.Try([&] { hasEngine = CheckEngine(); });
+    if (!hasEngine) {
+      next = Next::Leave;
+      return;
+    }
+    Yield();
+    std::string news;
+    routine.Try([&] { news = LoadNews(); });
+    bool goesOn = true;
+    routine.Try([&] { goesOn = LoadMain(); });
+    if (!goesOn) next = Next::Leave;
+    if (goesOn && IsNewsFile(news)) main_->InfoBoxLabelFillup(news);
+  });
+  if (next == Next::Leave) return EndAtOnce();
   loading_.hide();
-  ShowMain();
+  if (main_) main_->ShowLoaded();
   UnloadStartForms();
 }
 
@@ -71,7 +82,7 @@ std::string ProgramRun::LoadNews() {
   return loader.Text1();
 }
 
-void ProgramRun::LoadMain() {
+bool ProgramRun::LoadMain() {
   const auto& folder = parts_.Paths.ApplicationFolder;
   settings_.emplace(parts_.Log, folder, *format_);
   language_.emplace(parts_.Log, folder, *format_);
@@ -79,11 +90,7 @@ void ProgramRun::LoadMain() {
   main_->OnQueryUnload = [this] { UnloadApp(); };
   main_->OnFirstMap = [this] { return ShowSpoiler(); };
   main_->OnUpdate = [this](const News& news) { ShowUpdate(news); };
-  main_->FormLoad();
-}
-
-void ProgramRun::ShowMain() {
-  main_->ShowMaximised();
+  return main_->FormLoad();
 }
 
 // The warning before the first map. False if the user would rather leave.

@@ -33,8 +33,7 @@ class ProgramRun {
   void FormGotFocus();
   bool CheckEngine();
   std::string LoadNews();
-  void LoadMain();
-  void ShowMain();
+  bool LoadMain();
   bool ShowSpoiler();
   void ShowUpdate(const News& news);
   void EndAtOnce();

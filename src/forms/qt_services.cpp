@@ -8,12 +8,19 @@
 #include <QDir>
 #include <QEventLoop>
 #include <QFileInfo>
+#include <QFontMetrics>
+#include <QGridLayout>
+#include <QGuiApplication>
 #include <QMediaDevices>
 #include <QMessageBox>
+#include <QPlainTextEdit>
 #include <QPrinterInfo>
+#include <QScreen>
 #include <QSoundEffect>
 #include <QTimer>
 #include <QUrl>
+#include <algorithm>
+#include <utility>
 
 #include "picture/picture_store.h"
 
@@ -26,6 +33,8 @@ QMessageBox::StandardButtons ButtonsOf(MessageButtons buttons) {
       return QMessageBox::Ok | QMessageBox::Cancel;
     case MessageButtons::AbortRetryIgnore:
       return QMessageBox::Abort | QMessageBox::Retry | QMessageBox::Ignore;
+    case MessageButtons::RetryLeave:
+      return QMessageBox::Retry | QMessageBox::Close;
     case MessageButtons::Ok:
       break;
   }
@@ -64,10 +73,76 @@ MessageAnswer AnswerOf(int button) {
       return MessageAnswer::Abort;
     case QMessageBox::Retry:
       return MessageAnswer::Retry;
+    case QMessageBox::Close:
+      return MessageAnswer::Leave;
     case QMessageBox::Ignore:
       return MessageAnswer::Ignore;
     default:
       return MessageAnswer::Ok;
+  }
+}
+
+// A message in two pieces: what scrolls where it is long, and what always stays in sight.
+struct TextPieces {
+  QString Body;
+  QString Question;
+};
+
+TextPieces SplitText(const Message& message) {
+  const QString text = QString::fromStdString(message.Text).remove('\r');
+  qsizetype question = text.size();
+  for (int line = 0; line < message.QuestionLines && question > 0; ++line) {
+    question = text.lastIndexOf('\n', question - 1);
+  }
+  if (message.QuestionLines == 0 || question < 0) return {text, {}};
+  return {text.left(question), text.mid(question + 1)};
+}
+
+// The box that shows a long text, so many lines of it at most.
+QPlainTextEdit* ScrolledText(const QString& text, QSize size) {
+  auto* scrolled = new QPlainTextEdit(text);
+  scrolled->setObjectName("LongText");
+  scrolled->setReadOnly(true);
+  scrolled->setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+  const int frame = 2 * scrolled->frameWidth();
+  const int margins = static_cast<int>(2 * scrolled->document()->documentMargin());
+  scrolled->setFixedSize(size.width() + frame + margins, size.height() + frame + margins);
+  return scrolled;
+}
+
+// A text of more lines than a message may have stands in a box of its own, above the question, and
+// leaves room for that and the buttons on a small screen.
+void ScrollLongText(QMessageBox& box, const Message& message) {
+  constexpr int mostLines = 20;
+  constexpr int widest = 640;
+  constexpr int roomBelow = 220;
+  const TextPieces pieces = SplitText(message);
+  const QFontMetrics metrics(box.font());
+  const QSize screen = QGuiApplication::primaryScreen()->availableSize();
+  const int width = std::min(widest, screen.width() * 2 / 3);
+  const int height = metrics
+                         .boundingRect(QRect(0, 0, width, QWIDGETSIZE_MAX),
+                                       Qt::TextWordWrap | Qt::TextWrapAnywhere, pieces.Body)
+                         .height();
+  const int lines = std::min(mostLines, (screen.height() - roomBelow) / metrics.lineSpacing());
+  if (height <= lines * metrics.lineSpacing()) return;
+  auto* layout = qobject_cast<QGridLayout*>(box.layout());
+  if (layout == nullptr) return;
+  box.setText(pieces.Question);
+  auto* scrolled = ScrolledText(pieces.Body, {width, lines * metrics.lineSpacing()});
+  // The rows of the question and the buttons move down by one.
+  QList<std::pair<QLayoutItem*, QRect>> items;
+  while (layout->count() > 0) {
+    int top = 0;
+    int left = 0;
+    int rows = 0;
+    int columns = 0;
+    layout->getItemPosition(0, &top, &left, &rows, &columns);
+    items.append({layout->takeAt(0), QRect(left, top, columns, rows)});
+  }
+  layout->addWidget(scrolled, 0, 0, 1, -1);
+  for (const auto& [item, place] : items) {
+    layout->addItem(item, place.top() + 1, place.left(), place.height(), place.width());
   }
 }
 
@@ -83,6 +158,7 @@ MessageAnswer DesktopMessageBoxes::Show(const Message& message) {
   box.setTextInteractionFlags(Qt::TextSelectableByMouse);
   box.setWindowModality(Qt::ApplicationModal);
   for (QAbstractButton* button : box.buttons()) button->setIcon({});
+  ScrollLongText(box, message);
   return AnswerOf(box.exec());
 }
 

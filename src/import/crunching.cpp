@@ -9,6 +9,7 @@
 
 #include "db/schema.h"
 #include "db/text.h"
+#include "shell/files.h"
 #include "shell/routine.h"
 
 namespace orrerix {
@@ -63,13 +64,19 @@ class Cruncher {
   void Write(const HeldRows& rows) {
     const TableDef definition = Crunched(rows.Definition(), rows.LongestTexts());
     to_.CreateTable(routine_, definition);
-    if (to_.CanBeNamedInStatements(routine_)) to_.Append(routine_, rows, definition);
+    to_.Append(routine_, rows, definition);
   }
 
-  void Write(const SectionTable& table) {
-    const TableDef definition = Crunched(table.Definition(), table.LongestTexts());
-    to_.CreateTable(routine_, definition);
-    if (to_.CanBeNamedInStatements(routine_)) table.AppendTo(routine_, to_, definition);
+  void Write(const std::vector<std::unique_ptr<SectionTable>>& sections) {
+    std::vector<TableDef> definitions;
+    definitions.reserve(sections.size());
+    for (const auto& table : sections) {
+      definitions.push_back(Crunched(table->Definition(), table->LongestTexts()));
+    }
+    to_.CreateTables(routine_, definitions);
+    for (std::size_t i = 0; i < sections.size(); ++i) {
+      sections[i]->AppendTo(routine_, to_, definitions[i]);
+    }
   }
 
  private:
@@ -105,18 +112,9 @@ void CleanUpMemory(ErrorLog& log, ImportHost& host, Database& database,
     }
     database.WriteHeldRows(routine);
     CloseDB(database, file);
-    routine.Try([&] {
-      std::error_code error;
-      fs::rename(file, aside, error);
-      if (error) {
-        throw Failure{failure_number::kPathFileAccess,
-                      fmt::format("Path/File access error: cannot rename '{}': {}", file.string(),
-                                  error.message())};
-      }
-    });
+    RenameFile(routine, file, aside);
     DBEngine::CompactDatabase(routine, aside, file);
-    std::error_code ignored;
-    if (fs::exists(file, ignored)) fs::remove(aside, ignored);
+    if (FileExists(routine, file)) DeleteFile(routine, aside);
     database = DBEngine::OpenDatabase(routine, file);
     database.UseForBuilding(routine);
     database.Begin(routine);
@@ -129,8 +127,7 @@ void CrunchTXTFields(ErrorLog& log, const fs::path& source, const fs::path& targ
   Routine routine(log, "DB_Work.CrunchTXTFields", InfoOf(source, target));
   routine.Run([&] {
     const std::vector<TableDef> tables = TablesOf(routine, source);
-    std::error_code ignored;
-    fs::remove(target, ignored);
+    DeleteFile(routine, target);
     Database to = DBEngine::CreateDatabase(routine, target, option);
     to.UseForFilling(routine);
     to.Attach(routine, source);
@@ -139,7 +136,7 @@ void CrunchTXTFields(ErrorLog& log, const fs::path& source, const fs::path& targ
     // One transaction: a process that dies on the way leaves a file without any table.
     to.Begin(routine);
     std::for_each(tables.begin(), behindFixed, [&](const TableDef& t) { cruncher.Copy(t); });
-    for (const auto& table : kept.Sections) cruncher.Write(*table);
+    cruncher.Write(kept.Sections);
     std::for_each(behindFixed, tables.end(), [&](const TableDef& t) { cruncher.Copy(t); });
     to.Commit(routine);
   });

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "import/import_driver.h"
 
+#include <array>
+
 #include <fmt/format.h>
 
 #include "db/schema.h"
@@ -8,6 +10,7 @@
 #include "import/crunching.h"
 #include "import/ini_reader.h"
 #include "import/resource_strings.h"
+#include "shell/files.h"
 #include "shell/routine.h"
 
 namespace orrerix {
@@ -28,30 +31,34 @@ class ImportRun {
         routine_(routine),
         import_{{log, database}, order.Game, host, {}, {}} {}
 
+  // A stage whose own statements do not stop a failure is one step: the next stage follows it.
   void Run(const std::vector<DerivedStage>& stages) {
-    OpenFile();
-    CreateFixedTables();
-    Read("\\exe\\freelancer.ini", "[Resources]");
-    Read("\\data\\universe\\universe.ini", "[System]");
-    CleanUp();
-    ReadTexts();
-    host_.Pause(kPauseBehindTexts);
-    CleanUp();
-    NameSystems();
-    ReadDataFiles();
-    CleanUp();
-    Read("\\data\\missions\\mbases.ini", "[GF_NPC]");
-    CleanUp();
+    using Stage = void (ImportRun::*)();
+    constexpr std::array<Stage, 7> readers = {
+        &ImportRun::OpenFile,      &ImportRun::CreateFixedTables, &ImportRun::ReadConfiguration,
+        &ImportRun::ReadTexts,     &ImportRun::NameSystems,       &ImportRun::ReadDataFiles,
+        &ImportRun::ReadCharacters};
+    for (const Stage stage : readers) routine_.Try([&] { (this->*stage)(); });
     Derive(stages);
-    Crunch();
+    routine_.Try([this] { Crunch(); });
   }
 
  private:
+  void ReadConfiguration() {
+    Read("\\exe\\freelancer.ini", "[Resources]");
+    Read("\\data\\universe\\universe.ini", "[System]");
+    CleanUp();
+  }
+
+  void ReadCharacters() {
+    Read("\\data\\missions\\mbases.ini", "[GF_NPC]");
+    CleanUp();
+  }
+
   fs::path File() const { return order_.SaveFolder / "Orrerix.fl"; }
 
   void OpenFile() {
-    std::error_code ignored;
-    database_ = fs::exists(File(), ignored)
+    database_ = FileExists(routine_, File())
                     ? DBEngine::OpenDatabase(routine_, File())
                     : DBEngine::CreateDatabase(routine_, File(), order_.Format);
     database_.UseForBuilding(routine_);
@@ -76,13 +83,19 @@ class ImportRun {
     std::int32_t place = 1;
     for (Recordset libraries = database_.OpenRecordset(routine_, "SELECT * from resources");
          !libraries.AtEnd(); libraries.MoveNext(), ++place) {
-      const std::string library = libraries["DLL"].Get().Text();
-      import_.Progress.ImportSteps = routine_.Integer(import_.Progress.ImportSteps + 2);
-      host_.AppendText("\r\n\r\nreading " + library + " Strings/XML-Code...");
-      host_.Yield();
-      ReadHTML_STRData(import_, order_.Game.Text() + "\\exe\\" + library,
-                       routine_.Long(static_cast<double>(place) * kNumbersPerLibrary));
+      routine_.Try([&] { ReadLibrary(libraries["DLL"].Get().Text(), place); });
     }
+    host_.Pause(kPauseBehindTexts);
+    CleanUp();
+  }
+
+  void ReadLibrary(const std::string& library, std::int32_t place) {
+    constexpr int stepsOfLibrary = 2;
+    import_.AddSteps(routine_, stepsOfLibrary);
+    host_.AppendText("\r\n\r\nreading " + library + " Strings/XML-Code...");
+    host_.Yield();
+    ReadHTML_STRData(import_, order_.Game.Text() + "\\exe\\" + library,
+                     RequireLong(static_cast<double>(place) * kNumbersPerLibrary));
   }
 
   // Names are known only now that the libraries are read.
@@ -102,20 +115,27 @@ class ImportRun {
   void ReadDataFiles() {
     for (Recordset files = database_.OpenRecordset(routine_, "SELECT * FROM DataFiles");
          !files.AtEnd(); files.MoveNext()) {
-      const std::string type = files["type"].Get().Text();
-      if (Ucase(type) == "BASES") {
-        ReadSystemFiles();
-      } else {
-        Read("\\data\\" + files["pathfile"].Get().Text(), "[" + type + "]");
-      }
+      routine_.Try(
+          [&] { ReadDataFile(files["type"].Get().Text(), files["pathfile"].Get().Text()); });
+    }
+    CleanUp();
+  }
+
+  void ReadDataFile(const std::string& type, const std::string& file) {
+    if (Ucase(type) == "BASES") {
+      ReadSystemFiles();
+    } else {
+      Read("\\data\\" + file, "[" + type + "]");
     }
   }
 
   void ReadSystemFiles() {
     for (Recordset systems = database_.OpenRecordset(routine_, "SELECT * from Systems");
          !systems.AtEnd(); systems.MoveNext()) {
-      Read("\\data\\universe\\" + systems["file"].Get().Text(), "[Object]",
-           systems["nickname"].Get().Text());
+      routine_.Try([&] {
+        Read("\\data\\universe\\" + systems["file"].Get().Text(), "[Object]",
+             systems["nickname"].Get().Text());
+      });
     }
   }
 
@@ -127,7 +147,7 @@ class ImportRun {
       const std::string text = "\r\n\r\n" + std::string(stage.Text);
       k < 2 ? host_.ShowText(text) : host_.AppendText(text);
       host_.Yield();
-      stage.Calculate(import_.Target, host_);
+      routine_.Try([&] { stage.Calculate(import_.Target, host_); });
       if (k + 1 < count) CleanUp();
     }
     import_.ProgressIt(count, count);
@@ -152,19 +172,11 @@ class ImportRun {
     const fs::path build = order_.SaveFolder / "build.mdb";
     const std::vector<HeldRows> held = database_.TakeHeldRows();
     CloseDB(database_, File());
-    std::error_code error;
-    fs::remove(build, error);
-    routine_.Try([&] {
-      fs::rename(File(), build, error);
-      if (error) {
-        throw Failure{failure_number::kPathFileAccess,
-                      fmt::format("Path/File access error: cannot rename '{}': {}", File().string(),
-                                  error.message())};
-      }
-    });
+    DeleteFile(routine_, build);
+    RenameFile(routine_, File(), build);
     StampVersion(build);
     CrunchTXTFields(log_, build, File(), order_.Format, {import_.Sections.Tables(), held});
-    fs::remove(build, error);
+    DeleteFile(routine_, build);
     database_ = DBEngine::OpenDatabase(routine_, File());
   }
 

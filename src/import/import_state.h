@@ -5,6 +5,7 @@
 #include "import/section_tables.h"
 #include "import/universe.h"
 #include "platform/game_path.h"
+#include "shell/routine.h"
 
 namespace orrerix {
 
@@ -15,6 +16,11 @@ struct Import {
   ImportHost& Host;
   ImportProgress Progress;
   SectionTables Sections;
+
+  // An overflow is the routine's failure and leaves the number of steps as it was.
+  void AddSteps(Routine& routine, int count) {
+    Progress.ImportSteps = routine.Integer(Progress.ImportSteps + count, Progress.ImportSteps);
+  }
 
   void ProgressIt(std::int32_t maximum, std::int32_t value) {
     Host.ProgressIt(maximum, value, Progress);

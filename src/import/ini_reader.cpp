@@ -60,7 +60,8 @@ class Reader {
     while (const auto block = cutter.Next()) {
       if (block->empty()) continue;
       routine_.BeginBlock(*block);
-      ShowProgress(length, static_cast<std::int32_t>(cutter.Consumed()));
+      const auto consumed = static_cast<std::int32_t>(cutter.Consumed());
+      routine_.Try([&] { ShowProgress(length, consumed); });
       ReadBlock(*block);
     }
     import_.ProgressIt(length, length);
@@ -79,19 +80,24 @@ class Reader {
     import_.Host.Yield();
   }
 
+  // A block whose statements do not stop a failure themselves is one step.
   void ReadBlock(std::string_view block) {
+    try {
+      routine_.Try([&] { ReadSection(block); });
+    } catch (const NextBlock&) {
+      // The failure stands in the data log; its row was dropped.
+    }
+  }
+
+  void ReadSection(std::string_view block) {
     std::string text = RemoveComments(block);
     if (const std::size_t header = text.find('['); header != std::string::npos) {
       text.erase(0, header);
     }
     FixCrLf(text);
     if (known_.Read(text)) return;
-    try {
-      routine_.SetInGeneric(true);
-      ReadGenericSection(import_, routine_, file_, text);
-    } catch (const NextBlock&) {
-      // The failure stands in the data log; its row was dropped.
-    }
+    routine_.SetInGeneric(true);
+    ReadGenericSection(import_, routine_, file_, text);
   }
 
   Import& import_;
@@ -108,8 +114,7 @@ void ReadINI(Import& import, const std::string& file, std::string_view,
   ReaderRoutine routine(import, file);
   routine.Run([&] {
     ++import.Progress.ImportDone;
-    const auto path =
-        file.ends_with('\\') ? std::nullopt : import.Game.FindFile(file);
+    const auto path = file.ends_with('\\') ? std::nullopt : import.Game.FindFile(file);
     if (!path) {
       import.Target.Log.AddErrorLine("Cant find file: [" + file + "]");
       return;

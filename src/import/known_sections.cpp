@@ -100,7 +100,7 @@ void KnownSections::ReadSystem(BlockText block) {
   AssignTexts(systems, block, {{"NAVMAPSCALE", "navmapscale"}});
   AssignRealName(systems, "stridname");
   systems.Update();
-  ++import_.Progress.ImportSteps;
+  import_.AddSteps(routine_, 1);
 }
 
 void KnownSections::ReadObject(BlockText block) {
@@ -174,7 +174,7 @@ void KnownSections::ReadDataLine(Recordset& dataFiles, std::string_view line) {
   dataFiles["type"] = Text(key);
   dataFiles["pathfile"] = Text(value);
   dataFiles.Update();
-  ++import_.Progress.ImportSteps;
+  import_.AddSteps(routine_, 1);
 }
 
 void KnownSections::ReadMBase(BlockText block) {

@@ -12,11 +12,12 @@ namespace {
 
 constexpr int kMostRetries = 5;
 
-// The first two lines, without the line end of the second.
+// The first two lines, without the line end of the second. A line ends at CR LF, CR or LF.
 std::string_view FirstTwoLines(std::string_view block) {
-  std::size_t end = block.find('\r');
-  if (end != std::string_view::npos) end = block.find('\r', end + 1);
-  return block.substr(0, end);
+  std::size_t end = block.find_first_of("\r\n");
+  if (end == std::string_view::npos) return block;
+  end += block.substr(end, 2) == "\r\n" ? 2 : 1;
+  return block.substr(0, block.find_first_of("\r\n", end));
 }
 
 }  // namespace
@@ -46,13 +47,15 @@ void ReaderRoutine::SetPair(std::string_view key, std::string_view value) {
 
 void ReaderRoutine::Fail(const Failure& failure) {
   switch (failure.Number) {
-    case failure_number::kOutOfMemory: return LackOfMemory();
+    case failure_number::kOutOfMemory:
+      return LackOfMemory();
     case failure_number::kDuplicateKey:
     case failure_number::kNoCurrentRecord:
       LogDataError(failure);
       if (inGeneric_) throw NextBlock{};
       return;
-    default: Routine::Fail(failure);
+    default:
+      Routine::Fail(failure);
   }
 }
 

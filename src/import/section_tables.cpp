@@ -2,6 +2,7 @@
 #include "import/section_tables.h"
 
 #include <algorithm>
+#include <new>
 
 #include <fmt/format.h>
 
@@ -43,9 +44,15 @@ SectionTable::FieldIndex SectionTable::AddField(std::string_view name) {
   if (fields_.size() >= kMostFields) {
     throw EngineFailure(failure_number::kTooManyFields, "Too many fields defined.");
   }
+  const FieldIndex place = fields_.size();
   fields_.emplace_back(name);
-  places_.emplace(name, fields_.size() - 1);
-  return fields_.size() - 1;
+  try {
+    places_.emplace(name, place);
+  } catch (const std::bad_alloc&) {
+    fields_.pop_back();
+    throw;
+  }
+  return place;
 }
 
 const std::string_view* SectionTable::Row::Find(FieldIndex field) const {
@@ -123,6 +130,8 @@ void SectionTable::CheckKey(const Row& row) {
 void SectionTable::Update() {
   Row row = std::move(*edited_);
   edited_.reset();
+  // Room first: a row without memory must not leave its key behind.
+  if (rows_.size() == rows_.capacity()) rows_.reserve(2 * rows_.size() + 1);
   if (keyField_) CheckKey(row);
   if (editedPlace_) {
     rows_[*editedPlace_] = std::move(row);
@@ -174,8 +183,10 @@ SectionTable& SectionTables::Open(std::string_view name) {
     throw EngineFailure(failure_number::kTableExists,
                         fmt::format("Table '{}' already exists.", name));
   }
-  tables_.push_back(std::make_unique<SectionTable>(std::string(name)));
-  byName_.emplace(name, tables_.back().get());
+  auto table = std::make_unique<SectionTable>(std::string(name));
+  if (tables_.size() == tables_.capacity()) tables_.reserve(2 * tables_.size() + 1);
+  byName_.emplace(name, table.get());
+  tables_.push_back(std::move(table));
   return *tables_.back();
 }
 

@@ -53,7 +53,7 @@ class EquipmentWriter {
       const FreeAmmo ammo = ParseFreeAmmo(free);
       TableRow ammoGood(routine_, universe_, "Goods", "nickname", ammo.Nickname);
       if (ammoGood.Found()) {
-        count = routine_.Long(ammo.Count);
+        count = routine_.Long(ammo.Count, count);
         ammoPrice = ammoGood.Text("price");
         routine_.Try([&] { total = WithAmmo(total, count, ammoGood["price"].RequireLong()); });
       }

@@ -77,7 +77,7 @@ class StationReader {
   void AddSecondHalf(Recordset& object) {
     routine_.Try([&] {
       const double next = object["ids_info"].RequireLong() + 1.0;
-      data_.Info += GetChangeInfo(universe_, routine_.Long(next));
+      data_.Info += GetChangeInfo(universe_, orrerix::RequireLong(next));
       data_.Info += kTwoLineEnds;
     });
   }

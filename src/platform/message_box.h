@@ -5,8 +5,8 @@
 
 namespace orrerix {
 
-enum class MessageAnswer { Ok, Cancel, Abort, Retry, Ignore };
-enum class MessageButtons { Ok, OkCancel, AbortRetryIgnore };
+enum class MessageAnswer { Ok, Cancel, Abort, Retry, Ignore, Leave };
+enum class MessageButtons { Ok, OkCancel, AbortRetryIgnore, RetryLeave };
 enum class MessageIcon { None, Exclamation, Critical };
 
 struct Message {
@@ -14,6 +14,7 @@ struct Message {
   std::string Title;
   MessageButtons Buttons = MessageButtons::Ok;
   MessageIcon Icon = MessageIcon::None;
+  int QuestionLines = 0;  // so many lines at the text's end stay in sight when the rest scrolls
 };
 
 // Shows a message and waits for the user's answer.

@@ -13,6 +13,7 @@ ErrorLog::ErrorLog(MessageBoxes& messages, AppVersion version)
 void ErrorLog::Load() {
   if (loaded_) return;
   loaded_ = true;
+  ++loads_;
   dataLog_ = "FreeLancer-Files Error Logfile\r\n=======================\r\n";
   programLog_ =
       fmt::format("FL Orrerix v{}.{} R{}  ErrorLog\r\n==============================\r\n\r\n",
@@ -53,10 +54,11 @@ void ErrorLog::AddDataError(std::string_view source, const Failure& failure, std
   programLog_ += "\r\n--> " + entry;
   hasProgramError_ = true;
   if (view_ != nullptr) view_->TextsChanged();
+  constexpr int questionLines = 3;  // with the empty one above it
   const Message question{
       entry + "\r\nOK = Resume Function behind Error.\r\nCancel = Abort Function and proceed.",
       fmt::format("FL Orrerix v{}.{} ERROR:", version_.Major, version_.Minor),
-      MessageButtons::OkCancel, MessageIcon::Critical};
+      MessageButtons::OkCancel, MessageIcon::Critical, questionLines};
   cancelled = messages_.Show(question) == MessageAnswer::Cancel;
 }
 

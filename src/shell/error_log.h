@@ -17,8 +17,8 @@ namespace orrerix {
 class ErrorLogView {
  public:
   virtual ~ErrorLogView() = default;
-  virtual void ShowWindow() = 0;   // shown, not modal, enabled
-  virtual void TextsChanged() = 0; // texts, or which halves are seen; the carets go to the ends
+  virtual void ShowWindow() = 0;    // shown, not modal, enabled
+  virtual void TextsChanged() = 0;  // texts, or which halves are seen; the carets go to the ends
 };
 
 // One program error as it was reported.
@@ -54,6 +54,9 @@ class ErrorLog {
   const std::string& DataLog() const { return dataLog_; }
   const std::string& ProgramLog() const { return programLog_; }
 
+  // How often the texts have begun anew; in between they only grow.
+  int Loads() const { return loads_; }
+
   // What came in since the program started, whatever became of the window.
   const std::vector<std::string>& DataLines() const { return dataLines_; }
   const std::vector<FailureEntry>& Failures() const { return failures_; }
@@ -70,6 +73,7 @@ class ErrorLog {
   AppVersion version_;
   ErrorLogView* view_ = nullptr;
   bool loaded_ = false;
+  int loads_ = 0;
   bool logWindowOpen_ = false;
   bool hasProgramError_ = false;
   std::string dataLog_;

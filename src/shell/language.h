@@ -12,6 +12,8 @@
 
 namespace orrerix {
 
+class Routine;
+
 // Where captions come from.
 class TextSource {
  public:
@@ -35,16 +37,16 @@ class FixedLanguage : public TextSource {
 // which the program fills three. A missing file is made anew.
 class Language : public TextSource {
  public:
-  Language(ErrorLog& log, const std::filesystem::path& applicationFolder,
-           JetVersionOption option);
+  Language(ErrorLog& log, const std::filesystem::path& applicationFolder, JetVersionOption option);
 
   std::string TXT(int id) override;
 
-  // Writes one text into the three tables, over what stands there.
+  // Writes one text into the three tables, over what stands there; a table that is missing is made.
   void SetLanguage(std::int16_t id, std::string_view english, std::string_view german,
                    std::string_view french);
 
-  // Writes all texts; edits made to the file by hand are gone then.
+  // Writes all texts, each as SetLanguage does; edits made to the file by hand are gone then. A
+  // file that is missing appears when it is complete.
   void InitLanguages();
 
   // Builds the file with its ten empty tables.
@@ -56,6 +58,10 @@ class Language : public TextSource {
   std::int16_t CurrentLanguage = 0;
 
  private:
+  void CreateFile(const std::filesystem::path& path);
+  void Fill(Routine& routine, const std::filesystem::path& path);
+  void WriteTexts(Routine& routine, Database& file, std::int16_t id, std::string_view english,
+                  std::string_view german, std::string_view french);
   void WriteText(FailureSink& sink, Database& file, std::string_view table, std::int16_t id,
                  std::string_view text);
 

@@ -15,16 +15,22 @@ Routine::Routine(ErrorLog& log, std::string_view source, std::string_view info)
   if (!info.empty()) info_ = [text = std::string(info)] { return text; };
 }
 
-std::int32_t Routine::Long(double number) {
+std::int32_t RequireLong(double number) {
   const auto whole = ToLong(number);
-  if (!whole) Fail(RuntimeFailure(failure_number::kOverflow));
-  return whole.value_or(0);
+  if (!whole) throw RuntimeFailure(failure_number::kOverflow);
+  return *whole;
 }
 
-std::int16_t Routine::Integer(double number) {
+std::int32_t Routine::Long(double number, std::int32_t before) {
+  const auto whole = ToLong(number);
+  if (!whole) Fail(RuntimeFailure(failure_number::kOverflow));
+  return whole.value_or(before);
+}
+
+std::int16_t Routine::Integer(double number, std::int16_t before) {
   const auto whole = ToInteger(number);
   if (!whole) Fail(RuntimeFailure(failure_number::kOverflow));
-  return whole.value_or(static_cast<std::int16_t>(0));
+  return whole.value_or(before);
 }
 
 void Routine::Fail(const Failure& failure) {

@@ -4,7 +4,6 @@
 
 #include <cstdint>
 #include <functional>
-#include <new>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -28,7 +27,8 @@ class Routine : public FailureSink {
   Routine(const Routine&) = delete;
   Routine& operator=(const Routine&) = delete;
 
-  // Runs the body. False if the user cancelled it.
+  // Runs the body. False if the user cancelled it. What fails outside a step of its own ends the
+  // body, since nothing tells where its next statement is.
   template <typename Body>
   bool Run(Body&& body);
 
@@ -36,10 +36,11 @@ class Routine : public FailureSink {
   template <typename Step>
   bool Try(Step&& step);
 
-  // A number as a 32-bit (16-bit) integer, rounded to nearest, ties to even. Outside the type's
-  // range it fails with Overflow and is 0.
-  std::int32_t Long(double number);
-  std::int16_t Integer(double number);
+  // What a variable holds after a number is assigned to it: the number as a 32-bit (16-bit)
+  // integer, rounded to nearest, ties to even. Outside the type's range that fails with Overflow,
+  // and the variable keeps what it held before.
+  [[nodiscard]] std::int32_t Long(double number, std::int32_t before);
+  [[nodiscard]] std::int16_t Integer(double number, std::int16_t before);
 
   void Fail(const Failure& failure) override;
 
@@ -57,6 +58,9 @@ class Routine : public FailureSink {
   InfoText info_;
 };
 
+// A number as a 32-bit integer, as part of a larger step; throws Overflow outside its range.
+std::int32_t RequireLong(double number);
+
 template <typename Body>
 bool Routine::Run(Body&& body) {
   std::optional<Failure> escaped;
@@ -66,15 +70,12 @@ bool Routine::Run(Body&& body) {
   } catch (const Leave& leave) {
     if (leave.Who != this) throw;
     return false;
-  } catch (const Failure& failure) {
-    escaped = failure;
-  } catch (const std::bad_alloc&) {
-    escaped = RuntimeFailure(failure_number::kOutOfMemory);
+  } catch (...) {
+    escaped = CaughtFailure();
   }
-  // A step that was not told apart failed: there is nothing behind it to go on with.
   bool cancelled = false;
   log_.AddDataError(source_, *escaped, info_ ? info_() : std::string(), cancelled);
-  return false;
+  return !cancelled;
 }
 
 template <typename Step>
@@ -83,10 +84,8 @@ bool Routine::Try(Step&& step) {
   try {
     step();
     return true;
-  } catch (const Failure& failure) {
-    failed = failure;
-  } catch (const std::bad_alloc&) {
-    failed = RuntimeFailure(failure_number::kOutOfMemory);
+  } catch (...) {
+    failed = CaughtFailure();
   }
   Fail(*failed);
   return false;

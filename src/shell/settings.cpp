@@ -5,6 +5,7 @@
 #include <optional>
 #include <string_view>
 
+#include "shell/files.h"
 #include "shell/routine.h"
 
 namespace orrerix {
@@ -47,7 +48,7 @@ std::string Settings::ReadSetting(const std::string& key) {
     std::optional<std::string> found;
     Routine routine(log_, "Settings.ReadSetting", "While reading setting: " + key);
     const bool finished = routine.Run([&] {
-      if (!fs::exists(path_)) CreateSettings();
+      if (!FileExists(routine, path_)) CreateSettings();
       Database settings = DBEngine::OpenDatabase(routine, path_);
       Recordset row = settings.OpenRecordset(routine, kFind, {key});
       if (!row.AtEnd()) {
@@ -55,8 +56,7 @@ std::string Settings::ReadSetting(const std::string& key) {
         return;
       }
       settings.Close();
-      std::error_code ignored;
-      fs::remove(path_, ignored);
+      DeleteFile(routine, path_);
     });
     if (found || !finished) return found.value_or("");
   }
@@ -82,8 +82,7 @@ void Settings::WriteSettingValue(const std::string& key, const std::string& valu
 }
 
 void Settings::CreateSettings() {
-  Routine routine(log_, "Settings.CreateSettings",
-                  "While creating default setting database");
+  Routine routine(log_, "Settings.CreateSettings", "While creating default setting database");
   routine.Run([&] {
     Database settings = DBEngine::CreateDatabase(routine, path_, option_);
     settings.Begin(routine);

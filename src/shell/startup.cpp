@@ -1,10 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "shell/startup.h"
 
+#include <array>
+
 #include <fmt/format.h>
 
+#include "platform/folder_lock.h"
 #include "platform/game_path.h"
 #include "platform/shortcut.h"
+#include "shell/files.h"
 #include "shell/routine.h"
 
 namespace orrerix {
@@ -14,11 +18,16 @@ namespace {
 // Remembers that something failed; the caller looks and goes another way.
 class Probe : public FailureSink {
  public:
-  void Fail(const Failure&) override { failed_ = true; }
+  void Fail(const Failure& failure) override {
+    failed_ = true;
+    inUse_ = inUse_ || failure.Number == failure_number::kFileInUse;
+  }
   bool Failed() const { return failed_; }
+  bool InUse() const { return inUse_; }
 
  private:
   bool failed_ = false;
+  bool inUse_ = false;
 };
 
 bool CanCreate(const fs::path& path, JetVersionOption option) {
@@ -28,12 +37,16 @@ bool CanCreate(const fs::path& path, JetVersionOption option) {
   return !probe.Failed();
 }
 
-bool IsOfVersion(const fs::path& file, const AppVersion& version) {
-  Probe probe;
+bool IsOfVersion(Probe& probe, const fs::path& file, const AppVersion& version) {
   Database universe = DBEngine::OpenDatabase(probe, file);
   Recordset row = universe.OpenRecordset(probe, "SELECT * from Version");
   const std::string stamp = row.AtEnd() ? std::string() : row["Version"].Get().Text();
   return !probe.Failed() && stamp == version.Stamp();
+}
+
+std::string_view InLanguage(const std::array<std::string_view, 3>& texts, int language) {
+  const auto place = static_cast<std::size_t>(language);
+  return place < texts.size() ? texts[place] : texts.front();
 }
 
 }  // namespace
@@ -54,18 +67,16 @@ std::optional<JetVersionOption> CheckJetDatabase(const fs::path& applicationFold
 UniverseState ExamineUniverse(FailureSink& routine, const fs::path& saveFolder,
                               const AppVersion& version) {
   const fs::path file = saveFolder / "Orrerix.fl";
-  std::error_code error;
-  if (!fs::exists(file, error)) return UniverseState::Absent;
-  if (IsOfVersion(file, version)) return UniverseState::Usable;
-  fs::remove(file, error);
-  if (error) {
-    routine.Fail({failure_number::kPathFileAccess,
-                  fmt::format("Path/File access error: cannot delete '{}': {}", file.string(),
-                              error.message())});
-  }
+  const auto lock = FolderLock::TryHold(saveFolder);
+  if (!lock) return UniverseState::InUse;
+  if (!FileExists(routine, file)) return UniverseState::Absent;
+  Probe probe;
+  if (IsOfVersion(probe, file, version)) return UniverseState::Usable;
+  if (probe.InUse()) return UniverseState::InUse;
+  DeleteFile(routine, file);
   // A journal of the deleted file must not be taken for one of the next.
-  fs::remove(file.string() + "-journal", error);
-  return fs::exists(file, error) ? UniverseState::Undeletable : UniverseState::Absent;
+  DeleteFile(routine, file.string() + "-journal");
+  return FileExists(routine, file) ? UniverseState::Undeletable : UniverseState::Absent;
 }
 
 bool IsWarningWanted(FailureSink& routine, const fs::path& universeFile) {
@@ -100,19 +111,35 @@ void MakeShortcuts(ErrorLog& log, FailureSink& routine, const GameRegistry& regi
                    const fs::path& applicationFolder, const fs::path& program,
                    const AppVersion& version) {
   const fs::path marker = applicationFolder / "CopyLnk";
-  std::error_code error;
-  if (!fs::exists(marker, error)) return;
+  if (!FileExists(routine, marker)) return;
   const std::string name = fmt::format("FL Orrerix v{}.{}.lnk", version.Major, version.Minor);
   CreateLink(log, program, fs::path(registry.GetDesktopFolder()) / name);
   const fs::path programs = fs::path(registry.GetProgramsFolder()) / "FL Orrerix";
-  fs::create_directories(programs, error);
-  if (error) {
-    routine.Fail({failure_number::kPathFileAccess,
-                  fmt::format("Path/File access error: cannot make the folder '{}': {}",
-                              programs.string(), error.message())});
-  }
+  MakeFolder(routine, programs);
   CreateLink(log, program, programs / name);
-  fs::remove(marker, error);
+  DeleteFile(routine, marker);
+}
+
+Message UniverseInUseQuestion(int language, const fs::path& file, const AppVersion& version) {
+  constexpr std::array<std::string_view, 3> texts = {
+      "The universe file '{}' is being used by another process. Retry = look again, Close = leave "
+      "the program. Nothing is deleted.",
+      "Die Universum-Datei '{}' wird von einem anderen Prozess benutzt. Retry = noch einmal "
+      "versuchen, Close = das Programm verlassen. Es wird nichts gelöscht.",
+      "Le fichier d'univers '{}' est utilisé par un autre processus. Retry = réessayer, Close = "
+      "quitter le programme. Rien n'est supprimé."};
+  return {fmt::format(fmt::runtime(InLanguage(texts, language)), file.string()),
+          MapCaption(version), MessageButtons::RetryLeave, MessageIcon::Exclamation};
+}
+
+Message FolderMissingMessage(int language, const fs::path& folder, const AppVersion& version) {
+  constexpr std::array<std::string_view, 3> texts = {
+      "The folder '{}' for the universe file cannot be made. The import does not start.",
+      "Der Ordner '{}' für die Universum-Datei kann nicht angelegt werden. Der Import beginnt "
+      "nicht.",
+      "Le dossier '{}' du fichier d'univers ne peut pas être créé. L'importation ne démarre pas."};
+  return {fmt::format(fmt::runtime(InLanguage(texts, language)), folder.string()),
+          MapCaption(version), MessageButtons::Ok, MessageIcon::Exclamation};
 }
 
 std::string StartCaption(const AppVersion& version) {

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "db/engine.h"
+#include "platform/message_box.h"
 #include "shell/error_log.h"
 #include "shell/game_registry.h"
 #include "shell/version.h"
@@ -19,13 +20,15 @@ std::optional<JetVersionOption> CheckJetDatabase(const std::filesystem::path& ap
 
 // What a start finds in the save folder.
 enum class UniverseState {
-  Usable,      // a finished file of this version
-  Absent,      // none, or one that was not usable and has been deleted
-  Undeletable  // one that is not usable and could not be deleted
+  Usable,       // a finished file of this version
+  Absent,       // none, or one that was not usable and has been deleted
+  Undeletable,  // one that is not usable and could not be deleted
+  InUse         // another process holds it or its folder, as an import does
 };
 
 // Looks at "Orrerix.fl". A file of another version, a damaged one and the leftovers of a broken
-// import are deleted without asking. A delete that fails is the routine's failure.
+// import are deleted without asking; one that another process works with is left alone. A delete
+// that fails is the routine's failure.
 UniverseState ExamineUniverse(FailureSink& routine, const std::filesystem::path& saveFolder,
                               const AppVersion& version);
 
@@ -46,6 +49,13 @@ void MakeShortcuts(ErrorLog& log, FailureSink& routine, const GameRegistry& regi
 // Makes one shortcut.
 void CreateLink(ErrorLog& log, const std::filesystem::path& target,
                 const std::filesystem::path& link);
+
+// The question whether to try again while another process works with the universe file, and the
+// message that its folder cannot be made, in a language by its number.
+Message UniverseInUseQuestion(int language, const std::filesystem::path& file,
+                              const AppVersion& version);
+Message FolderMissingMessage(int language, const std::filesystem::path& folder,
+                             const AppVersion& version);
 
 // Captions of the main window before the first map, and with it.
 std::string StartCaption(const AppVersion& version);

@@ -10,6 +10,7 @@
 #include <nlohmann/json.hpp>
 
 #include "demo/demo_game.h"
+#include "platform/folder_lock.h"
 #include "support/temp_folder.h"
 
 namespace orrerix {
@@ -163,19 +164,16 @@ TEST_F(CommandLine, AnOlderUniverseFileIsReplaced) {
   EXPECT_EQ(Run("name 5 " + Database()).Output, "(5)\n");
 }
 
-TEST_F(CommandLine, AnImportThatCannotStampItsFileLeavesTheOlderOne) {
-  // The quote breaks the statements that copy the tables into the finished file.
-  fs::create_directory(folder.Path() / "it's");
-  folder.Write("it's/u.fl", "older");
-  const std::string file = (folder.Path() / "it's" / "u.fl").string();
+TEST_F(CommandLine, AnImportThatCannotReplaceTheOlderFileLeavesIt) {
+  const fs::path inside = folder.Write("u.fl/inside", "older");
 
-  const Answer answer =
-      Run("import --quiet --game " + Game().string() + " --database \"" + file + "\"");
+  const Answer answer = Import();
 
   EXPECT_EQ(answer.ExitCode, 1);
   EXPECT_THAT(answer.Errors,
               EndsWith("orrerix-cli: the import was given up; the universe file is not usable\n"));
-  EXPECT_EQ(Content(file), "older");
+  EXPECT_EQ(Content(inside), "older");
+  EXPECT_FALSE(fs::exists(folder.Path() / "u.fl.import"));
 }
 
 TEST_F(CommandLine, AnUnfinishedUniverseFileIsToldByName) {
@@ -196,7 +194,8 @@ TEST_F(CommandLine, AFolderThatIsNoGameCannotBeImported) {
   EXPECT_FALSE(fs::exists(folder.Path() / "u.fl"));
 }
 
-TEST_F(CommandLine, AMissingSaveFolderIsToldByName) {
+TEST_F(CommandLine, AFolderThatCannotBeMadeIsToldByName) {
+  folder.Write("nowhere", "a file");
   const Answer answer = Run("import --game " + Game().string() + " --database " +
                             (folder.Path() / "nowhere" / "u.fl").string());
 
@@ -524,6 +523,27 @@ TEST_F(CommandLine, TheGameFolderStaysAsItIs) {
   Run("import --game " + game.string() + " " + Database());
 
   EXPECT_EQ(listing(), before);
+}
+
+TEST_F(CommandLine, AnImportMakesTheFolderOfTheUniverseFile) {
+  const fs::path file = folder.Path() / "deep" / "er" / "u.fl";
+
+  EXPECT_EQ(Run("import --game " + Game().string() + " --database " + file.string()).ExitCode, 0);
+
+  EXPECT_TRUE(fs::exists(file));
+  EXPECT_FALSE(fs::exists(file.string() + ".import"));
+}
+
+TEST_F(CommandLine, AnImportThatRunsIsNotDisturbed) {
+  const fs::path work = folder.Path() / "u.fl.import";
+  folder.Write("u.fl.import/build.mdb", "half built");
+  const auto held = FolderLock::TryHold(work);
+
+  const Answer answer = Import();
+
+  EXPECT_EQ(answer.ExitCode, 1);
+  EXPECT_THAT(answer.Errors, HasSubstr("u.fl' is being imported by another process"));
+  EXPECT_TRUE(fs::exists(work / "build.mdb"));
 }
 
 }  // namespace

@@ -132,19 +132,17 @@ TEST_F(KeyOfTwoFields, RefusesDoublesWhateverTheirCaseAndNull) {
 TEST(InsertStatement, NumbersItsParametersRowByRow) {
   const TableDef table{"t", {Of("a", FieldType::Text, true), Of("b", FieldType::Long, true)}, {}};
 
-  EXPECT_EQ(InsertStatement(table, UniqueIDs::Generated, 2),
+  EXPECT_EQ(InsertStatement(table, 2),
             "INSERT INTO \"t\" (\"a\",\"b\") VALUES (?1,?2),(?3,?4)");
 }
 
-TEST(InsertStatement, LeavesOutAUniqueIDThatTheEngineGives) {
+TEST(TableDef, KnowsItsFieldWithAUniqueID) {
   Field id = Of("ID", FieldType::Long, true);
   id.IsUniqueID = true;
-  const TableDef table{"t", {id, Of("a", FieldType::Text, true)}, {}};
+  const Field text = Of("a", FieldType::Text, true);
 
-  EXPECT_EQ(InsertStatement(table, UniqueIDs::Generated, 2),
-            "INSERT INTO \"t\" (\"a\") VALUES (?2),(?4)");
-  EXPECT_EQ(InsertStatement(table, UniqueIDs::Given),
-            "INSERT INTO \"t\" (\"ID\",\"a\") VALUES (?1,?2)");
+  EXPECT_EQ((TableDef{"t", {text, id}, {}}.UniqueIDField()), std::optional<std::size_t>(1));
+  EXPECT_EQ((TableDef{"t", {text}, {}}.UniqueIDField()), std::nullopt);
 }
 
 TEST(ReadField, TakesForeignTypesForMemo) {

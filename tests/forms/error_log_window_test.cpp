@@ -11,11 +11,15 @@ namespace {
 
 class ErrorLogWindowTest : public FormFixture {
  protected:
-  QString TextOf(const char* box) { return Find<QPlainTextEdit>(window, box).toPlainText(); }
+  QString TextOf(const char* box) {
+    PassEvents();
+    return Find<QPlainTextEdit>(window, box).toPlainText();
+  }
 
   void Fail() {
     bool cancelled = false;
     log.AddDataError("OrrerixMain.GetName", {6, "Overflow", "Orrerix"}, "", cancelled);
+    PassEvents();
   }
 
   bool importing = false;
@@ -37,8 +41,24 @@ TEST_F(ErrorLogWindowTest, ItComesWithTheFirstLine) {
 
 TEST_F(ErrorLogWindowTest, TheCaretStandsAtTheEnd) {
   for (int i = 0; i < 100; ++i) log.AddErrorLine("line");
+  PassEvents();
 
   EXPECT_TRUE(Find<QPlainTextEdit>(window, "Text1").textCursor().atEnd());
+}
+
+TEST_F(ErrorLogWindowTest, LinesThatComeTogetherAreShownTogether) {
+  log.AddErrorLine("first");
+  const auto& box = Find<QPlainTextEdit>(window, "Text1");
+  int changes = 0;
+  QObject::connect(&box, &QPlainTextEdit::textChanged, [&changes] { ++changes; });
+
+  for (int i = 0; i < 1000; ++i) log.AddErrorLine("line");
+  PassEvents();
+
+  EXPECT_EQ(changes, 1);
+  EXPECT_EQ(box.document()->blockCount(), 2 + 1 + 1 + 1000);
+  const QScrollBar& bar = *box.verticalScrollBar();
+  EXPECT_EQ(bar.value(), bar.maximum());
 }
 
 TEST_F(ErrorLogWindowTest, InItsHalfTheDataLogStillShowsItsEnd) {

@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "forms/orrerix_main.h"
 
+#include <QImage>
 #include <QScreen>
 #include <QTest>
 #include <QTimer>
 #include <algorithm>
+#include <filesystem>
+#include <fstream>
 #include <optional>
 
 #include "demo/demo_game.h"
@@ -49,6 +52,55 @@ TEST_F(OrrerixMainTest, WithoutAGameItAsksForThePath) {
   EXPECT_EQ(Find<QLineEdit>(*form, "Text2").text().toStdString(), *paths.Game);
   EXPECT_TRUE(Find(*form, "Command1").isVisible());
   EXPECT_FALSE(ShowsMap());
+}
+
+TEST_F(OrrerixMainTest, TheSaveFolderIsMadeWithItsParents) {
+  WriteGame();
+  paths.SaveFolder = folder.Path() / "it's" / "a deep" / "folder";
+
+  Load();
+
+  EXPECT_TRUE(WaitUntil([&] { return ShowsMap(); }));
+  EXPECT_TRUE(std::filesystem::exists(*paths.SaveFolder / "Orrerix.fl"));
+  EXPECT_TRUE(messages.Shown.empty());
+}
+
+TEST_F(OrrerixMainTest, ASaveFolderThatCannotBeMadeIsNamedAndNoImportStarts) {
+  WriteGame();
+  folder.Write("file", "x");
+  paths.SaveFolder = folder.Path() / "file" / "folder";
+  Load();
+
+  ASSERT_TRUE(WaitUntil([&] { return !messages.Shown.empty(); }));
+
+  EXPECT_NE(messages.Shown[0].Text.find(paths.SaveFolder->string()), std::string::npos);
+  EXPECT_FALSE(form->Importing());
+  EXPECT_TRUE(log.Failures().empty());
+}
+
+TEST_F(OrrerixMainTest, AUniverseFileInUseIsLeftAlone) {
+  paths.SaveFolder = folder.Path();
+  const auto import = FolderLock::TryHold(folder.Path());
+  folder.Write("Orrerix.fl", "half built");
+  messages.Answer = MessageAnswer::Leave;
+  form.emplace(parts, settings, language, startMemory, JetVersionOption::Version30);
+
+  EXPECT_FALSE(form->FormLoad());
+
+  ASSERT_EQ(messages.Shown.size(), 1u);
+  EXPECT_NE(messages.Shown[0].Text.find("Orrerix.fl"), std::string::npos);
+  EXPECT_TRUE(std::filesystem::exists(folder.Path() / "Orrerix.fl"));
+}
+
+TEST_F(OrrerixMainTest, AMapPictureThatCannotBeReadIsAFailureOfTheStart) {
+  std::filesystem::create_directories(paths.ApplicationFolder);
+  std::ofstream(paths.ApplicationFolder / "SysMap.jpg") << "no picture";
+
+  Load();
+
+  ASSERT_FALSE(log.Failures().empty());
+  EXPECT_EQ(log.Failures()[0].Source, "OrrerixMain.Form_Load");
+  EXPECT_EQ(log.Failures()[0].What.Number, 481);
 }
 
 TEST_F(OrrerixMainTest, EachFurtherResizeComplainsAgain) {
@@ -161,7 +213,8 @@ TEST_F(OrrerixMainTest, AFinishedFileIsShownWithoutAnImport) {
 
 TEST_F(OrrerixMainTest, AnImportThatIsGivenUpLeavesItsScreenStanding) {
   WriteGame();
-  paths.SaveFolder = folder.Path() / "nowhere";  // no file can be made there
+  paths.SaveFolder = folder.Path() / "saves";
+  folder.Write("saves/build.mdb/inside", "x");  // the build file cannot take its place
   messages.Answer = MessageAnswer::Cancel;
   Load();
   ASSERT_TRUE(WaitUntil([&] { return !messages.Shown.empty(); }));
@@ -186,7 +239,8 @@ TEST_F(OrrerixMainTest, ClosingTheMapAsksToUnload) {
 
 TEST_F(OrrerixMainTest, ThePlayersStarMapIsFoundInTheApplicationFolder) {
   WriteGame();
-  folder.Write("SysMap.jpg", "any");
+  ASSERT_TRUE(QImage(8, 8, QImage::Format_RGB32)
+                  .save(QString::fromStdString((folder.Path() / "SysMap.jpg").string())));
   Load();
   ASSERT_TRUE(WaitUntil([&] { return ShowsMap(); }));
 

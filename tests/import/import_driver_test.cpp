@@ -425,16 +425,25 @@ TEST_P(ImportIntoTrouble, AReadOnlyFileGivesFailures) {
   EXPECT_THAT(log.Failures(), Not(IsEmpty()));
 }
 
-TEST_P(ImportIntoTrouble, ASaveFolderWithAnApostropheGivesFailuresForTheLastCopy) {
-  const fs::path folder = saves.Path() / "it's";
+TEST_P(ImportIntoTrouble, ASaveFolderWithAnApostropheBlanksAndOtherLettersIsNoTrouble) {
+  const fs::path folder = saves.Path() / "it's größer";
   fs::create_directories(folder);
   const ImportOrder order{gameFolder, folder, JetVersionOption::Version30, version};
 
-  ImportGame(log, host, db, order, Stages());
+  EXPECT_TRUE(ImportGame(log, host, db, order, Stages()));
+
+  EXPECT_THAT(log.Failures(), IsEmpty());
+  EXPECT_TRUE(db.HasTable("Version"));
+}
+
+TEST_P(ImportIntoTrouble, ABuildFileThatCannotBeDeletedIsAFailure) {
+  saves.Write("SinglePlayer/build.mdb/inside", "x");
+
+  Run();
 
   ASSERT_THAT(log.Failures(), Not(IsEmpty()));
-  EXPECT_EQ(log.Failures()[0].Source, "DB_Work.CrunchTXTFields");
-  EXPECT_EQ(log.Failures()[0].What.Number, 3075);
+  EXPECT_EQ(log.Failures()[0].What.Number, 75);
+  EXPECT_EQ(log.Failures()[0].Source, "OrrerixMain.Command1_Click");
 }
 
 INSTANTIATE_TEST_SUITE_P(Answers, ImportIntoTrouble,

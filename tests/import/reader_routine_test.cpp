@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "import/reader_routine.h"
 
+#include <new>
 #include <string>
 
 #include <gmock/gmock.h>
@@ -96,6 +97,35 @@ TEST_F(ReaderRoutineFrame, FaultsOfTheDataGoToTheDataLog) {
                                      "*--- Error in FL-MOD-File:\r\nC:\\game\\data\\a.ini\r\n"
                                      "Cant add to Database (cause of allready exist):\r\n"
                                      "[a]\r\nb = ü\n-> b = ü, 1\r\n---."));
+}
+
+TEST_F(ReaderRoutineFrame, TheFirstTwoLinesEndAtAnyLineEnd) {
+  for (const std::string_view block :
+       {"[a]\r\nb = 1\r\nc = 1", "[a]\nb = 1\nc = 1", "[a]\rb = 1\rc = 1", "[a]\nb = 1\r\nc = 1"}) {
+    routine.BeginBlock(block);
+    routine.SetCurrentLine("c = 1");
+    routine.Run([&] { routine.Fail({failure_number::kDuplicateKey, "", ""}); });
+
+    EXPECT_THAT(DataLog().back(), ::testing::EndsWith("b = 1\n-> c = 1\r\n---.")) << block;
+  }
+}
+
+TEST_F(ReaderRoutineFrame, AfterLackOfMemoryInABlockTheNextBlockIsRead) {
+  host.Answer = MessageAnswer::Ignore;
+  int blocks = 0;
+  // The text of a block that is shown stands for any step that takes memory.
+  host.Debugging = true;
+  host.OnYield = [&] {
+    if (++blocks == 1) throw std::bad_alloc();
+  };
+
+  Read("[gun]\nnickname = a\n[gun]\nnickname = b\n");
+  host.OnYield = nullptr;
+  StoreSections();
+
+  EXPECT_THAT(host.Shown, SizeIs(1));
+  EXPECT_THAT(log.Failures(), IsEmpty());
+  EXPECT_THAT(Rows("gun"), ::testing::Not(IsEmpty()));
 }
 
 TEST_F(ReaderRoutineFrame, AFaultInAGenericBlockGivesTheBlockUp) {

@@ -99,7 +99,7 @@ TEST_F(LanguageFile, EditsAreGoneBehindTheNextStart) {
   EXPECT_EQ(language.TXT(100), "x");
 }
 
-TEST_F(LanguageFile, AFileThatLacksATableFailsForEachTextAndIsNotRepaired) {
+TEST_F(LanguageFile, ATableThatIsMissingIsMadeWithTheNextTexts) {
   language.InitLanguages();
   DBEngine::OpenDatabase(mustWork, language.Path()).Execute(mustWork, "DROP TABLE Lang1");
   language.CurrentLanguage = 1;
@@ -112,7 +112,53 @@ TEST_F(LanguageFile, AFileThatLacksATableFailsForEachTextAndIsNotRepaired) {
 
   language.InitLanguages();
   Database file = DBEngine::OpenDatabase(mustWork, language.Path());
-  EXPECT_FALSE(file.HasTable("Lang1"));
+  EXPECT_TRUE(file.HasTable("Lang1"));
+  EXPECT_EQ(language.TXT(3), "Sprungtor Linien");
+  EXPECT_THAT(log.Failures(), SizeIs(2));
+}
+
+TEST_F(LanguageFile, ATextThatCannotBeWrittenIsOneFailureAndTheNextOnesStand) {
+  language.InitLanguages();
+  {
+    Database file = DBEngine::OpenDatabase(mustWork, language.Path());
+    file.ExecuteNative(mustWork,
+                       "DELETE FROM Lang0; CREATE TRIGGER no BEFORE INSERT ON Lang0 "
+                       "WHEN new.ID = 4 BEGIN SELECT raise(ABORT, 'refused'); END");
+  }
+
+  language.InitLanguages();
+
+  ASSERT_THAT(log.Failures(), SizeIs(1));
+  EXPECT_EQ(log.Failures()[0].Source, "Settings.SetLanguage");
+  EXPECT_EQ(log.Failures()[0].Info, "While writing language-text");
+  EXPECT_EQ(language.TXT(3), "Jumpgate Lines");
+  EXPECT_EQ(language.TXT(4), "?????");
+  EXPECT_EQ(language.TXT(5), "Tradelane Lines");
+}
+
+TEST_F(LanguageFile, CancelSkipsOneTextOnly) {
+  language.InitLanguages();
+  DBEngine::OpenDatabase(mustWork, language.Path())
+      .ExecuteNative(mustWork,
+                     "DELETE FROM Lang0; DELETE FROM Lang1; CREATE TRIGGER no BEFORE INSERT ON "
+                     "Lang0 WHEN new.ID = 4 BEGIN SELECT raise(ABORT, 'refused'); END");
+  messages.Answer = MessageAnswer::Cancel;
+
+  language.InitLanguages();
+
+  EXPECT_THAT(log.Failures(), SizeIs(1));
+  EXPECT_EQ(language.TXT(5), "Tradelane Lines");
+  language.CurrentLanguage = 1;
+  EXPECT_EQ(language.TXT(4), "?????");  // its German text came after the step that failed
+}
+
+TEST_F(LanguageFile, AKillDuringItsFirstFillingLeavesNothingThatStays) {
+  folder.Write("FLOX-Language.mdb.new", "half a file");
+
+  EXPECT_EQ(language.TXT(3), "Jumpgate Lines");
+
+  EXPECT_THAT(log.Failures(), IsEmpty());
+  EXPECT_FALSE(std::filesystem::exists(folder.Path() / "FLOX-Language.mdb.new"));
 }
 
 TEST_F(LanguageFile, CancelInAFailureGivesAnEmptyText) {

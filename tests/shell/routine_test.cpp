@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/routine.h"
 
+#include <filesystem>
 #include <new>
 #include <string>
 #include <vector>
@@ -92,27 +93,41 @@ TEST_F(RoutineFrame, AnOuterRoutinesCancelPassesTheInnerOne) {
   EXPECT_FALSE(wentOn);
 }
 
-TEST_F(RoutineFrame, AFailureOutsideAStepEndsTheRoutine) {
+TEST_F(RoutineFrame, AFailureOutsideAStepIsAskedAboutAndCancelsOnlyBehindCancel) {
+  EXPECT_TRUE(routine.Run([] { throw RuntimeFailure(5); }));
+  messages.Answer = MessageAnswer::Cancel;
   EXPECT_FALSE(routine.Run([] { throw RuntimeFailure(5); }));
 
   EXPECT_EQ(log.Failures()[0].What.Number, 5);
+  EXPECT_THAT(log.Failures(), SizeIs(2));
+}
+
+TEST_F(RoutineFrame, WhatTheFileSystemRefusesIsAFailure) {
+  const std::filesystem::filesystem_error error(
+      "status", "/loop", std::make_error_code(std::errc::too_many_symbolic_link_levels));
+
+  EXPECT_TRUE(routine.Run([&] { routine.Try([&] { throw error; }); }));
+
+  ASSERT_THAT(log.Failures(), SizeIs(1));
+  EXPECT_EQ(log.Failures()[0].What.Number, 75);
+  EXPECT_THAT(log.Failures()[0].What.Description, ::testing::HasSubstr("'/loop'"));
 }
 
 TEST_F(RoutineFrame, LackOfMemoryIsAFailureToo) {
   EXPECT_TRUE(routine.Run([&] { routine.Try([] { throw std::bad_alloc(); }); }));
-  EXPECT_FALSE(routine.Run([] { throw std::bad_alloc(); }));
+  EXPECT_TRUE(routine.Run([] { throw std::bad_alloc(); }));
 
   EXPECT_EQ(log.Failures()[0].What.Number, 7);
   EXPECT_EQ(log.Failures()[1].What.Number, 7);
 }
 
-TEST_F(RoutineFrame, ConversionsRoundAndOverflow) {
-  EXPECT_EQ(routine.Integer(2.5), 2);
-  EXPECT_EQ(routine.Long(-3.5), -4);
+TEST_F(RoutineFrame, ConversionsRoundAndAnOverflowLeavesWhatWasBefore) {
+  EXPECT_EQ(routine.Integer(2.5, 9), 2);
+  EXPECT_EQ(routine.Long(-3.5, 9), -4);
   EXPECT_THAT(log.Failures(), IsEmpty());
 
-  EXPECT_EQ(routine.Integer(32768), 0);
-  EXPECT_EQ(routine.Long(2147483648.0), 0);
+  EXPECT_EQ(routine.Integer(32768, 9), 9);
+  EXPECT_EQ(routine.Long(2147483648.0, 9), 9);
   EXPECT_EQ(log.Failures()[0].What.Number, 6);
   EXPECT_THAT(log.Failures(), SizeIs(2));
 }

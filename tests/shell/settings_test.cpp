@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/settings.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <map>
 #include <string>
@@ -148,6 +149,27 @@ TEST_F(SettingsFile, WritingDoesNotMakeTheFile) {
   ASSERT_THAT(log.Failures(), SizeIs(1));
   EXPECT_EQ(log.Failures()[0].Source, "Settings.WriteSettingValue");
   EXPECT_EQ(log.Failures()[0].Info, "While saveing settings");
+}
+
+TEST_F(SettingsFile, AFileThatCannotBeLookedAtIsAFailureAndIsMadeAnewBehindOk) {
+  fs::create_symlink("FLOX-Settings.mdb", settings.Path());  // a link to itself
+
+  EXPECT_EQ(settings.ReadSetting("LANG"), "0");
+
+  ASSERT_THAT(log.Failures(), Not(IsEmpty()));
+  EXPECT_EQ(log.Failures()[0].What.Number, 75);
+  EXPECT_EQ(log.Failures()[0].Source, "Settings.ReadSetting");
+}
+
+TEST_F(SettingsFile, AFileThatCannotBeDeletedIsAFailure) {
+  folder.Write("FLOX-Settings.mdb/inside", "x");
+
+  EXPECT_EQ(settings.ReadSetting("LANG"), "");
+
+  const auto& failures = log.Failures();
+  EXPECT_TRUE(std::any_of(failures.begin(), failures.end(), [](const FailureEntry& entry) {
+    return entry.What.Number == 75 && entry.What.Description.find("cannot delete") != std::string::npos;
+  }));
 }
 
 TEST_F(SettingsFile, AFolderThatIsNotThereIsAFailure) {

@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include "db/schema.h"
+#include "platform/folder_lock.h"
 #include "support/failure_sinks.h"
 #include "support/fake_message_boxes.h"
 #include "support/temp_folder.h"
@@ -265,6 +266,47 @@ TEST_F(SpoilerSwitch, AWarningThatIsSwitchedOffIsNotWanted) {
   }
 
   EXPECT_FALSE(IsWarningWanted(mustWork, file));
+}
+
+TEST_F(Startup, AFileThatAnotherProcessHoldsIsLeftAlone) {
+  MakeUniverse("");
+  Database holder = DBEngine::OpenDatabase(mustWork, file);
+  holder.ExecuteNative(mustWork, "BEGIN EXCLUSIVE");
+
+  EXPECT_EQ(Examine(), UniverseState::InUse);
+  EXPECT_TRUE(fs::exists(file));
+
+  holder.Close();
+  EXPECT_EQ(Examine(), UniverseState::Absent);  // it has no stamp
+}
+
+TEST_F(Startup, AFolderThatAnImportHoldsIsLeftAlone) {
+  MakeUniverse("");
+  const auto import = FolderLock::TryHold(folder.Path());
+
+  EXPECT_EQ(Examine(), UniverseState::InUse);
+  EXPECT_TRUE(fs::exists(file));
+}
+
+TEST_F(Startup, TheQuestionNamesTheFileInTheChosenLanguage) {
+  for (int language = 0; language < 3; ++language) {
+    const Message question = UniverseInUseQuestion(language, file, {1, 7, 3});
+    EXPECT_NE(question.Text.find("'" + file.string() + "'"), std::string::npos);
+    EXPECT_EQ(question.Buttons, MessageButtons::RetryLeave);
+  }
+  EXPECT_NE(UniverseInUseQuestion(1, file, {1, 7, 3}).Text.find("benutzt"), std::string::npos);
+  EXPECT_NE(FolderMissingMessage(2, file, {1, 7, 3}).Text.find("Le dossier"), std::string::npos);
+}
+
+TEST_F(Startup, AMarkerThatCannotBeDeletedIsAFailure) {
+  folder.Write("CopyLnk/inside", "x");
+  FoldersRegistry folders(folder.Path());
+  const GameRegistry registry(log, folders);
+  RecordFailures failures;
+
+  MakeShortcuts(log, failures, registry, folder.Path(), folder.Path() / "orrerix", {1, 7, 3});
+
+  EXPECT_EQ(failures.Numbers(), std::vector<int>{75});
 }
 
 }  // namespace

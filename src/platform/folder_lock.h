@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <utility>
+
+namespace orrerix {
+
+// Holds a folder against everyone else who asks for it this way, in this process or another one.
+// Nothing is written into the folder; a process that dies lets go.
+class FolderLock {
+ public:
+  // Nothing if someone else holds the folder. One that the system cannot lock, or that is not
+  // there, is held by nobody.
+  static std::optional<FolderLock> TryHold(const std::filesystem::path& folder);
+
+  // Holds nothing.
+  FolderLock() = default;
+  FolderLock(FolderLock&& other) noexcept : handle_(std::exchange(other.handle_, kNone)) {}
+  FolderLock& operator=(FolderLock&& other) noexcept {
+    std::swap(handle_, other.handle_);
+    return *this;
+  }
+  ~FolderLock();
+
+ private:
+  static constexpr int kNone = -1;
+  explicit FolderLock(int handle) : handle_(handle) {}
+
+  int handle_ = kNone;
+};
+
+}  // namespace orrerix

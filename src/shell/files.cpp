@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+#include "shell/files.h"
+
+#include <string_view>
+
+#include <fmt/format.h>
+
+namespace orrerix {
+namespace fs = std::filesystem;
+namespace {
+
+void Report(FailureSink& routine, std::string_view what, const fs::path& path,
+            const std::error_code& error) {
+  routine.Fail(
+      {failure_number::kPathFileAccess, fmt::format("Path/File access error: cannot {} '{}': {}",
+                                                    what, path.string(), error.message())});
+}
+
+}  // namespace
+
+bool FileExists(FailureSink& routine, const fs::path& path) {
+  std::error_code error;
+  const bool exists = fs::exists(path, error);
+  if (error) Report(routine, "look at", path, error);
+  return exists;
+}
+
+void DeleteFile(FailureSink& routine, const fs::path& path) {
+  std::error_code error;
+  fs::remove(path, error);
+  if (error) Report(routine, "delete", path, error);
+}
+
+void RenameFile(FailureSink& routine, const fs::path& from, const fs::path& to) {
+  std::error_code error;
+  fs::rename(from, to, error);
+  if (error) Report(routine, "rename", from, error);
+}
+
+bool MakeFolder(FailureSink& routine, const fs::path& folder) {
+  std::error_code error;
+  fs::create_directories(folder, error);
+  std::error_code ignored;
+  const bool isThere = fs::is_directory(folder, ignored);
+  if (!isThere) Report(routine, "make the folder", folder, error);
+  return isThere;
+}
+
+}  // namespace orrerix
