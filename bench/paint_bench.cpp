@@ -96,7 +96,7 @@ class PaintBench {
   WorkingCopy copy_;
   Redraw redraw_;
   Universe universe_;
-  FixedLanguage english_{0};
+  FixedLanguage english_{Language::English};
   PanelContent panel_ = PanelTexts(english_);
   QtTextMeasure measure_;
   MapState map_;

@@ -31,7 +31,7 @@ void DrawingList(benchmark::State& state, const BenchGame& game, const fs::path&
   ErrorLog log(messages, CurrentVersion());
   WorkingCopy copy;
   Universe universe{log, copy.Of(sink, ImportInto(game, work))};
-  FixedLanguage english(0);
+  FixedLanguage english(Language::English);
   FixedTextMeasure measure;
   const PanelContent panel = PanelTexts(english);
   MapState map;

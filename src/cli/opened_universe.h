@@ -13,7 +13,7 @@ namespace orrerix {
 class OpenedUniverse {
  public:
   explicit OpenedUniverse(const CommonOptions& options)
-      : Texts(options.LanguageNumber()),
+      : Texts(options.CaptionLanguage()),
         database_(OpenUniverse(options)),
         messages_(options),
         log_(messages_, CurrentVersion()) {}

@@ -62,8 +62,11 @@ fs::path CommonOptions::DatabasePath() const {
   return SaveFolderBelow(GameRegistry(log, *registry).GetPersonalFolder()) / "Orrerix.fl";
 }
 
-int CommonOptions::LanguageNumber() const {
-  return Language == "de" ? 1 : Language == "fr" ? 2 : 0;
+orrerix::Language CommonOptions::CaptionLanguage() const {
+  using orrerix::Language;
+  return this->Language == "de"   ? Language::German
+         : this->Language == "fr" ? Language::French
+                                  : Language::English;
 }
 
 Database OpenUniverse(const CommonOptions& options) {

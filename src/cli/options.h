@@ -13,6 +13,7 @@
 #include "db/engine.h"
 #include "platform/message_box.h"
 #include "shell/error_log.h"
+#include "shell/text_id.h"
 
 namespace orrerix {
 
@@ -40,8 +41,7 @@ struct CommonOptions {
 
   // The universe file.
   std::filesystem::path DatabasePath() const;
-  // Number of the language: 0 English, 1 German, 2 French.
-  int LanguageNumber() const;
+  orrerix::Language CaptionLanguage() const;
 };
 
 // Adds an option that takes a text. An empty text is a text like any other; `text` stays empty only

@@ -72,7 +72,7 @@ class SceneMap {
       : universe_(universe),
         words_(words),
         form_(ParseFormSize(words.Size)),
-        texts_(options.LanguageNumber()),
+        texts_(options.CaptionLanguage()),
         panel_(PanelTexts(texts_)) {
     if (words.Zoom) state_.Zoom.Reset(ParseZoom(*words.Zoom));
     state_.Names = GetSystemNames(universe, texts_);

@@ -12,14 +12,14 @@ namespace orrerix {
 
 std::vector<DerivedStage> DerivedStages() {
   return {
-      {"Calculation of Groups...",
+      {TextId::CalculatingGroups,
        [](Universe& universe, ImportHost&) { CalcOwnerNames(universe); }},
-      {"Calculation of Jumpholes and Jumpgates...", CalcJumpObjects},
-      {"Calculation of Tradelanes...", CalcTradeLanes},
-      {"Calculation of Stations, Planets, DockingRings...", CalcDockObjects},
-      {"Calculation of Commodities-Prices per Planet, Station, Base - PLEASE WAIT!",
+      {TextId::CalculatingJumps, CalcJumpObjects},
+      {TextId::CalculatingLanes, CalcTradeLanes},
+      {TextId::CalculatingDocks, CalcDockObjects},
+      {TextId::CalculatingPrices,
        [](Universe& universe, ImportHost&) { CalcBasePrices2(universe); }},
-      {"Calculation of Ships-Prices and Package-Names...",
+      {TextId::CalculatingShips,
        [](Universe& universe, ImportHost&) { CalcShipPackages(universe); }},
   };
 }

@@ -26,8 +26,8 @@ class DesktopNetwork : public Network {
   QNetworkAccessManager manager_;
 };
 
-// Whether a fetch goes on where a server leads it: within the same kind of address, and from http to
-// https.
+// Whether a fetch goes on where a server leads it: within the same kind of address, and from http
+// to https.
 bool IsRedirectFollowed(const QUrl& from, const QUrl& to);
 
 }  // namespace orrerix

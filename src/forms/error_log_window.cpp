@@ -9,6 +9,7 @@
 #include <QTimer>
 #include <utility>
 
+#include "forms/captions.h"
 #include "forms/form_geometry.h"
 #include "forms/plated_label.h"
 #include "picture/form_font.h"
@@ -36,21 +37,17 @@ void SetColors(QWidget& widget, QColor ground, QColor letters) {
 
 }  // namespace
 
-ErrorLogWindow::ErrorLogWindow(ErrorLog& log, std::function<bool()> importing)
+ErrorLogWindow::ErrorLogWindow(ErrorLog& log, std::function<bool()> importing,
+                               const LanguageChoice& choice)
     : log_(log),
       importing_(std::move(importing)),
-      dataHeading_(AddHeading(
-          0, "Errors/Warnings in FreeLancer-Files (Information interresting for MODDERS):",
-          QColor(255, 255, 0))),
+      choice_(choice),
+      dataHeading_(AddHeading(0, QColor(255, 255, 0))),
       dataLog_(AddLog("Text1", QColor(255, 255, 128), QPlainTextEdit::WidgetWidth)),
-      programHeading_(AddHeading(1,
-                                 QStringLiteral("Errors in FL Orrerix while running (EMail that "
-                                                "to %1):")
-                                     .arg(kAuthorsMail),
-                                 QColor(255, 0, 0))),
+      programHeading_(AddHeading(1, QColor(255, 0, 0))),
       programLog_(AddLog("Text2", QColor(255, 128, 0), QPlainTextEdit::NoWrap)) {
   setObjectName("ErrorLog");
-  setWindowTitle("FL-Orrerix Error Logfile.");
+  ShowCaptions();
   // It comes up beside the work, not in its place.
   setAttribute(Qt::WA_ShowWithoutActivating);
   resize(PixelRect(0, 0, kClientWidth, kClientHeight).size());
@@ -63,8 +60,19 @@ ErrorLogWindow::~ErrorLogWindow() {
   log_.SetView(nullptr);
 }
 
-QLabel* ErrorLogWindow::AddHeading(int index, const QString& caption, QColor letters) {
-  auto* label = new PlatedLabel(caption, this);
+// The captions in the language that is in use when the window comes up.
+void ErrorLogWindow::ShowCaptions() {
+  const Language language = choice_.Current;
+  setWindowTitle(CaptionIn(language, TextId::ErrorLogTitle));
+  dataHeading_->setText(CaptionIn(language, TextId::DataLogHead));
+  programHeading_->setText(
+      QString::fromStdString(FormatIn(language, TextId::ProgramLogHead, kAuthorsMail)));
+  dataLog_.Box->setAccessibleName(CaptionIn(language, TextId::DataLogName));
+  programLog_.Box->setAccessibleName(CaptionIn(language, TextId::ProgramLogName));
+}
+
+QLabel* ErrorLogWindow::AddHeading(int index, QColor letters) {
+  auto* label = new PlatedLabel({}, this);
   label->setObjectName(QStringLiteral("Label1_%1").arg(index));
   QFont font = FormFont(kHeadingFont);
   font.setBold(true);
@@ -78,7 +86,6 @@ ErrorLogWindow::Log ErrorLogWindow::AddLog(const char* name, QColor letters,
                                            QPlainTextEdit::LineWrapMode wrap) {
   auto* box = new QPlainTextEdit(this);
   box->setObjectName(name);
-  box->setAccessibleName(wrap == QPlainTextEdit::NoWrap ? "Program log" : "Data log");
   box->setFont(FormFont(kLogFont));
   box->setReadOnly(true);
   box->setUndoRedoEnabled(false);
@@ -91,6 +98,7 @@ ErrorLogWindow::Log ErrorLogWindow::AddLog(const char* name, QColor letters,
 }
 
 void ErrorLogWindow::ShowWindow() {
+  if (!isVisible()) ShowCaptions();
   if (isHidden()) {
     const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
     move(screen.bottomRight() - rect().bottomRight());

@@ -17,7 +17,7 @@ namespace orrerix {
 class ErrorLogWindow : public QWidget, public ErrorLogView {
  public:
   // `importing` tells whether an import runs: closing then only hides the window.
-  ErrorLogWindow(ErrorLog& log, std::function<bool()> importing);
+  ErrorLogWindow(ErrorLog& log, std::function<bool()> importing, const LanguageChoice& choice);
   ~ErrorLogWindow() override;
 
   void ShowWindow() override;
@@ -34,7 +34,8 @@ class ErrorLogWindow : public QWidget, public ErrorLogView {
     std::size_t Shown = 0;  // bytes
   };
 
-  QLabel* AddHeading(int index, const QString& caption, QColor letters);
+  void ShowCaptions();
+  QLabel* AddHeading(int index, QColor letters);
   Log AddLog(const char* name, QColor letters, QPlainTextEdit::LineWrapMode wrap);
   void ShowTexts();
   static void ShowText(Log& log, const std::string& text);
@@ -43,6 +44,7 @@ class ErrorLogWindow : public QWidget, public ErrorLogView {
 
   ErrorLog& log_;
   std::function<bool()> importing_;
+  const LanguageChoice& choice_;
   QLabel* dataHeading_;
   Log dataLog_;
   QLabel* programHeading_;

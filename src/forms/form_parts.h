@@ -15,6 +15,7 @@
 #include "platform/sound.h"
 #include "shell/error_log.h"
 #include "shell/game_registry.h"
+#include "shell/text_id.h"
 #include "shell/version.h"
 
 namespace orrerix {
@@ -41,6 +42,7 @@ struct FormParts {
   Printers& Printing;
   Network& Web;
   PictureStore& Pictures;
+  LanguageChoice& Speech;  // the language in use
 
   // The game folder as the start finds it.
   std::string GamePath() const { return Paths.Game ? *Paths.Game : Registry.GetFLPath(); }

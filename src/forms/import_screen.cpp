@@ -3,6 +3,7 @@
 
 #include <QPainter>
 
+#include "forms/captions.h"
 #include "forms/form_geometry.h"
 #include "forms/tiled_ground.h"
 #include "picture/form_font.h"
@@ -29,16 +30,18 @@ constexpr const char* kButtonStyle =
 
 }  // namespace
 
-ImportScreen::ImportScreen(PictureStore& pictures, QWidget* parent)
+ImportScreen::ImportScreen(PictureStore& pictures, const LanguageChoice& choice, QWidget* parent)
     : QWidget(parent),
       pictures_(pictures),
+      choice_(choice),
       text1_(new QPlainTextEdit(this)),
       text2_(new QLineEdit(this)),
-      command1_(new QPushButton("Start getting Data", this)),
-      memFrame_(new MemFrame(this)) {
+      command1_(new QPushButton(this)),
+      memFrame_(new MemFrame(choice, this)) {
   setObjectName("ImportScreen");
   MakeText1();
   MakePathRow();
+  ShowCaptions();
   for (std::size_t i = 0; i < progress_.size(); ++i) {
     progress_[i] = new ProgressShape(kProgressBorder, kProgressFill[i], this);
     progress_[i]->setObjectName(QStringLiteral("Progress%1").arg(i));
@@ -47,18 +50,23 @@ ImportScreen::ImportScreen(PictureStore& pictures, QWidget* parent)
   memFrame_->hide();
 }
 
+void ImportScreen::ShowCaptions() {
+  const Language language = choice_.Current;
+  text1_->setAccessibleName(CaptionIn(language, TextId::ImportProgressName));
+  text1_->setPlainText(CaptionIn(language, TextId::ImportBegins) + "\n");
+  text2_->setAccessibleName(CaptionIn(language, TextId::GameFolderName));
+  command1_->setText(CaptionIn(language, TextId::StartImport));
+}
+
 void ImportScreen::MakeText1() {
   text1_->setObjectName("Text1");
-  text1_->setAccessibleName("What the import does");
   text1_->setReadOnly(true);
   text1_->setFont(FixedFont(kTextFont));
   text1_->setStyleSheet(kTextStyle);
-  text1_->setPlainText("Analyzing Database.....\n");
 }
 
 void ImportScreen::MakePathRow() {
   text2_->setObjectName("Text2");
-  text2_->setAccessibleName("Game folder");
   text2_->setText("C:\\Programme\\Microsoft Games\\Freelancer");
   text2_->setFont(FormFont(kTextFont));
   text2_->setStyleSheet(kPathStyle);

@@ -19,7 +19,7 @@ namespace orrerix {
 // below.
 class ImportScreen : public QWidget {
  public:
-  ImportScreen(PictureStore& pictures, QWidget* parent);
+  ImportScreen(PictureStore& pictures, const LanguageChoice& choice, QWidget* parent);
 
   // Lays the controls out on a form of this outer size (twips).
   void LayOut(int formWidth, int formHeight, bool importing);
@@ -36,10 +36,12 @@ class ImportScreen : public QWidget {
   void paintEvent(QPaintEvent* event) override;
 
  private:
+  void ShowCaptions();
   void MakeText1();
   void MakePathRow();
 
   PictureStore& pictures_;
+  const LanguageChoice& choice_;
   QPlainTextEdit* text1_;
   QLineEdit* text2_;
   QPushButton* command1_;

@@ -17,14 +17,15 @@ QRect RectOf(const orrerix::Box& box) {
 
 }  // namespace
 
-InfoBox::InfoBox(QWidget* map) : QFrame(map), text_(new TextBox("InfoText", this)) {
+InfoBox::InfoBox(const QString& name, QWidget* map)
+    : QFrame(map), text_(new TextBox("InfoText", this)) {
   setObjectName("Shape1");
   setAutoFillBackground(true);
   // The map's view would hand down its own roles, those of lists.
   setBackgroundRole(QPalette::Window);
   setForegroundRole(QPalette::WindowText);
   setFrameStyle(QFrame::Box | QFrame::Plain);
-  text_->setAccessibleName("Information");
+  text_->setAccessibleName(name);
   hide();
 }
 
@@ -38,7 +39,11 @@ void InfoBox::Show(const ControlList& box) {
   setPalette(colors);
   const QRect place = RectOf(shape.Place);
   setGeometry(place);
-  text_->setGeometry(RectOf(text.Place).translated(-place.topLeft()));
+  // The described text is a little narrower than its longest line; the box has room for all of it,
+  // and for a scroll bar beside it.
+  QRect textPlace = RectOf(text.Place).translated(-place.topLeft());
+  textPlace.setRight(place.width() - 1 - frameWidth());
+  text_->setGeometry(textPlace);
   text_->Show(text.Caption.value_or(""));
   show();
   raise();

@@ -12,7 +12,8 @@ namespace orrerix {
 // scrolled and copied, and the map below is not painted anew with each text.
 class InfoBox : public QFrame {
  public:
-  explicit InfoBox(QWidget* map);
+  // `name` is what a screen reader calls it.
+  InfoBox(const QString& name, QWidget* map);
 
   // Shows the two controls; hides itself if there are none.
   void Show(const ControlList& box);

@@ -7,6 +7,7 @@
 #include <QTimer>
 #include <utility>
 
+#include "forms/captions.h"
 #include "forms/tiled_ground.h"
 #include "picture/form_font.h"
 
@@ -20,9 +21,10 @@ constexpr int kYieldsBeforeClosing = 5;
 
 }  // namespace
 
-Loading::Loading(PictureStore& pictures) : pictures_(pictures) {
+Loading::Loading(PictureStore& pictures, const LanguageChoice& choice)
+    : pictures_(pictures), choice_(choice) {
   setObjectName("loading");
-  setWindowTitle("loading FL Orrerix...");
+  setWindowTitle(CaptionIn(choice_.Current, TextId::LoadingTitle));
   setFixedSize(kFormSize);
   auto* logo = new QLabel(this);
   logo->setObjectName("Image_Clan");
@@ -31,8 +33,8 @@ Loading::Loading(PictureStore& pictures) : pictures_(pictures) {
   picture.setDevicePixelRatio(devicePixelRatioF());
   logo->setPixmap(picture);
   const int below = kLogoTop + kLogoSize.height() + 10;
-  AddLabel("Label1", "FL Orrerix - the star map beside the game", 11, below);
-  AddLabel("Label2", "Program and artwork: the Orrerix authors", 9, below + 28);
+  AddLabel("Label1", CaptionIn(choice_.Current, TextId::LoadingSlogan), 11, below);
+  AddLabel("Label2", CaptionIn(choice_.Current, TextId::LoadingCredit), 9, below + 28);
   move(QGuiApplication::primaryScreen()->availableGeometry().center() - rect().center());
 }
 
@@ -60,7 +62,7 @@ void Loading::GotFocus() {
 }
 
 void Loading::ShowClosing(const std::function<void()>& yield) {
-  setWindowTitle("Closing...");
+  setWindowTitle(CaptionIn(choice_.Current, TextId::ClosingTitle));
   started_ = true;
   show();
   for (int i = 0; i < kYieldsBeforeClosing; ++i) yield();

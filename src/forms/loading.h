@@ -6,13 +6,14 @@
 #include <functional>
 
 #include "picture/picture_store.h"
+#include "shell/text_id.h"
 
 namespace orrerix {
 
 // The form that a start begins with, and that stands last while the program closes.
 class Loading : public QWidget {
  public:
-  explicit Loading(PictureStore& pictures);
+  Loading(PictureStore& pictures, const LanguageChoice& choice);
 
   // Called once, when the form is shown and first has the focus.
   std::function<void()> OnGotFocus;
@@ -29,6 +30,7 @@ class Loading : public QWidget {
   void GotFocus();
 
   PictureStore& pictures_;
+  const LanguageChoice& choice_;
   bool started_ = false;
 };
 

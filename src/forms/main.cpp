@@ -86,17 +86,18 @@ int RunProgram(int argc, char** argv, const StartPaths& paths) {
   QApplication::setQuitOnLastWindowClosed(false);
   SetProgramStyle();
   QApplication::setWindowIcon(QIcon(":/pictures/application.svg"));
-  DesktopMessageBoxes messages;
+  LanguageChoice choice;
+  DesktopMessageBoxes messages(choice);
   DesktopSound sound;
   DesktopLinks links;
   DesktopPrinters printers;
   DesktopNetwork network;
-  ErrorLog log(messages, CurrentVersion());
+  ErrorLog log(messages, CurrentVersion(), choice);
   const auto native = NativeRegistry();
   const GameRegistry registry(log, *native);
   PictureStore pictures;
   const FormParts parts{paths, CurrentVersion(), log,     registry, messages, sound,
-                        links, printers,         network, pictures};
+                        links, printers,         network, pictures, choice};
   ProgramRun run(parts);
   run.Start();
   return QApplication::exec();

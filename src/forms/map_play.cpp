@@ -10,7 +10,7 @@
 namespace orrerix {
 
 MapPlay::MapPlay(MapScreen& screen, MapForm& form, ErrorLog& log, Settings& settings,
-                 Language& language, SoundPlayer& sound)
+                 LanguageFile& language, SoundPlayer& sound)
     : screen_(screen),
       form_(form),
       log_(log),

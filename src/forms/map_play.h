@@ -24,8 +24,8 @@ namespace orrerix {
 class MapPlay : private MapMouse, private MapKeys {
  public:
   // All of these must outlive this.
-  MapPlay(MapScreen& screen, MapForm& form, ErrorLog& log, Settings& settings, Language& language,
-          SoundPlayer& sound);
+  MapPlay(MapScreen& screen, MapForm& form, ErrorLog& log, Settings& settings,
+          LanguageFile& language, SoundPlayer& sound);
   ~MapPlay() override;
   MapPlay(const MapPlay&) = delete;
   MapPlay& operator=(const MapPlay&) = delete;
@@ -89,7 +89,7 @@ class MapPlay : private MapMouse, private MapKeys {
   MapScreen& screen_;
   MapForm& form_;
   ErrorLog& log_;
-  Language& language_;
+  LanguageFile& language_;
   SoundPlayer& sound_;
   QtTextMeasure boxMeasure_{FixedFont};
   MapGestures gestures_;

@@ -3,8 +3,11 @@
 
 #include <utility>
 
+#include <fmt/format.h>
+
 #include "map/option_switches.h"
 #include "map/system_pictures.h"
+#include "online/web_pages.h"
 #include "picture/picture_files.h"
 #include "picture/twips.h"
 
@@ -18,6 +21,7 @@ MapScreen::MapScreen(PictureStore& pictures, Settings& settings, TextSource& tex
       frame_(new SysmapFrame(scene_, form)),
       sharpening_(new QTimer(frame_)) {
   frame_->hide();
+  overlay_ = std::make_unique<HoverOverlay>(scene_, frame_);
   QObject::connect(sharpening_, &QTimer::timeout, frame_, [this] { Sharpen(); });
   pictures_.OnWanted = [this] { sharpening_->start(0); };
 }
@@ -28,8 +32,14 @@ MapScreen::~MapScreen() {
 
 void MapScreen::LoadFormTXT() {
   panel_ = PanelTexts(texts_);
+  frame_->setAccessibleName(QString::fromStdString(texts_.Text(TextId::StarMap)));
   panel_.News.front().Link = ownLink_;
-  panel_.News.insert(panel_.News.end(), news_.begin(), news_.end());
+  for (const NewsItem& item : news_) {
+    NewsItem& shown = panel_.News.emplace_back(item);
+    if (IsOpenable(item.Link)) continue;
+    const std::string notOpened = texts_.Text(TextId::LinkNotOpened);
+    shown.ToolTip += " - " + fmt::format(fmt::runtime(notOpened), item.Link);
+  }
 }
 
 void MapScreen::SetNews(std::string ownLink, std::vector<NewsItem> news) {

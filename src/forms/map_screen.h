@@ -2,8 +2,10 @@
 #pragma once
 
 #include <QTimer>
+#include <memory>
 #include <string>
 
+#include "forms/hover_overlay.h"
 #include "forms/sysmap_frame.h"
 #include "map/redraw.h"
 #include "picture/qt_text_measure.h"
@@ -64,6 +66,7 @@ class MapScreen {
   std::string starMap_ = "StarMapPic";
   MapScene scene_;
   SysmapFrame* frame_;
+  std::unique_ptr<HoverOverlay> overlay_;  // on the frame, but gone before the scene
   QTimer* sharpening_;
 };
 

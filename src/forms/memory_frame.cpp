@@ -4,6 +4,7 @@
 #include <QLocale>
 #include <QPainter>
 
+#include "forms/captions.h"
 #include "forms/form_geometry.h"
 #include "picture/form_font.h"
 #include "shell/memory_watch.h"
@@ -21,8 +22,8 @@ constexpr int kCaptionFont = 8;
 constexpr int kSmallestFont = 6;
 constexpr int kHeadFont = 9;
 
-constexpr std::array<const char*, kBars> kBarNames = {"Physical memory", "Page file",
-                                                      "Address space"};
+constexpr std::array<TextId, kBars> kBarNames = {TextId::PhysicalMemory, TextId::PageFile,
+                                                 TextId::AddressSpace};
 
 // Ground and letters of a segment: in use at the start, added since, free.
 struct SegmentColors {
@@ -65,7 +66,8 @@ NumberSeparators SeparatorsOf(const QLocale& locale) {
 
 }  // namespace
 
-MemFrame::MemFrame(QWidget* parent) : QWidget(parent), headLab_(new QLabel(this)) {
+MemFrame::MemFrame(const LanguageChoice& choice, QWidget* parent)
+    : QWidget(parent), choice_(choice), headLab_(new QLabel(this)) {
   setObjectName("MemFrame");
   setGeometry(PixelRect(0, 0, 0, DesignHeight));
   headLab_->setObjectName("MemHeadLab0");
@@ -77,7 +79,8 @@ MemFrame::MemFrame(QWidget* parent) : QWidget(parent), headLab_(new QLabel(this)
 
 void MemFrame::MakeBars() {
   for (int bar = 0; bar < kBars; ++bar) {
-    auto* name = new QLabel(kBarNames[static_cast<std::size_t>(bar)], this);
+    auto* name =
+        new QLabel(CaptionIn(choice_.Current, kBarNames[static_cast<std::size_t>(bar)]), this);
     name->setFont(FormFont(kCaptionFont));
     name->setGeometry(PixelRect(100, kBarsTop + bar * kBarStep, kBarsLeft - 200, kBarHeight));
     SetColors(*name, Qt::transparent, QColor(0xFF9FB4DC));
@@ -103,7 +106,7 @@ void MemFrame::MemoryUpdate(ErrorLog& log, const MemoryStatus& start, int formWi
       memLab_[i]->setText(QString::fromStdString(MemoryCaption(figures[i], separators)));
     }
     if (!minimised) ShowSegments(figures, formWidth);
-    headLab_->setText(QString::fromStdString(MemoryHeadline(start, now)));
+    headLab_->setText(QString::fromStdString(MemoryHeadline(choice_.Current, start, now)));
   });
 }
 

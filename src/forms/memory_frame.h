@@ -14,7 +14,8 @@ namespace orrerix {
 // each what was in use at the start, what has been added since, and what is free.
 class MemFrame : public QWidget {
  public:
-  explicit MemFrame(QWidget* parent);
+  // `choice` must outlive this.
+  MemFrame(const LanguageChoice& choice, QWidget* parent);
 
   // Its design height in twips.
   static constexpr int DesignHeight = 1500;
@@ -27,6 +28,7 @@ class MemFrame : public QWidget {
   void MakeBars();
   void ShowSegments(const std::array<std::int32_t, 9>& figures, int formWidth);
 
+  const LanguageChoice& choice_;
   QLabel* headLab_;
   std::array<QLabel*, 9> memLab_{};
 };

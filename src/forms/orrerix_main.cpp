@@ -41,14 +41,14 @@ std::string FolderText(const QString& text) {
 
 }  // namespace
 
-OrrerixMain::OrrerixMain(const FormParts& parts, Settings& settings, Language& language,
+OrrerixMain::OrrerixMain(const FormParts& parts, Settings& settings, LanguageFile& language,
                          const MemoryStatus& startMemory, JetVersionOption format)
     : parts_(parts),
       settings_(settings),
       language_(language),
       startMemory_(startMemory),
       format_(format),
-      importScreen_(new ImportScreen(parts.Pictures, this)),
+      importScreen_(new ImportScreen(parts.Pictures, parts.Speech, this)),
       map_(parts.Pictures, settings, language, this),
       play_(map_, *this, parts.Log, settings, language, parts.Sound),
       search_(map_, *this, play_, parts.Log, language),
@@ -56,7 +56,8 @@ OrrerixMain::OrrerixMain(const FormParts& parts, Settings& settings, Language& l
       stations_({parts.Log, parts.Pictures, parts.Sound, language, map_.State().Names,
                  [this](Routine& routine) { return OpenUniverse(routine); },
                  [this] { return frameGeometry().size() - size(); }}),
-      host_(*this, *importScreen_, parts.Messages, parts.Log, startMemory, parts.Paths.Debugging) {
+      host_(*this, *importScreen_, parts.Messages, parts.Log, startMemory, parts.Paths.Debugging,
+            parts.Speech) {
   setObjectName("OrrerixMain");
   setMinimumSize(kSmallestForm);
   QPalette colors = palette();
@@ -118,16 +119,15 @@ bool OrrerixMain::ExamineUniverseFile(Routine& routine) {
 }
 
 bool OrrerixMain::AsksAgain() {
-  const int language = static_cast<int>(Val(settings_.ReadSetting("LANG")));
-  return parts_.Messages.Show(UniverseInUseQuestion(language, UniverseFile(), parts_.Version)) ==
-         MessageAnswer::Retry;
+  return parts_.Messages.Show(UniverseInUseQuestion(parts_.Speech.Current, UniverseFile(),
+                                                    parts_.Version)) == MessageAnswer::Retry;
 }
 
 void OrrerixMain::LoadFormTXT() {
   Routine routine(parts_.Log, "OrrerixMain.LoadFormTXT", "While reading language-text.");
   routine.Run([&] {
-    language_.CurrentLanguage =
-        routine.Integer(Val(settings_.ReadSetting("LANG")), language_.CurrentLanguage);
+    language_.SetCurrent(static_cast<Language>(routine.Integer(
+        Val(settings_.ReadSetting("LANG")), static_cast<std::int16_t>(language_.Current()))));
     map_.LoadFormTXT();
   });
 }
@@ -216,8 +216,8 @@ void OrrerixMain::LookForGame() {
     return;
   }
   complaining_ = true;
-  parts_.Messages.Show({MissingExecutableText(parts_.GamePath()), windowTitle().toStdString(),
-                        MessageButtons::Ok, MessageIcon::Exclamation});
+  parts_.Messages.Show({FormatIn(parts_.Speech.Current, TextId::GameMissing, parts_.GamePath()),
+                        windowTitle().toStdString(), MessageButtons::Ok, MessageIcon::Exclamation});
   complaining_ = false;
 }
 
@@ -267,8 +267,7 @@ bool OrrerixMain::PrepareSaveFolder() {
   fs::create_directories(saveFolder_, ignored);
   bool isReady = fs::is_directory(saveFolder_, ignored);
   if (!isReady) {
-    parts_.Messages.Show(
-        FolderMissingMessage(language_.CurrentLanguage, saveFolder_, parts_.Version));
+    parts_.Messages.Show(FolderMissingMessage(parts_.Speech.Current, saveFolder_, parts_.Version));
   }
   while (isReady && !(lock_ = FolderLock::TryHold(saveFolder_))) isReady = AsksAgain();
   const bool leaves = !isReady && fs::is_directory(saveFolder_, ignored);
@@ -408,7 +407,9 @@ void OrrerixMain::PrintTheMap() {
     SetOuterGeometry({screenRect.topLeft(), QSize(screenRect.height(), screenRect.height())});
     FormResize();
     yield();
-    routine.Try([&] { PrintForm(*this, map_.Frame(), parts_.Printing.DefaultPrinter()); });
+    routine.Try([&] {
+      PrintForm(*this, map_.Frame(), parts_.Printing.DefaultPrinter(), parts_.Speech.Current);
+    });
     yield();
     map_.State().PrintMode = false;
     printSide_ = 0;

@@ -26,7 +26,7 @@ namespace orrerix {
 // importing, or the map.
 class OrrerixMain : public QWidget, private MapForm {
  public:
-  OrrerixMain(const FormParts& parts, Settings& settings, Language& language,
+  OrrerixMain(const FormParts& parts, Settings& settings, LanguageFile& language,
               const MemoryStatus& startMemory, JetVersionOption format);
   ~OrrerixMain() override;
 
@@ -105,7 +105,7 @@ class OrrerixMain : public QWidget, private MapForm {
 
   const FormParts& parts_;
   Settings& settings_;
-  Language& language_;
+  LanguageFile& language_;
   const MemoryStatus& startMemory_;
   JetVersionOption format_;
   std::filesystem::path saveFolder_;
@@ -114,10 +114,10 @@ class OrrerixMain : public QWidget, private MapForm {
   bool loaded_ = false;
   bool isMaximised_ = false;  // as FormLoad wants it
   bool importing_ = false;
-  bool importRuns_ = false;   // its routine is on the stack
+  bool importRuns_ = false;         // its routine is on the stack
   std::optional<FolderLock> lock_;  // of the save folder, while it runs
-  bool lookQueued_ = false;   // for the game, from the event loop
-  bool complaining_ = false;  // that the game is missing
+  bool lookQueued_ = false;         // for the game, from the event loop
+  bool complaining_ = false;        // that the game is missing
   bool mapShown_ = false;
   bool warning_ = false;  // the question before the first map is open, or was answered by an end
   bool redrawing_ = false;

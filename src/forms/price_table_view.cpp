@@ -119,7 +119,6 @@ QVariant PriceTableModel::data(const QModelIndex& index, int role) const {
 
 PriceTableView::PriceTableView(QWidget* parent) : QTableView(parent), model_(this) {
   setObjectName("PriceTable");
-  setAccessibleName("Prices");
   setModel(&model_);
   setItemDelegate(new LabelDelegate(this));
   setFrameShape(QFrame::NoFrame);

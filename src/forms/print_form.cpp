@@ -8,6 +8,7 @@
 #include <fmt/format.h>
 
 #include "db/failure.h"
+#include "shell/language_texts.h"
 
 namespace orrerix {
 namespace {
@@ -67,9 +68,10 @@ void PaintForm(QPainter& painter, const QWidget& form, QGraphicsView& map) {
   painter.restore();
 }
 
-void PrintForm(const QWidget& form, QGraphicsView& map, const std::optional<PrintTarget>& target) {
+void PrintForm(const QWidget& form, QGraphicsView& map, const std::optional<PrintTarget>& target,
+               Language language) {
   if (!target) {
-    throw Failure{kPrinterError, "The map cannot be printed: this computer has no printer."};
+    throw Failure{kPrinterError, std::string(TextIn(language, TextId::NoPrinter))};
   }
   QPrinter printer(QPrinter::HighResolution);
   SetTarget(printer, *target);
@@ -78,8 +80,8 @@ void PrintForm(const QWidget& form, QGraphicsView& map, const std::optional<Prin
   QPainter painter;
   if (!painter.begin(&printer)) {
     throw Failure{kPrinterError,
-                  fmt::format("The map cannot be printed: '{}' takes no pages.",
-                              target->File.empty() ? target->Printer : target->File.string())};
+                  FormatIn(language, TextId::PrinterTakesNoPages,
+                           target->File.empty() ? target->Printer : target->File.string())};
   }
   const QRectF place = PlaceOnPage(form.size(), printer);
   painter.translate(place.topLeft());

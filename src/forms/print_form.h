@@ -6,6 +6,7 @@
 #include <optional>
 
 #include "platform/printer.h"
+#include "shell/text_id.h"
 
 namespace orrerix {
 
@@ -15,7 +16,8 @@ inline constexpr int kPrinterError = 482;
 // Prints the inside of a form on one page: its map, and the widgets that stand on the map, on white
 // paper. As large as the page's proportions allow, never larger than on a screen of 96 pixels an
 // inch. Throws a Failure if there is nothing to print on.
-void PrintForm(const QWidget& form, QGraphicsView& map, const std::optional<PrintTarget>& target);
+void PrintForm(const QWidget& form, QGraphicsView& map, const std::optional<PrintTarget>& target,
+               Language language);
 
 // The same on any painter, with the form's top left corner in its origin.
 void PaintForm(QPainter& painter, const QWidget& form, QGraphicsView& map);

@@ -4,10 +4,12 @@
 #include <QApplication>
 #include <QScreen>
 
+#include "db/number_text.h"
 #include "forms/spoiler.h"
 #include "map/game_sounds.h"
 #include "online/news_loader.h"
 #include "online/web_pages.h"
+#include "shell/language_texts.h"
 #include "shell/routine.h"
 #include "shell/startup.h"
 
@@ -23,8 +25,9 @@ void Yield() {
 ProgramRun::ProgramRun(const FormParts& parts)
     : OnEnd([] { QCoreApplication::quit(); }),
       parts_(parts),
-      loading_(parts.Pictures),
-      errorLog_(parts.Log, [this] { return main_ && main_->Importing(); }) {
+      loading_(parts.Pictures, parts.Speech),
+      errorLog_(
+          parts.Log, [this] { return main_ && main_->Importing(); }, parts.Speech) {
   loading_.OnGotFocus = [this] { FormGotFocus(); };
 }
 
@@ -48,6 +51,7 @@ void ProgramRun::FormGotFocus() {
       return;
     }
     Yield();
+    routine.Try([&] { ReadLanguage(); });
     std::string news;
     routine.Try([&] { news = LoadNews(); });
     bool goesOn = true;
@@ -64,28 +68,31 @@ void ProgramRun::FormGotFocus() {
 bool ProgramRun::CheckEngine() {
   format_ = CheckJetDatabase(parts_.Paths.ApplicationFolder);
   if (format_) return true;
-  parts_.Messages.Show(
-      {"Problem useing MS-JetDatabase (v3 and v4) - Please Update your Windows with any "
-       "mdac_typ.exe from Microsoft - Click ok to open the Microsoft-Website.",
-       "FL Orrerix", MessageButtons::Ok, MessageIcon::Critical});
+  parts_.Messages.Show({std::string(TextIn(parts_.Speech.Current, TextId::EngineProblem)),
+                        "FL Orrerix", MessageButtons::Ok, MessageIcon::Critical});
   parts_.Links.Open(
       "https://www.microsoft.com/library/default.asp?url=/downloads/list/dataaccess.asp");
   return false;
+}
+
+// Read before anything else is said: a question in a language that was not chosen is a fault.
+void ProgramRun::ReadLanguage() {
+  settings_.emplace(parts_.Log, parts_.Paths.ApplicationFolder, *format_);
+  const auto number = ToInteger(Val(settings_->ReadSetting("LANG")));
+  if (number) parts_.Speech.Current = static_cast<Language>(*number);
 }
 
 // The news come before the main form, which shows them.
 std::string ProgramRun::LoadNews() {
   const StartPaths& paths = parts_.Paths;
   NewsLoader loader(parts_.Log, parts_.Web, parts_.Messages, paths.NewsAddress,
-                    paths.ApplicationFolder);
-  loader.Command1_Click();
-  return loader.Text1();
+                    paths.ApplicationFolder, parts_.Speech.Current);
+  return loader.Fetch();
 }
 
 bool ProgramRun::LoadMain() {
   const auto& folder = parts_.Paths.ApplicationFolder;
-  settings_.emplace(parts_.Log, folder, *format_);
-  language_.emplace(parts_.Log, folder, *format_);
+  language_.emplace(parts_.Log, folder, *format_, parts_.Speech);
   main_ = std::make_unique<OrrerixMain>(parts_, *settings_, *language_, memStart_, *format_);
   main_->OnQueryUnload = [this] { UnloadApp(); };
   main_->OnFirstMap = [this] { return ShowSpoiler(); };
@@ -96,7 +103,8 @@ bool ProgramRun::LoadMain() {
 // The warning before the first map. False if the user would rather leave.
 bool ProgramRun::ShowSpoiler() {
   loading_.hide();
-  Spoiler spoiler(ReadSpoilerTexts(main_->Game()), parts_.Pictures);
+  Spoiler spoiler(ReadSpoilerTexts(main_->Game(), parts_.Speech.Current), parts_.Pictures,
+                  parts_.Speech.Current);
   spoiler.OnCheck1 = [this](bool checked) { SetWarningOff(main_->UniverseFile(), checked); };
   spoiler.OnTextClick = [this] {
     PlaySoundfile(parts_.Log, parts_.Sound, main_->Game(), kLinkSound);
@@ -111,7 +119,7 @@ bool ProgramRun::ShowSpoiler() {
 }
 
 void ProgramRun::ShowUpdate(const News& news) {
-  update_ = std::make_unique<Update>(news.UpdateToolTip, parts_.Pictures);
+  update_ = std::make_unique<Update>(news.UpdateToolTip, parts_.Pictures, parts_.Speech.Current);
   update_->OnQueryUnload = [this] { main_->ShowMaximised(); };
   update_->OnLabel1Click = [this] {
     main_->InfoBoxLabelClick(0);

@@ -32,6 +32,7 @@ class ProgramRun {
  private:
   void FormGotFocus();
   bool CheckEngine();
+  void ReadLanguage();
   std::string LoadNews();
   bool LoadMain();
   bool ShowSpoiler();
@@ -44,7 +45,7 @@ class ProgramRun {
   MemoryStatus memStart_;
   std::optional<JetVersionOption> format_;
   std::optional<Settings> settings_;
-  std::optional<Language> language_;
+  std::optional<LanguageFile> language_;
   Loading loading_;
   std::unique_ptr<OrrerixMain> main_;
   ErrorLogWindow errorLog_;

@@ -22,6 +22,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "forms/captions.h"
 #include "picture/picture_store.h"
 
 namespace orrerix {
@@ -79,6 +80,23 @@ MessageAnswer AnswerOf(int button) {
       return MessageAnswer::Ignore;
     default:
       return MessageAnswer::Ok;
+  }
+}
+
+TextId CaptionOf(QMessageBox::StandardButton button) {
+  switch (button) {
+    case QMessageBox::Cancel:
+      return TextId::ButtonCancel;
+    case QMessageBox::Abort:
+      return TextId::ButtonAbort;
+    case QMessageBox::Retry:
+      return TextId::ButtonRetry;
+    case QMessageBox::Close:
+      return TextId::ButtonClose;
+    case QMessageBox::Ignore:
+      return TextId::ButtonIgnore;
+    default:
+      return TextId::ButtonOk;
   }
 }
 
@@ -157,7 +175,10 @@ MessageAnswer DesktopMessageBoxes::Show(const Message& message) {
   box.setTextFormat(Qt::PlainText);
   box.setTextInteractionFlags(Qt::TextSelectableByMouse);
   box.setWindowModality(Qt::ApplicationModal);
-  for (QAbstractButton* button : box.buttons()) button->setIcon({});
+  for (QAbstractButton* button : box.buttons()) {
+    button->setIcon({});
+    button->setText(CaptionIn(choice_.Current, CaptionOf(box.standardButton(button))));
+  }
   ScrollLongText(box, message);
   return AnswerOf(box.exec());
 }

@@ -9,6 +9,7 @@
 #include "platform/message_box.h"
 #include "platform/printer.h"
 #include "platform/sound.h"
+#include "shell/text_id.h"
 
 class QSoundEffect;
 
@@ -17,7 +18,13 @@ namespace orrerix {
 // Modal to the whole program; timers and other window messages go on meanwhile.
 class DesktopMessageBoxes : public MessageBoxes {
  public:
+  // `choice`, the language of the buttons, must outlive this.
+  explicit DesktopMessageBoxes(const LanguageChoice& choice = kEnglishOnly) : choice_(choice) {}
+
   MessageAnswer Show(const Message& message) override;
+
+ private:
+  const LanguageChoice& choice_;
 };
 
 class DesktopLinks : public LinkOpener {

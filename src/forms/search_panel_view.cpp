@@ -68,21 +68,19 @@ SearchPanelView::SearchPanelView(SearchEvents& events, QWidget* map)
   new EscapeKey(*this, [this] { events_.StSearchCloseClick(); });
   text_ = new QLineEdit(this);
   text_->setObjectName("StSearchText");
-  text_->setAccessibleName("Search text");
   text_->installEventFilter(this);
   QObject::connect(text_, &QLineEdit::textChanged, this,
                    [this](const QString& text) { events_.StSearchTextChange(text.toStdString()); });
   close_ = new QToolButton(this);
   close_->setObjectName("StSearchClose");
-  close_->setAccessibleName("Close the search");
   close_->setText("\u00D7");
   close_->setAutoRaise(true);
   QObject::connect(close_, &QToolButton::clicked, this, [this] { events_.StSearchCloseClick(); });
-  subSearch_ = AddList("SubSearch", "Found");
+  subSearch_ = AddList("SubSearch");
   QObject::connect(subSearch_, &QListWidget::currentRowChanged, this, [this](int row) {
     if (row >= 0) events_.SubSearchClick(static_cast<std::size_t>(row));
   });
-  list_ = AddList("StSearchList", "Places");
+  list_ = AddList("StSearchList");
   QObject::connect(list_, &QListWidget::currentRowChanged, this, [this](int row) {
     if (row >= 0) events_.StSearchListClick(static_cast<std::size_t>(row));
   });
@@ -91,26 +89,37 @@ SearchPanelView::SearchPanelView(SearchEvents& events, QWidget* map)
   hide();
 }
 
-QListWidget* SearchPanelView::AddList(const char* name, const char* accessibleName) {
+QListWidget* SearchPanelView::AddList(const char* name) {
   auto* list = new RowList(this);
   list->setObjectName(name);
-  list->setAccessibleName(accessibleName);
   list->installEventFilter(this);
   return list;
 }
 
-void SearchPanelView::Show(const SearchPanel& panel, const QString& caption) {
+void SearchPanelView::ShowCaptions(TextSource& texts) {
+  const auto caption = [&](TextId id) { return QString::fromStdString(texts.Text(id)); };
+  caption_->setText(caption(TextId::SearchHead));
+  text_->setAccessibleName(caption(TextId::SearchTextName));
+  close_->setAccessibleName(caption(TextId::SearchCloseName));
+  subSearch_->setAccessibleName(caption(TextId::SearchFoundName));
+  list_->setAccessibleName(caption(TextId::SearchPlacesName));
+}
+
+void SearchPanelView::Show(const SearchPanel& panel, TextSource& texts) {
   if (!panel.Visible()) return hide();
+  ShowCaptions(texts);
   setGeometry(RectOf(panel.Frame()));
   const QRect textRect = RectOf(panel.TextBox());
-  caption_->setText(caption);
   caption_->setGeometry(textRect.left(), 0, width() - 2 * textRect.left(), textRect.top());
   text_->setGeometry(textRect);
   const int gap = static_cast<int>(Pixels(kGap));
   close_->setGeometry(textRect.right() + gap, textRect.top(), width() - textRect.right() - 2 * gap,
                       textRect.height());
   subSearch_->setGeometry(RectOf(panel.SubSearchBox()));
-  list_->setGeometry(RectOf(panel.ListBox()));
+  // Where the list takes the place of the text box it leaves the close button free.
+  QRect listRect = RectOf(panel.ListBox());
+  if (!panel.TextVisible()) listRect.setRight(textRect.right());
+  list_->setGeometry(listRect);
   const QString typed = QString::fromStdString(panel.Text());
   if (text_->text() != typed) {
     const QSignalBlocker quiet(text_);

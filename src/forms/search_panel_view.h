@@ -8,6 +8,7 @@
 #include <QToolButton>
 
 #include "info/search_panel.h"
+#include "shell/language.h"
 
 namespace orrerix {
 
@@ -33,15 +34,16 @@ class SearchPanelView : public QFrame {
   // window the focus is.
   SearchPanelView(SearchEvents& events, QWidget* map);
 
-  // Shows the panel as it is now, with this caption at its head; hides it if it is closed.
-  void Show(const SearchPanel& panel, const QString& caption);
+  // Shows the panel as it is now, with captions in the language in use; hides it if it is closed.
+  void Show(const SearchPanel& panel, TextSource& texts);
   void Focus(SearchControl control);
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-  QListWidget* AddList(const char* name, const char* accessibleName);
+  void ShowCaptions(TextSource& texts);
+  QListWidget* AddList(const char* name);
   void Fill(QListWidget& list, SearchList& shown, const SearchList& wanted);
   bool KeyPress(QObject* control, int key);
 

@@ -10,21 +10,18 @@
 #include "shell/routine.h"
 
 namespace orrerix {
-namespace {
-
-constexpr int kCaptionText = 12;
-
-}  // namespace
+namespace {}  // namespace
 
 SearchPlay::SearchPlay(MapScreen& screen, MapForm& form, MapPlay& play, ErrorLog& log,
-                       Language& language)
+                       LanguageFile& language)
     : screen_(screen),
       form_(form),
       play_(play),
       log_(log),
       language_(language),
       view_(new SearchPanelView(*this, &screen.Frame())),
-      infoBox_(new InfoBox(&screen.Frame())) {}
+      infoBox_(new InfoBox(QString::fromStdString(language.Text(TextId::Information)),
+                           &screen.Frame())) {}
 
 SearchPlay::~SearchPlay() = default;
 
@@ -90,7 +87,7 @@ void SearchPlay::EnterKey(SearchControl in) {
 }
 
 void SearchPlay::Follow(SearchAnswer answer) {
-  view_->Show(panel_, QString::fromStdString(language_.TXT(kCaptionText)));
+  view_->Show(panel_, language_);
   if (answer.InfoBox) ShowInfo(std::move(*answer.InfoBox));
   view_->Focus(answer.Focus);
   if (answer.Jump) Jump(*answer.Jump);

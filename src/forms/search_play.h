@@ -15,7 +15,8 @@ namespace orrerix {
 class SearchPlay : private SearchEvents {
  public:
   // All of these must outlive this; the widgets belong to the map's frame.
-  SearchPlay(MapScreen& screen, MapForm& form, MapPlay& play, ErrorLog& log, Language& language);
+  SearchPlay(MapScreen& screen, MapForm& form, MapPlay& play, ErrorLog& log,
+             LanguageFile& language);
   ~SearchPlay() override;
   SearchPlay(const SearchPlay&) = delete;
   SearchPlay& operator=(const SearchPlay&) = delete;
@@ -45,7 +46,7 @@ class SearchPlay : private SearchEvents {
   MapForm& form_;
   MapPlay& play_;
   ErrorLog& log_;
-  Language& language_;
+  LanguageFile& language_;
   QtTextMeasure measure_{FixedFont};
   SearchPanel panel_;
   SearchPanelView* view_;

@@ -7,6 +7,7 @@
 #include <QPainter>
 #include <algorithm>
 
+#include "forms/captions.h"
 #include "forms/fitted_button.h"
 #include "forms/form_geometry.h"
 #include "forms/painted_border.h"
@@ -40,9 +41,11 @@ constexpr const char* kStyle =
 
 }  // namespace
 
-Spoiler::Spoiler(const SpoilerTexts& texts, PictureStore& pictures) : pictures_(pictures) {
+Spoiler::Spoiler(const SpoilerTexts& texts, PictureStore& pictures, Language language)
+    : pictures_(pictures) {
+  const auto caption = [&](TextId id) { return CaptionIn(language, id); };
   setObjectName("Spoiler");
-  setWindowTitle("FL Orrerix Spoiler-Warning");
+  setWindowTitle(caption(TextId::SpoilerTitle));
   setModal(true);
   setStyleSheet(kStyle);
   headLine_ = new QLabel(QString::fromStdString(texts.HeadLine), this);
@@ -51,26 +54,27 @@ Spoiler::Spoiler(const SpoilerTexts& texts, PictureStore& pictures) : pictures_(
   headLine_->setAlignment(Qt::AlignCenter);
   text_ = new QPlainTextEdit(QString::fromStdString(texts.Text).remove('\r'), this);
   text_->setObjectName("Text");
-  text_->setAccessibleName("Warning");
+  text_->setAccessibleName(caption(TextId::SpoilerName));
   text_->setReadOnly(true);
   text_->setLineWrapMode(QPlainTextEdit::NoWrap);
   text_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   text_->setTabChangesFocus(true);
   text_->viewport()->installEventFilter(this);
-  check1_ = new QCheckBox("Dont show that warning again (If I use the same map)", this);
+  check1_ = new QCheckBox(caption(TextId::SpoilerOff), this);
   check1_->setObjectName("Check1");
   check1_->setFont(FormFont(kCheckFont));
   QObject::connect(check1_, &QCheckBox::toggled, this, [this](bool checked) {
     if (OnCheck1) OnCheck1(checked);
   });
-  ok_ = AddButton("Command1_0", texts.Ok, "OK - Start Orrerix");
-  cancel_ = AddButton("Command1_1", texts.Cancel, "Cancel - Quit Program");
+  ok_ = AddButton("Command1_0", texts.Ok, caption(TextId::SpoilerOkTip));
+  cancel_ = AddButton("Command1_1", texts.Cancel, caption(TextId::SpoilerCancelTip));
   QObject::connect(ok_, &QPushButton::clicked, this, &QDialog::accept);
   QObject::connect(cancel_, &QPushButton::clicked, this, &QDialog::reject);
   ok_->setFocus();
 }
 
-QPushButton* Spoiler::AddButton(const char* name, const std::string& caption, const char* toolTip) {
+QPushButton* Spoiler::AddButton(const char* name, const std::string& caption,
+                                const QString& toolTip) {
   auto* button = new FittedButton(QString::fromStdString(caption), this);
   button->setObjectName(name);
   button->setToolTip(toolTip);

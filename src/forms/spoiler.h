@@ -18,7 +18,7 @@ namespace orrerix {
 // does; only Cancel is rejection.
 class Spoiler : public QDialog {
  public:
-  Spoiler(const SpoilerTexts& texts, PictureStore& pictures);
+  Spoiler(const SpoilerTexts& texts, PictureStore& pictures, Language language);
 
   // The check box was set or cleared.
   std::function<void(bool)> OnCheck1;
@@ -34,7 +34,7 @@ class Spoiler : public QDialog {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-  QPushButton* AddButton(const char* name, const std::string& caption, const char* toolTip);
+  QPushButton* AddButton(const char* name, const std::string& caption, const QString& toolTip);
   void FormResize();
   int FittingFont(const QString& text, int width) const;
   void FitText(int width);

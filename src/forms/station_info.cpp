@@ -40,8 +40,8 @@ constexpr const char* kFrameStyle =
 constexpr int kTextMargin = 6;
 constexpr int kWrappedMargin = 2;
 
-constexpr std::array<const char*, kModeButtons> kModeNames = {
-    "Prices and trades", "Information", "Ships for sale", "Equipment for sale"};
+constexpr std::array<TextId, kModeButtons> kModeNames = {
+    TextId::PricesAndTrades, TextId::Information, TextId::ShipsForSale, TextId::EquipmentForSale};
 
 }  // namespace
 
@@ -54,8 +54,9 @@ StationInfo::StationInfo(const StationParts& parts, std::string nickname, std::s
   MakeDecoration();
   MakeModes();
   infoText_ = new TextBox("InfoText", this);
-  infoText_->setAccessibleName("Information");
+  infoText_->setAccessibleName(Caption(TextId::Information));
   prices_ = new PriceTableView(this);
+  prices_->setAccessibleName(Caption(TextId::Prices));
   searchFrame_ = new QGroupBox(this);
   searchFrame_->setObjectName("SearchFrame");
   searchFrame_->setStyleSheet(kFrameStyle);
@@ -63,7 +64,7 @@ StationInfo::StationInfo(const StationParts& parts, std::string nickname, std::s
   searchList_ = new RowList(searchFrame_);
   searchList_->setObjectName("SearchList");
   searchList_->setFont(FormFont(kStationText));
-  searchList_->setAccessibleName("For sale");
+  searchList_->setAccessibleName(Caption(TextId::ForSale));
   QObject::connect(searchList_, &QListWidget::currentRowChanged, this,
                    [this](int row) { SearchListClick(row); });
   QObject::connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this,
@@ -99,7 +100,6 @@ void StationInfo::MakeModes() {
   for (std::size_t i = 0; i < kModeButtons; ++i) {
     auto* button = new QPushButton(this);
     button->setObjectName(QStringLiteral("Mode_%1").arg(i));
-    button->setAccessibleName(kModeNames[i]);
     button->setCheckable(true);
     button->setGeometry(
         PixelRect(kSide, kFirstMode + static_cast<int>(i) * kModeStep, kButton, kButton));
@@ -133,6 +133,10 @@ QSize StationInfo::Decoration() const {
   return settled_ ? frameGeometry().size() - size() : parts_.Decoration();
 }
 
+QString StationInfo::Caption(TextId id) const {
+  return QString::fromStdString(parts_.Texts.Text(id));
+}
+
 Wording StationInfo::Words() const {
   return {parts_.Texts, LocaleSigns()};
 }
@@ -155,7 +159,9 @@ void StationInfo::ShowModeTexts() {
   for (std::size_t i = 0; i < kModeButtons; ++i) {
     mode_[i]->setText(QString::fromStdString(buttons[i].Caption));
     mode_[i]->setFont(FormFont(buttons[i].FontSize));
-    mode_[i]->setToolTip(buttons[i].ToolTip.empty() ? QString(kModeNames[i])
+    const QString name = Caption(kModeNames[i]);
+    mode_[i]->setAccessibleName(name);
+    mode_[i]->setToolTip(buttons[i].ToolTip.empty() ? name
                                                     : QString::fromStdString(buttons[i].ToolTip));
   }
 }
@@ -210,9 +216,8 @@ void StationInfo::FormResize() {
     FillList();
     const TextMeasure& measure = modes_.Mode() == StationMode::Info ? fixedMeasure_ : formMeasure_;
     const QSize outer = OuterTwips(size(), Decoration());
-    const ControlList controls =
-        LayOutStation(universe, Words(), measure,
-                      {data_, texts_, modes_.Mode(), outer.width(), outer.height()});
+    const ControlList controls = LayOutStation(
+        universe, Words(), measure, {data_, texts_, modes_.Mode(), outer.width(), outer.height()});
     prices_->setVisible(isTable);
     infoText_->setVisible(!isTable);
     searchFrame_->setVisible(!isTable && modes_.Mode() != StationMode::Info);

@@ -66,6 +66,7 @@ class StationInfo : public QWidget {
   void FillList();
   const std::vector<ForSale>& ForSaleRows() const;
   Wording Words() const;
+  QString Caption(TextId id) const;
 
   const StationParts parts_;
   std::string nick_;

@@ -53,7 +53,6 @@ SysmapFrame::SysmapFrame(MapScene& scene, QWidget* parent)
   setContextMenuPolicy(Qt::PreventContextMenu);
   setMouseTracking(true);
   setFocusPolicy(Qt::StrongFocus);
-  setAccessibleName("Star map");
 }
 
 MapPointer SysmapFrame::PointerOf(const QMouseEvent& event, PointerButton button) const {

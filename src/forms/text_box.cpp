@@ -3,6 +3,7 @@
 
 #include <QTextOption>
 
+#include "forms/narrow_scroll_bar.h"
 #include "picture/form_font.h"
 
 namespace orrerix {
@@ -24,6 +25,7 @@ TextBox::TextBox(const char* name, QWidget* parent) : QPlainTextEdit(parent) {
   setUndoRedoEnabled(false);
   setFrameShape(QFrame::NoFrame);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  setVerticalScrollBar(new NarrowScrollBar(this));
   document()->setDocumentMargin(0);
   setTabStopDistance(8 * QFontMetricsF(font()).horizontalAdvance(' '));
   QPalette colors = palette();

@@ -7,6 +7,7 @@
 #include <QScreen>
 #include <QVBoxLayout>
 
+#include "forms/captions.h"
 #include "forms/painted_border.h"
 #include "forms/tiled_ground.h"
 #include "picture/form_font.h"
@@ -26,13 +27,13 @@ constexpr const char* kStyle =
 
 }  // namespace
 
-Update::Update(const std::string& toolTip, PictureStore& pictures) : pictures_(pictures) {
+Update::Update(const std::string& toolTip, PictureStore& pictures, Language language)
+    : pictures_(pictures) {
   setObjectName("Update");
-  setWindowTitle("Update online");
+  setWindowTitle(CaptionIn(language, TextId::UpdateTitle));
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
-  label1_ =
-      new QPushButton("A new Version is online. Click here to open the FL-Orrerix WebPage", this);
+  label1_ = new QPushButton(CaptionIn(language, TextId::UpdateNotice), this);
   label1_->setObjectName("Label1");
   label1_->setFont(FormFont(kFont));
   label1_->setStyleSheet(kStyle);

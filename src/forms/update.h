@@ -7,13 +7,14 @@
 #include <string>
 
 #include "picture/picture_store.h"
+#include "shell/text_id.h"
 
 namespace orrerix {
 
 // The notice that a later version is there.
 class Update : public QWidget {
  public:
-  Update(const std::string& toolTip, PictureStore& pictures);
+  Update(const std::string& toolTip, PictureStore& pictures, Language language);
 
   // A click on its label; the window was closed by the user.
   std::function<void()> OnLabel1Click;

@@ -18,13 +18,14 @@ QString Text(std::string_view text) {
 }  // namespace
 
 WindowHost::WindowHost(QWidget& form, ImportScreen& screen, MessageBoxes& messages, ErrorLog& log,
-                       const MemoryStatus& start, bool debugging)
+                       const MemoryStatus& start, bool debugging, const LanguageChoice& choice)
     : form_(form),
       screen_(screen),
       messages_(messages),
       log_(log),
       start_(start),
-      debugging_(debugging) {}
+      debugging_(debugging),
+      choice_(choice) {}
 
 void WindowHost::ShowText(std::string_view text) {
   screen_.Text1().setPlainText(Text(text));

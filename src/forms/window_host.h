@@ -13,7 +13,7 @@ class WindowHost : public ImportHost {
  public:
   // `start` is the memory as it was when the program started.
   WindowHost(QWidget& form, ImportScreen& screen, MessageBoxes& messages, ErrorLog& log,
-             const MemoryStatus& start, bool debugging);
+             const MemoryStatus& start, bool debugging, const LanguageChoice& choice);
 
   // The user has closed the form: the next yield ends the import.
   void End() { ended_ = true; }
@@ -26,6 +26,7 @@ class WindowHost : public ImportHost {
   void Yield() override;
   void Pause(int milliseconds) override;
   MessageAnswer Show(const Message& message) override { return messages_.Show(message); }
+  Language Speech() const override { return choice_.Current; }
   std::uint32_t TickCount() override;
   bool IsMinimised() const override { return form_.isMinimized(); }
   bool IsDebugging() const override { return debugging_; }
@@ -37,6 +38,7 @@ class WindowHost : public ImportHost {
   ErrorLog& log_;
   const MemoryStatus& start_;
   bool debugging_;
+  const LanguageChoice& choice_;
   bool ended_ = false;
 };
 

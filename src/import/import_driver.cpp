@@ -11,6 +11,7 @@
 #include "import/ini_reader.h"
 #include "import/resource_strings.h"
 #include "shell/files.h"
+#include "shell/language_texts.h"
 #include "shell/routine.h"
 
 namespace orrerix {
@@ -92,7 +93,7 @@ class ImportRun {
   void ReadLibrary(const std::string& library, std::int32_t place) {
     constexpr int stepsOfLibrary = 2;
     import_.AddSteps(routine_, stepsOfLibrary);
-    host_.AppendText("\r\n\r\nreading " + library + " Strings/XML-Code...");
+    host_.AppendText("\r\n\r\n" + FormatIn(host_.Speech(), TextId::ReadingLibrary, library));
     host_.Yield();
     ReadHTML_STRData(import_, order_.Game.Text() + "\\exe\\" + library,
                      RequireLong(static_cast<double>(place) * kNumbersPerLibrary));
@@ -144,14 +145,14 @@ class ImportRun {
     for (std::int32_t k = 0; k < count; ++k) {
       const DerivedStage& stage = stages[static_cast<std::size_t>(k)];
       import_.ProgressIt(count, k);
-      const std::string text = "\r\n\r\n" + std::string(stage.Text);
+      const std::string text = "\r\n\r\n" + std::string(TextIn(host_.Speech(), stage.Text));
       k < 2 ? host_.ShowText(text) : host_.AppendText(text);
       host_.Yield();
       routine_.Try([&] { stage.Calculate(import_.Target, host_); });
       if (k + 1 < count) CleanUp();
     }
     import_.ProgressIt(count, count);
-    host_.AppendText("\r\n\r\n(DONE)");
+    host_.AppendText("\r\n\r\n" + std::string(TextIn(host_.Speech(), TextId::ImportDone)));
     host_.Yield();
   }
 

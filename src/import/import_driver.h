@@ -15,7 +15,7 @@ namespace orrerix {
 
 // A calculation on what the files gave, with the text that is shown meanwhile.
 struct DerivedStage {
-  std::string_view Text;
+  TextId Text;
   std::function<void(Universe&, ImportHost&)> Calculate;
 };
 

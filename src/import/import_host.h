@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "platform/message_box.h"
+#include "shell/text_id.h"
 
 namespace orrerix {
 
@@ -35,6 +36,9 @@ class ImportHost {
   virtual void Yield() = 0;
   virtual void Pause(int milliseconds) = 0;
   virtual MessageAnswer Show(const Message& message) = 0;
+
+  // The language of the texts and messages.
+  virtual Language Speech() const { return Language::English; }
 
   virtual std::uint32_t TickCount() = 0;
   virtual bool IsMinimised() const = 0;

@@ -14,6 +14,7 @@
 #include "import/packed_ini.h"
 #include "import/windows1252.h"
 #include "platform/tick_count.h"
+#include "shell/language_texts.h"
 
 namespace orrerix {
 namespace fs = std::filesystem;
@@ -72,8 +73,8 @@ class Reader {
     const std::uint32_t now = import_.Host.TickCount();
     if (!IsDue(now, lastTick_) && !import_.Host.IsDebugging()) return;
     if (!import_.Host.IsMinimised()) {
-      import_.Host.ShowText("reading file " + file_ + "\r\n\r\n" +
-                            FromWindows1252(routine_.BlockCopy()));
+      import_.Host.ShowText(FormatIn(import_.Host.Speech(), TextId::ReadingFile, file_) +
+                            "\r\n\r\n" + FromWindows1252(routine_.BlockCopy()));
     }
     import_.ProgressIt(length, std::min(length, consumed));
     lastTick_ = import_.Host.TickCount();

@@ -6,6 +6,7 @@
 #include <fmt/format.h>
 
 #include "import/windows1252.h"
+#include "shell/language_texts.h"
 
 namespace orrerix {
 namespace {
@@ -70,9 +71,8 @@ void ReaderRoutine::LackOfMemory() {
     retryState_ = RetryState::None;
     return Routine::Fail(RuntimeFailure(failure_number::kOutOfMemory));
   }
-  const Message question{
-      "Out of Memory Error in Line 0! Please close other Applications and Retry or Quit Orrerix.",
-      "", MessageButtons::AbortRetryIgnore, MessageIcon::None};
+  const Message question{std::string(TextIn(import_.Host.Speech(), TextId::OutOfMemory)), "",
+                         MessageButtons::AbortRetryIgnore, MessageIcon::None};
   if (import_.Host.Show(question) == MessageAnswer::Abort) throw ImportEnded{};
 }
 

@@ -11,6 +11,7 @@
 #include "import/resource_library.h"
 #include "import/windows1252.h"
 #include "platform/tick_count.h"
+#include "shell/language_texts.h"
 #include "shell/routine.h"
 
 namespace orrerix {
@@ -112,8 +113,8 @@ void ReadHTML_STRData(Import& import, const std::string& path, std::int32_t offs
     const auto bytes = ReadBytes(import.Game, path);
     const auto library = bytes ? ResourceLibrary::Open(*bytes) : std::nullopt;
     if (!library) {
-      import.Host.Show({"DLL \"" + path + "\" dynamic link error!", "FL Orrerix",
-                        MessageButtons::Ok, MessageIcon::Exclamation});
+      import.Host.Show({FormatIn(import.Host.Speech(), TextId::LibraryLinkError, path),
+                        "FL Orrerix", MessageButtons::Ok, MessageIcon::Exclamation});
       return;
     }
     const std::string name = BareFileName(path);

@@ -7,6 +7,7 @@
 
 #include "import/resource_strings.h"
 #include "import/windows1252.h"
+#include "shell/language_texts.h"
 #include "shell/routine.h"
 
 namespace orrerix {
@@ -44,9 +45,9 @@ std::vector<TextBlock> ReadBlocks(const FileBytes& file) {
   std::vector<TextBlock> blocks;
   std::size_t position = kFirstRecord;
   do {
-    blocks.push_back({file.At(position) + (file.At(position + 1) << 8) +
-                          (file.At(position + 2) << 16),
-                      file.At(position + 4) + (file.At(position + 5) << 8)});
+    blocks.push_back(
+        {file.At(position) + (file.At(position + 1) << 8) + (file.At(position + 2) << 16),
+         file.At(position + 4) + (file.At(position + 5) << 8)});
     position += kRecordSize;
   } while (position < blocks.front().Offset && position <= file.Length());
   return blocks;
@@ -83,8 +84,9 @@ void ReadBlock(Import& import, Recordset& names, const FileBytes& file, const Te
     const std::string text = ReadString(file, block, length, position);
     if ((isLast && position >= block.End()) || text.size() >= kLongestString) continue;
     if (stored % kShownEvery == 0) {
-      import.Host.ShowText(fmt::format("Reading Textdata {}/{}\r\n\r\n{}", position, file.Length(),
-                                       FromWindows1252(text)));
+      import.Host.ShowText(
+          FormatIn(import.Host.Speech(), TextId::ReadingTexts, position, file.Length()) +
+          "\r\n\r\n" + FromWindows1252(text));
       import.Host.Yield();
     }
     names.AddNew();

@@ -10,9 +10,6 @@
 namespace orrerix {
 namespace {
 
-constexpr int kPriceText = 26;
-constexpr int kAmmoText = 16;
-
 // The program's arithmetic ends at the largest number.
 double Finite(double number) {
   if (!std::isfinite(number)) throw RuntimeFailure(failure_number::kOverflow);
@@ -59,14 +56,14 @@ class EquipmentWriter {
       }
     }
     Line([&] {
-      return "   " + wording_.Texts.TXT(kPriceText) + ": " +
+      return "   " + wording_.Texts.Text(TextId::Price) + ": " +
              NumberText(static_cast<std::int64_t>(total)) + "  -  " +
              GetChangeInfo(universe_, good["ids_info"].RequireLong());
     });
     if (count <= 0) return;
     Line([&] {
       return " incl. " + NumberText(static_cast<std::int64_t>(count)) + " X " +
-             wording_.Texts.TXT(kAmmoText) + " á $" + ammoPrice;
+             wording_.Texts.Text(TextId::Ammunition) + " á $" + ammoPrice;
     });
   }
 

@@ -12,7 +12,6 @@ namespace {
 
 constexpr std::string_view kSource = "OrrerixMain.Image1_MouseMove";
 constexpr std::string_view kLineEnd = "\r\n";
-constexpr int kAmmoText = 16;
 constexpr std::string_view kCommodityStart = "COMMODITY_";
 constexpr std::string_view kAmmoEnd = "_AMMO";
 
@@ -91,7 +90,7 @@ class HoverWriter {
     if (!IsAmmo(upper)) return good["realname"].Get().Text();
     Recordset gun =
         Named(routine_, universe_, "Goods", upper.substr(0, upper.size() - kAmmoEnd.size()));
-    return gun.AtEnd() ? "" : gun["realname"].Get().Text() + "-" + texts_.TXT(kAmmoText);
+    return gun.AtEnd() ? "" : gun["realname"].Get().Text() + "-" + texts_.Text(TextId::Ammunition);
   }
 
   Routine& routine_;

@@ -13,7 +13,6 @@ namespace {
 
 constexpr std::string_view kLineEnd = "\r\n";
 constexpr std::string_view kTwoLineEnds = "\r\n\r\n";
-constexpr int kOwnerText = 23;
 constexpr std::string_view kDockringStart = "Dockring:";
 constexpr std::size_t kBaseEndLength = 5;  // "_Base" behind a planet's nickname
 
@@ -56,7 +55,7 @@ class StationReader {
         object.AtEnd() ? std::string() : object["reputation"].Get().Text();
     if (!reputation.empty()) {
       data_.Caption +=
-          "  " + texts_.TXT(kOwnerText) + ": " + GetOwnerShortName(universe_, reputation);
+          "  " + texts_.Text(TextId::Owner) + ": " + GetOwnerShortName(universe_, reputation);
     }
     data_.Info = std::string(kLineEnd) + data_.Caption + std::string(kTwoLineEnds);
     if (object.AtEnd()) return;

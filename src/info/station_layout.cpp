@@ -13,8 +13,6 @@
 namespace orrerix {
 namespace {
 
-constexpr int kSelectShipText = 24;
-constexpr int kSelectEquipmentText = 25;
 constexpr int kGap = 50;        // between the left margin and a view
 constexpr int kBelow = 200;     // what a view leaves of the window's height
 constexpr int kListLeft = 120;  // of SearchList in its frame
@@ -65,7 +63,7 @@ ControlList ListView(Universe& universe, const Wording& wording, const TextMeasu
   Control frame =
       MakeFrame("SearchFrame", std::nullopt,
                 {kStationMargin, 0, frameWidth, static_cast<double>(room.Height)}, kBack);
-  frame.Caption = wording.Texts.TXT(ships ? kSelectShipText : kSelectEquipmentText);
+  frame.Caption = wording.Texts.Text(ships ? TextId::SelectShip : TextId::SelectEquipment);
   frame.ForeColor = kText;
   Control list =
       MakeFrame("SearchList", std::nullopt,

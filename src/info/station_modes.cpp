@@ -9,13 +9,6 @@
 namespace orrerix {
 namespace {
 
-constexpr int kToTradesText = 17;
-constexpr int kToPricesText = 20;
-constexpr int kBuyPricesText = 28;
-constexpr int kSellPricesText = 18;
-constexpr int kStandardSellPricesText = 19;
-constexpr int kTradesInsideText = 21;
-constexpr int kTradesOutsideText = 22;
 constexpr int kSymbolFont = 36;
 constexpr int kCountFont = 18;
 
@@ -28,15 +21,15 @@ ModeButton ListButton(std::size_t rows) {
 
 StationTexts ReadStationTexts(StationTexts before, StationMode mode, TextSource& texts) {
   StationTexts read = std::move(before);
-  read.Heads[2] = texts.TXT(kBuyPricesText);
+  read.Heads[2] = texts.Text(TextId::BuyPrices);
   if (mode == StationMode::Prices) {
-    read.PriceTip = texts.TXT(kToTradesText);
-    read.Heads[1] = texts.TXT(kSellPricesText);
-    read.Heads[0] = texts.TXT(kStandardSellPricesText);
+    read.PriceTip = texts.Text(TextId::SwitchToTrades);
+    read.Heads[1] = texts.Text(TextId::SellPrices);
+    read.Heads[0] = texts.Text(TextId::StandardSellPrices);
   } else if (mode == StationMode::Trades) {
-    read.PriceTip = texts.TXT(kToPricesText);
-    read.Heads[1] = texts.TXT(kTradesInsideText);
-    read.Heads[0] = texts.TXT(kTradesOutsideText);
+    read.PriceTip = texts.Text(TextId::SwitchToPrices);
+    read.Heads[1] = texts.Text(TextId::TradesInsideSystem);
+    read.Heads[0] = texts.Text(TextId::TradesOutsideSystem);
   }
   return read;
 }

@@ -11,8 +11,6 @@
 namespace orrerix {
 namespace {
 
-constexpr int kUnknownSystem = 15;
-
 // A place on one axis: the sector, and the tenth within it.
 struct Sector {
   double Whole;
@@ -52,7 +50,7 @@ CellNames GetSystemNames(Universe& universe, TextSource& texts) {
             routine, "SELECT * from Systems where pos = '{}'", {CellText({x, y})});
         if (system.AtEnd()) continue;
         std::string name = system["realname"].Get().Text();
-        names.Set({x, y}, name.empty() ? texts.TXT(kUnknownSystem) : std::move(name));
+        names.Set({x, y}, name.empty() ? texts.Text(TextId::UnknownSystem) : std::move(name));
       }
     }
   });

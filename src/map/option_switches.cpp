@@ -12,8 +12,6 @@
 namespace orrerix {
 namespace {
 
-constexpr int kHighestLanguage = 2;
-
 std::string IndexText(int which) {
   return fmt::format("Index: {}", which);
 }
@@ -62,9 +60,9 @@ SwitchAnswer OptionSwitches::SetLabelClick(int which, const MapOptions& shown) {
 
 // The languages are gone through downwards, from the first one to the last.
 SwitchAnswer OptionSwitches::NextLanguage() {
-  const int below = language_.CurrentLanguage - 1;
-  language_.CurrentLanguage = static_cast<std::int16_t>(below < 0 ? kHighestLanguage : below);
-  settings_.WriteSettingValue("LANG", NumberText(std::int64_t{language_.CurrentLanguage}));
+  const int below = static_cast<int>(language_.Current()) - 1;
+  language_.SetCurrent(static_cast<Language>(below < 0 ? static_cast<int>(kLanguages) - 1 : below));
+  settings_.WriteSettingValue("LANG", NumberText(static_cast<std::int64_t>(language_.Current())));
   SwitchAnswer answer;
   answer.LoadFormTXT = true;
   answer.Redraw = true;

@@ -28,7 +28,7 @@ class OptionSwitches {
   using PlaySound = std::function<void(std::string_view path)>;
 
   // All of these must outlive this.
-  OptionSwitches(ErrorLog& log, Settings& settings, Language& language, MapState& state,
+  OptionSwitches(ErrorLog& log, Settings& settings, LanguageFile& language, MapState& state,
                  PlaySound playSound)
       : log_(log),
         settings_(settings),
@@ -52,7 +52,7 @@ class OptionSwitches {
 
   ErrorLog& log_;
   Settings& settings_;
-  Language& language_;
+  LanguageFile& language_;
   MapState& state_;
   PlaySound playSound_;
 };

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "map/side_panel.h"
 
+#include <algorithm>
+
 #include <fmt/format.h>
 
 #include "db/number_text.h"
@@ -18,6 +20,13 @@ constexpr Color kNewsText{0xFFFF80};
 constexpr Color kCreditText{0xC0A080};
 
 constexpr int kTools = 5;
+constexpr std::array kToolTips = {TextId::SearchPlaces, TextId::SearchShips,
+                                  TextId::SearchEquipment, TextId::SearchBribes, TextId::PrintMap};
+// Of the six switches and the language.
+constexpr std::array kOptionTexts = {TextId::EmptyBackgrounds, TextId::SystemBackgrounds,
+                                     TextId::JumpGateLines,    TextId::JumpHoleLines,
+                                     TextId::TradeLaneLines,   TextId::SystemNames,
+                                     TextId::LanguageName};
 constexpr int kToolsMargin = 100;  // beside, and above and below their row, each in sum
 constexpr int kInnerLeft = 40;     // of the frames within the panel
 constexpr int kInnerRight = 20;
@@ -265,22 +274,19 @@ Control InfoFrameBelow(const Box& panel, const PanelContent& content) {
 }  // namespace
 
 PanelContent PanelTexts(TextSource& texts) {
-  constexpr std::array<int, kTools - 1> toolTips = {9, 10, 11, 27};
   PanelContent content;
-  for (int i = 0; i < kMapSwitches; ++i) {
-    content.Options[static_cast<std::size_t>(i)] = texts.TXT(i + 1);
-  }
-  content.Options[kLanguageLabel] = texts.TXT(0);
-  content.ShowOptions = texts.TXT(7);
-  content.Slogan = texts.TXT(8);
-  content.SloganTip = texts.TXT(13);
-  content.LogoTip = texts.TXT(14);
-  content.Credit = "Artwork: The Orrerix authors";
-  for (std::size_t i = 0; i < toolTips.size(); ++i) content.ToolTips[i] = texts.TXT(toolTips[i]);
-  content.ToolTips.back() = "Print Map";
-  content.News.push_back({"OX-Main-Webpage",
-                          "The Orrerix Project needs ur Support - click to open it´s MainPage.",
-                          ""});
+  const auto textsOf = [&](const auto& ids, auto& captions) {
+    std::transform(ids.begin(), ids.end(), captions.begin(),
+                   [&](TextId id) { return texts.Text(id); });
+  };
+  textsOf(kOptionTexts, content.Options);
+  textsOf(kToolTips, content.ToolTips);
+  content.ShowOptions = texts.Text(TextId::ShowOptions);
+  content.Slogan = texts.Text(TextId::Slogan);
+  content.SloganTip = texts.Text(TextId::SloganTip);
+  content.LogoTip = texts.Text(TextId::LogoTip);
+  content.Credit = texts.Text(TextId::ArtworkCredit);
+  content.News.push_back({texts.Text(TextId::MainPage), texts.Text(TextId::MainPageTip), ""});
   return content;
 }
 

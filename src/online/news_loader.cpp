@@ -7,6 +7,7 @@
 #include <fmt/format.h>
 
 #include "import/windows1252.h"
+#include "shell/language_texts.h"
 #include "shell/routine.h"
 
 namespace orrerix {
@@ -45,22 +46,25 @@ bool LooksLikeUtf8(std::string_view bytes) {
 }  // namespace
 
 NewsLoader::NewsLoader(ErrorLog& log, Network& network, MessageBoxes& messages,
-                       std::string newsAddress, std::filesystem::path applicationFolder)
+                       std::string newsAddress, std::filesystem::path applicationFolder,
+                       Language language)
     : log_(log),
       network_(network),
       messages_(messages),
       newsAddress_(std::move(newsAddress)),
-      applicationFolder_(std::move(applicationFolder)) {}
+      applicationFolder_(std::move(applicationFolder)),
+      language_(language) {}
 
-void NewsLoader::Command1_Click() {
+std::string NewsLoader::Fetch() {
+  std::string text;
   Routine routine(log_, "NewsLoader.Command1_Click", kLoading);
   routine.Run([&] {
-    text1_.clear();
-    if (!newsAddress_.empty()) text1_ = GetHTML(newsAddress_);
+    if (!newsAddress_.empty()) text = FetchText(newsAddress_);
   });
+  return text;
 }
 
-std::string NewsLoader::GetHTML(const std::string& address) {
+std::string NewsLoader::FetchText(const std::string& address) {
   std::string text;
   Routine routine(log_, "NewsLoader.GetHTML", kLoading);
   routine.Run([&] {
@@ -76,7 +80,7 @@ std::string NewsLoader::GetHTML(const std::string& address) {
   return text;
 }
 
-bool NewsLoader::GetRESOURCE(const std::string& address) {
+bool NewsLoader::SaveFile(const std::string& address) {
   const std::string name = StripPathHelper(address);
   if (!ShowNoConnectionHint()) return false;
   try {
@@ -85,8 +89,8 @@ bool NewsLoader::GetRESOURCE(const std::string& address) {
     file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
     file.close();
     if (file) return true;
-    messages_.Show(
-        {fmt::format("'{}' cannot be written", name), "", MessageButtons::Ok, MessageIcon::None});
+    messages_.Show({FormatIn(language_, TextId::CannotWrite, name), "", MessageButtons::Ok,
+                    MessageIcon::None});
   } catch (const NetworkError& error) {
     messages_.Show({error.what(), "", MessageButtons::Ok, MessageIcon::None});
   }
@@ -94,9 +98,9 @@ bool NewsLoader::GetRESOURCE(const std::string& address) {
 }
 
 bool NewsLoader::ShowNoConnectionHint() {
-  const bool isUp = DFÜStatus();
+  const bool isUp = IsOnline();
   if (!isUp) {
-    messages_.Show({"Keine Online Verbindung vorhanden ! Bitte einwählen !", "", MessageButtons::Ok,
+    messages_.Show({std::string(TextIn(language_, TextId::NoConnection)), "", MessageButtons::Ok,
                     MessageIcon::None});
   }
   return isUp;

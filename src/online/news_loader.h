@@ -7,31 +7,31 @@
 #include "platform/message_box.h"
 #include "platform/network.h"
 #include "shell/error_log.h"
+#include "shell/text_id.h"
 
 namespace orrerix {
 
 // Fetches the news.
 class NewsLoader {
  public:
-  // `newsAddress` may be empty: then nothing is fetched. Files go into the application folder.
+  // `newsAddress` may be empty: then nothing is fetched. Files go into the application folder,
+  // messages are in `language`.
   NewsLoader(ErrorLog& log, Network& network, MessageBoxes& messages, std::string newsAddress,
-             std::filesystem::path applicationFolder);
+             std::filesystem::path applicationFolder, Language language);
 
-  // Fetches the news text anew; empty if that failed.
-  void Command1_Click();
+  // The news text, UTF-8; empty if there is none or it cannot be fetched.
+  std::string Fetch();
 
-  // The text that came last, UTF-8.
-  const std::string& Text1() const { return text1_; }
+  // The text at an address; empty after a failure.
+  std::string FetchText(const std::string& address);
 
-  // The text behind an address; empty behind a failure.
-  std::string GetHTML(const std::string& address);
-
-  // Saves the file behind an address under its own name into the application folder. Without a
-  // connection it only says so. A failure shows its description. True if the file was written.
-  bool GetRESOURCE(const std::string& address);
+  // Saves the file at an address under its own name in the application folder. Without a connection
+  // it only says so. A failure shows its description. True if the file was written. Nothing in the
+  // program calls it; it is there for whoever wants pictures beside the news.
+  bool SaveFile(const std::string& address);
 
   // Whether there is a connection; the second says so if there is none.
-  bool DFÜStatus() const { return network_.IsUp(); }
+  bool IsOnline() const { return network_.IsUp(); }
   bool ShowNoConnectionHint();
 
  private:
@@ -40,7 +40,7 @@ class NewsLoader {
   MessageBoxes& messages_;
   std::string newsAddress_;
   std::filesystem::path applicationFolder_;
-  std::string text1_;
+  Language language_;
 };
 
 // What stands behind the last "\" or "/" of a path or an address; all of it if there is none.

@@ -9,23 +9,10 @@
 #include "db/text.h"
 #include "import/ini_text.h"
 #include "import/windows1252.h"
+#include "shell/language_texts.h"
 
 namespace orrerix {
 namespace {
-
-constexpr std::string_view kDefaultText =
-    "WARNING! The use of FL Orrerix will spoil the game for you.\r\n"
-    "If you dont search the hidden systems and wrecks on your own\r\n"
-    "--> you will miss much fun playing FreeLancer <--\r\n"
-    "\r\n"
-    "You should ONLY use OX (Orrerix) if you have discovered everything in FreeLancer.\r\n"
-    "\r\n"
-    "I suggest you use OX only on systems you allready searched.\r\n"
-    "Just to check if you missed something.\r\n"
-    "\r\n"
-    "Info: Every MOD can customize THIS Window! (Click here to read how to do that)\r\n"
-    "\r\n"
-    "Have fun playing, exploring and useing OX - Vantor.";
 
 constexpr std::string_view kTextMarker = "Text =";
 
@@ -43,9 +30,10 @@ class PassOver : public FailureSink {
 
 }  // namespace
 
-SpoilerTexts DefaultSpoilerTexts() {
-  return {"Default SPOILER-WARNING", std::string(kDefaultText), "OK - View MAP and spoil it",
-          "Cancel - Quit and search on my own"};
+SpoilerTexts DefaultSpoilerTexts(Language language) {
+  const auto text = [&](TextId id) { return std::string(TextIn(language, id)); };
+  return {text(TextId::SpoilerHeadLine), text(TextId::SpoilerText), text(TextId::SpoilerOk),
+          text(TextId::SpoilerCancel)};
 }
 
 SpoilerTexts WithModTexts(SpoilerTexts texts, std::string_view file) {
@@ -61,8 +49,8 @@ SpoilerTexts WithModTexts(SpoilerTexts texts, std::string_view file) {
   return texts;
 }
 
-SpoilerTexts ReadSpoilerTexts(const GameFolder& game) {
-  SpoilerTexts texts = DefaultSpoilerTexts();
+SpoilerTexts ReadSpoilerTexts(const GameFolder& game, Language language) {
+  SpoilerTexts texts = DefaultSpoilerTexts(language);
   const auto found = game.FindFile(game.Text() + "\\data\\OrrerixWarning.ini");
   if (!found) return texts;
   std::ifstream stream(*found, std::ios::binary);

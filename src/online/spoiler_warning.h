@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "platform/game_path.h"
+#include "shell/text_id.h"
 
 namespace orrerix {
 
@@ -18,7 +19,7 @@ struct SpoilerTexts {
 };
 
 // The program's own texts.
-SpoilerTexts DefaultSpoilerTexts();
+SpoilerTexts DefaultSpoilerTexts(Language language);
 
 // The texts of a mod's file in the place of the program's own: the keys "ok", "cancel" and
 // "headline", whatever their case, and behind "Text =", case and all, and one further character,
@@ -27,7 +28,7 @@ SpoilerTexts WithModTexts(SpoilerTexts texts, std::string_view file);
 
 // The texts of a game: its "\data\OrrerixWarning.ini" is read if it is there. One that cannot be
 // read leaves the program's own texts.
-SpoilerTexts ReadSpoilerTexts(const GameFolder& game);
+SpoilerTexts ReadSpoilerTexts(const GameFolder& game, Language language);
 
 // Stores in a universe file that its warning is off, or on again. Nothing is said of failures.
 void SetWarningOff(const std::filesystem::path& universeFile, bool off);

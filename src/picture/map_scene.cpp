@@ -78,6 +78,7 @@ void MapScene::ShowInFront(FrontLayer layer, ControlList controls) {
   qDeleteAll(shown.Items);
   shown.Controls = std::move(controls);
   MakeFrontItems(layer);
+  if (layer == FrontLayer::Box && OnBoxChanged) OnBoxChanged();
 }
 
 // Those of before must be gone.

@@ -3,6 +3,7 @@
 
 #include <QGraphicsScene>
 #include <array>
+#include <functional>
 #include <vector>
 
 #include "map/redraw.h"
@@ -37,6 +38,14 @@ class MapScene : public QGraphicsScene {
 
   // An element of a control array of the drawing; null if there is none.
   const Control* Find(std::string_view name, int index) const;
+
+  // Called when a box has been shown, moved or hidden.
+  std::function<void()> OnBoxChanged;
+
+  // What is shown in front of the map in a layer.
+  const ControlList& InFront(FrontLayer layer) const {
+    return front_[static_cast<std::size_t>(layer)].Controls;
+  }
 
   // Shows a control of the drawing in another size or place; it is known by name and index. One
   // that the drawing does not have changes nothing.

@@ -5,10 +5,12 @@
 
 #include <fmt/format.h>
 
+#include "shell/language_texts.h"
+
 namespace orrerix {
 
-ErrorLog::ErrorLog(MessageBoxes& messages, AppVersion version)
-    : messages_(messages), version_(version) {}
+ErrorLog::ErrorLog(MessageBoxes& messages, AppVersion version, const LanguageChoice& choice)
+    : messages_(messages), version_(version), choice_(choice) {}
 
 void ErrorLog::Load() {
   if (loaded_) return;
@@ -56,7 +58,7 @@ void ErrorLog::AddDataError(std::string_view source, const Failure& failure, std
   if (view_ != nullptr) view_->TextsChanged();
   constexpr int questionLines = 3;  // with the empty one above it
   const Message question{
-      entry + "\r\nOK = Resume Function behind Error.\r\nCancel = Abort Function and proceed.",
+      entry + "\r\n" + std::string(TextIn(choice_.Current, TextId::FailureQuestion)),
       fmt::format("FL Orrerix v{}.{} ERROR:", version_.Major, version_.Minor),
       MessageButtons::OkCancel, MessageIcon::Critical, questionLines};
   cancelled = messages_.Show(question) == MessageAnswer::Cancel;

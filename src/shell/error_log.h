@@ -9,6 +9,7 @@
 
 #include "db/failure.h"
 #include "platform/message_box.h"
+#include "shell/text_id.h"
 #include "shell/version.h"
 
 namespace orrerix {
@@ -33,7 +34,8 @@ struct FailureEntry {
 // operation; closing the window outside an import unloads it, and its texts are gone.
 class ErrorLog {
  public:
-  ErrorLog(MessageBoxes& messages, AppVersion version);
+  // `choice`, in whose language questions are asked, must outlive this.
+  ErrorLog(MessageBoxes& messages, AppVersion version, const LanguageChoice& choice = kEnglishOnly);
 
   // Appends one remark on the game's files and shows the window. Always false.
   bool AddErrorLine(std::string_view line);
@@ -71,6 +73,7 @@ class ErrorLog {
 
   MessageBoxes& messages_;
   AppVersion version_;
+  const LanguageChoice& choice_;
   ErrorLogView* view_ = nullptr;
   bool loaded_ = false;
   int loads_ = 0;

@@ -1,13 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "shell/language.h"
 
-#include <array>
-
 #include <fmt/format.h>
 
 #include "db/number_text.h"
 #include "shell/files.h"
-#include "shell/language_texts.h"
 #include "shell/routine.h"
 
 namespace orrerix {
@@ -24,28 +21,32 @@ TableDef LanguageTable(int number) {
 
 }  // namespace
 
-std::string FixedLanguage::TXT(int id) {
+std::string FixedLanguage::Text(TextId id) {
   return std::string(TextIn(language_, id));
 }
 
-Language::Language(ErrorLog& log, const fs::path& applicationFolder, JetVersionOption option)
-    : log_(log), path_(applicationFolder / "FLOX-Language.mdb"), option_(option) {}
+LanguageFile::LanguageFile(ErrorLog& log, const fs::path& applicationFolder,
+                           JetVersionOption option, LanguageChoice& choice)
+    : log_(log), path_(applicationFolder / "FLOX-Language.mdb"), option_(option), choice_(choice) {}
 
-std::string Language::TXT(int id) {
+std::string LanguageFile::Text(TextId id) {
+  const auto number = static_cast<int>(id);
+  if (number >= kStoredTexts) return std::string(TextIn(Current(), id));
   std::string text;
-  Routine routine(log_, "Settings.TXT", fmt::format("While reading setting: {}", id));
+  Routine routine(log_, "Settings.TXT", fmt::format("While reading setting: {}", number));
   routine.Run([&] {
     if (!FileExists(routine, path_)) InitLanguages();
     Database file = DBEngine::OpenDatabase(routine, path_);
     Recordset row = file.OpenRecordset(
-        routine, fmt::format("SELECT * from Lang{} where ID ={{}}", CurrentLanguage), {id});
+        routine, fmt::format("SELECT * from Lang{} where ID ={{}}", static_cast<int>(Current())),
+        {number});
     text = row.AtEnd() ? std::string(kMissingText) : row["Text"].Get().Text();
   });
   return text;
 }
 
-void Language::WriteText(FailureSink& sink, Database& file, std::string_view table, std::int16_t id,
-                         std::string_view text) {
+void LanguageFile::WriteText(FailureSink& sink, Database& file, std::string_view table,
+                             std::int16_t id, std::string_view text) {
   Recordset row = file.OpenRecordset(sink, fmt::format("SELECT * from {} where ID ={{}}", table),
                                      {id}, RecordsetType::Dynaset);
   if (row.AtEnd()) {
@@ -58,27 +59,24 @@ void Language::WriteText(FailureSink& sink, Database& file, std::string_view tab
   row.Update();
 }
 
-void Language::SetLanguage(std::int16_t id, std::string_view english, std::string_view german,
-                           std::string_view french) {
+void LanguageFile::SetLanguage(std::int16_t number, const TextColumns& texts) {
   Routine routine(log_, "Settings.SetLanguage", "While writing language-text");
   routine.Run([&] {
     Database file = DBEngine::OpenDatabase(routine, path_);
-    WriteTexts(routine, file, id, english, german, french);
+    WriteTexts(routine, file, number, texts);
   });
 }
 
-void Language::WriteTexts(Routine& routine, Database& file, std::int16_t id,
-                          std::string_view english, std::string_view german,
-                          std::string_view french) {
-  const std::array<std::string_view, 3> texts = {english, german, french};
-  for (int number = 0; number < static_cast<int>(texts.size()); ++number) {
-    const TableDef table = LanguageTable(number);
+void LanguageFile::WriteTexts(Routine& routine, Database& file, std::int16_t number,
+                              const TextColumns& texts) {
+  for (std::size_t language = 0; language < texts.size(); ++language) {
+    const TableDef table = LanguageTable(static_cast<int>(language));
     if (!file.HasTable(table.Name)) file.CreateTable(routine, table);
-    WriteText(routine, file, table.Name, id, texts[static_cast<std::size_t>(number)]);
+    WriteText(routine, file, table.Name, number, texts[language]);
   }
 }
 
-void Language::InitLanguages() {
+void LanguageFile::InitLanguages() {
   Routine routine(log_, "Settings.InitLanguages", "While writing default setting languages");
   routine.Run([&] {
     if (FileExists(routine, path_)) return Fill(routine, path_);
@@ -93,27 +91,24 @@ void Language::InitLanguages() {
 
 // One opened file and one transaction: the texts are written at every start. Its journal lets the
 // next start take back what a program that dies leaves half done.
-void Language::Fill(Routine& routine, const fs::path& path) {
+void LanguageFile::Fill(Routine& routine, const fs::path& path) {
   Database file = DBEngine::OpenDatabase(routine, path);
   if (file.IsOpen()) {
     file.ExecuteNative(routine, "PRAGMA synchronous = OFF");
     file.Begin(routine);
   }
-  for (const LanguageText& text : LanguageTexts()) {
+  for (const LanguageText& text : StoredTexts()) {
     Routine one(log_, "Settings.SetLanguage", "While writing language-text");
-    one.Run([&] {
-      WriteTexts(one, file, static_cast<std::int16_t>(text.ID), text.English, text.German,
-                 text.French);
-    });
+    one.Run([&] { WriteTexts(one, file, static_cast<std::int16_t>(text.Id), text.In); });
   }
   if (file.IsOpen()) file.Commit(routine);
 }
 
-void Language::CreateLanguageFile() {
+void LanguageFile::CreateLanguageFile() {
   CreateFile(path_);
 }
 
-void Language::CreateFile(const fs::path& path) {
+void LanguageFile::CreateFile(const fs::path& path) {
   Routine routine(log_, "Settings.CreateLanguageFile", "While creating language database");
   routine.Run([&] {
     Database file = DBEngine::CreateDatabase(routine, path, option_);

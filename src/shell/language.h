@@ -9,6 +9,7 @@
 
 #include "db/engine.h"
 #include "shell/error_log.h"
+#include "shell/language_texts.h"
 
 namespace orrerix {
 
@@ -19,31 +20,34 @@ class TextSource {
  public:
   virtual ~TextSource() = default;
 
-  // The text of a number in the current language, "?????" if there is none.
-  virtual std::string TXT(int id) = 0;
+  // The text in the language in use; "?????" for one of the language file that it lacks.
+  virtual std::string Text(TextId id) = 0;
 };
 
 // Texts straight from the program's table, for a fixed language.
 class FixedLanguage : public TextSource {
  public:
-  explicit FixedLanguage(int language) : language_(language) {}
-  std::string TXT(int id) override;
+  explicit FixedLanguage(Language language) : language_(language) {}
+  std::string Text(TextId id) override;
 
  private:
-  int language_;
+  Language language_;
 };
 
 // Texts read from "FLOX-Language.mdb" in the application folder: tables "Lang0" to "Lang9", of
-// which the program fills three. A missing file is made anew.
-class Language : public TextSource {
+// which the program fills one for each language. A missing file is made anew.
+class LanguageFile : public TextSource {
  public:
-  Language(ErrorLog& log, const std::filesystem::path& applicationFolder, JetVersionOption option);
+  // `choice` must outlive this.
+  LanguageFile(ErrorLog& log, const std::filesystem::path& applicationFolder,
+               JetVersionOption option, LanguageChoice& choice);
 
-  std::string TXT(int id) override;
+  // Texts that the file does not keep come from the program's table.
+  std::string Text(TextId id) override;
 
-  // Writes one text into the three tables, over what stands there; a table that is missing is made.
-  void SetLanguage(std::int16_t id, std::string_view english, std::string_view german,
-                   std::string_view french);
+  // Writes one text into the table of each language, over what stands there; a table that is
+  // missing is made. `number` is that of a TextId, or one of an editor's own.
+  void SetLanguage(std::int16_t number, const TextColumns& texts);
 
   // Writes all texts, each as SetLanguage does; edits made to the file by hand are gone then. A
   // file that is missing appears when it is complete.
@@ -54,20 +58,21 @@ class Language : public TextSource {
 
   const std::filesystem::path& Path() const { return path_; }
 
-  // Number of the language in use; it selects the table.
-  std::int16_t CurrentLanguage = 0;
+  // The language in use selects the table.
+  Language Current() const { return choice_.Current; }
+  void SetCurrent(Language language) { choice_.Current = language; }
 
  private:
   void CreateFile(const std::filesystem::path& path);
   void Fill(Routine& routine, const std::filesystem::path& path);
-  void WriteTexts(Routine& routine, Database& file, std::int16_t id, std::string_view english,
-                  std::string_view german, std::string_view french);
-  void WriteText(FailureSink& sink, Database& file, std::string_view table, std::int16_t id,
+  void WriteTexts(Routine& routine, Database& file, std::int16_t number, const TextColumns& texts);
+  void WriteText(FailureSink& sink, Database& file, std::string_view table, std::int16_t number,
                  std::string_view text);
 
   ErrorLog& log_;
   std::filesystem::path path_;
   JetVersionOption option_;
+  LanguageChoice& choice_;
 };
 
 }  // namespace orrerix

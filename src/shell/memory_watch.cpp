@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <limits>
 
-#include <fmt/format.h>
+#include "shell/language_texts.h"
 
 namespace orrerix {
 namespace {
@@ -47,9 +47,8 @@ std::string MemoryCaption(std::int32_t bytes, const NumberSeparators& separators
   return FormatGrouped(bytes / 1024.0 / 1024.0, 2, separators) + " MB ";
 }
 
-std::string MemoryHeadline(const MemoryStatus& start, const MemoryStatus& now) {
-  return fmt::format("Startup Memory Usage {}%     Actual Usage {}%", start.dwMemoryLoad,
-                     now.dwMemoryLoad);
+std::string MemoryHeadline(Language language, const MemoryStatus& start, const MemoryStatus& now) {
+  return FormatIn(language, TextId::MemoryUsage, start.dwMemoryLoad, now.dwMemoryLoad);
 }
 
 std::array<MemorySegment, 9> LayOutMemoryBars(const std::array<std::int32_t, 9>& figures,
@@ -57,8 +56,8 @@ std::array<MemorySegment, 9> LayOutMemoryBars(const std::array<std::int32_t, 9>&
   std::array<MemorySegment, 9> segments;
   const std::int16_t width = MIN_MAX_Int_helper(formWidth - left - kRightMargin);
   for (std::size_t first = 0; first < figures.size(); first += 3) {
-    const std::int64_t sum = static_cast<std::int64_t>(figures[first]) + figures[first + 1] +
-                             figures[first + 2];
+    const std::int64_t sum =
+        static_cast<std::int64_t>(figures[first]) + figures[first + 1] + figures[first + 2];
     const auto whole = static_cast<double>(std::clamp<std::int64_t>(sum, 1, kMost));
     MemorySegment& used = segments[first];
     MemorySegment& added = segments[first + 1];

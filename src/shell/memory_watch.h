@@ -8,6 +8,7 @@
 
 #include "db/number_text.h"
 #include "platform/memory_status.h"
+#include "shell/text_id.h"
 
 namespace orrerix {
 
@@ -20,7 +21,7 @@ std::array<std::int32_t, 9> MemoryFigures(const MemoryStatus& start, const Memor
 std::string MemoryCaption(std::int32_t bytes, const NumberSeparators& separators = {});
 
 // "Startup Memory Usage 12%     Actual Usage 15%"
-std::string MemoryHeadline(const MemoryStatus& start, const MemoryStatus& now);
+std::string MemoryHeadline(Language language, const MemoryStatus& start, const MemoryStatus& now);
 
 // One segment of a bar in twips.
 struct MemorySegment {

@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "shell/startup.h"
 
-#include <array>
-
 #include <fmt/format.h>
 
 #include "platform/folder_lock.h"
 #include "platform/game_path.h"
 #include "platform/shortcut.h"
 #include "shell/files.h"
+#include "shell/language_texts.h"
 #include "shell/routine.h"
 
 namespace orrerix {
@@ -42,11 +41,6 @@ bool IsOfVersion(Probe& probe, const fs::path& file, const AppVersion& version) 
   Recordset row = universe.OpenRecordset(probe, "SELECT * from Version");
   const std::string stamp = row.AtEnd() ? std::string() : row["Version"].Get().Text();
   return !probe.Failed() && stamp == version.Stamp();
-}
-
-std::string_view InLanguage(const std::array<std::string_view, 3>& texts, int language) {
-  const auto place = static_cast<std::size_t>(language);
-  return place < texts.size() ? texts[place] : texts.front();
 }
 
 }  // namespace
@@ -120,26 +114,14 @@ void MakeShortcuts(ErrorLog& log, FailureSink& routine, const GameRegistry& regi
   DeleteFile(routine, marker);
 }
 
-Message UniverseInUseQuestion(int language, const fs::path& file, const AppVersion& version) {
-  constexpr std::array<std::string_view, 3> texts = {
-      "The universe file '{}' is being used by another process. Retry = look again, Close = leave "
-      "the program. Nothing is deleted.",
-      "Die Universum-Datei '{}' wird von einem anderen Prozess benutzt. Retry = noch einmal "
-      "versuchen, Close = das Programm verlassen. Es wird nichts gelöscht.",
-      "Le fichier d'univers '{}' est utilisé par un autre processus. Retry = réessayer, Close = "
-      "quitter le programme. Rien n'est supprimé."};
-  return {fmt::format(fmt::runtime(InLanguage(texts, language)), file.string()),
-          MapCaption(version), MessageButtons::RetryLeave, MessageIcon::Exclamation};
+Message UniverseInUseQuestion(Language language, const fs::path& file, const AppVersion& version) {
+  return {FormatIn(language, TextId::UniverseInUse, file.string()), MapCaption(version),
+          MessageButtons::RetryLeave, MessageIcon::Exclamation};
 }
 
-Message FolderMissingMessage(int language, const fs::path& folder, const AppVersion& version) {
-  constexpr std::array<std::string_view, 3> texts = {
-      "The folder '{}' for the universe file cannot be made. The import does not start.",
-      "Der Ordner '{}' für die Universum-Datei kann nicht angelegt werden. Der Import beginnt "
-      "nicht.",
-      "Le dossier '{}' du fichier d'univers ne peut pas être créé. L'importation ne démarre pas."};
-  return {fmt::format(fmt::runtime(InLanguage(texts, language)), folder.string()),
-          MapCaption(version), MessageButtons::Ok, MessageIcon::Exclamation};
+Message FolderMissingMessage(Language language, const fs::path& folder, const AppVersion& version) {
+  return {FormatIn(language, TextId::SaveFolderMissing, folder.string()), MapCaption(version),
+          MessageButtons::Ok, MessageIcon::Exclamation};
 }
 
 std::string StartCaption(const AppVersion& version) {
@@ -150,13 +132,6 @@ std::string StartCaption(const AppVersion& version) {
 std::string MapCaption(const AppVersion& version) {
   return fmt::format("FL Orrerix v{}.{} Revision {}", version.Major, version.Minor,
                      version.Revision);
-}
-
-std::string MissingExecutableText(const std::string& registryPath) {
-  return "Problem finding [\\exe\\Freelancer.exe] in the folder of ur Registry-Setting:\r\n"
-         "HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Microsoft Games\\Freelancer\\1.0 Value AppPath  "
-         "which is showing:\r\n[" +
-         registryPath + "]\r\n\r\nTo fix it - REINSTALL FreeLancer! (or type the Path in...)";
 }
 
 }  // namespace orrerix

@@ -10,6 +10,7 @@
 #include "platform/message_box.h"
 #include "shell/error_log.h"
 #include "shell/game_registry.h"
+#include "shell/text_id.h"
 #include "shell/version.h"
 
 namespace orrerix {
@@ -51,17 +52,14 @@ void CreateLink(ErrorLog& log, const std::filesystem::path& target,
                 const std::filesystem::path& link);
 
 // The question whether to try again while another process works with the universe file, and the
-// message that its folder cannot be made, in a language by its number.
-Message UniverseInUseQuestion(int language, const std::filesystem::path& file,
+// message that its folder cannot be made.
+Message UniverseInUseQuestion(Language language, const std::filesystem::path& file,
                               const AppVersion& version);
-Message FolderMissingMessage(int language, const std::filesystem::path& folder,
+Message FolderMissingMessage(Language language, const std::filesystem::path& folder,
                              const AppVersion& version);
 
 // Captions of the main window before the first map, and with it.
 std::string StartCaption(const AppVersion& version);
 std::string MapCaption(const AppVersion& version);
-
-// The message that the game's executable is not in the folder of the path box.
-std::string MissingExecutableText(const std::string& registryPath);
 
 }  // namespace orrerix

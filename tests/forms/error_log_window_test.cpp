@@ -23,7 +23,8 @@ class ErrorLogWindowTest : public FormFixture {
   }
 
   bool importing = false;
-  ErrorLogWindow window{log, [this] { return importing; }};
+  LanguageChoice choice;
+  ErrorLogWindow window{log, [this] { return importing; }, choice};
 };
 
 TEST_F(ErrorLogWindowTest, ItComesWithTheFirstLine) {

@@ -119,7 +119,9 @@ class FormFixture : public ::testing::Test {
   FakePrinters printers;
   FakeNetwork network;
   PictureStore pictures;
-  FormParts parts{paths, {1, 0, 0}, log, registry, messages, sound, links, printers, network, pictures};
+  LanguageChoice choice;
+  FormParts parts{paths, {1, 0, 0}, log,     registry, messages, sound,
+                  links, printers,  network, pictures, choice};
 };
 
 }  // namespace orrerix

@@ -15,7 +15,8 @@ class ImportScreenTest : public FormFixture {
   }
 
   QWidget form;
-  ImportScreen screen{pictures, &form};
+  LanguageChoice choice;
+  ImportScreen screen{pictures, choice, &form};
 };
 
 TEST_F(ImportScreenTest, BeforeAnImportThereAreTextPathAndButton) {

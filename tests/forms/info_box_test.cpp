@@ -4,12 +4,14 @@
 #include <QAbstractScrollArea>
 #include <QImage>
 #include <QRegularExpression>
+#include <QScrollBar>
 #include <QTextBlock>
 #include <QTextLayout>
 
 #include <gtest/gtest.h>
 
 #include "info/box_controls.h"
+#include "picture/qt_text_measure.h"
 
 namespace orrerix {
 namespace {
@@ -18,7 +20,7 @@ namespace {
 TEST(InfoBox, HasItsOwnColoursAlsoOnAListsView) {
   QAbstractScrollArea map;
   map.setGeometry(0, 0, 300, 200);
-  InfoBox box(map.viewport());
+  InfoBox box("Information", map.viewport());
 
   box.Show({BoxShape({0, 0, 3000, 1500}, ShapeForm::Rectangle),
             BoxText({200, 150, 2550, 1200}, "Courette")});
@@ -49,7 +51,7 @@ TEST(InfoBox, AtEveryWidthItsTextBreaksBetweenWords) {
   const QRegularExpression withinWord("\\w\\w");
   QWidget map;
   map.resize(1000, 400);
-  InfoBox box(&map);
+  InfoBox box("Information", &map);
   map.show();
 
   // From less than one word to the whole line.
@@ -61,9 +63,30 @@ TEST(InfoBox, AtEveryWidthItsTextBreaksBetweenWords) {
   }
 }
 
+TEST(InfoBox, BreaksNoLineThatItWasMadeFor) {
+  std::string text;
+  for (int i = 0; i < 100; ++i) text += "a line of this text\r\n";
+  text += "and the longest line of them all, which the box is made for";
+  const QtTextMeasure measure(FixedFont);
+  const QString longest = QString::fromStdString(text).section('\n', -1);
+  const double width = measure.TextWidth(longest.toStdString(), 9) + 400;
+  QWidget map;
+  map.resize(1000, 400);
+  InfoBox box("Information", &map);
+  map.show();
+
+  // As the box for a text is laid out: the text has 450 twips less than its box.
+  box.Show({BoxShape({0, 0, width, 3000}, ShapeForm::Rectangle),
+            BoxText({200, 150, width - 450, 2700}, text)});
+
+  const auto& shown = *box.findChild<TextBox*>("InfoText");
+  EXPECT_TRUE(shown.verticalScrollBar()->isVisible());
+  EXPECT_EQ(BreaksOf(shown).size(), 0);
+}
+
 TEST(InfoBox, HidesWithoutControls) {
   QWidget map;
-  InfoBox box(&map);
+  InfoBox box("Information", &map);
   box.Show({BoxShape({0, 0, 3000, 1500}, ShapeForm::Rectangle),
             BoxText({200, 150, 2550, 1200}, "Courette")});
   ASSERT_FALSE(box.isHidden());

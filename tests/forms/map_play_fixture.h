@@ -146,7 +146,8 @@ class MapPlayFixture : public UniverseFixture, private MapForm {
   FakeSound sound;
   QWidget form;
   Settings settings{log, folder.Path(), JetVersionOption::Version30};
-  Language language{log, folder.Path(), JetVersionOption::Version30};
+  LanguageChoice choice;
+  LanguageFile language{log, folder.Path(), JetVersionOption::Version30, choice};
   MapScreen map{pictures, settings, language, &form};
   MapPlay play{map, *this, log, settings, language, sound};
 

@@ -134,8 +134,10 @@ TEST_F(MapPlayKeysTest, EveryStopHasANameInTheLanguageInUse) {
 
   play.SetLabelClick(6);
 
-  EXPECT_EQ(Button("SetImage_5").accessibleName().toStdString(), FixedLanguage(2).TXT(6));
-  EXPECT_EQ(Button("StationSearch_0").accessibleName().toStdString(), FixedLanguage(2).TXT(9));
+  EXPECT_EQ(Button("SetImage_5").accessibleName().toStdString(),
+            FixedLanguage(Language::French).Text(TextId::SystemNames));
+  EXPECT_EQ(Button("StationSearch_0").accessibleName().toStdString(),
+            FixedLanguage(Language::French).Text(TextId::SearchPlaces));
 }
 
 TEST_F(MapPlayKeysTest, AStopStandsOverItsControlAndLetsTheMouseThrough) {

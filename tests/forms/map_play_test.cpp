@@ -189,15 +189,20 @@ TEST_F(MapPlayTest, TheLanguagesAreGoneThroughWithAllCaptions) {
   for (const int number : {2, 1, 0}) {
     Click(OnPanel("SetLabel", 6));
 
-    FixedLanguage texts(number);
+    FixedLanguage texts(static_cast<Language>(number));
     EXPECT_EQ(settings.ReadSetting("LANG"), std::to_string(number));
-    EXPECT_EQ(Shown("SetLabel", 6)->Caption, texts.TXT(0));
-    EXPECT_EQ(Shown("ShowOptionsLabel", 0)->Caption, texts.TXT(7));
-    for (int i = 0; i < 6; ++i) EXPECT_EQ(Shown("SetLabel", i)->Caption, texts.TXT(i + 1));
-    EXPECT_EQ(Shown("StationSearch", 0)->ToolTip, texts.TXT(9));
-    EXPECT_EQ(Shown("StationSearch", 3)->ToolTip, texts.TXT(27));
-    EXPECT_EQ(Shown("WRTP", 0)->Caption, texts.TXT(8));
-    EXPECT_EQ(Shown("ImageClan", 0)->ToolTip, texts.TXT(14));
+    EXPECT_EQ(Shown("SetLabel", 6)->Caption, texts.Text(TextId::LanguageName));
+    EXPECT_EQ(Shown("ShowOptionsLabel", 0)->Caption, texts.Text(TextId::ShowOptions));
+    EXPECT_EQ(Shown("SetLabel", 0)->Caption, texts.Text(TextId::EmptyBackgrounds));
+    EXPECT_EQ(Shown("SetLabel", 1)->Caption, texts.Text(TextId::SystemBackgrounds));
+    EXPECT_EQ(Shown("SetLabel", 2)->Caption, texts.Text(TextId::JumpGateLines));
+    EXPECT_EQ(Shown("SetLabel", 3)->Caption, texts.Text(TextId::JumpHoleLines));
+    EXPECT_EQ(Shown("SetLabel", 4)->Caption, texts.Text(TextId::TradeLaneLines));
+    EXPECT_EQ(Shown("SetLabel", 5)->Caption, texts.Text(TextId::SystemNames));
+    EXPECT_EQ(Shown("StationSearch", 0)->ToolTip, texts.Text(TextId::SearchPlaces));
+    EXPECT_EQ(Shown("StationSearch", 3)->ToolTip, texts.Text(TextId::SearchBribes));
+    EXPECT_EQ(Shown("WRTP", 0)->Caption, texts.Text(TextId::Slogan));
+    EXPECT_EQ(Shown("ImageClan", 0)->ToolTip, texts.Text(TextId::LogoTip));
   }
   EXPECT_EQ(Shown("SetLabel", 6)->Caption, english);
   EXPECT_THAT(Sounds(), IsEmpty());

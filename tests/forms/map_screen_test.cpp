@@ -29,7 +29,7 @@ class MapScreenTest : public UniverseFixture {
   PictureStore pictures;
   QWidget form;
   Settings settings{log, folder.Path(), JetVersionOption::Version30};
-  FixedLanguage texts{0};
+  FixedLanguage texts{Language::English};
   MapScreen map{pictures, settings, texts, &form};
 };
 

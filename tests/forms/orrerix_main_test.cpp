@@ -37,7 +37,8 @@ class OrrerixMainTest : public FormFixture {
 
   const MemoryStatus startMemory = GlobalMemoryStatus();
   Settings settings{log, folder.Path(), JetVersionOption::Version30};
-  Language language{log, folder.Path(), JetVersionOption::Version30};
+  LanguageChoice choice;
+  LanguageFile language{log, folder.Path(), JetVersionOption::Version30, choice};
   std::optional<OrrerixMain> form;
   int unloads = 0;
 };

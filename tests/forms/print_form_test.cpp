@@ -26,7 +26,7 @@ class PrintFormTest : public FormFixture {
 
   std::string FailureOf(const std::optional<PrintTarget>& target) {
     try {
-      PrintForm(form, map, target);
+      PrintForm(form, map, target, Language::English);
     } catch (const Failure& failure) {
       EXPECT_EQ(failure.Number, 482);
       return failure.Description;
@@ -90,7 +90,7 @@ TEST_F(PrintFormTest, WhatReachesBeyondTheFormIsCutOff) {
 TEST_F(PrintFormTest, OnePageIsWritten) {
   const auto file = folder.Path() / "map.pdf";
 
-  PrintForm(form, map, PrintTarget{{}, file});
+  PrintForm(form, map, PrintTarget{{}, file}, Language::English);
 
   QFile pdf(QString::fromStdString(file.string()));
   ASSERT_TRUE(pdf.open(QIODevice::ReadOnly));

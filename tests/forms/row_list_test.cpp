@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "forms/row_list.h"
 
+#include <QHelpEvent>
 #include <QScrollBar>
+#include <QToolTip>
 
 #include <gtest/gtest.h>
 
@@ -46,6 +48,28 @@ TEST_F(RowListTest, ARowThatDoesNotFitIsShownAsFarAsItGoes) {
   list.resize(200, RowHeight() / 2 + 2 * list.frameWidth());
 
   EXPECT_EQ(list.viewport()->height(), RowHeight() / 2);
+}
+
+// What the list shows as a tool tip of its first row.
+QString TipOf(RowList& list) {
+  QToolTip::hideText();
+  const QPoint place = list.visualItemRect(list.item(0)).center();
+  QHelpEvent event(QEvent::ToolTip, place, list.viewport()->mapToGlobal(place));
+  QCoreApplication::sendEvent(list.viewport(), &event);
+  return QToolTip::isVisible() ? QToolTip::text() : QString();
+}
+
+TEST_F(RowListTest, ARowThatIsCutShowsItsWholeTextAsATip) {
+  list.resize(200, 100);
+  list.item(0)->setText("A row that is a good deal longer than the list is wide, & plain");
+
+  EXPECT_TRUE(TipOf(list).contains("wide, &amp; plain"));
+}
+
+TEST_F(RowListTest, ARowThatFitsHasNoTip) {
+  list.resize(200, 100);
+
+  EXPECT_EQ(TipOf(list), "");
 }
 
 }  // namespace

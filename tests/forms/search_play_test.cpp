@@ -115,6 +115,36 @@ TEST_F(SearchPlayTest, EnterGoesThroughTheSellersToTheJump) {
   EXPECT_FALSE(InfoShown());
 }
 
+TEST_F(SearchPlayTest, AfterAJumpTheMapHasTheKeyboard) {
+  search.StationSearchClick(SearchType::Place);
+  QTest::keyClicks(&Text(), "quay");
+
+  QTest::keyClick(&Text(), Qt::Key_Return);
+
+  EXPECT_EQ(map.Frame().window()->focusWidget(), &map.Frame());
+}
+
+TEST_F(SearchPlayTest, TheListThatGrowsLeavesTheCloseButtonFree) {
+  search.StationSearchClick(SearchType::Equipment);
+  QTest::keyClicks(&Text(), "lamp");
+
+  QTest::keyClick(&Text(), Qt::Key_Return);
+
+  EXPECT_FALSE(Lower().geometry().intersects(Part("StSearchClose").geometry()));
+}
+
+TEST_F(SearchPlayTest, AHoverBoxStandsInFrontOfThePanel) {
+  search.StationSearchClick(SearchType::Place);
+  play.SysmapFrameMouseMove(PointerButton::None, 0, 0);
+
+  play.Image1MouseMove(*Icon("quay").Index);
+
+  ASSERT_TRUE(play.Box().IsHoverBox());
+  EXPECT_TRUE(Part("HoverOverlay").isVisible());
+  const QObjectList& children = map.Frame().children();
+  EXPECT_GT(children.indexOf(&Part("HoverOverlay")), children.indexOf(&Part("StSearchFrame")));
+}
+
 TEST_F(SearchPlayTest, ADoubleClickOnAPlaceJumpsToo) {
   search.StationSearchClick(SearchType::Place);
   const QPoint row = Lower().visualItemRect(Lower().item(4)).center();
@@ -183,13 +213,13 @@ TEST_F(SearchPlayTest, TheCaptionStandsAtTheHeadInTheLanguageInUse) {
 
   const QLabel& caption = Part<QLabel>("StSearchCaption");
   EXPECT_TRUE(caption.isVisible());
-  EXPECT_EQ(caption.text().toStdString(), language.TXT(12));
+  EXPECT_EQ(caption.text().toStdString(), language.Text(TextId::SearchHead));
   EXPECT_LE(caption.geometry().bottom(), Text().geometry().top());
   EXPECT_GE(caption.height(), caption.fontMetrics().height());
 
-  language.CurrentLanguage = 1;
+  language.SetCurrent(Language::German);
   search.StationSearchClick(SearchType::Ship);
-  EXPECT_EQ(caption.text().toStdString(), language.TXT(12));
+  EXPECT_EQ(caption.text().toStdString(), language.Text(TextId::SearchHead));
 }
 
 TEST_F(SearchPlayTest, AQuoteIsAFailureAndThePanelGoesOn) {

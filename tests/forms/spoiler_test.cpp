@@ -42,9 +42,9 @@ class SpoilerTest : public ::testing::Test {
     PassEvents();
   }
 
-  SpoilerTexts texts = DefaultSpoilerTexts();
+  SpoilerTexts texts = DefaultSpoilerTexts(Language::English);
   PictureStore pictures;
-  Spoiler form{texts, pictures};
+  Spoiler form{texts, pictures, Language::English};
 };
 
 TEST_F(SpoilerTest, ItShowsItsTexts) {
@@ -57,7 +57,7 @@ TEST_F(SpoilerTest, ItShowsItsTexts) {
 TEST_F(SpoilerTest, AModsTextIsNoMarkup) {
   texts.HeadLine = "<b>Beware</b>";
   texts.Text = "<h1>Dragons</h1>";
-  Spoiler mods(texts, pictures);
+  Spoiler mods(texts, pictures, Language::English);
 
   EXPECT_EQ(Find<QLabel>(mods, "HeadLine").textFormat(), Qt::PlainText);
   EXPECT_EQ(Find<QPlainTextEdit>(mods, "Text").toPlainText(), "<h1>Dragons</h1>");
@@ -67,7 +67,7 @@ TEST_F(SpoilerTest, OkAcceptsAndCancelRejects) {
   QTest::mouseClick(&Find(form, "Command1_0"), Qt::LeftButton);
   EXPECT_EQ(form.result(), QDialog::Accepted);
 
-  Spoiler other(texts, pictures);
+  Spoiler other(texts, pictures, Language::English);
   other.show();
   QTest::mouseClick(&Find(other, "Command1_1"), Qt::LeftButton);
   EXPECT_EQ(other.result(), QDialog::Rejected);
@@ -102,7 +102,7 @@ TEST_F(SpoilerTest, TheCheckBoxAndTheTextTellOfClicks) {
 
 TEST_F(SpoilerTest, NoLineOfAShortTextIsBroken) {
   texts.Text = "Here be dragons.\r\nMany of them.";
-  Spoiler mods(texts, pictures);
+  Spoiler mods(texts, pictures, Language::English);
   mods.resize(1200, 800);
   mods.show();
   PassEvents();
@@ -120,7 +120,7 @@ TEST_F(SpoilerTest, ItsFaceHasTheMetricsOfCourier) {
 
 TEST_F(SpoilerTest, TheTextTakesTheLargestSizeThatFitsTheBoxFromEdgeToEdge) {
   texts.Text = "Here be dragons, 33 letters wide.";
-  Spoiler mods(texts, pictures);
+  Spoiler mods(texts, pictures, Language::English);
   mods.resize(1200, 800);
   mods.show();
   PassEvents();
@@ -136,7 +136,7 @@ TEST_F(SpoilerTest, TheTextTakesTheLargestSizeThatFitsTheBoxFromEdgeToEdge) {
 
 TEST_F(SpoilerTest, AButtonsSizeDependsOnItsWidthAlone) {
   texts.Ok = "Go";
-  Spoiler mods(texts, pictures);
+  Spoiler mods(texts, pictures, Language::English);
   mods.resize(1200, 800);
   mods.show();
   PassEvents();

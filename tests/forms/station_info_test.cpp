@@ -54,8 +54,8 @@ class StationInfoTest : public StationFixture {
   QSize decoration{0, 0};
   // A player who changes the language while the window is open.
   struct ChangingTexts : TextSource {
-    int Language = 0;
-    std::string TXT(int id) override { return FixedLanguage(Language).TXT(id); }
+    Language InUse = Language::English;
+    std::string Text(TextId id) override { return FixedLanguage(InUse).Text(id); }
   } texts;
 
  private:
@@ -137,7 +137,7 @@ TEST_F(StationInfoTest, EveryLayOutFillsTheListAnewAndSelectsItsFirstEntry) {
 
 TEST_F(StationInfoTest, ItsTextsKeepTheLanguageInWhichItsDataWasRead) {
   ClickMode(0);
-  texts.Language = 1;
+  texts.InUse = Language::German;
 
   Window().resize(900, 500);
   PassEvents();

@@ -19,11 +19,12 @@ class StationWindowsTest : public FormFixture {
     db.CreateTable(mustWork, DockObjectsTable());
   }
 
-  FixedLanguage english{0};
+  FixedLanguage english{Language::English};
   CellNames names;
   FailTest mustWork;
   Database db = DBEngine::CreateInMemory(mustWork);
-  StationWindows stations{{log, pictures, sound, english, names, [this](Routine&) {
+  StationWindows stations{{log, pictures, sound, english, names,
+                           [this](Routine&) {
                              return Universe{log, db};
                            },
                            [] { return QSize(0, 0); }}};

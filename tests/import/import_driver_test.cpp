@@ -94,13 +94,13 @@ mass = 22
 
   // One derived stage that makes a table of its own.
   std::vector<DerivedStage> Stages() {
-    return {{"Calculation of Jumpholes and Jumpgates...",
+    return {{TextId::CalculatingJumps,
              [](Universe& target, ImportHost&) {
                Routine routine(target.Log, "OrrerixMain.CalcJumpObjects");
                routine.Run([&] { target.DB.CreateTable(routine, JumpNodesTable()); });
              }},
-            {"Second...", [](Universe&, ImportHost&) {}},
-            {"Third...", [](Universe&, ImportHost&) {}}};
+            {TextId::CalculatingLanes, [](Universe&, ImportHost&) {}},
+            {TextId::CalculatingDocks, [](Universe&, ImportHost&) {}}};
   }
 
   bool Run() { return ImportGame(log, host, db, Order(), Stages()); }
@@ -242,10 +242,11 @@ TEST_F(GameImport, TellsWhatItIsDoing) {
 
   const std::string names = "\r\n\r\nreading Names.dll Strings/XML-Code...";
   const std::string cards = "\r\n\r\nreading Cards.dll Strings/XML-Code...";
+  const std::string lanes = "\r\n\r\nCalculation of Tradelanes...";
+  const std::string docks = "\r\n\r\nCalculation of Stations, Planets, DockingRings...";
   EXPECT_THAT(texts, ElementsAre("", names, names + cards,
-                                 "\r\n\r\nCalculation of Jumpholes and Jumpgates...",
-                                 "\r\n\r\nSecond...", "\r\n\r\nSecond...\r\n\r\nThird...",
-                                 "\r\n\r\nSecond...\r\n\r\nThird...\r\n\r\n(DONE)"));
+                                 "\r\n\r\nCalculation of Jumpholes and Jumpgates...", lanes,
+                                 lanes + docks, lanes + docks + "\r\n\r\n(DONE)"));
 }
 
 TEST_F(GameImport, AMissingFileOfBasesIsALineInTheLog) {

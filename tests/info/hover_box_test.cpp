@@ -85,7 +85,7 @@ class HoverBoxTest : public UniverseFixture {
     return OpenHoverBox(universe, names, english, measure, Drawing(), icon);
   }
 
-  FixedLanguage english{0};
+  FixedLanguage english{Language::English};
   CellNames names;
   FixedTextMeasure measure;
 };

@@ -52,11 +52,8 @@ TEST_F(Hover, AnOwnedObjectTellsNameOwnerAndPlace) {
 }
 
 TEST_F(Hover, AnObjectWhosePlaceIsUnknownHasAnEmptyLineForIt) {
-  Add("DockObjects", {{"nickname", "pier"},
-                      {"realname", "Pier Nine"},
-                      {"MapX", 7},
-                      {"MapY", 4},
-                      {"PosY", 0.5}});
+  Add("DockObjects",
+      {{"nickname", "pier"}, {"realname", "Pier Nine"}, {"MapX", 7}, {"MapY", 4}, {"PosY", 0.5}});
   Object("pier", "lamp_grp", "");
 
   EXPECT_EQ(Text("pier"),
@@ -176,7 +173,7 @@ TEST_F(Hover, AmmunitionIsNamedAfterItsGun) {
   Good("flare", "Flare Gun", 900);
   Cargo("Flare_Ammo", 50);
 
-  EXPECT_EQ(Rows(), " 50 x Flare Gun-" + english.TXT(16) + " á 4 = 200\r\nwreck");
+  EXPECT_EQ(Rows(), " 50 x Flare Gun-" + english.Text(TextId::Ammunition) + " á 4 = 200\r\nwreck");
 }
 
 TEST_F(Hover, AmmunitionWhoseGunIsMissingHasNoName) {

@@ -61,7 +61,7 @@ class InfoText : public UniverseFixture {
   }
   std::string Equipment(std::string_view nickname) { return Text(nickname, InfoType::Equipment); }
 
-  FixedLanguage english{0};
+  FixedLanguage english{Language::English};
   Wording words{english, {}};
 };
 

@@ -29,14 +29,17 @@ class SearchPanelTest : public UniverseFixture {
   void Equipment() {
     Places();
     for (const char* name : {"beam", "lamp"}) {
-      Add("Goods",
-          {{"nickname", name}, {"realname", name}, {"category", "equipment"}, {"price", 5}, {"ids_info", 0}});
+      Add("Goods", {{"nickname", name},
+                    {"realname", name},
+                    {"category", "equipment"},
+                    {"price", 5},
+                    {"ids_info", 0}});
     }
     Add("BaseGoods", {{"Base", "cove"}, {"GoodNick", "beam"}});
     Add("BaseGoods", {{"Base", "anvil"}, {"GoodNick", "beam"}});
   }
 
-  FixedLanguage english{0};
+  FixedLanguage english{Language::English};
   Wording words{english, {}};
   FixedTextMeasure measure;
   MapDrawing drawing;

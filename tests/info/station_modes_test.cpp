@@ -14,12 +14,12 @@ StationData Shop() {
 }
 
 TEST(StationTexts, AreSetForThePriceViewThatIsRead) {
-  FixedLanguage english{0};
+  FixedLanguage english{Language::English};
 
   const StationTexts prices = ReadStationTexts({}, StationMode::Prices, english);
-  EXPECT_EQ(prices.Heads, (std::array<std::string, 3>{"Commodities Standard Sell Prices",
-                                                      "Commodities Sell Prices",
-                                                      "Commodities Buy Prices"}));
+  EXPECT_EQ(prices.Heads,
+            (std::array<std::string, 3>{"Commodities Standard Sell Prices",
+                                        "Commodities Sell Prices", "Commodities Buy Prices"}));
   EXPECT_EQ(prices.PriceTip,
             "U r in Pricelist - Click to switch to best Traderunnlist for System.");
 
@@ -31,8 +31,8 @@ TEST(StationTexts, AreSetForThePriceViewThatIsRead) {
 }
 
 TEST(StationTexts, TheOtherViewsLeaveAllButTheHeadOfWhatIsSold) {
-  FixedLanguage english{0};
-  FixedLanguage german{1};
+  FixedLanguage english{Language::English};
+  FixedLanguage german{Language::German};
 
   const StationTexts before = ReadStationTexts({}, StationMode::Trades, english);
   const StationTexts after = ReadStationTexts(before, StationMode::Info, german);

@@ -71,7 +71,7 @@ TEST_F(TextInfoBox, AMapWithoutRoomHasABoxWithoutSize) {
 }
 
 TEST_F(TextInfoBox, WithoutATextThereIsNoBox) {
-  FixedLanguage english{0};
+  FixedLanguage english{Language::English};
 
   EXPECT_THAT(ShowInfoTextType(universe, Wording{english, {}}, measure, Drawing(), "nothing",
                                InfoType::Ship),
@@ -79,7 +79,7 @@ TEST_F(TextInfoBox, WithoutATextThereIsNoBox) {
 }
 
 TEST_F(TextInfoBox, AFactionsBoxHasItsText) {
-  FixedLanguage english{0};
+  FixedLanguage english{Language::English};
   Add("Groups", {{"NickName", "lamp_grp"}, {"Name", "The Lamps"}, {"ids_info", 0}});
 
   const ControlList box = ShowInfoTextType(universe, Wording{english, {}}, measure, Drawing(),

@@ -19,7 +19,7 @@ class MapCoords : public UniverseFixture {
     return CoordsToMapCoords(log, names, {7, 4}, {x, y});
   }
 
-  FixedLanguage english{0};
+  FixedLanguage english{Language::English};
 };
 
 TEST_F(MapCoords, TheMiddleOfASystemIsInTheFourthSector) {
@@ -61,7 +61,7 @@ TEST_F(MapCoords, NamesAreFoundByTheTextOfTheCell) {
 
 TEST_F(MapCoords, ASystemWithoutANameIsUnknownInTheLanguageInUse) {
   System("7, 4", "");
-  FixedLanguage german{1};
+  FixedLanguage german{Language::German};
 
   EXPECT_EQ(GetSystemNames(universe, english).Of({7, 4}), "Unknown System");
   EXPECT_EQ(GetSystemNames(universe, german).Of({7, 4}), "Unbekanntes System");

@@ -37,7 +37,8 @@ class Switches : public ::testing::Test {
   ErrorLog log{messages, AppVersion{1, 0, 0}};
   TempFolder folder;
   Settings settings{log, folder.Path(), JetVersionOption::Version30};
-  Language language{log, folder.Path(), JetVersionOption::Version30};
+  LanguageChoice choice;
+  LanguageFile language{log, folder.Path(), JetVersionOption::Version30, choice};
   MapState state;
   // What a setting held when the sound came, sound by sound.
   std::vector<std::string> stored;
@@ -124,7 +125,7 @@ TEST_F(Switches, AClickOnACaptionIsAClickOnItsBox) {
 TEST_F(Switches, TheLanguagesAreGoneThroughDownwards) {
   const SwitchAnswer answer = ClickLabel(6);
 
-  EXPECT_EQ(language.CurrentLanguage, 2);
+  EXPECT_EQ(language.Current(), Language::French);
   EXPECT_EQ(settings.ReadSetting("LANG"), "2");
   EXPECT_TRUE(answer.LoadFormTXT);
   EXPECT_TRUE(answer.Redraw);
@@ -133,13 +134,13 @@ TEST_F(Switches, TheLanguagesAreGoneThroughDownwards) {
 }
 
 TEST_F(Switches, ThreeClicksOnTheLanguageReturnToTheStart) {
-  std::vector<int> languages;
+  std::vector<Language> languages;
   for (int i = 0; i < 3; ++i) {
     ClickLabel(6);
-    languages.push_back(language.CurrentLanguage);
+    languages.push_back(language.Current());
   }
 
-  EXPECT_THAT(languages, ElementsAre(2, 1, 0));
+  EXPECT_THAT(languages, ElementsAre(Language::French, Language::German, Language::English));
   EXPECT_EQ(settings.ReadSetting("LANG"), "0");
 }
 

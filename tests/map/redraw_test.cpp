@@ -100,7 +100,7 @@ class Redraw : public UniverseFixture {
   std::optional<MapOptions> switches;
   MapState state;
   FixedTextMeasure measure;
-  FixedLanguage english{0};
+  FixedLanguage english{Language::English};
   PanelContent panel = PanelTexts(english);
 };
 

@@ -39,7 +39,7 @@ class Panel : public ::testing::Test {
   ErrorLog log{messages, AppVersion{1, 0, 0}};
   const MapOptions switches = MapOptions::Defaults(false);
   bool printMode = false;
-  FixedLanguage english{0};
+  FixedLanguage english{Language::English};
   PanelContent content = PanelTexts(english);
   FixedTextMeasure measure;
 };

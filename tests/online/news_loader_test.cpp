@@ -34,7 +34,7 @@ class FakeNetwork : public Network {
 class NewsLoaderTest : public ::testing::Test {
  protected:
   NewsLoader Loader(const std::string& address = "http://x.example/news") {
-    return NewsLoader(log, network, messages, address, folder.Path());
+    return NewsLoader(log, network, messages, address, folder.Path(), language);
   }
   std::string Saved(const char* name) {
     std::ifstream file(folder.Path() / name, std::ios::binary);
@@ -46,39 +46,28 @@ class NewsLoaderTest : public ::testing::Test {
   TempFolder folder;
   FakeNetwork network;
   FakeMessageBoxes messages;
+  Language language = Language::German;
   ErrorLog log{messages, {1, 0, 0}};
 };
 
 TEST_F(NewsLoaderTest, TheTextBehindTheAddressIsKept) {
   network.Answer = "1.5\r\n";
-  NewsLoader loader = Loader();
 
-  loader.Command1_Click();
-
-  EXPECT_EQ(loader.Text1(), "1.5\r\n");
+  EXPECT_EQ(Loader().Fetch(), "1.5\r\n");
   EXPECT_THAT(network.Asked, ElementsAre("http://x.example/news"));
 }
 
 TEST_F(NewsLoaderTest, WithoutAnAddressNothingIsFetchedAndNothingFails) {
-  NewsLoader loader = Loader("");
+  EXPECT_EQ(Loader("").Fetch(), "");
 
-  loader.Command1_Click();
-
-  EXPECT_EQ(loader.Text1(), "");
   EXPECT_THAT(network.Asked, IsEmpty());
   EXPECT_THAT(log.Failures(), IsEmpty());
 }
 
 TEST_F(NewsLoaderTest, AFailureAsksTheUserAndLeavesAnEmptyText) {
-  network.Answer = "1.5\r\n";
-  NewsLoader loader = Loader();
-  loader.Command1_Click();
-  network.Answer.reset();
-
   for (const auto answer : {MessageAnswer::Ok, MessageAnswer::Cancel}) {
     messages.Answer = answer;
-    loader.Command1_Click();
-    EXPECT_EQ(loader.Text1(), "");
+    EXPECT_EQ(Loader().Fetch(), "");
   }
 
   ASSERT_THAT(log.Failures(), SizeIs(2));
@@ -90,15 +79,15 @@ TEST_F(NewsLoaderTest, AFailureAsksTheUserAndLeavesAnEmptyText) {
 
 TEST_F(NewsLoaderTest, TextsAreUtf8OrElseOfTheGamesCharacterSet) {
   network.Answer = "\xC3\xA4 1";
-  EXPECT_EQ(Loader().GetHTML("http://x"), "ä 1");
+  EXPECT_EQ(Loader().FetchText("http://x"), "ä 1");
   network.Answer = "\xE4 1";
-  EXPECT_EQ(Loader().GetHTML("http://x"), "ä 1");
+  EXPECT_EQ(Loader().FetchText("http://x"), "ä 1");
 }
 
 TEST_F(NewsLoaderTest, AFileIsSavedUnderItsOwnName) {
   network.Answer = std::string("a\0b", 3);
 
-  EXPECT_TRUE(Loader().GetRESOURCE("http://x.example/pictures/logo.gif"));
+  EXPECT_TRUE(Loader().SaveFile("http://x.example/pictures/logo.gif"));
 
   EXPECT_EQ(Saved("logo.gif"), std::string("a\0b", 3));
 }
@@ -106,15 +95,25 @@ TEST_F(NewsLoaderTest, AFileIsSavedUnderItsOwnName) {
 TEST_F(NewsLoaderTest, WithoutAConnectionAFileIsNotEvenAskedFor) {
   network.Up = false;
 
-  EXPECT_FALSE(Loader().GetRESOURCE("http://x.example/logo.gif"));
+  EXPECT_FALSE(Loader().SaveFile("http://x.example/logo.gif"));
 
   EXPECT_THAT(network.Asked, IsEmpty());
   ASSERT_THAT(messages.Shown, SizeIs(1));
   EXPECT_EQ(messages.Shown[0].Text, "Keine Online Verbindung vorhanden ! Bitte einwählen !");
 }
 
+TEST_F(NewsLoaderTest, TheMessageAboutTheConnectionIsInTheLanguageInUse) {
+  network.Up = false;
+  language = Language::English;
+
+  EXPECT_FALSE(Loader().SaveFile("http://x.example/logo.gif"));
+
+  ASSERT_THAT(messages.Shown, SizeIs(1));
+  EXPECT_EQ(messages.Shown[0].Text, "No online connection! Please dial in!");
+}
+
 TEST_F(NewsLoaderTest, AFileThatDoesNotComeIsToldInAPlainMessage) {
-  EXPECT_FALSE(Loader().GetRESOURCE("http://x.example/logo.gif"));
+  EXPECT_FALSE(Loader().SaveFile("http://x.example/logo.gif"));
 
   ASSERT_THAT(messages.Shown, SizeIs(1));
   EXPECT_EQ(messages.Shown[0].Text, "The server does not answer");
@@ -124,7 +123,7 @@ TEST_F(NewsLoaderTest, AFileThatDoesNotComeIsToldInAPlainMessage) {
 TEST_F(NewsLoaderTest, AFileWithoutANameCannotBeSaved) {
   network.Answer = "x";
 
-  EXPECT_FALSE(Loader().GetRESOURCE("http://x.example/"));
+  EXPECT_FALSE(Loader().SaveFile("http://x.example/"));
   EXPECT_THAT(messages.Shown, SizeIs(1));
 }
 

@@ -17,11 +17,11 @@ using ::testing::EndsWith;
 using ::testing::StartsWith;
 
 SpoilerTexts With(std::string_view file) {
-  return WithModTexts(DefaultSpoilerTexts(), file);
+  return WithModTexts(DefaultSpoilerTexts(Language::English), file);
 }
 
 TEST(SpoilerTexts, TheProgramHasItsOwn) {
-  const SpoilerTexts texts = DefaultSpoilerTexts();
+  const SpoilerTexts texts = DefaultSpoilerTexts(Language::English);
 
   EXPECT_EQ(texts.HeadLine, "Default SPOILER-WARNING");
   EXPECT_EQ(texts.Ok, "OK - View MAP and spoil it");
@@ -46,7 +46,7 @@ TEST(SpoilerTexts, WithoutTheMarkerTheTextStays) {
 
   EXPECT_EQ(texts.Ok, "&OK - Go on");
   EXPECT_EQ(texts.HeadLine, "Beware");
-  EXPECT_EQ(texts.Text, DefaultSpoilerTexts().Text);
+  EXPECT_EQ(texts.Text, DefaultSpoilerTexts(Language::English).Text);
 }
 
 TEST(SpoilerTexts, TheCharacterBehindTheMarkerIsSkippedWhateverItIs) {
@@ -54,15 +54,15 @@ TEST(SpoilerTexts, TheCharacterBehindTheMarkerIsSkippedWhateverItIs) {
 }
 
 TEST(SpoilerTexts, TheMarkerInSmallLettersIsNone) {
-  EXPECT_EQ(With("text = Dragons").Text, DefaultSpoilerTexts().Text);
+  EXPECT_EQ(With("text = Dragons").Text, DefaultSpoilerTexts(Language::English).Text);
 }
 
 TEST(SpoilerTexts, EmptyValuesAndAnEmptyFileChangeNothing) {
   for (const char* file : {"", "ok = \r\nheadline = \r\nText =", "Text =    "}) {
     const SpoilerTexts texts = With(file);
-    EXPECT_EQ(texts.Ok, DefaultSpoilerTexts().Ok) << file;
-    EXPECT_EQ(texts.HeadLine, DefaultSpoilerTexts().HeadLine) << file;
-    EXPECT_EQ(texts.Text, DefaultSpoilerTexts().Text) << file;
+    EXPECT_EQ(texts.Ok, DefaultSpoilerTexts(Language::English).Ok) << file;
+    EXPECT_EQ(texts.HeadLine, DefaultSpoilerTexts(Language::English).HeadLine) << file;
+    EXPECT_EQ(texts.Text, DefaultSpoilerTexts(Language::English).Text) << file;
   }
 }
 
@@ -72,11 +72,12 @@ TEST(SpoilerTexts, LettersAreThoseOfTheGamesFiles) {
 
 TEST(SpoilerTexts, TheyAreReadFromTheGamesDataFolder) {
   TempFolder folder;
-  EXPECT_EQ(ReadSpoilerTexts(GameFolder(folder.Path().string())).HeadLine,
-            DefaultSpoilerTexts().HeadLine);
+  EXPECT_EQ(ReadSpoilerTexts(GameFolder(folder.Path().string()), Language::English).HeadLine,
+            DefaultSpoilerTexts(Language::English).HeadLine);
   folder.Write("DATA/orrerixwarning.INI", "headline = Beware\r\n");
 
-  EXPECT_EQ(ReadSpoilerTexts(GameFolder(folder.Path().string())).HeadLine, "Beware");
+  EXPECT_EQ(ReadSpoilerTexts(GameFolder(folder.Path().string()), Language::English).HeadLine,
+            "Beware");
 }
 
 class WarningSwitch : public ::testing::Test {

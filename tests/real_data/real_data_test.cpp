@@ -99,7 +99,7 @@ TEST_F(RealData, FiftyFiveTablesComeFromSectionsThatTheProgramDoesNotKnow) {
 
 TEST_F(RealData, WholeGridAndZoomedMapAreDrawnWithoutAFailure) {
   Universe universe{result->Log, result->DB};
-  FixedLanguage english(0);
+  FixedLanguage english(Language::English);
   FixedTextMeasure measure;
   const PanelContent panel = PanelTexts(english);
   MapState state;
@@ -117,7 +117,7 @@ TEST_F(RealData, WholeGridAndZoomedMapAreDrawnWithoutAFailure) {
 }
 
 TEST_F(RealData, AGunTellsWhatItDoes) {
-  FixedLanguage english{0};
+  FixedLanguage english{Language::English};
   Universe universe{result->Log, result->DB};
 
   const std::string text =
@@ -137,7 +137,7 @@ TEST_F(RealData, AGunTellsWhatItDoes) {
 }
 
 TEST_F(RealData, EverySearchListsSomethingAndEveryPlaceHasItsWindow) {
-  FixedLanguage english{0};
+  FixedLanguage english{Language::English};
   WorkingCopy copy;
   Universe universe{result->Log, copy.Of(mustWork, result->Save.Path() / "Orrerix.fl")};
   const CellNames names = GetSystemNames(universe, english);

@@ -36,11 +36,25 @@ TEST_F(TravelGraphTest, ObjectsWithoutAPlaceTakeNoPart) {
 }
 
 TEST_F(TravelGraphTest, TheFirstOfANicknameCounts) {
-  Object("twin", "li01", "1, 0, 0");
-  Object("TWIN", "li02", "2, 0, 0");
+  // A finished file has no keys.
+  Database finished = DBEngine::CreateInMemory(mustWork);
+  for (TableDef& table : db.TableDefs(mustWork)) {
+    table.PrimaryKey.reset();
+    finished.CreateTable(mustWork, table);
+  }
+  for (const auto& [nickname, x] : {std::pair("twin", "1, 0, 0"), std::pair("TWIN", "2, 0, 0")}) {
+    Recordset rows = finished.OpenTable(mustWork, "Objects");
+    rows.AddNew();
+    rows["nickname"] = nickname;
+    rows["sys_nick"] = "li01";
+    rows["pos"] = x;
+    rows.Update();
+  }
 
-  ASSERT_THAT(Graph().Objects, SizeIs(1));
-  EXPECT_EQ(At("twin").Point.X, 1);
+  const TravelGraph graph = ReadTravelGraph(mustWork, finished);
+
+  ASSERT_THAT(graph.Objects, SizeIs(1));
+  EXPECT_EQ(graph.Objects[0].Point.X, 1);
 }
 
 TEST_F(TravelGraphTest, ADockHasABaseAndARowOfTheDocks) {

@@ -54,7 +54,8 @@ bool TakeAll(const Words& words, const std::filesystem::path& scratch) {
   paths.NewsAddress = OnlyNews::Address;
   paths.Game = words.Game.empty() ? "game" : words.Game;
   if (words.Game.empty()) WriteDemoGame(*paths.Game);
-  DesktopMessageBoxes messages;
+  LanguageChoice choice;
+  DesktopMessageBoxes messages(choice);
   ErrorLog log(messages, CurrentVersion());
   const NoRegistry noRegistry;
   const GameRegistry registry(log, noRegistry);
@@ -64,7 +65,7 @@ bool TakeAll(const Words& words, const std::filesystem::path& scratch) {
   OnlyNews network;
   PictureStore pictures;
   const FormParts parts{paths, CurrentVersion(), log,     registry, messages, sound,
-                        links, printers,         network, pictures};
+                        links, printers,         network, pictures, choice};
   ProgramRun run(parts);
   run.OnEnd = [] {};
   Album album(QString::fromStdString(words.Folder), QString::fromStdString(words.Format));

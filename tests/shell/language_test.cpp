@@ -20,24 +20,25 @@ using ::testing::IsEmpty;
 using ::testing::Not;
 using ::testing::SizeIs;
 
-class LanguageFile : public ::testing::Test {
+class LanguageFileTest : public ::testing::Test {
  protected:
   FailTest mustWork;
   FakeMessageBoxes messages;
   ErrorLog log{messages, AppVersion{1, 0, 0}};
   TempFolder folder;
-  Language language{log, folder.Path(), JetVersionOption::Version30};
+  LanguageChoice choice;
+  LanguageFile language{log, folder.Path(), JetVersionOption::Version30, choice};
 };
 
-TEST_F(LanguageFile, IsFilledByTheFirstText) {
-  EXPECT_EQ(language.TXT(3), "Jumpgate Lines");
+TEST_F(LanguageFileTest, IsFilledByTheFirstText) {
+  EXPECT_EQ(language.Text(TextId::JumpGateLines), "Jumpgate Lines");
 
   EXPECT_EQ(language.Path(), folder.Path() / "FLOX-Language.mdb");
   EXPECT_TRUE(fs::exists(language.Path()));
   EXPECT_THAT(log.Failures(), IsEmpty());
 }
 
-TEST_F(LanguageFile, HasTenTablesOfWhichThreeAreFilled) {
+TEST_F(LanguageFileTest, HasTenTablesOfWhichThreeAreFilled) {
   language.InitLanguages();
 
   Database file = DBEngine::OpenDatabase(mustWork, language.Path());
@@ -53,59 +54,59 @@ TEST_F(LanguageFile, HasTenTablesOfWhichThreeAreFilled) {
   EXPECT_TRUE(tables[0].Fields[1].AllowZeroLength);
 }
 
-TEST_F(LanguageFile, GivesEveryTextInTheCurrentLanguage) {
-  for (std::int16_t current = 0; current < 3; ++current) {
-    language.CurrentLanguage = current;
-    for (const LanguageText& text : LanguageTexts()) {
-      EXPECT_EQ(language.TXT(text.ID), TextIn(current, text.ID));
+TEST_F(LanguageFileTest, GivesEveryTextInTheCurrentLanguage) {
+  for (const Language current : {Language::English, Language::German, Language::French}) {
+    language.SetCurrent(current);
+    for (const LanguageText& text : StoredTexts()) {
+      EXPECT_EQ(language.Text(text.Id), TextIn(current, text.Id));
     }
   }
 }
 
-TEST_F(LanguageFile, AMissingTextIsNoFailure) {
-  EXPECT_EQ(language.TXT(29), "?????");
-  EXPECT_EQ(language.TXT(-1), "?????");
+TEST_F(LanguageFileTest, AMissingTextIsNoFailure) {
+  EXPECT_EQ(language.Text(static_cast<TextId>(-1)), "?????");
   EXPECT_THAT(log.Failures(), IsEmpty());
 }
 
-TEST_F(LanguageFile, LanguagesThatAreEmptyHaveNoTexts) {
+TEST_F(LanguageFileTest, LanguagesThatAreEmptyHaveNoTexts) {
   for (const int current : {3, 6, 7, 9}) {
-    language.CurrentLanguage = static_cast<std::int16_t>(current);
-    EXPECT_EQ(language.TXT(0), "?????");
+    language.SetCurrent(static_cast<Language>(current));
+    EXPECT_EQ(language.Text(TextId::LanguageName), "?????");
   }
   EXPECT_THAT(log.Failures(), IsEmpty());
 }
 
-TEST_F(LanguageFile, ATextIsWrittenOverTheOneThatStands) {
+TEST_F(LanguageFileTest, ATextIsWrittenOverTheOneThatStands) {
   language.InitLanguages();
 
-  language.SetLanguage(3, "a", "", "c");
+  language.SetLanguage(3, {"a", "", "c"});
 
-  EXPECT_EQ(language.TXT(3), "a");
-  language.CurrentLanguage = 1;
-  EXPECT_EQ(language.TXT(3), "");
+  EXPECT_EQ(language.Text(TextId::JumpGateLines), "a");
+  language.SetCurrent(Language::German);
+  EXPECT_EQ(language.Text(TextId::JumpGateLines), "");
   Database file = DBEngine::OpenDatabase(mustWork, language.Path());
   EXPECT_EQ(file.OpenRecordset(mustWork, "SELECT * FROM Lang0").RecordCount(), 29u);
 }
 
-TEST_F(LanguageFile, EditsAreGoneBehindTheNextStart) {
+TEST_F(LanguageFileTest, EditsAreGoneBehindTheNextStart) {
   language.InitLanguages();
-  language.SetLanguage(3, "a", "b", "c");
-  language.SetLanguage(100, "x", "y", "z");
+  language.SetLanguage(3, {"a", "b", "c"});
+  language.SetLanguage(100, {"x", "y", "z"});
 
   language.InitLanguages();
 
-  EXPECT_EQ(language.TXT(3), "Jumpgate Lines");
-  EXPECT_EQ(language.TXT(100), "x");
+  EXPECT_EQ(language.Text(TextId::JumpGateLines), "Jumpgate Lines");
+  Database file = DBEngine::OpenDatabase(mustWork, language.Path());
+  EXPECT_EQ(file.OpenRecordset(mustWork, "SELECT * FROM Lang0").RecordCount(), 30u);
 }
 
-TEST_F(LanguageFile, ATableThatIsMissingIsMadeWithTheNextTexts) {
+TEST_F(LanguageFileTest, ATableThatIsMissingIsMadeWithTheNextTexts) {
   language.InitLanguages();
   DBEngine::OpenDatabase(mustWork, language.Path()).Execute(mustWork, "DROP TABLE Lang1");
-  language.CurrentLanguage = 1;
+  language.SetCurrent(Language::German);
 
-  language.TXT(3);
-  language.TXT(4);
+  language.Text(TextId::JumpGateLines);
+  language.Text(TextId::JumpHoleLines);
   ASSERT_THAT(log.Failures(), SizeIs(2));
   EXPECT_EQ(log.Failures()[1].Source, "Settings.TXT");
   EXPECT_EQ(log.Failures()[1].Info, "While reading setting: 4");
@@ -113,11 +114,11 @@ TEST_F(LanguageFile, ATableThatIsMissingIsMadeWithTheNextTexts) {
   language.InitLanguages();
   Database file = DBEngine::OpenDatabase(mustWork, language.Path());
   EXPECT_TRUE(file.HasTable("Lang1"));
-  EXPECT_EQ(language.TXT(3), "Sprungtor Linien");
+  EXPECT_EQ(language.Text(TextId::JumpGateLines), "Sprungtor Linien");
   EXPECT_THAT(log.Failures(), SizeIs(2));
 }
 
-TEST_F(LanguageFile, ATextThatCannotBeWrittenIsOneFailureAndTheNextOnesStand) {
+TEST_F(LanguageFileTest, ATextThatCannotBeWrittenIsOneFailureAndTheNextOnesStand) {
   language.InitLanguages();
   {
     Database file = DBEngine::OpenDatabase(mustWork, language.Path());
@@ -131,12 +132,12 @@ TEST_F(LanguageFile, ATextThatCannotBeWrittenIsOneFailureAndTheNextOnesStand) {
   ASSERT_THAT(log.Failures(), SizeIs(1));
   EXPECT_EQ(log.Failures()[0].Source, "Settings.SetLanguage");
   EXPECT_EQ(log.Failures()[0].Info, "While writing language-text");
-  EXPECT_EQ(language.TXT(3), "Jumpgate Lines");
-  EXPECT_EQ(language.TXT(4), "?????");
-  EXPECT_EQ(language.TXT(5), "Tradelane Lines");
+  EXPECT_EQ(language.Text(TextId::JumpGateLines), "Jumpgate Lines");
+  EXPECT_EQ(language.Text(TextId::JumpHoleLines), "?????");
+  EXPECT_EQ(language.Text(TextId::TradeLaneLines), "Tradelane Lines");
 }
 
-TEST_F(LanguageFile, CancelSkipsOneTextOnly) {
+TEST_F(LanguageFileTest, CancelSkipsOneTextOnly) {
   language.InitLanguages();
   DBEngine::OpenDatabase(mustWork, language.Path())
       .ExecuteNative(mustWork,
@@ -147,41 +148,42 @@ TEST_F(LanguageFile, CancelSkipsOneTextOnly) {
   language.InitLanguages();
 
   EXPECT_THAT(log.Failures(), SizeIs(1));
-  EXPECT_EQ(language.TXT(5), "Tradelane Lines");
-  language.CurrentLanguage = 1;
-  EXPECT_EQ(language.TXT(4), "?????");  // its German text came after the step that failed
+  EXPECT_EQ(language.Text(TextId::TradeLaneLines), "Tradelane Lines");
+  language.SetCurrent(Language::German);
+  EXPECT_EQ(language.Text(TextId::JumpHoleLines),
+            "?????");  // its German text came after the step that failed
 }
 
-TEST_F(LanguageFile, AKillDuringItsFirstFillingLeavesNothingThatStays) {
+TEST_F(LanguageFileTest, AKillDuringItsFirstFillingLeavesNothingThatStays) {
   folder.Write("FLOX-Language.mdb.new", "half a file");
 
-  EXPECT_EQ(language.TXT(3), "Jumpgate Lines");
+  EXPECT_EQ(language.Text(TextId::JumpGateLines), "Jumpgate Lines");
 
   EXPECT_THAT(log.Failures(), IsEmpty());
   EXPECT_FALSE(std::filesystem::exists(folder.Path() / "FLOX-Language.mdb.new"));
 }
 
-TEST_F(LanguageFile, CancelInAFailureGivesAnEmptyText) {
+TEST_F(LanguageFileTest, CancelInAFailureGivesAnEmptyText) {
   folder.Write("FLOX-Language.mdb", std::string(5000, 'x'));
   messages.Answer = MessageAnswer::Cancel;
 
-  EXPECT_EQ(language.TXT(3), "");
+  EXPECT_EQ(language.Text(TextId::JumpGateLines), "");
   EXPECT_THAT(log.Failures(), SizeIs(1));
 }
 
-TEST_F(LanguageFile, AFolderThatIsNotThereIsAFailure) {
-  Language nowhere(log, folder.Path() / "none", JetVersionOption::Version30);
+TEST_F(LanguageFileTest, AFolderThatIsNotThereIsAFailure) {
+  LanguageFile nowhere(log, folder.Path() / "none", JetVersionOption::Version30, choice);
   messages.Answer = MessageAnswer::Cancel;
 
-  EXPECT_EQ(nowhere.TXT(3), "");
+  EXPECT_EQ(nowhere.Text(TextId::JumpGateLines), "");
   ASSERT_THAT(log.Failures(), Not(IsEmpty()));
   EXPECT_EQ(log.Failures()[0].Source, "Settings.CreateLanguageFile");
   EXPECT_EQ(log.Failures()[0].Info, "While creating language database");
 }
 
 TEST(AFixedLanguage, NeedsNoFile) {
-  EXPECT_EQ(FixedLanguage(2).TXT(26), "Prix");
-  EXPECT_EQ(FixedLanguage(7).TXT(26), "?????");
+  EXPECT_EQ(FixedLanguage(Language::French).Text(TextId::Price), "Prix");
+  EXPECT_EQ(FixedLanguage(static_cast<Language>(7)).Text(TextId::Price), "?????");
 }
 
 }  // namespace

@@ -64,7 +64,8 @@ TEST(MemoryHeadline, NamesBothLoads) {
   MemoryStatus now;
   now.dwMemoryLoad = 15;
 
-  EXPECT_EQ(MemoryHeadline(start, now), "Startup Memory Usage 12%     Actual Usage 15%");
+  EXPECT_EQ(MemoryHeadline(Language::English, start, now),
+            "Startup Memory Usage 12%     Actual Usage 15%");
 }
 
 TEST(LayOutMemoryBars, ShareTheWidthBetweenLeftAndMargin) {

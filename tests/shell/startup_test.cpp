@@ -10,6 +10,7 @@
 
 #include "db/schema.h"
 #include "platform/folder_lock.h"
+#include "shell/language_texts.h"
 #include "support/failure_sinks.h"
 #include "support/fake_message_boxes.h"
 #include "support/temp_folder.h"
@@ -227,7 +228,7 @@ TEST(Captions, NameTheVersion) {
 }
 
 TEST(MissingExecutable, IsToldLineByLine) {
-  EXPECT_EQ(MissingExecutableText("C:\\x"),
+  EXPECT_EQ(FormatIn(Language::English, TextId::GameMissing, "C:\\x"),
             "Problem finding [\\exe\\Freelancer.exe] in the folder of ur Registry-Setting:\r\n"
             "HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Microsoft Games\\Freelancer\\1.0 Value "
             "AppPath  which is showing:\r\n[C:\\x]\r\n\r\n"
@@ -289,13 +290,15 @@ TEST_F(Startup, AFolderThatAnImportHoldsIsLeftAlone) {
 }
 
 TEST_F(Startup, TheQuestionNamesTheFileInTheChosenLanguage) {
-  for (int language = 0; language < 3; ++language) {
+  for (const Language language : {Language::English, Language::German, Language::French}) {
     const Message question = UniverseInUseQuestion(language, file, {1, 7, 3});
     EXPECT_NE(question.Text.find("'" + file.string() + "'"), std::string::npos);
     EXPECT_EQ(question.Buttons, MessageButtons::RetryLeave);
   }
-  EXPECT_NE(UniverseInUseQuestion(1, file, {1, 7, 3}).Text.find("benutzt"), std::string::npos);
-  EXPECT_NE(FolderMissingMessage(2, file, {1, 7, 3}).Text.find("Le dossier"), std::string::npos);
+  EXPECT_NE(UniverseInUseQuestion(Language::German, file, {1, 7, 3}).Text.find("benutzt"),
+            std::string::npos);
+  EXPECT_NE(FolderMissingMessage(Language::French, file, {1, 7, 3}).Text.find("Le dossier"),
+            std::string::npos);
 }
 
 TEST_F(Startup, AMarkerThatCannotBeDeletedIsAFailure) {

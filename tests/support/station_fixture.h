@@ -60,7 +60,7 @@ class StationFixture : public UniverseFixture {
     return ReadStation(universe, names, english, nickname, mode);
   }
 
-  FixedLanguage english{0};
+  FixedLanguage english{Language::English};
   CellNames names;
 };
 

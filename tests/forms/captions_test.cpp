@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+// Windows speak the language in use.
+#include <QLabel>
+#include <QPushButton>
+
+#include <gtest/gtest.h>
+
+#include "form_fixture.h"
+#include "forms/import_screen.h"
+#include "forms/loading.h"
+#include "forms/spoiler.h"
+#include "forms/update.h"
+
+namespace orrerix {
+namespace {
+
+TEST(Captions, OfTheNoticeOfALaterVersionFollowTheLanguage) {
+  PictureStore pictures;
+  const Update update("", pictures, Language::German);
+
+  EXPECT_EQ(update.windowTitle(), "Update verfügbar");
+}
+
+TEST(Captions, OfTheImportScreenFollowTheLanguage) {
+  PictureStore pictures;
+  const LanguageChoice choice{Language::French};
+  QWidget form;
+  const ImportScreen screen(pictures, choice, &form);
+
+  EXPECT_EQ(Find<QPushButton>(screen, "Command1").text(), "Lire les données");
+}
+
+TEST(Captions, OfTheWarningFollowTheLanguage) {
+  PictureStore pictures;
+  const Spoiler spoiler(DefaultSpoilerTexts(Language::German), pictures, Language::German);
+
+  EXPECT_EQ(Find<QPushButton>(spoiler, "Command1_1").text(),
+            "Abbrechen - Beenden und selbst suchen");
+  EXPECT_EQ(Find<QPushButton>(spoiler, "Command1_1").toolTip(), "Abbrechen - Programm beenden");
+}
+
+TEST(Captions, OfTheStartFormFollowTheLanguage) {
+  PictureStore pictures;
+  const LanguageChoice choice{Language::French};
+  const Loading loading(pictures, choice);
+
+  EXPECT_EQ(loading.windowTitle(), "chargement de FL Orrerix...");
+}
+
+}  // namespace
+}  // namespace orrerix
