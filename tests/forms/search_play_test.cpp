@@ -134,6 +134,7 @@ TEST_F(SearchPlayTest, TheListThatGrowsLeavesTheCloseButtonFree) {
 }
 
 TEST_F(SearchPlayTest, AHoverBoxStandsInFrontOfThePanel) {
+  Zoom({3, 4, 3, 4});
   search.StationSearchClick(SearchType::Place);
   play.SysmapFrameMouseMove(PointerButton::None, 0, 0);
 
