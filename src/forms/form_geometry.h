@@ -22,6 +22,12 @@ inline QRect PixelRect(const FormPlace& place) {
   return PixelRect(place.Left, place.Top, place.Width, place.Height);
 }
 
+// Parts of a twip do not count.
+inline QRect PixelRect(const Box& box) {
+  return PixelRect(static_cast<int>(box.Left), static_cast<int>(box.Top),
+                   static_cast<int>(box.Width), static_cast<int>(box.Height));
+}
+
 // What the layouts allow for beside and above the inside of a form, in sum.
 inline constexpr QSize kLargestDecoration{10, 33};
 

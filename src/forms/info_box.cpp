@@ -1,24 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "forms/info_box.h"
 
+#include "forms/control_name.h"
 #include "forms/form_geometry.h"
 
 namespace orrerix {
-namespace {
-
-QColor ColorOf(const Color& color) {
-  return {color.Red(), color.Green(), color.Blue()};
-}
-
-QRect RectOf(const orrerix::Box& box) {
-  return PixelRect(static_cast<int>(box.Left), static_cast<int>(box.Top),
-                   static_cast<int>(box.Width), static_cast<int>(box.Height));
-}
-
-}  // namespace
-
-InfoBox::InfoBox(QWidget* map) : QFrame(map), text_(new TextBox("InfoText", this)) {
-  setObjectName("Shape1");
+InfoBox::InfoBox(QWidget* map) : QFrame(map), text_(new TextBox(ControlId::BoxText, this)) {
+  setObjectName(NameOf(ControlId::BoxShape));
   setAutoFillBackground(true);
   // The map's view would hand down its own roles, those of lists.
   setBackgroundRole(QPalette::Window);
@@ -33,12 +21,12 @@ void InfoBox::Show(const ControlList& box) {
   const Control& shape = box.front();
   const Control& text = box.back();
   QPalette colors = palette();
-  colors.setColor(QPalette::Window, ColorOf(shape.BackColor.value_or(Color{})));
-  colors.setColor(QPalette::WindowText, ColorOf(shape.BorderColor));
+  colors.setColor(QPalette::Window, ToQColor(shape.BackColor.value_or(Color{})));
+  colors.setColor(QPalette::WindowText, ToQColor(shape.BorderColor));
   setPalette(colors);
-  const QRect place = RectOf(shape.Place);
+  const QRect place = PixelRect(shape.Place);
   setGeometry(place);
-  text_->setGeometry(RectOf(text.Place).translated(-place.topLeft()));
+  text_->setGeometry(PixelRect(text.Place).translated(-place.topLeft()));
   text_->Show(text.Caption.value_or(""));
   show();
   raise();

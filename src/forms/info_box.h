@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// The large info box.
 #pragma once
 
 #include <QFrame>
@@ -8,7 +9,7 @@
 
 namespace orrerix {
 
-// The large info box on the map: Shape1 with InfoText, as a widget, so that its text can be
+// The large info box on the map: a shape with its text, as a widget, so that its text can be
 // scrolled and copied, and the map below is not painted anew with each text.
 class InfoBox : public QFrame {
  public:

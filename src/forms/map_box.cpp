@@ -3,45 +3,44 @@
 
 #include <algorithm>
 #include <utility>
-
-#include "db/number_text.h"
+#include <variant>
 
 namespace orrerix {
 
-bool MapBox::IsHoverBox() const {
-  return Visible() && shown_.front().Shape == ShapeForm::RoundedRectangle;
-}
-
 void MapBox::ShowHover(const HoverBox& hover) {
-  hovered_ = hover.Icon.Tag.value_or("");
+  hoveredText_ = IconText(hover.Icon);
   scene_.Replace(hover.Icon);
   Show(hover.Box);
+  hovering_ = Visible();
 }
 
 void MapBox::Show(ControlList box) {
+  hovering_ = false;
   shown_ = std::move(box);
   scene_.ShowInFront(FrontLayer::Box, shown_);
 }
 
 void MapBox::ShowElsewhere(ControlList box) {
+  hovering_ = false;
   scene_.ShowInFront(FrontLayer::Box, {});
   shown_ = std::move(box);
 }
 
 void MapBox::EndHover() {
   if (!IsHoverBox()) return;
-  const std::string tag = shown_.front().Tag.value_or("");
+  const auto before = std::get<HoveredIcon>(shown_.front().Subject);
   Hide();
-  const int index = static_cast<int>(Val(tag));
-  const Control* icon = scene_.Find("Image1", index);
-  if (icon != nullptr && icon->Tag == hovered_) scene_.Replace(RestoredIcon(*icon, tag));
+  const Control* icon = scene_.Find(ControlId::MapIcon, before.Index);
+  if (icon != nullptr && IconText(*icon) == hoveredText_) {
+    scene_.Replace(RestoredIcon(*icon, before));
+  }
 }
 
 void MapBox::MapRedrawn() {
   if (!IsHoverBox()) return;
   const ControlList& controls = scene_.Drawing().Controls;
   const auto icon = std::find_if(controls.begin(), controls.end(), [this](const Control& control) {
-    return control.Name == "Image1" && control.Tag == hovered_;
+    return control.Id == ControlId::MapIcon && IconText(control) == hoveredText_;
   });
   if (icon != controls.end()) ShowHover(MovedHoverBox(shown_, *icon, scene_.Drawing()));
 }

@@ -6,20 +6,20 @@
 
 namespace orrerix {
 
-// The one box on the map: Shape1 with InfoText on it. As a rounded rectangle it is the hover box of
-// an icon, which is larger while it is up.
+// The one box on the map: as the hover box of an icon, which is larger while it is up, or as the
+// info box.
 class MapBox {
  public:
   // `scene` must outlive this.
   explicit MapBox(MapScene& scene) : scene_(scene) {}
 
   bool Visible() const { return !shown_.empty(); }
-  bool IsHoverBox() const;
+  bool IsHoverBox() const { return hovering_; }
 
   // Shows a hover box with its icon. One that the user gave up shows the icon alone.
   void ShowHover(const HoverBox& hover);
 
-  // Shows Shape1 and InfoText in the place of what is shown.
+  // Shows a shape with its text in the place of what is shown.
   void Show(ControlList box);
 
   // The box is shown by a widget of its own: here it only counts as visible.
@@ -38,7 +38,8 @@ class MapBox {
  private:
   MapScene& scene_;
   ControlList shown_;
-  std::string hovered_;  // tag of the hover box's icon
+  bool hovering_ = false;    // the box is that of an icon
+  std::string hoveredText_;  // of the icon
 };
 
 }  // namespace orrerix

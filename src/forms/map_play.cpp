@@ -20,8 +20,7 @@ MapPlay::MapPlay(MapScreen& screen, MapForm& form, ErrorLog& log, Settings& sett
       switches_(log, settings, language, screen.State(),
                 [this](std::string_view path) { Play(path); }),
       box_(screen.Scene()),
-      panelKeys_(screen.Frame(),
-                 [this](std::string_view name, int index) { PanelKeyClick(name, index); }) {
+      panelKeys_(screen.Frame(), [this](ControlId id, int index) { PanelKeyClick(id, index); }) {
   screen_.Frame().SetMouse(this);
   screen_.Frame().SetKeys(this);
 }
@@ -85,7 +84,7 @@ bool MapPlay::PushZoomStack(const ZoomRectangle& rectangle) {
 
 void MapPlay::Image1MouseMove(int index) {
   if (box_.Visible()) return;
-  const Control* shown = screen_.Scene().Find("Image1", index);
+  const Control* shown = screen_.Scene().Find(ControlId::MapIcon, index);
   if (shown == nullptr) return;
   // A question about a failure lets events through, and with them a redraw.
   const Control icon = *shown;
@@ -99,10 +98,10 @@ void MapPlay::Image1MouseMove(int index) {
 }
 
 void MapPlay::Image1Click(int index) {
-  const Control* icon = screen_.Scene().Find("Image1", index);
+  const Control* icon = screen_.Scene().Find(ControlId::MapIcon, index);
   if (icon == nullptr) return;
   // The map may be drawn anew while the window opens.
-  const std::string nickname = icon->Tag.value_or("");
+  const std::string nickname = IconText(*icon);
   const std::string picture = icon->Picture.value_or("");
   Routine routine(log_, "OrrerixMain.Image1_Click");
   routine.Run([&] {
@@ -132,28 +131,37 @@ void MapPlay::Follow(const SwitchAnswer& answer) {
   if (answer.Redraw) form_.FormResize();
 }
 
-void MapPlay::PanelClick(std::string_view name, int index) {
-  if (name == "StationSearch") form_.StationSearchClick(index);
-  if (name == "SetImage") SetImageClick(index);
-  if (name == "SetLabel") SetLabelClick(index);
-  if (name == "InfoBoxLabel") form_.InfoBoxLabelClick(index);
-  if (name == "ImageClan") form_.ImageClanClick(firstHalfClick_);
+void MapPlay::PanelClick(ControlId id, int index) {
+  switch (id) {
+    case ControlId::Tool:
+      return form_.StationSearchClick(index);
+    case ControlId::OptionSwitch:
+      return SetImageClick(index);
+    case ControlId::OptionLabel:
+      return SetLabelClick(index);
+    case ControlId::NewsLabel:
+      return form_.InfoBoxLabelClick(index);
+    case ControlId::Logo:
+      return form_.ImageClanClick(firstHalfClick_);
+    default:
+      return;
+  }
 }
 
 // A place on the map frame, twips.
 void MapPlay::ImageClanMouseMove(double x, double y) {
   Routine routine(log_, "OrrerixMain.ImageClan_MouseMove");
   routine.Run([&] {
-    const auto logo = PlaceOf(screen_.Drawing().Controls, "ImageClan");
+    const auto logo = PlaceOf(screen_.Drawing().Controls, ControlId::Logo);
     if (!logo) return;
     firstHalfClick_ = IsFirstHalf(x - logo->Left, y - logo->Top, logo->Width, logo->Height);
   });
 }
 
 // The keyboard touches nothing in passing: it unfolds and folds the options by a click.
-void MapPlay::PanelKeyClick(std::string_view name, int index) {
-  if (name == "ShowOptionsLabel") return FoldOrUnfold();
-  PanelClick(name, index);
+void MapPlay::PanelKeyClick(ControlId id, int index) {
+  if (id == ControlId::OptionsCaption) return FoldOrUnfold();
+  PanelClick(id, index);
 }
 
 void MapPlay::FoldOrUnfold() {
@@ -166,8 +174,8 @@ void MapPlay::FoldOrUnfold() {
 MapPlay::Target MapPlay::TargetOf(const MapPointer& pointer) {
   if (pointer.Under == nullptr) return {};
   const Control& control = *pointer.Under;
-  if (pointer.OnPanel) return {Part::Panel, control.Name, control.Index.value_or(0)};
-  if (control.Name == "Image1") return {Part::Icon, {}, control.Index.value_or(0)};
+  if (pointer.OnPanel) return {Part::Panel, control.Id, control.Index.value_or(0)};
+  if (control.Id == ControlId::MapIcon) return {Part::Icon, control.Id, control.Index.value_or(0)};
   return {};
 }
 
@@ -189,8 +197,8 @@ void MapPlay::MouseMove(const MapPointer& pointer) {
     case Part::Icon:
       return Image1MouseMove(target.Index);
     case Part::Panel:
-      if (target.Name == "ShowOptionsLabel") ShowOptionsLabelMouseMove();
-      if (target.Name == "ImageClan") ImageClanMouseMove(pointer.X, pointer.Y);
+      if (target.Id == ControlId::OptionsCaption) ShowOptionsLabelMouseMove();
+      if (target.Id == ControlId::Logo) ImageClanMouseMove(pointer.X, pointer.Y);
       return;
   }
 }
@@ -209,7 +217,7 @@ void MapPlay::MouseUp(const MapPointer& pointer) {
 
 void MapPlay::Click(const Target& target) {
   if (target.Of == Part::Icon) return Image1Click(target.Index);
-  PanelClick(target.Name, target.Index);
+  PanelClick(target.Id, target.Index);
 }
 
 // The keyboard.

@@ -63,8 +63,8 @@ class MapPlay : private MapMouse, private MapKeys {
   enum class Part { Map, Icon, Panel };
   struct Target {
     Part Of = Part::Map;
-    std::string Name;  // of the control in the panel
-    int Index = 0;     // of icon or control
+    ControlId Id = ControlId::MapFrame;
+    int Index = 0;
     bool operator==(const Target&) const = default;
   };
   static Target TargetOf(const MapPointer& pointer);
@@ -77,8 +77,8 @@ class MapPlay : private MapMouse, private MapKeys {
   void FocusLost() override;
 
   void Click(const Target& target);
-  void PanelClick(std::string_view name, int index);
-  void PanelKeyClick(std::string_view name, int index);
+  void PanelClick(ControlId id, int index);
+  void PanelKeyClick(ControlId id, int index);
   void FoldOrUnfold();
   void Follow(const SwitchAnswer& answer);
   void ZoomInOnCursor();

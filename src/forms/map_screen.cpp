@@ -49,7 +49,7 @@ void MapScreen::InitDataUsage(Universe& universe) {
 void MapScreen::ReadAhead() {
   auto* timer = new QTimer(frame_);
   QObject::connect(timer, &QTimer::timeout, frame_, [this, timer, next = 0]() mutable {
-    pictures_.Read(PictureFile(MakePicture("SysMapGfx", next, {}, "SysMapGfx")));
+    pictures_.Read(PictureFile(MakePicture(ControlId::SystemPicture, next, {})));
     if (++next == kSystemPictures) timer->deleteLater();
   });
   timer->start(0);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QTimer>
+#include <optional>
 #include <string>
 
 #include "forms/sysmap_frame.h"
@@ -61,7 +62,7 @@ class MapScreen {
   MapState state_;
   MapOptions options_;
   bool namesRead_ = false;
-  std::string starMap_ = "StarMapPic";
+  std::optional<std::string> starMap_;
   MapScene scene_;
   SysmapFrame* frame_;
   QTimer* sharpening_;

@@ -13,18 +13,18 @@ constexpr int kInfoBox = 2;  // index of the info box among the panel's frames
 
 Control* InfoBoxOf(Control& panel) {
   for (Control& child : panel.Children) {
-    if (child.Name == "MenuFrame" && child.Index == kInfoBox) return &child;
+    if (child.Id == ControlId::PanelFrame && child.Index == kInfoBox) return &child;
   }
   return nullptr;
 }
 
 bool IsNews(const Control& control) {
-  return control.Name == "InfoBoxLabel";
+  return control.Id == ControlId::NewsLabel;
 }
 
 // The slogan's label, where the news end.
 bool IsSlogan(const Control& control) {
-  return control.Name == "WRTP" && control.Index == 0;
+  return control.Id == ControlId::InfoBoxLine && control.Index == 0;
 }
 
 }  // namespace
@@ -38,7 +38,7 @@ void NewsPlay::MapRedrawn() {
   timer_.stop();
   all_.clear();
   band_.clear();
-  const Control* panel = screen_.Scene().Find("MenuFrame", 0);
+  const Control* panel = screen_.Scene().Find(ControlId::PanelFrame, 0);
   if (panel == nullptr || !screen_.Drawing().NewsScrolls) return;
   Control copy = *panel;
   const Control* box = InfoBoxOf(copy);
@@ -62,7 +62,7 @@ void NewsPlay::NewsTimerTimer() {
 }
 
 void NewsPlay::ShowBand() {
-  const Control* shown = screen_.Scene().Find("MenuFrame", 0);
+  const Control* shown = screen_.Scene().Find(ControlId::PanelFrame, 0);
   if (shown == nullptr) return;
   Control panel = *shown;
   ControlList& children = InfoBoxOf(panel)->Children;

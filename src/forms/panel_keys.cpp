@@ -6,6 +6,7 @@
 #include <QPainter>
 #include <utility>
 
+#include "forms/control_name.h"
 #include "map/map_options.h"
 #include "picture/twips.h"
 
@@ -13,28 +14,27 @@ namespace orrerix {
 namespace {
 
 constexpr int kTools = 5;
-constexpr const char* kNews = "InfoBoxLabel";
 constexpr QRgb kFocusMark = 0xFF80FFFF;
 
 }  // namespace
 
 class PanelKeys::Key : public QAbstractButton {
  public:
-  Key(const char* name, int index, QWidget* parent)
-      : QAbstractButton(parent), name_(name), index_(index) {
-    setObjectName(QStringLiteral("%1_%2").arg(name).arg(index));
+  Key(ControlId id, int index, QWidget* parent) : QAbstractButton(parent), id_(id), index_(index) {
+    setObjectName(NameOf(id, index));
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setFocusPolicy(Qt::TabFocus);
-    setCheckable(name_ == "SetImage");
+    setCheckable(id == ControlId::OptionSwitch);
     hide();
   }
 
-  bool Is(std::string_view name, int index) const { return name == name_ && index == index_; }
+  bool Is(ControlId id, int index) const { return id == id_ && index == index_; }
 
   // `place` is that of the control, pixels of the frame.
   void Follow(const Control& control, const QRectF& place) {
     setGeometry(place.toAlignedRect());
-    setChecked(control.Tag == "1");
+    const auto* state = std::get_if<SwitchState>(&control.Subject);
+    setChecked(state != nullptr && state->On);
     show();
   }
 
@@ -52,29 +52,29 @@ class PanelKeys::Key : public QAbstractButton {
   }
 
  private:
-  std::string_view name_;
+  ControlId id_;
   int index_;
 };
 
 PanelKeys::PanelKeys(QAbstractScrollArea& frame, Activate activate)
     : parent_(frame.viewport()), activate_(std::move(activate)) {
-  for (int i = 0; i < kTools; ++i) Add("StationSearch", i);
-  Add("ShowOptionsLabel", 0);
-  Add("SetLabel", kLanguageLabel);
-  for (int i = 0; i < kMapSwitches; ++i) Add("SetImage", i);
+  for (int i = 0; i < kTools; ++i) Add(ControlId::Tool, i);
+  Add(ControlId::OptionsCaption, 0);
+  Add(ControlId::OptionLabel, kLanguageLabel);
+  for (int i = 0; i < kMapSwitches; ++i) Add(ControlId::OptionSwitch, i);
 }
 
-PanelKeys::Key* PanelKeys::Add(const char* name, int index) {
-  keys_.push_back(new Key(name, index, parent_));
+PanelKeys::Key* PanelKeys::Add(ControlId id, int index) {
+  keys_.push_back(new Key(id, index, parent_));
   QObject::connect(keys_.back(), &QAbstractButton::clicked, parent_,
-                   [this, name, index] { activate_(name, index); });
+                   [this, id, index] { activate_(id, index); });
   return keys_.back();
 }
 
 void PanelKeys::Follow(const MapDrawing& drawing) {
   std::set<Key*> gone(keys_.begin(), keys_.end());
   for (const Control& control : drawing.Controls) {
-    if (control.Name != "MenuFrame") continue;
+    if (control.Id != ControlId::PanelFrame) continue;
     FollowControls(control.Children, Pixels(control.Place).topLeft(), gone);
   }
   for (Key* key : gone) key->hide();
@@ -93,21 +93,22 @@ void PanelKeys::FollowControls(const ControlList& controls, const QPointF& corne
       key->Follow(control, place);
       key->setAccessibleName(caption);
       gone.erase(key);
-    } else if (Key* box = KeyOf("SetImage", index); box != nullptr && control.Name == "SetLabel") {
+    } else if (Key* box = KeyOf(ControlId::OptionSwitch, index);
+               box != nullptr && control.Id == ControlId::OptionLabel) {
       box->setAccessibleName(caption);
     }
   }
 }
 
-// How many news there are, only their labels tell.
+// News labels vary in number, so their keys are created on demand.
 PanelKeys::Key* PanelKeys::KeyFor(const Control& control, int index) {
-  if (Key* key = KeyOf(control.Name, index)) return key;
-  return control.Name == kNews ? Add(kNews, index) : nullptr;
+  if (Key* key = KeyOf(control.Id, index)) return key;
+  return control.Id == ControlId::NewsLabel ? Add(ControlId::NewsLabel, index) : nullptr;
 }
 
-PanelKeys::Key* PanelKeys::KeyOf(std::string_view name, int index) const {
+PanelKeys::Key* PanelKeys::KeyOf(ControlId id, int index) const {
   for (Key* key : keys_) {
-    if (key->Is(name, index)) return key;
+    if (key->Is(id, index)) return key;
   }
   return nullptr;
 }

@@ -5,7 +5,6 @@
 #include <QPointF>
 #include <functional>
 #include <set>
-#include <string_view>
 #include <vector>
 
 #include "map/redraw.h"
@@ -17,8 +16,8 @@ namespace orrerix {
 // goes through them.
 class PanelKeys {
  public:
-  // Told of Enter and Space: the control's name and its index, 0 without one.
-  using Activate = std::function<void(std::string_view name, int index)>;
+  // Called on Enter and Space with the control and its index, 0 without one.
+  using Activate = std::function<void(ControlId id, int index)>;
 
   // The buttons belong to `frame`.
   PanelKeys(QAbstractScrollArea& frame, Activate activate);
@@ -29,9 +28,9 @@ class PanelKeys {
  private:
   class Key;
 
-  Key* Add(const char* name, int index);
+  Key* Add(ControlId id, int index);
   void FollowControls(const ControlList& controls, const QPointF& corner, std::set<Key*>& gone);
-  Key* KeyOf(std::string_view name, int index) const;
+  Key* KeyOf(ControlId id, int index) const;
   Key* KeyFor(const Control& control, int index);
 
   QWidget* parent_;

@@ -9,22 +9,19 @@
 #include <QStyledItemDelegate>
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
+#include "forms/control_name.h"
 #include "forms/form_geometry.h"
 #include "picture/form_font.h"
 
 namespace orrerix {
 namespace {
 
-constexpr int kColumns = 3;
 constexpr int kMargin = 4;  // pixels between a text and the ends of its column
 
 int Pixel(double twips) {
   return static_cast<int>(std::lround(Pixels(twips)));
-}
-
-QColor ColorOf(const Color& color) {
-  return {color.Red(), color.Green(), color.Blue()};
 }
 
 // Letters that were measured to fill a label edge to edge become narrower, not lower, to leave its
@@ -67,58 +64,59 @@ class LabelDelegate : public QStyledItemDelegate {
 
 }  // namespace
 
-void PriceTableModel::Show(const ControlList& labels) {
+void PriceTableModel::Show(std::vector<PriceTable> tables) {
   beginResetModel();
-  rows_.clear();
-  for (const Control& label : labels) {
-    const bool goesOn = !rows_.empty() && rows_.back().front().Place.Top == label.Place.Top &&
-                        rows_.back().front().Name != label.Name && label.Name != "PricesHead";
-    if (!goesOn) rows_.emplace_back();
-    rows_.back().push_back(label);
+  tables_ = std::move(tables);
+  lines_.clear();
+  for (const PriceTable& table : tables_) {
+    lines_.push_back({&table.Head, nullptr});
+    for (const PriceRow& row : table.Rows) lines_.push_back({nullptr, &row});
   }
   endResetModel();
 }
 
+const PriceLabel* PriceTableModel::Line::Label(int column) const {
+  if (Row == nullptr) return column == 0 ? Head : nullptr;
+  return column == 0 ? &Row->Name : column == 1 ? &Row->Price : &Row->Difference;
+}
+
 int PriceTableModel::rowCount(const QModelIndex& parent) const {
-  return parent.isValid() ? 0 : static_cast<int>(rows_.size());
+  return parent.isValid() ? 0 : static_cast<int>(lines_.size());
 }
 
 int PriceTableModel::columnCount(const QModelIndex& parent) const {
-  return parent.isValid() ? 0 : kColumns;
-}
-
-const Control* PriceTableModel::LabelAt(const QModelIndex& index) const {
-  const ControlList& row = Row(index.row());
-  const auto column = static_cast<std::size_t>(index.column());
-  return column < row.size() ? &row[column] : nullptr;
+  return parent.isValid() ? 0 : kPriceColumns;
 }
 
 QVariant PriceTableModel::data(const QModelIndex& index, int role) const {
-  const Control* label = LabelAt(index);
+  const Line& line = At(index.row());
+  const PriceLabel* label = line.Label(index.column());
   if (label == nullptr) return {};
   switch (role) {
     case Qt::DisplayRole:
-      return QString::fromStdString(label->Caption.value_or(""));
+      return QString::fromStdString(label->Caption);
     case Qt::FontRole:
-      return FormFont(label->FontSize.value_or(1));
+      return FormFont(label->FontSize);
     case Qt::BackgroundRole:
-      return ColorOf(label->BackColor.value_or(Color{}));
+      return ToQColor(label->BackColor);
     case Qt::ForegroundRole:
-      return ColorOf(label->ForeColor.value_or(Color{}));
+      return ToQColor(label->ForeColor);
     case Qt::TextAlignmentRole: {
       const bool isFigure = index.column() > 0;
       return static_cast<int>((isFigure ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
     }
-    case Qt::ToolTipRole:
-      // A trade has more to tell than its label shows.
-      return label->ToolTip ? QString::fromStdString(label->Caption.value_or("")) : QVariant();
+    case Qt::ToolTipRole: {
+      // The name of a trade may be cut off in its label.
+      const bool isTradeName = index.column() == 0 && line.Row != nullptr && line.Row->IsTrade;
+      return isTradeName ? QString::fromStdString(label->Caption) : QVariant();
+    }
     default:
       return {};
   }
 }
 
 PriceTableView::PriceTableView(QWidget* parent) : QTableView(parent), model_(this) {
-  setObjectName("PriceTable");
+  setObjectName(NameOf(ControlId::PriceTable));
   setAccessibleName("Prices");
   setModel(&model_);
   setItemDelegate(new LabelDelegate(this));
@@ -138,29 +136,31 @@ PriceTableView::PriceTableView(QWidget* parent) : QTableView(parent), model_(thi
   setPalette(colors);
 }
 
-void PriceTableView::Show(const ControlList& labels) {
+void PriceTableView::Show(std::vector<PriceTable> tables) {
   clearSpans();
-  model_.Show(labels);
+  model_.Show(std::move(tables));
+  if (model_.rowCount() == 0) return;
+  bool hasPrices = false;
   int bottom = 0;
   for (int row = 0; row < model_.rowCount(); ++row) {
-    const ControlList& cells = model_.Row(row);
-    const auto& box = cells.front().Place;
+    const PriceTableModel::Line& line = model_.At(row);
+    const auto& box = line.Label(0)->Place;
     bottom = Pixel(box.Bottom());
     setRowHeight(row, bottom - Pixel(box.Top));
-    if (cells.size() == 1) {
-      setSpan(row, 0, 1, kColumns);
+    if (line.Row == nullptr) {
+      setSpan(row, 0, 1, kPriceColumns);
       continue;
     }
-    for (int column = 0; column < kColumns; ++column) {
-      const auto& cell = cells[static_cast<std::size_t>(column)].Place;
+    hasPrices = true;
+    for (int column = 0; column < kPriceColumns; ++column) {
+      const auto& cell = line.Label(column)->Place;
       setColumnWidth(column, Pixel(cell.Right()) - Pixel(cell.Left));
     }
   }
-  if (labels.empty()) return;
-  const auto& head = labels.front().Place;
-  if (model_.rowCount() == kColumns) {  // heads alone
-    for (int column = 0; column < kColumns; ++column) {
-      setColumnWidth(column, Pixel(head.Width) / kColumns);
+  const auto& head = model_.At(0).Label(0)->Place;
+  if (!hasPrices) {
+    for (int column = 0; column < kPriceColumns; ++column) {
+      setColumnWidth(column, Pixel(head.Width) / kPriceColumns);
     }
   }
   // The labels reach to the window's outer edge; what its frame hides goes off the last column,
@@ -169,7 +169,7 @@ void PriceTableView::Show(const ControlList& labels) {
   const int edge = parentWidget() == nullptr ? Pixel(head.Right()) : parentWidget()->width();
   const int width = std::min(Pixel(head.Right()), edge) - left;
   const int hidden = Pixel(head.Right()) - left - width;
-  const int last = kColumns - 1;
+  const int last = kPriceColumns - 1;
   setColumnWidth(last, std::max(0, columnWidth(last) - hidden));
   setGeometry(left, Pixel(head.Top), width, bottom - Pixel(head.Top));
 }
@@ -185,8 +185,9 @@ void PriceTableView::Copy() const {
   QStringList lines;
   for (const QModelIndex& index : selected) {
     QStringList cells;
-    for (const Control& label : model_.Row(index.row())) {
-      cells << QString::fromStdString(label.Caption.value_or(""));
+    for (int column = 0; column < kPriceColumns; ++column) {
+      const PriceLabel* label = model_.At(index.row()).Label(column);
+      if (label != nullptr) cells << QString::fromStdString(label->Caption);
     }
     lines << cells.join('\t');
   }

@@ -7,6 +7,7 @@
 #include <functional>
 #include <utility>
 
+#include "forms/control_name.h"
 #include "forms/form_geometry.h"
 #include "forms/row_list.h"
 #include "picture/form_font.h"
@@ -20,15 +21,10 @@ constexpr int kGap = 60;  // between text box and close button, twips
 
 // A light edge parts it from the panel that it covers.
 constexpr const char* kStyle =
-    "#StSearchFrame { background: #060a26; border: 1px solid #5ab4dc; }"
+    "#%1 { background: #060a26; border: 1px solid #5ab4dc; }"
     "QLineEdit, QListWidget { background: #0a1034; color: #e0e8ff; border: 1px solid #3a54a0; }"
     "QLabel { color: #00cccc; }"
     "QLineEdit:focus, QListWidget:focus { border-color: #7ac8f0; }";
-
-QRect RectOf(const orrerix::Box& box) {
-  return PixelRect(static_cast<int>(box.Left), static_cast<int>(box.Top),
-                   static_cast<int>(box.Width), static_cast<int>(box.Height));
-}
 
 // Acts on the Escape key wherever on a panel's window the focus is, while the panel is seen.
 class EscapeKey : public QObject {
@@ -57,32 +53,32 @@ class EscapeKey : public QObject {
 
 SearchPanelView::SearchPanelView(SearchEvents& events, QWidget* map)
     : QFrame(map), events_(events) {
-  setObjectName("StSearchFrame");
+  setObjectName(NameOf(ControlId::SearchFrame));
   setAutoFillBackground(true);
   setFrameShape(QFrame::StyledPanel);
-  setStyleSheet(kStyle);
+  setStyleSheet(QString(kStyle).arg(NameOf(ControlId::SearchFrame)));
   setFont(FormFont(kFont));
   caption_ = new QLabel(this);
-  caption_->setObjectName("StSearchCaption");
+  caption_->setObjectName(NameOf(ControlId::SearchCaption));
   caption_->setFont(FormFont(kCaptionFont));
   new EscapeKey(*this, [this] { events_.StSearchCloseClick(); });
   text_ = new QLineEdit(this);
-  text_->setObjectName("StSearchText");
+  text_->setObjectName(NameOf(ControlId::SearchText));
   text_->setAccessibleName("Search text");
   text_->installEventFilter(this);
   QObject::connect(text_, &QLineEdit::textChanged, this,
                    [this](const QString& text) { events_.StSearchTextChange(text.toStdString()); });
   close_ = new QToolButton(this);
-  close_->setObjectName("StSearchClose");
+  close_->setObjectName(NameOf(ControlId::SearchClose));
   close_->setAccessibleName("Close the search");
   close_->setText("\u00D7");
   close_->setAutoRaise(true);
   QObject::connect(close_, &QToolButton::clicked, this, [this] { events_.StSearchCloseClick(); });
-  subSearch_ = AddList("SubSearch", "Found");
+  subSearch_ = AddList(ControlId::FoundList, "Found");
   QObject::connect(subSearch_, &QListWidget::currentRowChanged, this, [this](int row) {
     if (row >= 0) events_.SubSearchClick(static_cast<std::size_t>(row));
   });
-  list_ = AddList("StSearchList", "Places");
+  list_ = AddList(ControlId::PlaceList, "Places");
   QObject::connect(list_, &QListWidget::currentRowChanged, this, [this](int row) {
     if (row >= 0) events_.StSearchListClick(static_cast<std::size_t>(row));
   });
@@ -91,9 +87,9 @@ SearchPanelView::SearchPanelView(SearchEvents& events, QWidget* map)
   hide();
 }
 
-QListWidget* SearchPanelView::AddList(const char* name, const char* accessibleName) {
+QListWidget* SearchPanelView::AddList(ControlId id, const char* accessibleName) {
   auto* list = new RowList(this);
-  list->setObjectName(name);
+  list->setObjectName(NameOf(id));
   list->setAccessibleName(accessibleName);
   list->installEventFilter(this);
   return list;
@@ -101,16 +97,16 @@ QListWidget* SearchPanelView::AddList(const char* name, const char* accessibleNa
 
 void SearchPanelView::Show(const SearchPanel& panel, const QString& caption) {
   if (!panel.Visible()) return hide();
-  setGeometry(RectOf(panel.Frame()));
-  const QRect textRect = RectOf(panel.TextBox());
+  setGeometry(PixelRect(panel.Frame()));
+  const QRect textRect = PixelRect(panel.TextBox());
   caption_->setText(caption);
   caption_->setGeometry(textRect.left(), 0, width() - 2 * textRect.left(), textRect.top());
   text_->setGeometry(textRect);
   const int gap = static_cast<int>(Pixels(kGap));
   close_->setGeometry(textRect.right() + gap, textRect.top(), width() - textRect.right() - 2 * gap,
                       textRect.height());
-  subSearch_->setGeometry(RectOf(panel.SubSearchBox()));
-  list_->setGeometry(RectOf(panel.ListBox()));
+  subSearch_->setGeometry(PixelRect(panel.SubSearchBox()));
+  list_->setGeometry(PixelRect(panel.ListBox()));
   const QString typed = QString::fromStdString(panel.Text());
   if (text_->text() != typed) {
     const QSignalBlocker quiet(text_);

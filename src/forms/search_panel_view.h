@@ -41,7 +41,7 @@ class SearchPanelView : public QFrame {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-  QListWidget* AddList(const char* name, const char* accessibleName);
+  QListWidget* AddList(ControlId id, const char* accessibleName);
   void Fill(QListWidget& list, SearchList& shown, const SearchList& wanted);
   bool KeyPress(QObject* control, int key);
 

@@ -115,7 +115,7 @@ void SearchPlay::Jump(const std::string& nickname) {
     if (play_.PushZoomStack(square)) form_.FormResize();
     const ControlList& controls = screen_.Drawing().Controls;
     const auto icon = std::find_if(controls.begin(), controls.end(), [&](const Control& control) {
-      return control.Name == "Image1" && control.Tag == target->Nickname;
+      return control.Id == ControlId::MapIcon && IconText(control) == target->Nickname;
     });
     // The move may fold the options, which redraws the map.
     const bool found = icon != controls.end();

@@ -12,6 +12,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "forms/control_name.h"
 #include "forms/form_geometry.h"
 #include "forms/locale_signs.h"
 #include "forms/row_list.h"
@@ -32,8 +33,8 @@ constexpr int kOrnamentTop = kFirstMode + static_cast<int>(kModeButtons) * kMode
 constexpr int kStripHeight = 9000;
 
 constexpr const char* kFrameStyle =
-    "#SearchFrame { border: 1px solid #3a6ca8; border-radius: 3px; margin-top: 8px; }"
-    "#SearchFrame::title { subcontrol-origin: margin; left: 4px; padding: 0 2px; }";
+    "QGroupBox { border: 1px solid #3a6ca8; border-radius: 3px; margin-top: 8px; }"
+    "QGroupBox::title { subcontrol-origin: margin; left: 4px; padding: 0 2px; }";
 
 // Logical pixels round the text. Lines that are broken beforehand leave 20 free, most of which the
 // scroll bar may need.
@@ -53,15 +54,15 @@ StationInfo::StationInfo(const StationParts& parts, std::string nickname, std::s
   setPalette(colors);
   MakeDecoration();
   MakeModes();
-  infoText_ = new TextBox("InfoText", this);
+  infoText_ = new TextBox(ControlId::BoxText, this);
   infoText_->setAccessibleName("Information");
   prices_ = new PriceTableView(this);
   searchFrame_ = new QGroupBox(this);
-  searchFrame_->setObjectName("SearchFrame");
+  searchFrame_->setObjectName(NameOf(ControlId::ForSaleFrame));
   searchFrame_->setStyleSheet(kFrameStyle);
   searchFrame_->setFont(FormFont(kStationText));
   searchList_ = new RowList(searchFrame_);
-  searchList_->setObjectName("SearchList");
+  searchList_->setObjectName(NameOf(ControlId::ForSaleList));
   searchList_->setFont(FormFont(kStationText));
   searchList_->setAccessibleName("For sale");
   QObject::connect(searchList_, &QListWidget::currentRowChanged, this,
@@ -74,19 +75,19 @@ StationInfo::StationInfo(const StationParts& parts, std::string nickname, std::s
 }
 
 void StationInfo::MakeDecoration() {
-  const QString file = PictureFile(MakePicture("Station", std::nullopt, {}, picture_));
+  const QString file = PictureFile(MakePicture(ControlId::StationIcon, std::nullopt, {}, picture_));
   setWindowIcon(QIcon(parts_.Pictures.Scaled(file, {kIconPixels, kIconPixels})));
-  ShowPicture("Image1", ":/pictures/station/strip.jpg",
+  ShowPicture(ControlId::StationStrip, ":/pictures/station/strip.jpg",
               PixelRect(0, 0, kStationMargin, kStripHeight));
-  ShowPicture("Image2", ":/pictures/station/ornament.svg",
+  ShowPicture(ControlId::StationOrnament, ":/pictures/station/ornament.svg",
               PixelRect(kSide, kOrnamentTop, kButton, kButton));
-  ShowPicture("Station", file, PixelRect(kSide, kSide, kButton, kButton));
+  ShowPicture(ControlId::StationIcon, file, PixelRect(kSide, kSide, kButton, kButton));
 }
 
 // A picture in front of those before it; the mouse goes through it.
-void StationInfo::ShowPicture(const char* name, const QString& file, const QRect& place) {
+void StationInfo::ShowPicture(ControlId id, const QString& file, const QRect& place) {
   auto* label = new QLabel(this);
-  label->setObjectName(name);
+  label->setObjectName(NameOf(id));
   label->setGeometry(place);
   label->setAttribute(Qt::WA_TransparentForMouseEvents);
   const double ratio = devicePixelRatioF();
@@ -98,7 +99,7 @@ void StationInfo::ShowPicture(const char* name, const QString& file, const QRect
 void StationInfo::MakeModes() {
   for (std::size_t i = 0; i < kModeButtons; ++i) {
     auto* button = new QPushButton(this);
-    button->setObjectName(QStringLiteral("Mode_%1").arg(i));
+    button->setObjectName(NameOf(ControlId::ModeButton, static_cast<int>(i)));
     button->setAccessibleName(kModeNames[i]);
     button->setCheckable(true);
     button->setGeometry(
@@ -210,30 +211,27 @@ void StationInfo::FormResize() {
     FillList();
     const TextMeasure& measure = modes_.Mode() == StationMode::Info ? fixedMeasure_ : formMeasure_;
     const QSize outer = OuterTwips(size(), Decoration());
-    const ControlList controls =
-        LayOutStation(universe, Words(), measure,
-                      {data_, texts_, modes_.Mode(), outer.width(), outer.height()});
+    StationPicture picture = LayOutStation(
+        universe, Words(), measure, {data_, texts_, modes_.Mode(), outer.width(), outer.height()});
     prices_->setVisible(isTable);
     infoText_->setVisible(!isTable);
     searchFrame_->setVisible(!isTable && modes_.Mode() != StationMode::Info);
-    if (isTable) return prices_->Show(controls);
-    for (const Control& control : controls) ShowControl(control);
+    if (isTable) return prices_->Show(std::move(picture.Prices));
+    for (const Control& control : picture.Controls) ShowControl(control);
   });
 }
 
 // What reaches beyond the window's inner edge would hide its scroll bars.
 void StationInfo::ShowControl(const Control& control) {
-  const Box& box = control.Place;
-  const QRect place = PixelRect(static_cast<int>(box.Left), static_cast<int>(box.Top),
-                                static_cast<int>(box.Width), static_cast<int>(box.Height));
-  if (control.Name == "InfoText") {
+  const QRect place = PixelRect(control.Place);
+  if (control.Id == ControlId::BoxText) {
     infoText_->setGeometry(place & rect());
     infoText_->SetMargin(modes_.Mode() == StationMode::Info ? kWrappedMargin : kTextMargin);
     infoText_->Show(control.Caption.value_or(""));
-  } else if (control.Name == "SearchFrame") {
+  } else if (control.Id == ControlId::ForSaleFrame) {
     searchFrame_->setGeometry(place & rect());
     searchFrame_->setTitle(QString::fromStdString(control.Caption.value_or("")));
-  } else if (control.Name == "SearchList") {
+  } else if (control.Id == ControlId::ForSaleList) {
     // Its scroll bar and inner margins stand in the frame's own margin beside it.
     QRect widened = place;
     widened.setRight(searchFrame_->rect().right() - 1);

@@ -51,7 +51,7 @@ class StationInfo : public QWidget {
 
  private:
   void MakeDecoration();
-  void ShowPicture(const char* name, const QString& file, const QRect& place);
+  void ShowPicture(ControlId id, const QString& file, const QRect& place);
   void MakeModes();
   void Place();
   void Settle();

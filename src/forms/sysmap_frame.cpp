@@ -4,6 +4,7 @@
 #include <QMouseEvent>
 #include <optional>
 
+#include "forms/control_name.h"
 #include "picture/twips.h"
 
 namespace orrerix {
@@ -41,7 +42,7 @@ std::optional<MapKey> MapKeyOf(const QKeyEvent& event) {
 
 SysmapFrame::SysmapFrame(MapScene& scene, QWidget* parent)
     : QGraphicsView(&scene, parent), scene_(scene) {
-  setObjectName("SysmapFrame");
+  setObjectName(NameOf(ControlId::MapFrame));
   setFrameShape(QFrame::NoFrame);
   setAlignment(Qt::AlignLeft | Qt::AlignTop);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

@@ -3,6 +3,7 @@
 
 #include <QTextOption>
 
+#include "forms/control_name.h"
 #include "picture/form_font.h"
 
 namespace orrerix {
@@ -14,8 +15,8 @@ constexpr QRgb kLetters = 0xFFCCCC00;
 
 }  // namespace
 
-TextBox::TextBox(const char* name, QWidget* parent) : QPlainTextEdit(parent) {
-  setObjectName(name);
+TextBox::TextBox(ControlId id, QWidget* parent) : QPlainTextEdit(parent) {
+  setObjectName(NameOf(id));
   setFont(FixedFont(kFont));
   setReadOnly(true);
   setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);

@@ -1,16 +1,19 @@
 // SPDX-License-Identifier: MIT
+// A text to read.
 #pragma once
 
 #include <QPlainTextEdit>
 #include <string>
 
+#include "map/control_id.h"
+
 namespace orrerix {
 
 // A read-only text of several lines in letters of one width, from which the user can select and
-// copy. Used where a drawing list has a control InfoText.
+// copy. Shows the text of a box or of a station window.
 class TextBox : public QPlainTextEdit {
  public:
-  TextBox(const char* name, QWidget* parent);
+  TextBox(ControlId id, QWidget* parent);
 
   // A text with lines ending in CR LF, seen from its beginning.
   void Show(const std::string& text);

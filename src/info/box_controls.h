@@ -12,7 +12,7 @@ namespace orrerix {
 // Size of a box's letters, points.
 inline constexpr int kBoxFont = 9;
 
-// Shape1 and InfoText at their places on the map frame.
+// A box and its text at their places on the map frame.
 Control BoxShape(const Box& place, ShapeForm form);
 Control BoxText(const Box& place, std::string text);
 

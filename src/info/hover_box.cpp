@@ -3,8 +3,6 @@
 
 #include <utility>
 
-#include <fmt/format.h>
-
 #include "db/number_text.h"
 #include "map/numeric.h"
 
@@ -24,20 +22,20 @@ void Grow(Routine& routine, int& size, int grown) {
   });
 }
 
-ControlList BoxControls(const Box& place, std::string text, std::string tag) {
+ControlList BoxControls(const Box& place, std::string text, HoveredIcon icon) {
   Control shape = BoxShape(place, ShapeForm::RoundedRectangle);
-  shape.Tag = std::move(tag);
+  shape.Subject = icon;
   const Box inner{static_cast<float>(place.Left + kMargin), static_cast<float>(place.Top + kMargin),
                   place.Width - 2 * kMargin, place.Height - 2 * kMargin};
   return {std::move(shape), BoxText(inner, std::move(text))};
 }
 
-// Enlarges the icon; the tag that says what it was before.
-std::string Enlarge(Control& icon) {
-  std::string tag = fmt::format("{},{}", icon.Index.value_or(0), NumberText(icon.Place.Width));
+// Enlarges the icon and returns what it was before.
+HoveredIcon Enlarge(Control& icon) {
+  const HoveredIcon before{icon.Index.value_or(0), static_cast<float>(icon.Place.Width)};
   icon.Place.Width = kHoveredIcon;
   icon.Place.Height = kHoveredIcon;
-  return tag;
+  return before;
 }
 
 }  // namespace
@@ -47,32 +45,29 @@ HoverBox OpenHoverBox(Universe& universe, const CellNames& names, TextSource& te
   HoverBox hover{icon, {}};
   Routine routine(universe.Log, "OrrerixMain.Image1_MouseMove");
   routine.Run([&] {
-    std::string tag = Enlarge(hover.Icon);
-    std::string text = icon.Tag.value_or("");
+    const HoveredIcon before = Enlarge(hover.Icon);
+    std::string text = IconText(icon);
     WriteHoverText(routine, universe, names, texts, text);
     const TextExtent extent = MeasureLines(routine, text, measure, kBoxFont);
-    hover.Box = BoxControls(HoverBoxPlace(hover.Icon.Place, extent, drawing), std::move(text),
-                            std::move(tag));
+    hover.Box =
+        BoxControls(HoverBoxPlace(hover.Icon.Place, extent, drawing), std::move(text), before);
   });
   return hover;
 }
 
 HoverBox MovedHoverBox(const ControlList& box, const Control& icon, const MapDrawing& drawing) {
   HoverBox hover{icon, {}};
-  std::string tag = Enlarge(hover.Icon);
-  const Box& before = box.front().Place;
-  const TextExtent extent{WholeTwips(before.Width) - 2 * kMargin,
-                          WholeTwips(before.Height) - 2 * kMargin};
+  const HoveredIcon before = Enlarge(hover.Icon);
+  const Box& place = box.front().Place;
+  const TextExtent extent{WholeTwips(place.Width) - 2 * kMargin,
+                          WholeTwips(place.Height) - 2 * kMargin};
   hover.Box = BoxControls(HoverBoxPlace(hover.Icon.Place, extent, drawing),
-                          box.back().Caption.value_or(""), std::move(tag));
+                          box.back().Caption.value_or(""), before);
   return hover;
 }
 
-Control RestoredIcon(Control icon, std::string_view shapeTag) {
-  const std::size_t comma = shapeTag.find(',');
-  if (comma == std::string_view::npos) return icon;
-  const auto size = static_cast<float>(Val(shapeTag.substr(comma + 1)));
-  icon.Place.Width = icon.Place.Height = size;
+Control RestoredIcon(Control icon, const HoveredIcon& hovered) {
+  icon.Place.Width = icon.Place.Height = hovered.Width;
   return icon;
 }
 

@@ -4,7 +4,6 @@
 #include <utility>
 
 #include "info/info_text.h"
-#include "info/price_table.h"
 #include "info/ship_text.h"
 #include "info/text_wrap.h"
 #include "map/numeric.h"
@@ -25,7 +24,7 @@ constexpr Color kText{0x00CCCC};
 constexpr Color kBack{0x400000};
 
 Control InfoText(const Box& place, std::string text) {
-  Control info = MakeLabel("InfoText", std::nullopt, place, std::move(text));
+  Control info = MakeLabel(ControlId::BoxText, std::nullopt, place, std::move(text));
   info.FontSize = kStationText;
   info.ForeColor = kText;
   info.BackColor = kBack;
@@ -63,12 +62,12 @@ ControlList ListView(Universe& universe, const Wording& wording, const TextMeasu
   const double listWidth = widest + kListMargin;
   const double frameWidth = 2 * kListLeft + listWidth;
   Control frame =
-      MakeFrame("SearchFrame", std::nullopt,
+      MakeFrame(ControlId::ForSaleFrame, std::nullopt,
                 {kStationMargin, 0, frameWidth, static_cast<double>(room.Height)}, kBack);
   frame.Caption = wording.Texts.TXT(ships ? kSelectShipText : kSelectEquipmentText);
   frame.ForeColor = kText;
   Control list =
-      MakeFrame("SearchList", std::nullopt,
+      MakeFrame(ControlId::ForSaleList, std::nullopt,
                 {kListLeft, kListTop, listWidth, MAXI(0.0, room.Height - 2.0 * kListTop)}, kBack);
   list.FontSize = kStationText;
   list.ForeColor = kText;
@@ -91,30 +90,31 @@ void WriteShipForSale(Routine& routine, Universe& universe, std::string_view pac
 
 }  // namespace
 
-ControlList LayOutStation(Universe& universe, const Wording& wording, const TextMeasure& measure,
-                          const StationView& view) {
-  ControlList controls;
+StationPicture LayOutStation(Universe& universe, const Wording& wording, const TextMeasure& measure,
+                             const StationView& view) {
+  StationPicture picture;
   Routine routine(universe.Log, "StationInfo.Form_Resize", "While resizing objects in Shipinfo");
+  PriceTableWriter tables(routine, universe, measure, view.Mode);
   routine.Run([&] {
     switch (view.Mode) {
       case StationMode::Info:
-        controls = InfoView(measure, view);
+        picture.Controls = InfoView(measure, view);
         return;
       case StationMode::Ships:
       case StationMode::Equipment:
-        controls = ListView(universe, wording, measure, view);
+        picture.Controls = ListView(universe, wording, measure, view);
         return;
       case StationMode::Prices:
       case StationMode::Trades: {
         const Room room = RoomOf(view);
         const Box place{kStationMargin + kGap, 0, static_cast<double>(room.Width),
                         static_cast<double>(room.Height)};
-        return WritePriceTable(routine, universe, measure, view.Data, view.Texts, view.Mode, place,
-                               controls);
+        return tables.Write(view.Data.Prices, view.Texts.Heads, place);
       }
     }
   });
-  return controls;
+  picture.Prices = tables.Take();
+  return picture;
 }
 
 std::string ForSaleText(Universe& universe, const Wording& wording, StationMode mode,

@@ -52,7 +52,7 @@ ControlList BorderPieces(BorderSet set, int left, int top, int right, int bottom
   ControlList pieces;
   const int number = static_cast<int>(set);
   for (int k = 0; k < kBorderPieces; ++k) {
-    pieces.push_back(MakePicture("Rahmen", kBorderPieces * number + k,
+    pieces.push_back(MakePicture(ControlId::Border, kBorderPieces * number + k,
                                  boxes[static_cast<std::size_t>(k)],
                                  fmt::format("rahmen/set{}_{}.png", number, k)));
   }

@@ -11,12 +11,8 @@ constexpr int kOutlines = 2;  // one within the other
 constexpr int kOutlineGap = 15;
 
 Control CursorLine(int index, LineEnds ends) {
-  Control line;
-  line.Kind = ControlKind::Line;
-  line.Name = "CellCursor";
-  line.Index = index;
+  Control line = MakeLine(ControlId::CellCursor, index, LineKind::CellCursor, kCursorColor);
   line.Ends = ends;
-  line.BorderColor = kCursorColor;
   return line;
 }
 

@@ -13,12 +13,8 @@ constexpr Color kBandColor{0x00FFFF};
 constexpr float kSmallestBand = 50;
 
 Control BandLine(int index, LineEnds ends) {
-  Control line;
-  line.Kind = ControlKind::Line;
-  line.Name = "MouseLine";
-  line.Index = index;
+  Control line = MakeLine(ControlId::RubberBand, index, LineKind::RubberBand, kBandColor);
   line.Ends = ends;
-  line.BorderColor = kBandColor;
   return line;
 }
 

@@ -69,10 +69,6 @@ class Redraw {
  private:
   const ZoomRectangle& Visible() const { return state_.Zoom.Current(); }
 
-  static void Append(ControlList& list, ControlList more) {
-    for (Control& control : more) list.push_back(std::move(control));
-  }
-
   // The elements placed now in front of those from before that they do not replace.
   static ControlList Over(ControlList before, ControlList placed) {
     const int last = placed.empty() ? 0 : placed.back().Index.value_or(0);
@@ -107,7 +103,7 @@ class Redraw {
   }
 
   void ShowPaintedUniverse() {
-    painted_ = {PaintedUniverse(drawing_.Frame, view_.StarMapPicture)};
+    painted_ = {PaintedUniverse(drawing_.Frame, view_.StarMapFile)};
     const Box& universe = painted_.front().Place;
     border_ =
         SetRahmen(universe_.Log, BorderSet::Map, universe.Width + kUniverseMargin, universe.Height);
@@ -140,7 +136,7 @@ class Redraw {
   void LayOutPanel() {
     const PanelView view{universe_.Log,      view_.Panel,      view_.Options,
                          state_.OptionsOpen, state_.PrintMode, view_.Measure};
-    Control panel = MakeFrame("MenuFrame", 0, drawing_.PanelBox, kPanelBack);
+    Control panel = MakeFrame(ControlId::PanelFrame, 0, drawing_.PanelBox, kPanelBack);
     panel.ForeColor = kPanelText;
     SidePanel content;
     if (drawing_.Panel == PanelPlace::Right) {

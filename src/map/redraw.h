@@ -24,7 +24,7 @@ struct MapTile {
   bool Visible = false;
 };
 
-// The elements of the arrays Line1 and Image1, back to front.
+// The lines and icons of the map, back to front.
 struct MapObjects {
   ControlList Lines;
   ControlList Icons;
@@ -50,7 +50,7 @@ struct MapView {
   MapOptions Options;
   const TextMeasure& Measure;
   const PanelContent& Panel;
-  std::string StarMapPicture = "StarMapPic";  // or the file that replaces it
+  std::optional<std::string> StarMapFile = std::nullopt;  // in the place of the painted universe
 };
 
 enum class PanelPlace { None, Right, Below };
@@ -64,7 +64,7 @@ struct MapDrawing {
   int FreeRight = 0;  // twips beside the shown cells
   int FreeBelow = 0;
   PanelPlace Panel = PanelPlace::None;
-  Box PanelBox;  // MenuFrame(0)
+  Box PanelBox;
   bool NewsScrolls = false;
   ControlList Controls;  // visible children of the frame, back to front
 };

@@ -3,7 +3,6 @@
 
 #include <fmt/format.h>
 
-#include "db/number_text.h"
 #include "map/borders.h"
 #include "map/numeric.h"
 #include "map/opt_font_size.h"
@@ -31,8 +30,9 @@ constexpr int kCreditFont = 8;
 constexpr int kNewsFont = 9;
 constexpr int kOptionFont = 8;
 
-// Design height and width of the head band, as its control carries them.
-constexpr std::string_view kHeadBandTag = "615,8115";
+// Design size of the head band; only the ratio counts.
+constexpr double kHeadBandHeight = 615;
+constexpr double kHeadBandWidth = 8115;
 
 constexpr std::array<const char*, kTools> kToolPictures = {
     "tools/search_place.svg", "tools/search_ship.svg", "tools/search_equipment.svg",
@@ -46,16 +46,12 @@ Box WithSize(double left, double top, double width, double height) {
   return {left, top, NotBelowZero(width), NotBelowZero(height)};
 }
 
-Control Label(std::string name, std::optional<int> index, Box place, std::string caption,
-              int fontSize, Color color) {
-  Control label = MakeLabel(std::move(name), index, place, std::move(caption));
+Control Label(ControlId id, std::optional<int> index, Box place, std::string caption, int fontSize,
+              Color color) {
+  Control label = MakeLabel(id, index, place, std::move(caption));
   label.FontSize = fontSize;
   label.ForeColor = color;
   return label;
-}
-
-void Append(ControlList& list, ControlList more) {
-  for (Control& control : more) list.push_back(std::move(control));
 }
 
 ControlList Border(const PanelView& view, BorderSet set, double right, double bottom) {
@@ -78,18 +74,18 @@ ControlList NewsLabels(const PanelContent& content, double width, double top) {
   ControlList labels;
   for (std::size_t i = 0; i < content.News.size(); ++i) {
     const NewsItem& item = content.News[i];
-    Control label = Label("InfoBoxLabel", static_cast<int>(i),
+    Control label = Label(ControlId::NewsLabel, static_cast<int>(i),
                           {0, top + static_cast<double>(i) * kNewsHeight, width, kNewsHeight},
                           item.Caption, kNewsFont, kNewsText);
     label.ToolTip = item.ToolTip;
-    label.Tag = item.Link;
+    label.Subject = NewsLink{item.Link};
     labels.push_back(std::move(label));
   }
   return labels;
 }
 
 Control Logo(const PanelContent& content, Box place) {
-  Control logo = MakePicture("ImageClan", std::nullopt, place, "logo.png");
+  Control logo = MakePicture(ControlId::Logo, std::nullopt, place, "logo.png");
   logo.ToolTip = content.LogoTip;
   return logo;
 }
@@ -98,7 +94,7 @@ Control Logo(const PanelContent& content, Box place) {
 ControlList Tools(const Box& panel, int iconSize, const PanelView& view) {
   ControlList tools;
   for (int i = 0; i < kTools; ++i) {
-    Control tool = MakePicture("StationSearch", i,
+    Control tool = MakePicture(ControlId::Tool, i,
                                {static_cast<double>(i * iconSize + 50), 50,
                                 static_cast<double>(iconSize), static_cast<double>(iconSize)},
                                kToolPictures[static_cast<std::size_t>(i)]);
@@ -123,13 +119,14 @@ ControlList Switches(double frameWidth, double top, const PanelContent& content,
     const double left = twoColumns && i % 2 == 1 ? secondLeft : kCheckLeft;
     const double rowTop = top + row * kOptionLabel.Height;
     const bool on = options.On[static_cast<std::size_t>(i)];
-    Control check = MakePicture("SetImage", i, {left, rowTop, kCheckSize, kCheckSize},
+    Control check = MakePicture(ControlId::OptionSwitch, i, {left, rowTop, kCheckSize, kCheckSize},
                                 on ? "tools/check_on.svg" : "tools/check_off.svg");
-    check.Tag = on ? "1" : "0";
+    check.Subject = SwitchState{on};
     switches.push_back(std::move(check));
-    switches.push_back(
-        Label("SetLabel", i, {left + kCheckSize, rowTop, kOptionLabel.Width, kOptionLabel.Height},
-              content.Options[static_cast<std::size_t>(i)], kOptionFont, kOptionText));
+    switches.push_back(Label(ControlId::OptionLabel, i,
+                             {left + kCheckSize, rowTop, kOptionLabel.Width, kOptionLabel.Height},
+                             content.Options[static_cast<std::size_t>(i)], kOptionFont,
+                             kOptionText));
   }
   return switches;
 }
@@ -139,13 +136,13 @@ Control OptionsFrame(const Box& panel, double top, const PanelView& view) {
   const double width = NotBelowZero(panel.Width - kInnerLeft - kInnerRight);
   const Box caption{0, kBorderThickness, width, kShowOptionsHeight};
   const double switchesTop = caption.Bottom() + 2 * kBorderThickness;
-  Control frame = MakeFrame("MenuFrame", 1, {kInnerLeft, top, width, switchesTop}, kBack);
+  Control frame = MakeFrame(ControlId::PanelFrame, 1, {kInnerLeft, top, width, switchesTop}, kBack);
   frame.Caption = "Show - Options";
   frame.ForeColor = kText;
-  frame.Children.push_back(Label("ShowOptionsLabel", std::nullopt, caption, content.ShowOptions,
-                                 kNewsFont, kOptionText));
+  frame.Children.push_back(Label(ControlId::OptionsCaption, std::nullopt, caption,
+                                 content.ShowOptions, kNewsFont, kOptionText));
   frame.Children.push_back(
-      Label("SetLabel", kLanguageLabel,
+      Label(ControlId::OptionLabel, kLanguageLabel,
             {caption.Right() - kOptionLabel.Width, caption.Bottom() - kOptionLabel.Height,
              kOptionLabel.Width, kOptionLabel.Height},
             content.Options[kLanguageLabel], kOptionFont, kOptionText));
@@ -171,11 +168,11 @@ InfoBoxFoot FootOf(const Box& box, const PanelContent& content, const TextMeasur
   const int creditFont =
       OptFontSize(content.Credit, measure, kCreditFont, WholeTwips(box.Width / 2));
   InfoBoxFoot foot{
-      Label("WRTP", 0,
+      Label(ControlId::InfoBoxLine, 0,
             {0, 0, box.Width, static_cast<double>(measure.TextHeight(content.Slogan, sloganFont))},
             content.Slogan, sloganFont, kText),
       Logo(content, FitLogo(content, box.Width, 0)),
-      Label("WRTP", 1,
+      Label(ControlId::InfoBoxLine, 1,
             {0, 0, box.Width, static_cast<double>(measure.TextHeight(content.Credit, creditFont))},
             content.Credit, creditFont, kCreditText)};
   foot.Slogan.BackColor = kBack;
@@ -195,7 +192,7 @@ struct InfoBox {
 };
 
 Control InfoFrame(const Box& box) {
-  Control frame = MakeFrame("MenuFrame", 2, box, kBack);
+  Control frame = MakeFrame(ControlId::PanelFrame, 2, box, kBack);
   frame.Caption = "Infobox";
   frame.ForeColor = kText;
   return frame;
@@ -210,15 +207,14 @@ InfoBox MakeInfoBox(const Box& panel, double top, const PanelView& view) {
   InfoBoxFoot foot = FootOf(box, content, view.Measure);
   const double sloganTop = foot.Slogan.Place.Top;
 
-  const double bandHeight = box.Width / Val(kHeadBandTag.substr(4)) * Val(kHeadBandTag);
+  const double bandHeight = box.Width / kHeadBandWidth * kHeadBandHeight;
   const Box background =
       WithSize(kBorderThickness, kBorderThickness, box.Width - 2 * kBorderThickness,
                sloganTop - kBorderThickness - kBorderThickness);
   ControlList& children = info.Frame.Children;
-  children.push_back(MakePicture("ITACImage", 1, background, "itac_background.jpg"));
-  children.push_back(
-      MakePicture("ITACImage", 0, {0, kBorderThickness, box.Width, bandHeight}, "itac_head.png"));
-  children.back().Tag = kHeadBandTag;
+  children.push_back(MakePicture(ControlId::InfoBoxPicture, 1, background, "itac_background.jpg"));
+  children.push_back(MakePicture(ControlId::InfoBoxPicture, 0,
+                                 {0, kBorderThickness, box.Width, bandHeight}, "itac_head.png"));
   Append(children, NewsLabels(content, box.Width, kBorderThickness + bandHeight));
   info.NewsScrolls = !content.News.empty() && children.back().Place.Bottom() > sloganTop;
   Append(children, Border(view, BorderSet::InfoBox, box.Width, sloganTop));

@@ -13,6 +13,7 @@
 #include <gtest/gtest.h>
 
 #include "forms/form_parts.h"
+#include "map/control_id.h"
 #include "support/fake_message_boxes.h"
 #include "support/temp_folder.h"
 
@@ -82,6 +83,15 @@ Child& Find(const QWidget& root, const char* name) {
   throw std::runtime_error(std::string("no child '") + name + "'; there are:" + there);
 }
 
+template <typename Child = QWidget>
+Child& Find(const QWidget& root, ControlId id) {
+  return Find<Child>(root, PrintedName(id).data());
+}
+template <typename Child = QWidget>
+Child& Find(const QWidget& root, ControlId id, int index) {
+  return Find<Child>(root, ObjectName(id, index).c_str());
+}
+
 // Lets events through until something is so. False if it does not come about.
 inline bool WaitUntil(const std::function<bool()>& isSo) {
   const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(30);
@@ -119,7 +129,8 @@ class FormFixture : public ::testing::Test {
   FakePrinters printers;
   FakeNetwork network;
   PictureStore pictures;
-  FormParts parts{paths, {1, 0, 0}, log, registry, messages, sound, links, printers, network, pictures};
+  FormParts parts{paths, {1, 0, 0}, log,      registry, messages,
+                  sound, links,     printers, network,  pictures};
 };
 
 }  // namespace orrerix

@@ -9,6 +9,7 @@
 
 #include <gtest/gtest.h>
 
+#include "forms/control_name.h"
 #include "info/box_controls.h"
 
 namespace orrerix {
@@ -56,7 +57,7 @@ TEST(InfoBox, AtEveryWidthItsTextBreaksBetweenWords) {
   for (int width = 300; width < 9000; width += 105) {
     box.Show({BoxShape({0, 0, width + 450.0, 3000}, ShapeForm::Rectangle),
               BoxText({200, 150, static_cast<double>(width), 2700}, text)});
-    const QStringList breaks = BreaksOf(*box.findChild<TextBox*>("InfoText"));
+    const QStringList breaks = BreaksOf(*box.findChild<TextBox*>(NameOf(ControlId::BoxText)));
     EXPECT_EQ(breaks.filter(withinWord).join(' ').toStdString(), "") << width;
   }
 }

@@ -99,16 +99,16 @@ class MapPlayFixture : public UniverseFixture, private MapForm {
   void Key(Qt::Key key) { QTest::keyClick(&map.Frame(), key); }
 
   // All controls of a name that the scene shows, those in front included.
-  std::vector<const Control*> Shown(std::string_view name) {
+  std::vector<const Control*> Shown(ControlId id) {
     std::vector<const Control*> found;
     for (const QGraphicsItem* item : map.Scene().items(Qt::AscendingOrder)) {
       const Control& control = ControlItem::Of(*item);
-      if (control.Name == name) found.push_back(&control);
+      if (control.Id == id) found.push_back(&control);
     }
     return found;
   }
-  const Control* Shown(std::string_view name, int index) {
-    for (const Control* control : Shown(name)) {
+  const Control* Shown(ControlId id, int index) {
+    for (const Control* control : Shown(id)) {
       if (control->Index.value_or(0) == index) return control;
     }
     return nullptr;
@@ -116,23 +116,23 @@ class MapPlayFixture : public UniverseFixture, private MapForm {
 
   // The icon of an object; its middle, pixels.
   const Control& Icon(std::string_view nickname) {
-    for (const Control* icon : Shown("Image1")) {
-      if (icon->Tag == nickname) return *icon;
+    for (const Control* icon : Shown(ControlId::MapIcon)) {
+      if (IconText(*icon) == nickname) return *icon;
     }
     throw std::runtime_error("no icon of " + std::string(nickname));
   }
   QPoint At(std::string_view nickname) { return Pixels(Icon(nickname).Place).center().toPoint(); }
 
   // The middle of a control of the panel, pixels of the frame.
-  QPoint OnPanel(std::string_view name, int index = 0) {
+  QPoint OnPanel(ControlId id, int index = 0) {
     for (const QGraphicsItem* item : map.Scene().items()) {
       const Control& control = ControlItem::Of(*item);
-      if (control.Name == name && control.Index.value_or(0) == index) {
+      if (control.Id == id && control.Index.value_or(0) == index) {
         return item->mapToScene(Pixels({0, 0, control.Place.Width, control.Place.Height}).center())
             .toPoint();
       }
     }
-    throw std::runtime_error("the panel has no " + std::string(name));
+    throw std::runtime_error("the panel has no " + ObjectName(id));
   }
 
   std::vector<std::string> Sounds() const {

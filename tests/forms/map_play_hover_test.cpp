@@ -18,7 +18,7 @@ class MapPlayHoverTest : public MapPlayFixture {
 
   Box Hover(std::string_view nickname) {
     Move(At(nickname));
-    return Shown("Shape1").empty() ? Box{} : Shown("Shape1").front()->Place;
+    return Shown(ControlId::BoxShape).empty() ? Box{} : Shown(ControlId::BoxShape).front()->Place;
   }
 };
 
@@ -27,8 +27,8 @@ TEST_F(MapPlayHoverTest, TheIconGrowsFromItsCornerAndItsBoxOpens) {
 
   // 0.1 x 8550 - 100
   EXPECT_EQ(Icon("li01_nw_base").Place, (Box{755, 755, 600, 600}));
-  EXPECT_EQ(Shown("InfoText", 0)->Caption, "li01_nw_base");
-  EXPECT_EQ(Shown("Shape1", 0)->Shape, ShapeForm::RoundedRectangle);
+  EXPECT_EQ(Shown(ControlId::BoxText, 0)->Caption, "li01_nw_base");
+  EXPECT_EQ(Shown(ControlId::BoxShape, 0)->Shape, ShapeForm::RoundedRectangle);
   EXPECT_THAT(Sounds(), ElementsAre("ui_secondary_window_open"));
 }
 
@@ -67,7 +67,7 @@ TEST_F(MapPlayHoverTest, WhileABoxIsUpOtherIconsStayAsTheyAre) {
   Hover("li01_se_base");
 
   EXPECT_EQ(Icon("li01_se_base").Place.Width, 200);
-  EXPECT_EQ(Shown("InfoText", 0)->Caption, "li01_nw_base");
+  EXPECT_EQ(Shown(ControlId::BoxText, 0)->Caption, "li01_nw_base");
   EXPECT_THAT(Sounds(), SizeIs(1));
 }
 
@@ -76,8 +76,8 @@ TEST_F(MapPlayHoverTest, AMoveOnTheMapEndsIt) {
 
   Move({300, 300});
 
-  EXPECT_THAT(Shown("Shape1"), IsEmpty());
-  EXPECT_THAT(Shown("InfoText"), IsEmpty());
+  EXPECT_THAT(Shown(ControlId::BoxShape), IsEmpty());
+  EXPECT_THAT(Shown(ControlId::BoxText), IsEmpty());
   EXPECT_EQ(Icon("li01_nw_base").Place, (Box{755, 755, 200, 200}));
   EXPECT_EQ(redraws, 0);
 }
@@ -87,37 +87,37 @@ TEST_F(MapPlayHoverTest, AMoveOntoTheBoxEndsIt) {
 
   Move(Pixels(box).center().toPoint());
 
-  EXPECT_THAT(Shown("Shape1"), IsEmpty());
+  EXPECT_THAT(Shown(ControlId::BoxShape), IsEmpty());
 }
 
 TEST_F(MapPlayHoverTest, AMoveOnThePanelLeavesItUp) {
   Hover("li01_ne_base");
 
-  Move(OnPanel("StationSearch", 2));
+  Move(OnPanel(ControlId::Tool, 2));
 
-  EXPECT_THAT(Shown("Shape1"), SizeIs(1));
+  EXPECT_THAT(Shown(ControlId::BoxShape), SizeIs(1));
 }
 
 TEST_F(MapPlayHoverTest, ItGoesOnThroughARedrawWithItsBoxPlacedAnew) {
   Hover("li01_nw_base");
-  const orrerix::Box before = Shown("Shape1").at(0)->Place;
-  const std::optional<std::string> text = Shown("InfoText").at(0)->Caption;
+  const orrerix::Box before = Shown(ControlId::BoxShape).at(0)->Place;
+  const std::optional<std::string> text = Shown(ControlId::BoxText).at(0)->Caption;
 
   map.Redraw(universe, 14200, 6550);  // the cell is 6000 instead of 8550 twips wide
   play.MapRedrawn();
 
-  ASSERT_THAT(Shown("Shape1"), SizeIs(1));
+  ASSERT_THAT(Shown(ControlId::BoxShape), SizeIs(1));
   const orrerix::Box icon = Icon("li01_nw_base").Place;
   EXPECT_EQ(icon.Width, 600);
   EXPECT_FLOAT_EQ(static_cast<float>(icon.Left), 500);  // 6000 x 0.1 - 100
-  const orrerix::Box box = Shown("Shape1").at(0)->Place;
+  const orrerix::Box box = Shown(ControlId::BoxShape).at(0)->Place;
   EXPECT_FLOAT_EQ(static_cast<float>(box.Top), 1200);  // 500 + 600 + 100
   EXPECT_EQ(box.Width, before.Width);
-  EXPECT_EQ(Shown("InfoText").at(0)->Caption, text);
+  EXPECT_EQ(Shown(ControlId::BoxText).at(0)->Caption, text);
 
   Move({300, 300});
 
-  EXPECT_THAT(Shown("Shape1"), IsEmpty());
+  EXPECT_THAT(Shown(ControlId::BoxShape), IsEmpty());
   EXPECT_EQ(Icon("li01_nw_base").Place.Width, 200);
 }
 
@@ -126,9 +126,9 @@ TEST_F(MapPlayHoverTest, ItsBoxStaysWhenTheIconIsNoLongerThereUntilTheMouseMoves
   Key(Qt::Key_Backspace);
   ASSERT_EQ(Visible(), ZoomRectangle{});
 
-  EXPECT_THAT(Shown("Shape1"), SizeIs(1));
+  EXPECT_THAT(Shown(ControlId::BoxShape), SizeIs(1));
   Move({300, 300});
-  EXPECT_THAT(Shown("Shape1"), IsEmpty());
+  EXPECT_THAT(Shown(ControlId::BoxShape), IsEmpty());
 }
 
 TEST_F(MapPlayHoverTest, ARedrawWhileAQuestionIsOpenLeavesNoIconBehind) {
@@ -143,7 +143,7 @@ TEST_F(MapPlayHoverTest, ARedrawWhileAQuestionIsOpenLeavesNoIconBehind) {
 }
 
 TEST_F(MapPlayHoverTest, AnotherBoxStaysThroughMovesAndRedrawsAndKeepsHoversAway) {
-  Control shape = MakeFrame("Shape1", std::nullopt, {5000, 0, 3650, 8550}, {0x400000});
+  Control shape = MakeFrame(ControlId::BoxShape, std::nullopt, {5000, 0, 3650, 8550}, {0x400000});
   shape.Shape = ShapeForm::Rectangle;
   play.Box().Show({shape});
 
@@ -151,10 +151,10 @@ TEST_F(MapPlayHoverTest, AnotherBoxStaysThroughMovesAndRedrawsAndKeepsHoversAway
   Redraw();
   Move(At("li01_nw_base"));
 
-  EXPECT_THAT(Shown("Shape1"), SizeIs(1));
+  EXPECT_THAT(Shown(ControlId::BoxShape), SizeIs(1));
   EXPECT_EQ(Icon("li01_nw_base").Place.Width, 200);
   play.Box().Hide();
-  EXPECT_THAT(Shown("Shape1"), IsEmpty());
+  EXPECT_THAT(Shown(ControlId::BoxShape), IsEmpty());
 }
 
 TEST_F(MapPlayHoverTest, WithoutSoundFilesNothingIsSaidOfThem) {
@@ -162,7 +162,7 @@ TEST_F(MapPlayHoverTest, WithoutSoundFilesNothingIsSaidOfThem) {
 
   Hover("li01_nw_base");
 
-  EXPECT_THAT(Shown("Shape1"), SizeIs(1));
+  EXPECT_THAT(Shown(ControlId::BoxShape), SizeIs(1));
   EXPECT_THAT(Sounds(), IsEmpty());
   EXPECT_TRUE(messages.Shown.empty());
 }
@@ -215,13 +215,13 @@ TEST_F(MapPlayHoverTest, IconsAnswerByTheirIndexAndUnknownOnesDoNothing) {
 
   play.Image1MouseMove(0);
   play.Image1Click(999);
-  EXPECT_THAT(Shown("Shape1"), IsEmpty());
+  EXPECT_THAT(Shown(ControlId::BoxShape), IsEmpty());
 
   play.SysmapFrameMouseMove(PointerButton::None, 0, 0);
   play.Image1MouseMove(index);
   play.Image1Click(index);
 
-  EXPECT_EQ(Shown("InfoText", 0)->Caption, "li01_se_base");
+  EXPECT_EQ(Shown(ControlId::BoxText, 0)->Caption, "li01_se_base");
   ASSERT_THAT(stations, SizeIs(1));
   EXPECT_EQ(stations[0].first, "li01_se_base");
 }

@@ -21,17 +21,19 @@ class MapPlayKeysTest : public MapPlayFixture {
 
   // Top left corner of the cursor's cell, pixels.
   QPointF Cursor() {
-    const Control* top = Shown("CellCursor", 0);
+    const Control* top = Shown(ControlId::CellCursor, 0);
     return top == nullptr ? QPointF(-1, -1)
                           : QPointF(Pixels(top->Ends.X1) - 0.5, Pixels(top->Ends.Y1) - 0.5);
   }
 
   // The button that the Tab key stops at for a control of the panel.
-  QAbstractButton& Button(const char* name) { return Find<QAbstractButton>(form, name); }
+  QAbstractButton& Button(ControlId id, int index) {
+    return Find<QAbstractButton>(form, id, index);
+  }
 };
 
 TEST_F(MapPlayKeysTest, AnArrowKeyShowsTheCursorAndFurtherOnesMoveIt) {
-  EXPECT_THAT(Shown("CellCursor"), IsEmpty());
+  EXPECT_THAT(Shown(ControlId::CellCursor), IsEmpty());
 
   Key(Qt::Key_Left);
   EXPECT_EQ(Cursor(), QPointF(240, 270));  // the middle: column 8, row 9
@@ -78,9 +80,9 @@ TEST_F(MapPlayKeysTest, TheCursorLetsTheMouseThroughAndGoesWithAPress) {
   ASSERT_EQ(Cursor(), QPointF(0, 0));
 
   Move(At("li01_nw_base"));
-  EXPECT_THAT(Shown("Shape1"), SizeIs(1));
+  EXPECT_THAT(Shown(ControlId::BoxShape), SizeIs(1));
   Press(At("li01_nw_base"));
-  EXPECT_THAT(Shown("CellCursor"), IsEmpty());
+  EXPECT_THAT(Shown(ControlId::CellCursor), IsEmpty());
 }
 
 TEST_F(MapPlayKeysTest, TheSystemUnderTheCursorIsToldToScreenReaders) {
@@ -99,31 +101,36 @@ TEST_F(MapPlayKeysTest, TabGoesThroughThePanelAndBackToTheMap) {
     stops.push_back(QApplication::focusWidget()->objectName().toStdString());
   }
 
-  EXPECT_THAT(stops, ElementsAre("StationSearch_0", "StationSearch_1", "StationSearch_2",
-                                 "StationSearch_3", "StationSearch_4", "ShowOptionsLabel_0",
-                                 "SetLabel_6", "SetImage_0", "SetImage_1", "SetImage_2",
-                                 "SetImage_3", "SetImage_4", "SetImage_5", "InfoBoxLabel_0"));
+  EXPECT_THAT(
+      stops,
+      ElementsAre(ObjectName(ControlId::Tool, 0), ObjectName(ControlId::Tool, 1),
+                  ObjectName(ControlId::Tool, 2), ObjectName(ControlId::Tool, 3),
+                  ObjectName(ControlId::Tool, 4), ObjectName(ControlId::OptionsCaption, 0),
+                  ObjectName(ControlId::OptionLabel, 6), ObjectName(ControlId::OptionSwitch, 0),
+                  ObjectName(ControlId::OptionSwitch, 1), ObjectName(ControlId::OptionSwitch, 2),
+                  ObjectName(ControlId::OptionSwitch, 3), ObjectName(ControlId::OptionSwitch, 4),
+                  ObjectName(ControlId::OptionSwitch, 5), ObjectName(ControlId::NewsLabel, 0)));
 }
 
 TEST_F(MapPlayKeysTest, FoldedOptionsAreNoStops) {
-  EXPECT_FALSE(Button("SetImage_0").isVisible());
-  EXPECT_TRUE(Button("SetLabel_6").isVisible());
+  EXPECT_FALSE(Button(ControlId::OptionSwitch, 0).isVisible());
+  EXPECT_TRUE(Button(ControlId::OptionLabel, 6).isVisible());
 }
 
 TEST_F(MapPlayKeysTest, EnterAndSpaceActivateAStop) {
-  QTest::keyClick(&Button("StationSearch_1"), Qt::Key_Return);
-  QTest::keyClick(&Button("StationSearch_2"), Qt::Key_Space);
+  QTest::keyClick(&Button(ControlId::Tool, 1), Qt::Key_Return);
+  QTest::keyClick(&Button(ControlId::Tool, 2), Qt::Key_Space);
   EXPECT_THAT(searches, ElementsAre(1, 2));
 
-  QTest::keyClick(&Button("ShowOptionsLabel_0"), Qt::Key_Space);
-  EXPECT_THAT(Shown("SetImage"), SizeIs(6));
-  QTest::keyClick(&Button("SetImage_0"), Qt::Key_Enter);
+  QTest::keyClick(&Button(ControlId::OptionsCaption, 0), Qt::Key_Space);
+  EXPECT_THAT(Shown(ControlId::OptionSwitch), SizeIs(6));
+  QTest::keyClick(&Button(ControlId::OptionSwitch, 0), Qt::Key_Enter);
   EXPECT_EQ(settings.ReadSetting("SET1-0"), "1");
-  EXPECT_TRUE(Button("SetImage_0").isChecked());
-  QTest::keyClick(&Button("SetLabel_6"), Qt::Key_Return);
+  EXPECT_TRUE(Button(ControlId::OptionSwitch, 0).isChecked());
+  QTest::keyClick(&Button(ControlId::OptionLabel, 6), Qt::Key_Return);
   EXPECT_EQ(settings.ReadSetting("LANG"), "2");
-  QTest::keyClick(&Button("ShowOptionsLabel_0"), Qt::Key_Return);
-  EXPECT_THAT(Shown("SetImage"), IsEmpty());
+  QTest::keyClick(&Button(ControlId::OptionsCaption, 0), Qt::Key_Return);
+  EXPECT_THAT(Shown(ControlId::OptionSwitch), IsEmpty());
 }
 
 TEST_F(MapPlayKeysTest, EveryStopHasANameInTheLanguageInUse) {
@@ -134,15 +141,16 @@ TEST_F(MapPlayKeysTest, EveryStopHasANameInTheLanguageInUse) {
 
   play.SetLabelClick(6);
 
-  EXPECT_EQ(Button("SetImage_5").accessibleName().toStdString(), FixedLanguage(2).TXT(6));
-  EXPECT_EQ(Button("StationSearch_0").accessibleName().toStdString(), FixedLanguage(2).TXT(9));
+  EXPECT_EQ(Button(ControlId::OptionSwitch, 5).accessibleName().toStdString(),
+            FixedLanguage(2).TXT(6));
+  EXPECT_EQ(Button(ControlId::Tool, 0).accessibleName().toStdString(), FixedLanguage(2).TXT(9));
 }
 
 TEST_F(MapPlayKeysTest, AStopStandsOverItsControlAndLetsTheMouseThrough) {
-  const QPoint tool = OnPanel("StationSearch", 3);
+  const QPoint tool = OnPanel(ControlId::Tool, 3);
 
-  EXPECT_TRUE(Button("StationSearch_3").geometry().contains(tool));
-  EXPECT_TRUE(Button("StationSearch_3").testAttribute(Qt::WA_TransparentForMouseEvents));
+  EXPECT_TRUE(Button(ControlId::Tool, 3).geometry().contains(tool));
+  EXPECT_TRUE(Button(ControlId::Tool, 3).testAttribute(Qt::WA_TransparentForMouseEvents));
 }
 
 }  // namespace

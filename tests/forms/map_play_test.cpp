@@ -42,7 +42,7 @@ TEST_F(MapPlayTest, ADragThatLeavesTheFrameEndsWithTheCellsShown) {
 
 TEST_F(MapPlayTest, ADragThatEndsOverThePanelOrAnIconIsADragAllTheSame) {
   // The tools are (5800 - 100) / 5 twips high, with their middle at 50 + 570, in row 1.
-  Drag({255, 315}, OnPanel("StationSearch", 4));
+  Drag({255, 315}, OnPanel(ControlId::Tool, 4));
   EXPECT_EQ(Visible(), (ZoomRectangle{8, 1, 17, 10}));
   EXPECT_THAT(searches, IsEmpty());
   Click({10, 500}, Qt::RightButton);
@@ -68,14 +68,14 @@ TEST_F(MapPlayTest, ZoomingIntoACellAndBackShowsTheSameMap) {
 
   Click({255, 315});
   EXPECT_EQ(Visible(), (ZoomRectangle{8, 10, 8, 10}));
-  EXPECT_THAT(Shown("Image1"), SizeIs(4));
+  EXPECT_THAT(Shown(ControlId::MapIcon), SizeIs(4));
   EXPECT_THAT(Sounds(), ElementsAre("ui_nav_map_fade"));
   Click({20, 300}, Qt::RightButton);
 
   EXPECT_EQ(Visible(), ZoomRectangle{});
-  EXPECT_THAT(Shown("Image1"), IsEmpty());
+  EXPECT_THAT(Shown(ControlId::MapIcon), IsEmpty());
   // The tiles that were laid for the zoomed map stay.
-  EXPECT_EQ(map.Drawing().Controls.size() - Shown("Hintergrund").size(), before - 1);
+  EXPECT_EQ(map.Drawing().Controls.size() - Shown(ControlId::BackgroundTile).size(), before - 1);
   EXPECT_THAT(Sounds(), SizeIs(1));
 }
 
@@ -94,31 +94,31 @@ TEST_F(MapPlayTest, AClickIntoASingleCellBeepsAndItsIconsStay) {
 
   EXPECT_EQ(sound.Beeps, 1);
   EXPECT_EQ(redraws, 1);
-  EXPECT_THAT(Shown("Image1"), SizeIs(4));
+  EXPECT_THAT(Shown(ControlId::MapIcon), SizeIs(4));
   EXPECT_THAT(Sounds(), IsEmpty());
 }
 
 TEST_F(MapPlayTest, TheBandFollowsTheDragAndGoesWithIt) {
   Press({100, 100});
   Move({103, 200});  // 45 twips are too few
-  EXPECT_THAT(Shown("MouseLine"), IsEmpty());
+  EXPECT_THAT(Shown(ControlId::RubberBand), IsEmpty());
 
   Move({200, 150});
-  ASSERT_THAT(Shown("MouseLine"), SizeIs(4));
-  EXPECT_EQ(Shown("MouseLine", 0)->Ends, (LineEnds{1500, 1500, 3000, 1500}));
-  EXPECT_EQ(Shown("MouseLine", 2)->Ends, (LineEnds{3000, 2250, 1500, 2250}));
+  ASSERT_THAT(Shown(ControlId::RubberBand), SizeIs(4));
+  EXPECT_EQ(Shown(ControlId::RubberBand, 0)->Ends, (LineEnds{1500, 1500, 3000, 1500}));
+  EXPECT_EQ(Shown(ControlId::RubberBand, 2)->Ends, (LineEnds{3000, 2250, 1500, 2250}));
 
   Move({-20, 150});  // outside the frame
-  EXPECT_EQ(Shown("MouseLine", 0)->Ends, (LineEnds{1500, 1500, -300, 1500}));
+  EXPECT_EQ(Shown(ControlId::RubberBand, 0)->Ends, (LineEnds{1500, 1500, -300, 1500}));
   Release({-20, 150});
-  EXPECT_THAT(Shown("MouseLine"), IsEmpty());
+  EXPECT_THAT(Shown(ControlId::RubberBand), IsEmpty());
 }
 
 TEST_F(MapPlayTest, OnlyTheLeftButtonDrawsABand) {
   Press({100, 100}, Qt::RightButton);
   Move({200, 200});
 
-  EXPECT_THAT(Shown("MouseLine"), IsEmpty());
+  EXPECT_THAT(Shown(ControlId::RubberBand), IsEmpty());
 }
 
 TEST_F(MapPlayTest, AMoveWithNothingOpenDoesNothing) {
@@ -128,86 +128,87 @@ TEST_F(MapPlayTest, AMoveWithNothingOpenDoesNothing) {
 }
 
 TEST_F(MapPlayTest, TouchingTheCaptionUnfoldsTheOptionsAndTheMapFoldsThem) {
-  Move(OnPanel("ShowOptionsLabel"));
-  EXPECT_THAT(Shown("SetImage"), SizeIs(6));
+  Move(OnPanel(ControlId::OptionsCaption));
+  EXPECT_THAT(Shown(ControlId::OptionSwitch), SizeIs(6));
   EXPECT_EQ(redraws, 1);
-  Move(OnPanel("SetImage", 3));
+  Move(OnPanel(ControlId::OptionSwitch, 3));
   EXPECT_EQ(redraws, 1);
 
   Move({255, 315});
-  EXPECT_THAT(Shown("SetImage"), IsEmpty());
+  EXPECT_THAT(Shown(ControlId::OptionSwitch), IsEmpty());
   EXPECT_EQ(redraws, 2);
 }
 
 TEST_F(MapPlayTest, WithTheSearchPanelOpenTheCaptionDoesNothing) {
   searchPanelOpen = true;
 
-  Move(OnPanel("ShowOptionsLabel"));
+  Move(OnPanel(ControlId::OptionsCaption));
 
   EXPECT_EQ(redraws, 0);
-  EXPECT_THAT(Shown("SetImage"), IsEmpty());
+  EXPECT_THAT(Shown(ControlId::OptionSwitch), IsEmpty());
 }
 
 TEST_F(MapPlayTest, ASwitchTurnsOverOnTheWholeGridWithoutTheOtherSet) {
-  Move(OnPanel("ShowOptionsLabel"));
+  Move(OnPanel(ControlId::OptionsCaption));
 
-  Click(OnPanel("SetImage", 0));
+  Click(OnPanel(ControlId::OptionSwitch, 0));
 
   EXPECT_EQ(settings.ReadSetting("SET1-0"), "1");
   EXPECT_EQ(settings.ReadSetting("SET2-0"), "1");
-  EXPECT_EQ(Shown("SetImage", 0)->Picture, "tools/check_on.svg");
-  EXPECT_FALSE(Shown("Blanko").empty());
+  EXPECT_EQ(Shown(ControlId::OptionSwitch, 0)->Picture, "tools/check_on.svg");
+  EXPECT_FALSE(Shown(ControlId::EmptyCell).empty());
   EXPECT_THAT(Sounds(), ElementsAre("ui_item_select"));
 }
 
 TEST_F(MapPlayTest, ASwitchTurnsOverInAZoomedMapWithoutTheOtherSet) {
   Zoom({7, 9, 9, 11});
-  Move(OnPanel("ShowOptionsLabel"));
-  ASSERT_EQ(Shown("SetImage", 5)->Picture, "tools/check_on.svg");
+  Move(OnPanel(ControlId::OptionsCaption));
+  ASSERT_EQ(Shown(ControlId::OptionSwitch, 5)->Picture, "tools/check_on.svg");
 
-  Click(OnPanel("SetLabel", 5));  // its caption does the same
+  Click(OnPanel(ControlId::OptionLabel, 5));  // its caption does the same
 
   EXPECT_EQ(settings.ReadSetting("SET2-5"), "0");
   EXPECT_EQ(settings.ReadSetting("SET1-5"), "1");
-  EXPECT_EQ(Shown("SetImage", 5)->Picture, "tools/check_off.svg");
-  EXPECT_THAT(Shown("SysmapLabel"), IsEmpty());
+  EXPECT_EQ(Shown(ControlId::OptionSwitch, 5)->Picture, "tools/check_off.svg");
+  EXPECT_THAT(Shown(ControlId::SystemLabel), IsEmpty());
 }
 
 TEST_F(MapPlayTest, ThePanelShowsTheSetOfTheViewAndASettingThatIsNoNumberAsOff) {
   settings.WriteSettingValue("SET2-2", "none");
   Zoom({7, 9, 9, 11});
 
-  Move(OnPanel("ShowOptionsLabel"));
+  Move(OnPanel(ControlId::OptionsCaption));
 
-  EXPECT_EQ(Shown("SetImage", 1)->Picture, "tools/check_on.svg");
-  EXPECT_EQ(Shown("SetImage", 2)->Picture, "tools/check_off.svg");
+  EXPECT_EQ(Shown(ControlId::OptionSwitch, 1)->Picture, "tools/check_on.svg");
+  EXPECT_EQ(Shown(ControlId::OptionSwitch, 2)->Picture, "tools/check_off.svg");
 }
 
 TEST_F(MapPlayTest, TheLanguagesAreGoneThroughWithAllCaptions) {
-  const std::string english = *Shown("SetLabel", 6)->Caption;
-  Move(OnPanel("ShowOptionsLabel"));
+  const std::string english = *Shown(ControlId::OptionLabel, 6)->Caption;
+  Move(OnPanel(ControlId::OptionsCaption));
   for (const int number : {2, 1, 0}) {
-    Click(OnPanel("SetLabel", 6));
+    Click(OnPanel(ControlId::OptionLabel, 6));
 
     FixedLanguage texts(number);
     EXPECT_EQ(settings.ReadSetting("LANG"), std::to_string(number));
-    EXPECT_EQ(Shown("SetLabel", 6)->Caption, texts.TXT(0));
-    EXPECT_EQ(Shown("ShowOptionsLabel", 0)->Caption, texts.TXT(7));
-    for (int i = 0; i < 6; ++i) EXPECT_EQ(Shown("SetLabel", i)->Caption, texts.TXT(i + 1));
-    EXPECT_EQ(Shown("StationSearch", 0)->ToolTip, texts.TXT(9));
-    EXPECT_EQ(Shown("StationSearch", 3)->ToolTip, texts.TXT(27));
-    EXPECT_EQ(Shown("WRTP", 0)->Caption, texts.TXT(8));
-    EXPECT_EQ(Shown("ImageClan", 0)->ToolTip, texts.TXT(14));
+    EXPECT_EQ(Shown(ControlId::OptionLabel, 6)->Caption, texts.TXT(0));
+    EXPECT_EQ(Shown(ControlId::OptionsCaption, 0)->Caption, texts.TXT(7));
+    for (int i = 0; i < 6; ++i)
+      EXPECT_EQ(Shown(ControlId::OptionLabel, i)->Caption, texts.TXT(i + 1));
+    EXPECT_EQ(Shown(ControlId::Tool, 0)->ToolTip, texts.TXT(9));
+    EXPECT_EQ(Shown(ControlId::Tool, 3)->ToolTip, texts.TXT(27));
+    EXPECT_EQ(Shown(ControlId::InfoBoxLine, 0)->Caption, texts.TXT(8));
+    EXPECT_EQ(Shown(ControlId::Logo, 0)->ToolTip, texts.TXT(14));
   }
-  EXPECT_EQ(Shown("SetLabel", 6)->Caption, english);
+  EXPECT_EQ(Shown(ControlId::OptionLabel, 6)->Caption, english);
   EXPECT_THAT(Sounds(), IsEmpty());
 }
 
 TEST_F(MapPlayTest, AToolIsClickedByReleasingTheButtonOnIt) {
-  Click(OnPanel("StationSearch", 2));
-  Press(OnPanel("StationSearch", 1));
-  Release(OnPanel("StationSearch", 3));
-  Click(OnPanel("StationSearch", 4), Qt::RightButton);
+  Click(OnPanel(ControlId::Tool, 2));
+  Press(OnPanel(ControlId::Tool, 1));
+  Release(OnPanel(ControlId::Tool, 3));
+  Click(OnPanel(ControlId::Tool, 4), Qt::RightButton);
 
   EXPECT_THAT(searches, ElementsAre(2));
   EXPECT_EQ(Visible(), ZoomRectangle{});

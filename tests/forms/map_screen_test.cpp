@@ -18,9 +18,9 @@ class MapScreenTest : public UniverseFixture {
     map.InitDataUsage(universe);
   }
 
-  bool Shows(std::string_view control) const {
+  bool Shows(ControlId id) const {
     for (const Control& shown : map.Drawing().Controls) {
-      if (shown.Name == control) return true;
+      if (shown.Id == id) return true;
     }
     return false;
   }
@@ -37,7 +37,7 @@ TEST_F(MapScreenTest, TheFrameStandsWhereTheFormLeavesRoomForIt) {
   map.Redraw(universe, 12000, 9000);
 
   // 12000 - 200 by 9000 - 550 twips at 50, 50, without the pixels that are reached in part only
-  const QRect frame = Find(form, "SysmapFrame").geometry();
+  const QRect frame = Find(form, ControlId::MapFrame).geometry();
   EXPECT_TRUE(map.Frame().isVisible());
   EXPECT_EQ(frame.topLeft(), QPoint(3, 3));
   EXPECT_EQ(frame.size(), QSize(786, 563));
@@ -47,11 +47,11 @@ TEST_F(MapScreenTest, TheSwitchesOfTheWholeGridComeFromTheFirstSet) {
   settings.ReadSetting("LANG");
   settings.WriteSettingValue("SET1-5", "0");
   map.Redraw(universe, 12000, 9000);
-  EXPECT_FALSE(Shows("SysmapLabel"));
+  EXPECT_FALSE(Shows(ControlId::SystemLabel));
 
   settings.WriteSettingValue("SET1-5", "1");
   map.Redraw(universe, 12000, 9000);
-  EXPECT_TRUE(Shows("SysmapLabel"));
+  EXPECT_TRUE(Shows(ControlId::SystemLabel));
 }
 
 TEST_F(MapScreenTest, AZoomedMapHasItsOwnSwitches) {
@@ -61,8 +61,8 @@ TEST_F(MapScreenTest, AZoomedMapHasItsOwnSwitches) {
 
   map.Redraw(universe, 12000, 9000);
 
-  EXPECT_FALSE(Shows("SysMapGfx"));
-  EXPECT_TRUE(Shows("Blanko"));
+  EXPECT_FALSE(Shows(ControlId::SystemPicture));
+  EXPECT_TRUE(Shows(ControlId::EmptyCell));
 }
 
 TEST_F(MapScreenTest, NamesAreReadOnce) {
@@ -80,7 +80,7 @@ TEST_F(MapScreenTest, ThePlayersOwnStarMapTakesThePlaceOfThePaintedOne) {
 
   std::optional<std::string> picture;
   for (const Control& control : map.Drawing().Controls) {
-    if (control.Name == "StarMapPic") picture = control.Picture;
+    if (control.Id == ControlId::PaintedUniverse) picture = control.Picture;
   }
   EXPECT_EQ(picture, "/folder/SysMap.jpg");
 }

@@ -26,7 +26,7 @@ class NewsPlayTest : public MapPlayFixture {
   // The news labels that the scene shows: index and top.
   std::map<int, double> Labels() {
     std::map<int, double> labels;
-    for (const Control* label : Shown("InfoBoxLabel")) {
+    for (const Control* label : Shown(ControlId::NewsLabel)) {
       labels[*label->Index] = label->Place.Top;
     }
     return labels;
@@ -77,12 +77,12 @@ TEST_F(NewsPlayTest, ARedrawPutsThemBack) {
 
 TEST_F(NewsPlayTest, NewsAndBothHalvesOfTheLogoCanBeClicked) {
   ShowNews(1);
-  const QPoint label = OnPanel("InfoBoxLabel", 1);
+  const QPoint label = OnPanel(ControlId::NewsLabel, 1);
   Move(label);
   Click(label);
   EXPECT_THAT(newsClicks, ElementsAre(1));
 
-  const orrerix::Box logo = *PlaceOf(map.Drawing().Controls, "ImageClan");
+  const orrerix::Box logo = *PlaceOf(map.Drawing().Controls, ControlId::Logo);
   const auto at = [&](double x, double y) {
     return QPointF(Pixels(logo.Left + logo.Width * x), Pixels(logo.Top + logo.Height * y))
         .toPoint();
@@ -96,7 +96,7 @@ TEST_F(NewsPlayTest, NewsAndBothHalvesOfTheLogoCanBeClicked) {
 
 TEST_F(NewsPlayTest, NewsAreStopsOfTheTabKeyThatOpenThem) {
   ShowNews(2);
-  auto& stop = Find<QAbstractButton>(form, "InfoBoxLabel_2");
+  auto& stop = Find<QAbstractButton>(form, ControlId::NewsLabel, 2);
 
   QTest::keyClick(&stop, Qt::Key_Return);
 
@@ -107,8 +107,8 @@ TEST_F(NewsPlayTest, NewsAreStopsOfTheTabKeyThatOpenThem) {
 
 TEST_F(NewsPlayTest, AStopGoesWithItsNews) {
   ShowNews(60);
-  const auto& first = Find<QAbstractButton>(form, "InfoBoxLabel_1");
-  const auto& last = Find<QAbstractButton>(form, "InfoBoxLabel_60");
+  const auto& first = Find<QAbstractButton>(form, ControlId::NewsLabel, 1);
+  const auto& last = Find<QAbstractButton>(form, ControlId::NewsLabel, 60);
   const int top = first.geometry().top();
 
   for (int i = 0; i < 5; ++i) news.NewsTimerTimer();
@@ -121,7 +121,7 @@ TEST_F(NewsPlayTest, NewsThatAreNoMoreAreNoStops) {
   ShowNews(2);
   ShowNews(1);
 
-  EXPECT_FALSE(Find<QAbstractButton>(form, "InfoBoxLabel_2").isVisible());
+  EXPECT_FALSE(Find<QAbstractButton>(form, ControlId::NewsLabel, 2).isVisible());
 }
 
 TEST_F(NewsPlayTest, ATipIsNoMarkup) {
@@ -129,7 +129,7 @@ TEST_F(NewsPlayTest, ATipIsNoMarkup) {
 
   for (const QGraphicsItem* item : map.Scene().items()) {
     const Control& control = ControlItem::Of(*item);
-    if (control.Name == "InfoBoxLabel" && control.Index == 1) {
+    if (control.Id == ControlId::NewsLabel && control.Index == 1) {
       EXPECT_TRUE(item->toolTip().contains("&lt;b&gt;Tip"));
     }
   }

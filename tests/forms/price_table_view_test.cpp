@@ -8,20 +8,18 @@
 namespace orrerix {
 namespace {
 
-Control Label(const char* name, int index, orrerix::Box place, std::string caption) {
-  Control label = MakeLabel(name, index, place, std::move(caption));
-  label.FontSize = 12;
-  label.BackColor = Color{0x00C000};
-  label.ForeColor = Color{0x000000};
-  return label;
+PriceLabel Label(orrerix::Box place, std::string caption) {
+  return {std::move(caption), place, 12, {0x000000}, {0x00C000}};
 }
 
 // A head and one row: places in twips, 15 to a pixel.
-ControlList Table() {
-  return {Label("PricesHead", 2, {1250, 0, 9000, 710}, "Head"),
-          Label("PricesField0", 1, {1250, 710, 6000, 710}, "Gold"),
-          Label("PricesField1", 1, {7250, 710, 1500, 710}, "50"),
-          Label("PricesField2", 1, {8750, 710, 1500, 710}, "10")};
+PriceTable Table() {
+  PriceTable table;
+  table.Group = 2;
+  table.Head = Label({1250, 0, 9000, 710}, "Head");
+  table.Rows = {{1, "commodity_gold", false, Label({1250, 710, 6000, 710}, "Gold"),
+                 Label({7250, 710, 1500, 710}, "50"), Label({8750, 710, 1500, 710}, "10")}};
+  return table;
 }
 
 class PriceTableViewTest : public ::testing::Test {
@@ -31,7 +29,7 @@ class PriceTableViewTest : public ::testing::Test {
 };
 
 TEST_F(PriceTableViewTest, ItsRowsAreHeadsAndPrices) {
-  view.Show(Table());
+  view.Show({Table()});
 
   ASSERT_EQ(view.model()->rowCount(), 2);
   EXPECT_EQ(view.model()->index(0, 0).data().toString(), "Head");
@@ -40,7 +38,7 @@ TEST_F(PriceTableViewTest, ItsRowsAreHeadsAndPrices) {
 }
 
 TEST_F(PriceTableViewTest, LabelsKeepTheirPlacesOnThePixelGrid) {
-  view.Show(Table());
+  view.Show({Table()});
 
   EXPECT_EQ(view.geometry().left(), 83);  // 1250 / 15
   EXPECT_EQ(view.rowHeight(0), 47);       // 710 / 15 = 47.3
@@ -51,7 +49,7 @@ TEST_F(PriceTableViewTest, LabelsKeepTheirPlacesOnThePixelGrid) {
 }
 
 TEST_F(PriceTableViewTest, EachLabelHasItsColourAndFont) {
-  view.Show(Table());
+  view.Show({Table()});
 
   const QModelIndex cell = view.model()->index(1, 0);
   EXPECT_EQ(cell.data(Qt::BackgroundRole).value<QColor>(), QColor(0, 0xC0, 0));
@@ -60,9 +58,9 @@ TEST_F(PriceTableViewTest, EachLabelHasItsColourAndFont) {
 
 // Their size is that at which they fill the column.
 TEST_F(PriceTableViewTest, LettersThatFillAColumnLeaveItsMarginsFree) {
-  ControlList table = Table();
-  table[2].Caption = "MMMMMMMMMM";  // ten of 12 points and more, in 100 pixels
-  view.Show(table);
+  PriceTable table = Table();
+  table.Rows[0].Price.Caption = "MMMMMMMMMM";  // ten of 12 points and more, in 100 pixels
+  view.Show({table});
 
   const QImage image = view.grab().toImage();
 
@@ -75,20 +73,18 @@ TEST_F(PriceTableViewTest, LettersThatFillAColumnLeaveItsMarginsFree) {
 }
 
 TEST_F(PriceTableViewTest, ATradeTellsItsWholeNameInATip) {
-  ControlList table = Table();
-  table[1].ToolTip = "...";
-  view.Show(table);
+  PriceTable table = Table();
+  table.Rows[0].IsTrade = true;
+  view.Show({table});
 
   EXPECT_EQ(view.model()->index(1, 0).data(Qt::ToolTipRole).toString(), "Gold");
   EXPECT_FALSE(view.model()->index(1, 1).data(Qt::ToolTipRole).isValid());
 }
 
 TEST_F(PriceTableViewTest, HeadsAloneFillTheWidth) {
-  ControlList heads = {Label("PricesHead", 2, {0, 0, 9000, 1500}, "a"),
-                       Label("PricesHead", 1, {0, 1500, 9000, 1500}, "b"),
-                       Label("PricesHead", 0, {0, 3000, 9000, 1500}, "c")};
-
-  view.Show(heads);
+  view.Show({{2, Label({0, 0, 9000, 1500}, "a"), {}},
+             {1, Label({0, 1500, 9000, 1500}, "b"), {}},
+             {0, Label({0, 3000, 9000, 1500}, "c"), {}}});
 
   EXPECT_EQ(view.model()->rowCount(), 3);
   EXPECT_EQ(view.width(), 600);
@@ -101,10 +97,11 @@ TEST_F(PriceTableViewTest, WhatTheWindowsFrameHidesGoesOffTheLastColumn) {
   auto* inWindow = new PriceTableView(&window);
 
   // 600 pixels: 400, 100 and 100
-  inWindow->Show({Label("PricesHead", 2, {0, 0, 9000, 450}, "a"),
-                  Label("PricesField0", 1, {0, 450, 6000, 450}, "Gold"),
-                  Label("PricesField1", 1, {6000, 450, 1500, 450}, "5"),
-                  Label("PricesField2", 1, {7500, 450, 1500, 450}, "1")});
+  PriceTable table;
+  table.Head = Label({0, 0, 9000, 450}, "a");
+  table.Rows = {{1, "commodity_gold", false, Label({0, 450, 6000, 450}, "Gold"),
+                 Label({6000, 450, 1500, 450}, "5"), Label({7500, 450, 1500, 450}, "1")}};
+  inWindow->Show({table});
 
   EXPECT_EQ(inWindow->width(), 590);
   EXPECT_EQ(inWindow->columnWidth(1), 100);

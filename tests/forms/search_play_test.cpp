@@ -35,13 +35,13 @@ class SearchPlayTest : public MapPlayFixture {
   }
 
   template <typename Child = QWidget>
-  Child& Part(const char* name) {
-    return Find<Child>(map.Frame(), name);
+  Child& Part(ControlId id) {
+    return Find<Child>(map.Frame(), id);
   }
-  QLineEdit& Text() { return Part<QLineEdit>("StSearchText"); }
-  QListWidget& Upper() { return Part<QListWidget>("SubSearch"); }
-  QListWidget& Lower() { return Part<QListWidget>("StSearchList"); }
-  bool InfoShown() { return Part("InfoText").isVisible(); }
+  QLineEdit& Text() { return Part<QLineEdit>(ControlId::SearchText); }
+  QListWidget& Upper() { return Part<QListWidget>(ControlId::FoundList); }
+  QListWidget& Lower() { return Part<QListWidget>(ControlId::PlaceList); }
+  bool InfoShown() { return Part(ControlId::BoxText).isVisible(); }
 
   SearchPlay search{map, Form(), play, log, language};
 };
@@ -62,8 +62,8 @@ TEST_F(SearchPlayTest, ThePanelStandsAtTheMapsRight) {
   search.StationSearchClick(SearchType::Place);
 
   // The frame is 14000 twips wide, the panel 4200, with 100 beside it: 9700 twips are 647 pixels.
-  EXPECT_EQ(Part("StSearchFrame").x(), 647);
-  EXPECT_EQ(Part("StSearchFrame").y(), 13);
+  EXPECT_EQ(Part(ControlId::SearchFrame).x(), 647);
+  EXPECT_EQ(Part(ControlId::SearchFrame).y(), 13);
 }
 
 TEST_F(SearchPlayTest, EquipmentIsListedWithItsBoxAndItsSellers) {
@@ -146,22 +146,22 @@ TEST_F(SearchPlayTest, EscapeAndTheCloseButtonHidePanelAndBox) {
   EXPECT_FALSE(play.Box().Visible());
 
   search.StationSearchClick(SearchType::Equipment);
-  QTest::mouseClick(&Part("StSearchClose"), Qt::LeftButton);
-  EXPECT_FALSE(Part("StSearchFrame").isVisible());
+  QTest::mouseClick(&Part(ControlId::SearchClose), Qt::LeftButton);
+  EXPECT_FALSE(Part(ControlId::SearchFrame).isVisible());
 }
 
 TEST_F(SearchPlayTest, EscapeClosesThePanelWhereverTheFocusIs) {
   Zoom({8, 10, 8, 10});
-  for (QWidget* focused :
-       {static_cast<QWidget*>(&map.Frame()), &Part("SubSearch"), &Part("StSearchList"),
-        &Part("InfoText"), &Part("StSearchClose"), &Part("StationSearch_2")}) {
+  for (QWidget* focused : {static_cast<QWidget*>(&map.Frame()), &Part(ControlId::FoundList),
+                           &Part(ControlId::PlaceList), &Part(ControlId::BoxText),
+                           &Part(ControlId::SearchClose), &Find(map.Frame(), ControlId::Tool, 2)}) {
     search.StationSearchClick(SearchType::Equipment);
     ASSERT_TRUE(InfoShown());
     focused->setFocus();
 
     QTest::keyClick(focused, Qt::Key_Escape);
 
-    EXPECT_FALSE(Part("StSearchFrame").isVisible()) << focused->objectName().toStdString();
+    EXPECT_FALSE(Part(ControlId::SearchFrame).isVisible()) << focused->objectName().toStdString();
     EXPECT_FALSE(InfoShown());
     // The map does not go back at the same time.
     EXPECT_EQ(Visible(), (ZoomRectangle{8, 10, 8, 10}));
@@ -181,7 +181,7 @@ TEST_F(SearchPlayTest, WithThePanelClosedEscapeIsForTheMapAgain) {
 TEST_F(SearchPlayTest, TheCaptionStandsAtTheHeadInTheLanguageInUse) {
   search.StationSearchClick(SearchType::Place);
 
-  const QLabel& caption = Part<QLabel>("StSearchCaption");
+  const QLabel& caption = Part<QLabel>(ControlId::SearchCaption);
   EXPECT_TRUE(caption.isVisible());
   EXPECT_EQ(caption.text().toStdString(), language.TXT(12));
   EXPECT_LE(caption.geometry().bottom(), Text().geometry().top());
@@ -206,9 +206,9 @@ TEST_F(SearchPlayTest, AQuoteIsAFailureAndThePanelGoesOn) {
 TEST_F(SearchPlayTest, EveryControlHasAnAccessibleName) {
   search.StationSearchClick(SearchType::Equipment);
 
-  for (const char* name :
-       {"StSearchText", "SubSearch", "StSearchList", "StSearchClose", "InfoText"}) {
-    EXPECT_FALSE(Part(name).accessibleName().isEmpty()) << name;
+  for (const auto id : {ControlId::SearchText, ControlId::FoundList, ControlId::PlaceList,
+                        ControlId::SearchClose, ControlId::BoxText}) {
+    EXPECT_FALSE(Part(id).accessibleName().isEmpty()) << PrintedName(id);
   }
 }
 

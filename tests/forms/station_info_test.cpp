@@ -42,12 +42,11 @@ class StationInfoTest : public StationFixture {
     return *window_;
   }
   void ClickMode(int button) {
-    QTest::mouseClick(&Find(Window(), qPrintable(QStringLiteral("Mode_%1").arg(button))),
-                      Qt::LeftButton);
+    QTest::mouseClick(&Find(Window(), ControlId::ModeButton, button), Qt::LeftButton);
   }
-  QString Text() { return Find<TextBox>(Window(), "InfoText").toPlainText(); }
-  PriceTableView& Prices() { return Find<PriceTableView>(Window(), "PriceTable"); }
-  QListWidget& List() { return Find<QListWidget>(Window(), "SearchList"); }
+  QString Text() { return Find<TextBox>(Window(), ControlId::BoxText).toPlainText(); }
+  PriceTableView& Prices() { return Find<PriceTableView>(Window(), ControlId::PriceTable); }
+  QListWidget& List() { return Find<QListWidget>(Window(), ControlId::ForSaleList); }
 
   PictureStore pictures;
   FakeSound sound;
@@ -66,16 +65,16 @@ TEST_F(StationInfoTest, ItOpensWithItsInfo) {
   EXPECT_EQ(Window().Mode(), StationMode::Info);
   EXPECT_EQ(Window().windowTitle(), "Pier Nine  Lantern [X=D.6/Y=4.5]");
   EXPECT_TRUE(Text().contains("A pier."));
-  EXPECT_TRUE(Find(Window(), "InfoText").isVisible());
+  EXPECT_TRUE(Find(Window(), ControlId::BoxText).isVisible());
   EXPECT_FALSE(Prices().isVisible());
-  EXPECT_FALSE(Find(Window(), "SearchFrame").isVisible());
+  EXPECT_FALSE(Find(Window(), ControlId::ForSaleFrame).isVisible());
 }
 
 TEST_F(StationInfoTest, ThePriceButtonShowsTradesAndThenPrices) {
   ClickMode(0);
   EXPECT_EQ(Window().Mode(), StationMode::Trades);
   EXPECT_TRUE(Prices().isVisible());
-  EXPECT_FALSE(Find(Window(), "InfoText").isVisible());
+  EXPECT_FALSE(Find(Window(), ControlId::BoxText).isVisible());
   EXPECT_EQ(Prices().model()->rowCount(), 5);  // three heads, gold, and gold at the mole
 
   ClickMode(0);
@@ -90,7 +89,7 @@ TEST_F(StationInfoTest, AnEmptyListOnlyBeeps) {
 
   EXPECT_EQ(sound.Beeps, 1);
   EXPECT_EQ(Window().Mode(), StationMode::Info);
-  EXPECT_TRUE(Find(Window(), "InfoText").isVisible());
+  EXPECT_TRUE(Find(Window(), ControlId::BoxText).isVisible());
 }
 
 TEST_F(StationInfoTest, EquipmentIsListedBesideTheTextOfTheSelectedRow) {
@@ -142,7 +141,7 @@ TEST_F(StationInfoTest, ItsTextsKeepTheLanguageInWhichItsDataWasRead) {
   Window().resize(900, 500);
   PassEvents();
   EXPECT_EQ(Prices().model()->index(0, 0).data().toString(), "Commodities Buy Prices");
-  EXPECT_EQ(Find(Window(), "Mode_0").toolTip(), "Click to switch to Pricelist.");
+  EXPECT_EQ(Find(Window(), ControlId::ModeButton, 0).toolTip(), "Click to switch to Pricelist.");
   ClickMode(0);
 
   EXPECT_EQ(Prices().model()->index(0, 0).data().toString(), "Waren Einkaufspreise");
@@ -196,25 +195,31 @@ TEST_F(StationInfoTest, EscapeClosesIt) {
 }
 
 TEST_F(StationInfoTest, EveryControlHasAnAccessibleNameAndIsReachedByTab) {
-  for (const char* name :
-       {"Mode_0", "Mode_1", "Mode_2", "Mode_3", "InfoText", "PriceTable", "SearchList"}) {
-    QWidget& control = Find(Window(), name);
-    EXPECT_FALSE(control.accessibleName().isEmpty()) << name;
-    EXPECT_TRUE(control.focusPolicy() & Qt::TabFocus) << name;
+  std::vector<QWidget*> controls;
+  for (const auto id : {ControlId::BoxText, ControlId::PriceTable, ControlId::ForSaleList}) {
+    controls.push_back(&Find(Window(), id));
+  }
+  for (int mode = 0; mode < 4; ++mode) {
+    controls.push_back(&Find(Window(), ControlId::ModeButton, mode));
+  }
+  for (const QWidget* control : controls) {
+    EXPECT_FALSE(control->accessibleName().isEmpty()) << control->objectName().toStdString();
+    EXPECT_TRUE(control->focusPolicy() & Qt::TabFocus) << control->objectName().toStdString();
   }
 }
 
 TEST_F(StationInfoTest, ItsMarginIsDecoratedBehindPictureAndButtons) {
-  const auto& strip = Find<QLabel>(Window(), "Image1");
-  const auto& ornament = Find<QLabel>(Window(), "Image2");
+  const auto& strip = Find<QLabel>(Window(), ControlId::StationStrip);
+  const auto& ornament = Find<QLabel>(Window(), ControlId::StationOrnament);
 
   EXPECT_EQ(strip.geometry(), QRect(0, 0, 80, 600));
   EXPECT_FALSE(strip.pixmap().isNull());
   EXPECT_FALSE(ornament.pixmap().isNull());
-  EXPECT_GT(ornament.geometry().top(), Find(Window(), "Mode_3").geometry().bottom());
+  EXPECT_GT(ornament.geometry().top(),
+            Find(Window(), ControlId::ModeButton, 3).geometry().bottom());
   const QObjectList& children = Window().children();
-  EXPECT_LT(children.indexOf(&Find(Window(), "Image1")),
-            children.indexOf(&Find(Window(), "Station")));
+  EXPECT_LT(children.indexOf(&Find(Window(), ControlId::StationStrip)),
+            children.indexOf(&Find(Window(), ControlId::StationIcon)));
 }
 
 }  // namespace

@@ -30,7 +30,7 @@ class SysmapFrameTest : public FormFixture {
   SysmapFrameTest() {
     MapDrawing drawing;
     drawing.Frame = {0, 0, 6000, 3000};
-    drawing.Controls = {MakePicture("Image1", 5, {300, 300, 600, 600}, "Jumpgate")};
+    drawing.Controls = {MakePicture(ControlId::MapIcon, 5, {300, 300, 600, 600}, "Jumpgate")};
     scene.Show(drawing);
     frame.resize(400, 200);
     frame.SetMouse(&listener);
@@ -69,7 +69,7 @@ TEST_F(SysmapFrameTest, TheControlUnderTheMouseIsNamed) {
   ASSERT_FALSE(listener.Moved.empty());
   const MapPointer& pointer = listener.Moved.back();
   ASSERT_NE(pointer.Under, nullptr);
-  EXPECT_EQ(pointer.Under->Name, "Image1");
+  EXPECT_EQ(pointer.Under->Id, ControlId::MapIcon);
   EXPECT_EQ(pointer.Under->Index, 5);
 }
 

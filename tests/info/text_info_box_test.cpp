@@ -32,8 +32,8 @@ TEST_F(TextInfoBox, ItStandsAgainstThePanelAsHighAsTheMap) {
   const ControlList box = Show("\r\n0123456789\r\nab");
 
   ASSERT_THAT(box, SizeIs(2));
-  EXPECT_EQ(box[0].Name, "Shape1");
-  EXPECT_EQ(box[1].Name, "InfoText");
+  EXPECT_EQ(box[0].Id, ControlId::BoxShape);
+  EXPECT_EQ(box[1].Id, ControlId::BoxText);
   // Ten characters of 9 points: 10 x 108 = 1080, and 400; its left side is 14000 - 1480.
   EXPECT_EQ(box[0].Place, (Box{12520, 0, 1480, 12000}));
   EXPECT_EQ(box[1].Place, (Box{12720, 150, 1030, 11700}));

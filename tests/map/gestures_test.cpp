@@ -19,7 +19,7 @@ class Gestures : public ::testing::Test {
 
   CellGeometry Cells() const { return CellGeometry(kFrame, state.Zoom.Current()); }
 
-  void ShowIcon() { state.Objects.Icons = {MakePicture("Image1", 1, {}, "Jumpgate")}; }
+  void ShowIcon() { state.Objects.Icons = {MakePicture(ControlId::MapIcon, 1, {}, "Jumpgate")}; }
   bool Unloaded() const { return state.Objects.Icons.empty(); }
 
   ReleaseAnswer Drag(float x1, float y1, float x2, float y2) {
@@ -201,7 +201,7 @@ TEST_F(Gestures, TheBandRunsRoundFromThePress) {
   EXPECT_EQ(answer.RubberBand[2].Ends, (LineEnds{300, 500, 100, 500}));
   EXPECT_EQ(answer.RubberBand[3].Ends, (LineEnds{100, 500, 100, 200}));
   for (const Control& line : answer.RubberBand) {
-    EXPECT_EQ(line.Name, "MouseLine");
+    EXPECT_EQ(line.Id, ControlId::RubberBand);
     EXPECT_EQ(line.BorderColor.Text(), "0x00FFFF");
   }
 }

@@ -20,7 +20,7 @@ class Switches : public ::testing::Test {
  protected:
   Switches() {
     settings.CreateSettings();
-    state.Objects.Icons = {MakePicture("Image1", 1, {}, "Jumpgate")};
+    state.Objects.Icons = {MakePicture(ControlId::MapIcon, 1, {}, "Jumpgate")};
   }
 
   bool Unloaded() const { return state.Objects.Icons.empty(); }

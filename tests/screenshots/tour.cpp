@@ -12,6 +12,7 @@
 
 #include <fmt/format.h>
 
+#include "forms/control_name.h"
 #include "forms/spoiler.h"
 #include "forms/update.h"
 #include "map/map_coords.h"
@@ -27,16 +28,17 @@ void PassEvents() {
 }
 
 template <typename Child>
-Child& ChildOf(QWidget& window, const char* name) {
+Child& ChildOf(QWidget& window, const QString& name) {
   if (auto* child = window.findChild<Child*>(name)) return *child;
-  throw std::runtime_error(fmt::format("there is no {}", name));
+  throw std::runtime_error(fmt::format("there is no {}", name.toStdString()));
 }
 
 // The middle of the cells that have a name: where most is to be seen.
 QPointF MiddleOfLabels(const MapDrawing& drawing) {
   QRectF all;
   for (const Control& control : drawing.Controls) {
-    if (control.Name == "SysmapLabel") all |= QRectF(control.Place.Left, control.Place.Top, 1, 1);
+    if (control.Id == ControlId::SystemLabel)
+      all |= QRectF(control.Place.Left, control.Place.Top, 1, 1);
   }
   return all.center();
 }
@@ -54,7 +56,7 @@ const Control& NearestLabel(const MapDrawing& drawing, QPointF point) {
   const Control* nearest = nullptr;
   double least = 0;
   for (const Control& control : drawing.Controls) {
-    if (control.Name != "SysmapLabel" || !HasPicture(control)) continue;
+    if (control.Id != ControlId::SystemLabel || !HasPicture(control)) continue;
     const QPointF way = QPointF(control.Place.Left, control.Place.Top) - point;
     const double distance = QPointF::dotProduct(way, way);
     if (nearest != nullptr && distance >= least) continue;
@@ -69,7 +71,7 @@ std::vector<int> Stations(const MapDrawing& drawing) {
   std::vector<int> stations;
   for (const Control& control : drawing.Controls) {
     const std::string picture = control.Picture.value_or("");
-    if (control.Name == "Image1" && picture != "Jumpgate" && picture != "JumpHole") {
+    if (control.Id == ControlId::MapIcon && picture != "Jumpgate" && picture != "JumpHole") {
       stations.push_back(control.Index.value_or(0));
     }
   }
@@ -225,26 +227,26 @@ void Tour::TakeHover() {
   Play().SysmapFrameMouseMove(PointerButton::None, 0, 0);
 }
 
-void Tour::ClickPanel(std::string_view name, int index) {
+void Tour::ClickPanel(ControlId id, int index) {
   SysmapFrame& frame = run_.Main()->Map().Frame();
   for (const QGraphicsItem* item : frame.scene()->items()) {
     const Control& control = ControlItem::Of(*item);
-    if (control.Name != name || control.Index != index) continue;
+    if (control.Id != id || control.Index != index) continue;
     const QRectF box(0, 0, Pixels(control.Place.Width), Pixels(control.Place.Height));
     QTest::mouseClick(frame.viewport(), Qt::LeftButton, {},
                       item->mapToScene(box.center()).toPoint());
     PassEvents();
     return;
   }
-  throw std::runtime_error(fmt::format("the panel has no {}({})", name, index));
+  throw std::runtime_error(fmt::format("the panel has no {}({})", PrintedName(id), index));
 }
 
 void Tour::TakeSearch() {
-  ClickPanel("StationSearch", 0);
+  ClickPanel(ControlId::Tool, 0);
   TakeMain("search-places");
-  ClickPanel("StationSearch", 1);
+  ClickPanel(ControlId::Tool, 1);
   TakeMain("search-ships");
-  run_.Main()->findChild<QAbstractButton*>("StSearchClose")->click();
+  run_.Main()->findChild<QAbstractButton*>(NameOf(ControlId::SearchClose))->click();
   PassEvents();
 }
 
@@ -256,10 +258,10 @@ StationInfo* Tour::OpenRichStation() {
     const auto& windows = run_.Main()->Stations().Windows();
     if (windows.empty()) continue;
     StationInfo& station = *windows.back();
-    const auto sells = [&](const char* mode) {
-      return ChildOf<QAbstractButton>(station, mode).text() != "X";
+    const auto sells = [&](int mode) {
+      return ChildOf<QAbstractButton>(station, NameOf(ControlId::ModeButton, mode)).text() != "X";
     };
-    if (sells("Mode_2") && sells("Mode_3")) return &station;
+    if (sells(2) && sells(3)) return &station;
     station.close();
     PassEvents();
   }
@@ -272,12 +274,12 @@ void Tour::TakeStation() {
   StationInfo* station = OpenRichStation();
   if (station == nullptr) throw std::runtime_error("no station sells ships and equipment");
   album_.Take("station-info", *station);
-  const auto take = [&](const char* mode) {
-    ChildOf<QAbstractButton>(*station, mode).click();
+  const auto take = [&](int mode) {
+    ChildOf<QAbstractButton>(*station, NameOf(ControlId::ModeButton, mode)).click();
     PassEvents();
     album_.Take(ViewName(station->Mode()), *station);
   };
-  for (const char* mode : {"Mode_0", "Mode_0", "Mode_2", "Mode_3"}) take(mode);
+  for (const int mode : {0, 0, 2, 3}) take(mode);
   station->close();
 }
 

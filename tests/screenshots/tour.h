@@ -38,7 +38,7 @@ class Tour {
   void TakeMain(const QString& name);
   void ZoomInto(int cells);
   void ZoomOut();
-  void ClickPanel(std::string_view name, int index);
+  void ClickPanel(ControlId id, int index);
   StationInfo* OpenRichStation();
 
   ProgramRun& run_;
