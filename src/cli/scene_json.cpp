@@ -33,7 +33,7 @@ void AddLine(Json& json, const Control& line) {
   json["BorderColor"] = line.BorderColor.Text();
 }
 
-void AddPlace(Json& json, const Box& place) {
+void AddPlace(Json& json, const TwipRect& place) {
   json["Left"] = Number(place.Left);
   json["Top"] = Number(place.Top);
   json["Width"] = Number(place.Width);

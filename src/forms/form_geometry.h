@@ -23,7 +23,7 @@ inline QRect PixelRect(const FormPlace& place) {
 }
 
 // Parts of a twip do not count.
-inline QRect PixelRect(const Box& box) {
+inline QRect PixelRect(const TwipRect& box) {
   return PixelRect(static_cast<int>(box.Left), static_cast<int>(box.Top),
                    static_cast<int>(box.Width), static_cast<int>(box.Height));
 }

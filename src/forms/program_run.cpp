@@ -107,7 +107,7 @@ void ProgramRun::ShowUpdate(const News& news) {
   update_ = std::make_unique<Update>(news.UpdateToolTip, parts_.Pictures);
   update_->OnQueryUnload = [this] { main_->ShowMaximised(); };
   update_->OnLabel1Click = [this] {
-    main_->InfoBoxLabelClick(0);
+    main_->OpenNewsLink(0);
     EndAtOnce();
   };
   update_->setWindowIcon(main_->windowIcon());

@@ -19,8 +19,8 @@ bool RowList::viewportEvent(QEvent* event) {
   if (event->type() != QEvent::ToolTip) return QListWidget::viewportEvent(event);
   const auto* help = static_cast<QHelpEvent*>(event);
   const QListWidgetItem* item = itemAt(help->pos());
-  const bool isCut = item != nullptr && sizeHintForIndex(indexFromItem(item)).width() >
-                                            visualItemRect(item).width();
+  const bool isCut = item != nullptr &&
+                     sizeHintForIndex(indexFromItem(item)).width() > visualItemRect(item).width();
   if (isCut) {
     QToolTip::showText(help->globalPos(), PlainToolTip(item->text().toStdString()), this);
   } else {

@@ -61,29 +61,28 @@ SearchPanelView::SearchPanelView(SearchEvents& events, QWidget* map)
   caption_ = new QLabel(this);
   caption_->setObjectName(NameOf(ControlId::SearchCaption));
   caption_->setFont(FormFont(kCaptionFont));
-  new EscapeKey(*this, [this] { events_.StSearchCloseClick(); });
+  new EscapeKey(*this, [this] { events_.CloseSearch(); });
   text_ = new QLineEdit(this);
   text_->setObjectName(NameOf(ControlId::SearchText));
   text_->setAccessibleName("Search text");
   text_->installEventFilter(this);
   QObject::connect(text_, &QLineEdit::textChanged, this,
-                   [this](const QString& text) { events_.StSearchTextChange(text.toStdString()); });
+                   [this](const QString& text) { events_.ChangeSearchText(text.toStdString()); });
   close_ = new QToolButton(this);
   close_->setObjectName(NameOf(ControlId::SearchClose));
   close_->setAccessibleName("Close the search");
   close_->setText("\u00D7");
   close_->setAutoRaise(true);
-  QObject::connect(close_, &QToolButton::clicked, this, [this] { events_.StSearchCloseClick(); });
+  QObject::connect(close_, &QToolButton::clicked, this, [this] { events_.CloseSearch(); });
   subSearch_ = AddList(ControlId::FoundList, "Found");
   QObject::connect(subSearch_, &QListWidget::currentRowChanged, this, [this](int row) {
-    if (row >= 0) events_.SubSearchClick(static_cast<std::size_t>(row));
+    if (row >= 0) events_.ChooseFound(static_cast<std::size_t>(row));
   });
   list_ = AddList(ControlId::PlaceList, "Places");
   QObject::connect(list_, &QListWidget::currentRowChanged, this, [this](int row) {
-    if (row >= 0) events_.StSearchListClick(static_cast<std::size_t>(row));
+    if (row >= 0) events_.ChoosePlace(static_cast<std::size_t>(row));
   });
-  QObject::connect(list_, &QListWidget::itemDoubleClicked, this,
-                   [this] { events_.StSearchListDblClick(); });
+  QObject::connect(list_, &QListWidget::itemDoubleClicked, this, [this] { events_.GoToPlace(); });
   hide();
 }
 

@@ -15,11 +15,11 @@ namespace orrerix {
 class SearchEvents {
  public:
   virtual ~SearchEvents() = default;
-  virtual void StSearchTextChange(const std::string& text) = 0;
-  virtual void SubSearchClick(std::size_t row) = 0;
-  virtual void StSearchListClick(std::size_t row) = 0;
-  virtual void StSearchListDblClick() = 0;
-  virtual void StSearchCloseClick() = 0;
+  virtual void ChangeSearchText(const std::string& text) = 0;
+  virtual void ChooseFound(std::size_t row) = 0;
+  virtual void ChoosePlace(std::size_t row) = 0;
+  virtual void GoToPlace() = 0;
+  virtual void CloseSearch() = 0;
 
   // Keys of the three controls. True if the key means nothing else.
   virtual bool MoveKey(int by) = 0;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "forms/spoiler_layout.h"
 
+#include <algorithm>
+
 #include "map/numeric.h"
 
 namespace orrerix {
@@ -19,14 +21,14 @@ constexpr int kGap = 50;
 
 SpoilerPlaces LayOutSpoiler(int width, int height) {
   SpoilerPlaces places;
-  const int buttonWidth = MAXI(0, (width - 5 * kSide) / 2);
-  const int buttonTop = MAXI(0, height - kButtonHeight - kSide - kBelowButtons);
+  const int buttonWidth = std::max(0, (width - 5 * kSide) / 2);
+  const int buttonTop = std::max(0, height - kButtonHeight - kSide - kBelowButtons);
   places.Ok = {kSide, buttonTop, buttonWidth, kButtonHeight};
-  places.Cancel = {MAXI(0, width / 2), buttonTop, buttonWidth, kButtonHeight};
-  places.HeadLine = {0, 0, MAXI(0, width), kHeadHeight};
-  places.Check1 = {kSide, MAXI(0, buttonTop - kCheckHeight - kGap), kCheckWidth, kCheckHeight};
-  places.Text = {kSide, kTextTop, MAXI(0, width - 3 * kSide),
-                 MAXI(0, places.Check1.Top - kTextTop - kGap)};
+  places.Cancel = {std::max(0, width / 2), buttonTop, buttonWidth, kButtonHeight};
+  places.HeadLine = {0, 0, std::max(0, width), kHeadHeight};
+  places.Check1 = {kSide, std::max(0, buttonTop - kCheckHeight - kGap), kCheckWidth, kCheckHeight};
+  places.Text = {kSide, kTextTop, std::max(0, width - 3 * kSide),
+                 std::max(0, places.Check1.Top - kTextTop - kGap)};
   return places;
 }
 

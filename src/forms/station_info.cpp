@@ -66,12 +66,12 @@ StationInfo::StationInfo(const StationParts& parts, std::string nickname, std::s
   searchList_->setFont(FormFont(kStationText));
   searchList_->setAccessibleName("For sale");
   QObject::connect(searchList_, &QListWidget::currentRowChanged, this,
-                   [this](int row) { SearchListClick(row); });
+                   [this](int row) { ShowForSale(row); });
   QObject::connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this,
                    [this] { close(); });
   texts_ = ReadStationTexts({}, StationMode::Prices, parts_.Texts);
   Place();
-  FormInitialize();
+  ReadAnew();
 }
 
 void StationInfo::MakeDecoration() {
@@ -104,7 +104,7 @@ void StationInfo::MakeModes() {
     button->setCheckable(true);
     button->setGeometry(
         PixelRect(kSide, kFirstMode + static_cast<int>(i) * kModeStep, kButton, kButton));
-    QObject::connect(button, &QPushButton::clicked, this, [this, i] { ModeClick(i); });
+    QObject::connect(button, &QPushButton::clicked, this, [this, i] { ChooseMode(i); });
     mode_[i] = button;
   }
 }
@@ -125,7 +125,7 @@ void StationInfo::Place() {
 void StationInfo::Settle() {
   if (std::exchange(settled_, true)) return;
   const QSize inner = place_.size() - Decoration();
-  if (size() == inner) return FormResize();
+  if (size() == inner) return ShowView();
   move(place_.topLeft());
   resize(inner);
 }
@@ -138,7 +138,7 @@ Wording StationInfo::Words() const {
   return {parts_.Texts, LocaleSigns()};
 }
 
-void StationInfo::FormInitialize() {
+void StationInfo::ReadAnew() {
   Routine routine(parts_.Log, "StationInfo.Form_Initialize", "While initializing Station-Infos");
   routine.Run([&] {
     Universe universe = parts_.OpenUniverse(routine);
@@ -148,7 +148,7 @@ void StationInfo::FormInitialize() {
   setWindowTitle(QString::fromStdString(data_.Caption.empty() ? nick_ : data_.Caption));
   ShowModeTexts();
   ShowModes();
-  FormResize();
+  ShowView();
 }
 
 void StationInfo::ShowModeTexts() {
@@ -169,7 +169,7 @@ void StationInfo::ShowModes() {
   mode_[3]->setChecked(mode == StationMode::Equipment);
 }
 
-void StationInfo::ModeClick(std::size_t button) {
+void StationInfo::ChooseMode(std::size_t button) {
   Routine routine(parts_.Log, "StationInfo.Mode_Click");
   routine.Run([&] {
     switch (modes_.Click(button, data_)) {
@@ -177,10 +177,10 @@ void StationInfo::ModeClick(std::size_t button) {
         parts_.Sound.Beep();
         break;
       case ModeAnswer::Resize:
-        FormResize();
+        ShowView();
         break;
       case ModeAnswer::Read:
-        FormInitialize();
+        ReadAnew();
         break;
     }
     ShowModes();
@@ -202,7 +202,7 @@ void StationInfo::FillList() {
   searchList_->setCurrentRow(0);
 }
 
-void StationInfo::FormResize() {
+void StationInfo::ShowView() {
   Routine routine(parts_.Log, "StationInfo.Form_Resize", "While resizing objects in Shipinfo");
   routine.Run([&] {
     Universe universe = parts_.OpenUniverse(routine);
@@ -239,7 +239,7 @@ void StationInfo::ShowControl(const Control& control) {
   }
 }
 
-void StationInfo::SearchListClick(int row) {
+void StationInfo::ShowForSale(int row) {
   const auto& rows = ForSaleRows();
   if (row < 0 || static_cast<std::size_t>(row) >= rows.size()) return;
   Routine routine(parts_.Log, "StationInfo.SearchList_Click", "While searching in Shipinfo");
@@ -252,7 +252,7 @@ void StationInfo::SearchListClick(int row) {
 
 void StationInfo::resizeEvent(QResizeEvent* event) {
   QWidget::resizeEvent(event);
-  FormResize();
+  ShowView();
 }
 
 void StationInfo::paintEvent(QPaintEvent* event) {

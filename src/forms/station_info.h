@@ -56,10 +56,10 @@ class StationInfo : public QWidget {
   void Place();
   void Settle();
   QSize Decoration() const;
-  void FormInitialize();
-  void FormResize();
-  void ModeClick(std::size_t button);
-  void SearchListClick(int row);
+  void ReadAnew();
+  void ShowView();
+  void ChooseMode(std::size_t button);
+  void ShowForSale(int row);
   void ShowModeTexts();
   void ShowModes();
   void ShowControl(const Control& control);

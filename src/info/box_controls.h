@@ -13,8 +13,8 @@ namespace orrerix {
 inline constexpr int kBoxFont = 9;
 
 // A box and its text at their places on the map frame.
-Control BoxShape(const Box& place, ShapeForm form);
-Control BoxText(const Box& place, std::string text);
+Control BoxShape(const TwipRect& place, ShapeForm form);
+Control BoxText(const TwipRect& place, std::string text);
 
 // The right edge of what a box may cover, twips: the panel's left side, or the frame's width where
 // the panel does not stand at the right.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "info/hover_box.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "db/number_text.h"
@@ -22,11 +23,12 @@ void Grow(Routine& routine, int& size, int grown) {
   });
 }
 
-ControlList BoxControls(const Box& place, std::string text, HoveredIcon icon) {
+ControlList BoxControls(const TwipRect& place, std::string text, HoveredIcon icon) {
   Control shape = BoxShape(place, ShapeForm::RoundedRectangle);
   shape.Subject = icon;
-  const Box inner{static_cast<float>(place.Left + kMargin), static_cast<float>(place.Top + kMargin),
-                  place.Width - 2 * kMargin, place.Height - 2 * kMargin};
+  const TwipRect inner{static_cast<float>(place.Left + kMargin),
+                       static_cast<float>(place.Top + kMargin), place.Width - 2 * kMargin,
+                       place.Height - 2 * kMargin};
   return {std::move(shape), BoxText(inner, std::move(text))};
 }
 
@@ -58,7 +60,7 @@ HoverBox OpenHoverBox(Universe& universe, const CellNames& names, TextSource& te
 HoverBox MovedHoverBox(const ControlList& box, const Control& icon, const MapDrawing& drawing) {
   HoverBox hover{icon, {}};
   const HoveredIcon before = Enlarge(hover.Icon);
-  const Box& place = box.front().Place;
+  const TwipRect& place = box.front().Place;
   const TextExtent extent{WholeTwips(place.Width) - 2 * kMargin,
                           WholeTwips(place.Height) - 2 * kMargin};
   hover.Box = BoxControls(HoverBoxPlace(hover.Icon.Place, extent, drawing),
@@ -82,13 +84,13 @@ TextExtent MeasureLines(Routine& routine, std::string_view text, const TextMeasu
   return extent;
 }
 
-Box HoverBoxPlace(const Box& icon, const TextExtent& text, const MapDrawing& drawing) {
-  Box box{icon.Left, 0, static_cast<double>(text.Width + 2 * kMargin),
-          static_cast<double>(text.Height + 2 * kMargin)};
+TwipRect HoverBoxPlace(const TwipRect& icon, const TextExtent& text, const MapDrawing& drawing) {
+  TwipRect box{icon.Left, 0, static_cast<double>(text.Width + 2 * kMargin),
+               static_cast<double>(text.Height + 2 * kMargin)};
   const bool above = icon.Top > drawing.Frame.Height / 2;
   box.Top = static_cast<float>(above ? icon.Top - kIconGap - box.Height : icon.Bottom() + kIconGap);
   if (box.Right() > RoomForBox(drawing)) {
-    box.Left = static_cast<float>(MAX(kSmallestLeft, icon.Right() - box.Width));
+    box.Left = static_cast<float>(std::max(icon.Right() - box.Width, kSmallestLeft));
   }
   return box;
 }

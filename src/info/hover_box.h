@@ -40,6 +40,6 @@ TextExtent MeasureLines(Routine& routine, std::string_view text, const TextMeasu
 
 // Where the box stands: below the icon, or above it in the lower half of the map; flush with the
 // icon's left side, or with its right side where the panel would be in the way.
-Box HoverBoxPlace(const Box& icon, const TextExtent& text, const MapDrawing& drawing);
+TwipRect HoverBoxPlace(const TwipRect& icon, const TextExtent& text, const MapDrawing& drawing);
 
 }  // namespace orrerix

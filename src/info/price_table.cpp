@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "info/price_table.h"
 
+#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -56,8 +57,8 @@ int FittingFont(std::string_view text, const TextMeasure& measure, int width, in
   const auto share = [](int room, int taken) {
     return taken > 0 ? kSampleFont * room / taken : kSampleFont;
   };
-  int size = MAXI(1, MINI(share(width, measure.TextWidth(text, kSampleFont)),
-                          share(height, measure.TextHeight(text, kSampleFont))));
+  int size = std::max(1, std::min(share(width, measure.TextWidth(text, kSampleFont)),
+                                  share(height, measure.TextHeight(text, kSampleFont))));
   while (size > 1 &&
          (measure.TextWidth(text, size) > width || measure.TextHeight(text, size) > height)) {
     --size;
@@ -81,7 +82,8 @@ std::vector<std::string> PriceRowNames(Universe& universe, const StationData& da
 }
 
 void PriceTableWriter::Write(const std::vector<PriceItem>& items,
-                             const std::array<std::string, kPriceGroups>& heads, const Box& place) {
+                             const std::array<std::string, kPriceGroups>& heads,
+                             const TwipRect& place) {
   place_ = place;
   rowHeight_ = WholeTwips(place.Height / (static_cast<double>(items.size()) + kEmptyRows));
   for (int group = kPriceGroups - 1; group >= 0; --group) {
@@ -99,7 +101,7 @@ double PriceTableWriter::Top(int group) const {
 }
 
 PriceLabel PriceTableWriter::Head(int group, const std::string& caption) const {
-  const Box box{place_.Left, Top(group), place_.Width, static_cast<double>(rowHeight_)};
+  const TwipRect box{place_.Left, Top(group), place_.Width, static_cast<double>(rowHeight_)};
   return Label(box, caption, kHeadText, kHeadBack);
 }
 
@@ -108,8 +110,8 @@ PriceRow PriceTableWriter::Row(const PriceItem& item) const {
   const Color back = kGroupBacks[static_cast<std::size_t>(item.Group)];
   const double top = Top(item.Group);
   const auto column = [&](double left, double width) {
-    return Box{static_cast<float>(place_.Left + left), top, static_cast<float>(width),
-               static_cast<double>(rowHeight_)};
+    return TwipRect{static_cast<float>(place_.Left + left), top, static_cast<float>(width),
+                    static_cast<double>(rowHeight_)};
   };
   return {rows_,
           item.Good,
@@ -119,7 +121,7 @@ PriceRow PriceTableWriter::Row(const PriceItem& item) const {
           Label(column(sixth * 5, sixth), item.Difference, kRowText, back)};
 }
 
-PriceLabel PriceTableWriter::Label(const Box& place, std::string caption, Color text,
+PriceLabel PriceTableWriter::Label(const TwipRect& place, std::string caption, Color text,
                                    Color back) const {
   const int width = WholeTwips(place.Width);
   const int height = WholeTwips(place.Height);

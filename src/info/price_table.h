@@ -17,7 +17,7 @@ namespace orrerix {
 // A text of a table at its place in the window, in the largest font that fits there.
 struct PriceLabel {
   std::string Caption;
-  Box Place;         // twips
+  TwipRect Place;    // twips
   int FontSize = 0;  // points
   Color ForeColor;
   Color BackColor;
@@ -53,7 +53,7 @@ class PriceTableWriter {
       : routine_(routine), universe_(universe), measure_(measure), mode_(mode) {}
 
   void Write(const std::vector<PriceItem>& items,
-             const std::array<std::string, kPriceGroups>& heads, const Box& place);
+             const std::array<std::string, kPriceGroups>& heads, const TwipRect& place);
 
   // The tables, from the top. After a Write that was cancelled they have the rows so far.
   std::vector<PriceTable> Take() { return std::move(tables_); }
@@ -62,13 +62,13 @@ class PriceTableWriter {
   double Top(int group) const;
   PriceLabel Head(int group, const std::string& caption) const;
   PriceRow Row(const PriceItem& item) const;
-  PriceLabel Label(const Box& place, std::string caption, Color text, Color back) const;
+  PriceLabel Label(const TwipRect& place, std::string caption, Color text, Color back) const;
 
   Routine& routine_;
   Universe& universe_;
   const TextMeasure& measure_;
   StationMode mode_;
-  Box place_;
+  TwipRect place_;
   int rowHeight_ = 0;
   int rows_ = 0;
   std::vector<PriceTable> tables_;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "info/station_layout.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "info/info_text.h"
@@ -23,7 +24,7 @@ constexpr int kWrapMargin = 300;  // of the info text
 constexpr Color kText{0x00CCCC};
 constexpr Color kBack{0x400000};
 
-Control InfoText(const Box& place, std::string text) {
+Control InfoText(const TwipRect& place, std::string text) {
   Control info = MakeLabel(ControlId::BoxText, std::nullopt, place, std::move(text));
   info.FontSize = kStationText;
   info.ForeColor = kText;
@@ -38,14 +39,14 @@ struct Room {
 };
 
 Room RoomOf(const StationView& view) {
-  return {MAXI(0, WholeTwips(view.FormWidth - (kStationMargin + kGap))),
-          MAXI(0, WholeTwips(view.FormHeight - kBelow))};
+  return {std::max(0, WholeTwips(view.FormWidth - (kStationMargin + kGap))),
+          std::max(0, WholeTwips(view.FormHeight - kBelow))};
 }
 
 ControlList InfoView(const TextMeasure& measure, const StationView& view) {
   const Room room = RoomOf(view);
-  const Box place{kStationMargin + kGap, 0, static_cast<double>(room.Width),
-                  static_cast<double>(room.Height)};
+  const TwipRect place{kStationMargin + kGap, 0, static_cast<double>(room.Width),
+                       static_cast<double>(room.Height)};
   return {
       InfoText(place, WrapText(view.Data.Info, measure, kStationText, room.Width - kWrapMargin))};
 }
@@ -57,7 +58,7 @@ ControlList ListView(Universe& universe, const Wording& wording, const TextMeasu
   const std::vector<ForSale>& rows = ships ? view.Data.Ships : view.Data.Equipment;
   int widest = 0;
   for (const ForSale& row : rows) {
-    widest = MAXI(widest, measure.TextWidth(row.RealName, kStationText));
+    widest = std::max(widest, measure.TextWidth(row.RealName, kStationText));
   }
   const double listWidth = widest + kListMargin;
   const double frameWidth = 2 * kListLeft + listWidth;
@@ -66,15 +67,15 @@ ControlList ListView(Universe& universe, const Wording& wording, const TextMeasu
                 {kStationMargin, 0, frameWidth, static_cast<double>(room.Height)}, kBack);
   frame.Caption = wording.Texts.TXT(ships ? kSelectShipText : kSelectEquipmentText);
   frame.ForeColor = kText;
-  Control list =
-      MakeFrame(ControlId::ForSaleList, std::nullopt,
-                {kListLeft, kListTop, listWidth, MAXI(0.0, room.Height - 2.0 * kListTop)}, kBack);
+  Control list = MakeFrame(
+      ControlId::ForSaleList, std::nullopt,
+      {kListLeft, kListTop, listWidth, NotBelowZero(room.Height - 2.0 * kListTop)}, kBack);
   list.FontSize = kStationText;
   list.ForeColor = kText;
   std::string text;
   if (!rows.empty()) text = ForSaleText(universe, wording, view.Mode, rows.front());
-  const Box place{kStationMargin + frameWidth, 0, MAXI(0.0, room.Width - frameWidth),
-                  static_cast<double>(room.Height)};
+  const TwipRect place{kStationMargin + frameWidth, 0, NotBelowZero(room.Width - frameWidth),
+                       static_cast<double>(room.Height)};
   return {std::move(frame), std::move(list), InfoText(place, std::move(text))};
 }
 
@@ -107,8 +108,8 @@ StationPicture LayOutStation(Universe& universe, const Wording& wording, const T
       case StationMode::Prices:
       case StationMode::Trades: {
         const Room room = RoomOf(view);
-        const Box place{kStationMargin + kGap, 0, static_cast<double>(room.Width),
-                        static_cast<double>(room.Height)};
+        const TwipRect place{kStationMargin + kGap, 0, static_cast<double>(room.Width),
+                             static_cast<double>(room.Height)};
         return tables.Write(view.Data.Prices, view.Texts.Heads, place);
       }
     }

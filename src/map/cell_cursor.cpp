@@ -41,7 +41,7 @@ ControlList CellCursor::Lines(const CellGeometry& cells, const ZoomRectangle& vi
   ControlList lines;
   const auto cell = Cell(visible);
   if (!cell) return lines;
-  const Box box = cells.CellBox(cell->X, cell->Y);
+  const TwipRect box = cells.CellBox(cell->X, cell->Y);
   for (int i = 0; i < kOutlines; ++i) {
     const double inset = (i + 0.5) * kOutlineGap;
     const auto left = static_cast<float>(box.Left + inset);

@@ -21,7 +21,7 @@ void LayTile(MapState& state, std::size_t index, int left, int top) {
 }
 
 // Rows of tiles from the top left corner on, one tile further than the frame reaches.
-void LayTiles(MapState& state, const Box& frame) {
+void LayTiles(MapState& state, const TwipRect& frame) {
   std::size_t index = 0;
   while (state.Tiles[index].Top < frame.Height) {
     while (state.Tiles[index].Left + kTileSize < frame.Width) {
@@ -41,7 +41,7 @@ int LabelFont(const std::string& name, int cellSize, const TextMeasure& measure)
 
 }  // namespace
 
-ControlList BackgroundTiles(MapState& state, const Box& frame) {
+ControlList BackgroundTiles(MapState& state, const TwipRect& frame) {
   if (state.Tiles.empty()) state.Tiles.resize(1);
   state.Tiles[0] = {0, 0, true};
   if (state.Zoom.Current().IsZoomed()) LayTiles(state, frame);
@@ -57,10 +57,10 @@ ControlList BackgroundTiles(MapState& state, const Box& frame) {
   return tiles;
 }
 
-Control PaintedUniverse(const Box& frame, const std::optional<std::string>& file) {
+Control PaintedUniverse(const TwipRect& frame, const std::optional<std::string>& file) {
   const auto height = static_cast<float>(frame.Height);
   const auto width = static_cast<float>(frame.Height / MapMaxY * MapMaxX);
-  const Box place{0, 0, width, height};
+  const TwipRect place{0, 0, width, height};
   return file ? MakePicture(ControlId::PaintedUniverse, std::nullopt, place, *file)
               : MakePicture(ControlId::PaintedUniverse, std::nullopt, place);
 }

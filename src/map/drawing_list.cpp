@@ -8,7 +8,7 @@
 namespace orrerix {
 namespace {
 
-Control MakeControl(ControlKind kind, ControlId id, std::optional<int> index, Box place) {
+Control MakeControl(ControlKind kind, ControlId id, std::optional<int> index, TwipRect place) {
   Control control;
   control.Kind = kind;
   control.Id = id;
@@ -23,7 +23,7 @@ std::string Color::Text() const {
   return fmt::format("0x{:06X}", Bgr);
 }
 
-std::optional<Box> PlaceOf(const ControlList& controls, ControlId id) {
+std::optional<TwipRect> PlaceOf(const ControlList& controls, ControlId id) {
   for (const Control& control : controls) {
     if (control.Id == id) return control.Place;
     if (auto inner = PlaceOf(control.Children, id)) {
@@ -54,23 +54,23 @@ Control MakeLine(ControlId id, int index, LineKind kind, Color color, LineStyle 
   return line;
 }
 
-Control MakePicture(ControlId id, std::optional<int> index, Box place, std::string picture) {
+Control MakePicture(ControlId id, std::optional<int> index, TwipRect place, std::string picture) {
   Control control = MakeControl(ControlKind::Picture, id, index, place);
   control.Picture = std::move(picture);
   return control;
 }
 
-Control MakePicture(ControlId id, std::optional<int> index, Box place) {
+Control MakePicture(ControlId id, std::optional<int> index, TwipRect place) {
   return MakePicture(id, index, place, ObjectName(id));
 }
 
-Control MakeFrame(ControlId id, std::optional<int> index, Box place, Color back) {
+Control MakeFrame(ControlId id, std::optional<int> index, TwipRect place, Color back) {
   Control control = MakeControl(ControlKind::Frame, id, index, place);
   control.BackColor = back;
   return control;
 }
 
-Control MakeLabel(ControlId id, std::optional<int> index, Box place, std::string caption) {
+Control MakeLabel(ControlId id, std::optional<int> index, TwipRect place, std::string caption) {
   Control control = MakeControl(ControlKind::Label, id, index, place);
   control.Caption = std::move(caption);
   return control;

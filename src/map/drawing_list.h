@@ -27,7 +27,7 @@ struct Color {
 };
 
 // Place and size in twips from the parent's top left corner.
-struct Box {
+struct TwipRect {
   double Left = 0;
   double Top = 0;
   double Width = 0;
@@ -35,7 +35,7 @@ struct Box {
 
   double Right() const { return Left + Width; }
   double Bottom() const { return Top + Height; }
-  bool operator==(const Box&) const = default;
+  bool operator==(const TwipRect&) const = default;
 };
 
 // The numbers of line styles.
@@ -108,8 +108,8 @@ struct Control {
   std::optional<int> Index;  // within the array
   ControlSubject Subject;
 
-  Box Place;      // all kinds but lines
-  LineEnds Ends;  // lines
+  TwipRect Place;  // all kinds but lines
+  LineEnds Ends;   // lines
   LineKind Line = LineKind::JumpGate;
   LineStyle Style = LineStyle::Solid;
   Color BorderColor;
@@ -138,7 +138,7 @@ const std::string& IconText(const Control& control);
 
 // The place of the first control with an identity, children included, from the corner that the
 // list's own controls are placed by.
-std::optional<Box> PlaceOf(const ControlList& controls, ControlId id);
+std::optional<TwipRect> PlaceOf(const ControlList& controls, ControlId id);
 
 // Moves controls to the end of a list.
 void Append(ControlList& list, ControlList more);
@@ -148,10 +148,10 @@ Control MakeLine(ControlId id, int index, LineKind kind, Color color,
                  LineStyle style = LineStyle::Solid);
 
 // A picture; without a name the one that belongs to the control itself.
-Control MakePicture(ControlId id, std::optional<int> index, Box place, std::string picture);
-Control MakePicture(ControlId id, std::optional<int> index, Box place);
+Control MakePicture(ControlId id, std::optional<int> index, TwipRect place, std::string picture);
+Control MakePicture(ControlId id, std::optional<int> index, TwipRect place);
 
-Control MakeFrame(ControlId id, std::optional<int> index, Box place, Color back);
-Control MakeLabel(ControlId id, std::optional<int> index, Box place, std::string caption);
+Control MakeFrame(ControlId id, std::optional<int> index, TwipRect place, Color back);
+Control MakeLabel(ControlId id, std::optional<int> index, TwipRect place, std::string caption);
 
 }  // namespace orrerix

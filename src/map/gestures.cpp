@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "map/gestures.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "map/game_sounds.h"
@@ -30,9 +31,9 @@ Stretch TouchedCells(Stretch visible, int highest, double size, double from, dou
                      Origin origin) {
   int first = visible.First;
   int last = visible.Last;
-  while (MINI(from, to) > origin(first) + size && first < highest) ++first;
-  while (MAXI(from, to) < origin(last) && last > first) --last;
-  return {first, MAXI(last, first)};
+  while (std::min(from, to) > origin(first) + size && first < highest) ++first;
+  while (std::max(from, to) < origin(last) && last > first) --last;
+  return {first, std::max(last, first)};
 }
 
 }  // namespace

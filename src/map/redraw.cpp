@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "map/redraw.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "map/borders.h"
@@ -19,17 +20,13 @@ constexpr Color kPanelText{0x0000FF};
 constexpr int kBorderMargin = 100;
 constexpr int kUniverseMargin = 20;
 
-double NotBelowZero(double size) {
-  return MAXI(0.0, size);
-}
-
 // Where the panel stands when the map is shown for the first time, as the whole grid. A form that
 // leaves no room at the right of it counts as if it did.
-Box FirstPanelPlace(const Box& frame) {
+TwipRect FirstPanelPlace(const TwipRect& frame) {
   const ZoomRectangle grid;
   const double cells = grid.Columns() * CellGeometry(frame, grid).CellSize();
   const double width =
-      MINI(frame.Width, MAXI(kNarrowestPanel, frame.Width - cells - kBorderMargin));
+      std::min(frame.Width, std::max(kNarrowestPanel, frame.Width - cells - kBorderMargin));
   return {frame.Width - width, 0, width, frame.Height};
 }
 
@@ -104,7 +101,7 @@ class Redraw {
 
   void ShowPaintedUniverse() {
     painted_ = {PaintedUniverse(drawing_.Frame, view_.StarMapFile)};
-    const Box& universe = painted_.front().Place;
+    const TwipRect& universe = painted_.front().Place;
     border_ =
         SetRahmen(universe_.Log, BorderSet::Map, universe.Width + kUniverseMargin, universe.Height);
   }
@@ -116,7 +113,7 @@ class Redraw {
   }
 
   void PlacePanel() {
-    const Box& frame = drawing_.Frame;
+    const TwipRect& frame = drawing_.Frame;
     const int cell = drawing_.Cells.CellSize();
     drawing_.FreeRight = WholeTwips(frame.Width - Visible().Columns() * cell - kBorderMargin);
     drawing_.FreeBelow = WholeTwips(frame.Height - Visible().Rows() * cell);

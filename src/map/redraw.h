@@ -37,7 +37,7 @@ struct MapState {
   std::vector<MapTile> Tiles;
   MapObjects Objects;        // as the last redraw left them
   bool BorderShown = false;  // the map's border, by the last redraw that got that far
-  std::optional<Box>
+  std::optional<TwipRect>
       PanelAtRight;  // where the panel stood on the screen when it was last at the right
   bool PrintMode = false;
   bool OptionsOpen = false;
@@ -56,7 +56,7 @@ struct MapView {
 enum class PanelPlace { None, Right, Below };
 
 struct MapDrawing {
-  Box Frame;
+  TwipRect Frame;
   Color FrameColor;
   bool PrintMode = false;  // on white paper
   bool Zoomed = false;
@@ -64,7 +64,7 @@ struct MapDrawing {
   int FreeRight = 0;  // twips beside the shown cells
   int FreeBelow = 0;
   PanelPlace Panel = PanelPlace::None;
-  Box PanelBox;
+  TwipRect PanelBox;
   bool NewsScrolls = false;
   ControlList Controls;  // visible children of the frame, back to front
 };

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "map/side_panel.h"
 
+#include <algorithm>
+
 #include <fmt/format.h>
 
 #include "map/borders.h"
@@ -22,7 +24,7 @@ constexpr int kInnerLeft = 40;     // of the frames within the panel
 constexpr int kInnerRight = 20;
 constexpr int kCheckSize = 225;
 constexpr int kCheckLeft = 120;
-constexpr Box kOptionLabel{0, 0, 1095, 495};
+constexpr TwipRect kOptionLabel{0, 0, 1095, 495};
 constexpr int kShowOptionsHeight = 495;
 constexpr int kNewsHeight = 270;
 constexpr int kSloganFont = 10;
@@ -38,16 +40,12 @@ constexpr std::array<const char*, kTools> kToolPictures = {
     "tools/search_place.svg", "tools/search_ship.svg", "tools/search_equipment.svg",
     "tools/search_bribe.svg", "tools/print.svg"};
 
-double NotBelowZero(double size) {
-  return MAXI(0.0, size);
-}
-
-Box WithSize(double left, double top, double width, double height) {
+TwipRect WithSize(double left, double top, double width, double height) {
   return {left, top, NotBelowZero(width), NotBelowZero(height)};
 }
 
-Control Label(ControlId id, std::optional<int> index, Box place, std::string caption, int fontSize,
-              Color color) {
+Control Label(ControlId id, std::optional<int> index, TwipRect place, std::string caption,
+              int fontSize, Color color) {
   Control label = MakeLabel(id, index, place, std::move(caption));
   label.FontSize = fontSize;
   label.ForeColor = color;
@@ -60,8 +58,8 @@ ControlList Border(const PanelView& view, BorderSet set, double right, double bo
 }
 
 // Fits a picture of the logo's proportions into a room, as wide as it can be.
-Box FitLogo(const PanelContent& content, double width, double mostHeight) {
-  Box logo = WithSize(0, 0, width, 0);
+TwipRect FitLogo(const PanelContent& content, double width, double mostHeight) {
+  TwipRect logo = WithSize(0, 0, width, 0);
   logo.Height = logo.Width / content.LogoWidth * content.LogoHeight;
   if (mostHeight < logo.Height) {
     logo.Height = NotBelowZero(mostHeight);
@@ -84,14 +82,14 @@ ControlList NewsLabels(const PanelContent& content, double width, double top) {
   return labels;
 }
 
-Control Logo(const PanelContent& content, Box place) {
+Control Logo(const PanelContent& content, TwipRect place) {
   Control logo = MakePicture(ControlId::Logo, std::nullopt, place, "logo.png");
   logo.ToolTip = content.LogoTip;
   return logo;
 }
 
 // The row of tool icons with its border.
-ControlList Tools(const Box& panel, int iconSize, const PanelView& view) {
+ControlList Tools(const TwipRect& panel, int iconSize, const PanelView& view) {
   ControlList tools;
   for (int i = 0; i < kTools; ++i) {
     Control tool = MakePicture(ControlId::Tool, i,
@@ -131,10 +129,10 @@ ControlList Switches(double frameWidth, double top, const PanelContent& content,
   return switches;
 }
 
-Control OptionsFrame(const Box& panel, double top, const PanelView& view) {
+Control OptionsFrame(const TwipRect& panel, double top, const PanelView& view) {
   const PanelContent& content = view.Content;
   const double width = NotBelowZero(panel.Width - kInnerLeft - kInnerRight);
-  const Box caption{0, kBorderThickness, width, kShowOptionsHeight};
+  const TwipRect caption{0, kBorderThickness, width, kShowOptionsHeight};
   const double switchesTop = caption.Bottom() + 2 * kBorderThickness;
   Control frame = MakeFrame(ControlId::PanelFrame, 1, {kInnerLeft, top, width, switchesTop}, kBack);
   frame.Caption = "Show - Options";
@@ -162,7 +160,7 @@ struct InfoBoxFoot {
   Control Credit;
 };
 
-InfoBoxFoot FootOf(const Box& box, const PanelContent& content, const TextMeasure& measure) {
+InfoBoxFoot FootOf(const TwipRect& box, const PanelContent& content, const TextMeasure& measure) {
   const int width = WholeTwips(box.Width);
   const int sloganFont = OptFontSize(content.Slogan, measure, kSloganFont, width);
   const int creditFont =
@@ -177,7 +175,7 @@ InfoBoxFoot FootOf(const Box& box, const PanelContent& content, const TextMeasur
             content.Credit, creditFont, kCreditText)};
   foot.Slogan.BackColor = kBack;
   foot.Slogan.ToolTip = content.SloganTip;
-  Box& logo = foot.LogoPicture.Place;
+  TwipRect& logo = foot.LogoPicture.Place;
   logo = FitLogo(content, box.Width, box.Height - 1000 - foot.Slogan.Place.Height);
   if (logo.Width < box.Width) logo.Left = box.Width / 2 - logo.Width / 2;
   foot.Credit.Place.Top = NotBelowZero(box.Height - foot.Credit.Place.Height - 50);
@@ -191,24 +189,24 @@ struct InfoBox {
   bool NewsScrolls = false;
 };
 
-Control InfoFrame(const Box& box) {
+Control InfoFrame(const TwipRect& box) {
   Control frame = MakeFrame(ControlId::PanelFrame, 2, box, kBack);
   frame.Caption = "Infobox";
   frame.ForeColor = kText;
   return frame;
 }
 
-InfoBox MakeInfoBox(const Box& panel, double top, const PanelView& view) {
+InfoBox MakeInfoBox(const TwipRect& panel, double top, const PanelView& view) {
   const PanelContent& content = view.Content;
   InfoBox info;
-  const Box box =
+  const TwipRect box =
       WithSize(kInnerLeft, top, panel.Width - kInnerLeft - kInnerRight, panel.Height - top);
   info.Frame = InfoFrame(box);
   InfoBoxFoot foot = FootOf(box, content, view.Measure);
   const double sloganTop = foot.Slogan.Place.Top;
 
   const double bandHeight = box.Width / kHeadBandWidth * kHeadBandHeight;
-  const Box background =
+  const TwipRect background =
       WithSize(kBorderThickness, kBorderThickness, box.Width - 2 * kBorderThickness,
                sloganTop - kBorderThickness - kBorderThickness);
   ControlList& children = info.Frame.Children;
@@ -224,13 +222,13 @@ InfoBox MakeInfoBox(const Box& panel, double top, const PanelView& view) {
   return info;
 }
 
-int IconSize(const Box& panel) {
-  return MAXI(0, WholeTwips((panel.Width - kToolsMargin) / kTools));
+int IconSize(const TwipRect& panel) {
+  return std::max(0, WholeTwips((panel.Width - kToolsMargin) / kTools));
 }
 
 // The tools with the options below them, which come last.
 ControlList ToolsAndOptions(double width, const PanelView& view) {
-  const Box panel{0, 0, width, 0};
+  const TwipRect panel{0, 0, width, 0};
   const int iconSize = IconSize(panel);
   ControlList controls = Tools(panel, iconSize, view);
   controls.push_back(OptionsFrame(panel, iconSize + kToolsMargin, view));
@@ -239,19 +237,19 @@ ControlList ToolsAndOptions(double width, const PanelView& view) {
 
 // The width at which tools and folded options are no higher than the panel, if they can be. They
 // keep it while the options are unfolded, so that these do not move away from the mouse.
-double FittingWidth(const Box& panel, double width, PanelView view) {
+double FittingWidth(const TwipRect& panel, double width, PanelView view) {
   view.OptionsOpen = false;
-  const Box options = ToolsAndOptions(width, view).back().Place;
+  const TwipRect options = ToolsAndOptions(width, view).back().Place;
   if (options.Bottom() <= panel.Height) return width;
   const double iconSize = panel.Height - options.Height - kToolsMargin;
-  return MINI(width, MAXI(kNarrowestPanel, kTools * iconSize + kToolsMargin));
+  return std::min(width, std::max(kNarrowestPanel, kTools * iconSize + kToolsMargin));
 }
 
-Control InfoFrameBelow(const Box& panel, const PanelContent& content) {
-  const Box box = WithSize(0, 0, panel.Width, panel.Height);
+Control InfoFrameBelow(const TwipRect& panel, const PanelContent& content) {
+  const TwipRect box = WithSize(0, 0, panel.Width, panel.Height);
   Control frame = InfoFrame(box);
   Append(frame.Children, NewsLabels(content, box.Width, 0));
-  Box logo = FitLogo(content, NotBelowZero(box.Width - 100), box.Height - 100);
+  TwipRect logo = FitLogo(content, NotBelowZero(box.Width - 100), box.Height - 100);
   logo.Left = NotBelowZero(box.Width - logo.Width) - 50;
   logo.Top = NotBelowZero(box.Height - logo.Height) - 50;
   frame.Children.push_back(Logo(content, logo));
@@ -280,7 +278,7 @@ PanelContent PanelTexts(TextSource& texts) {
   return content;
 }
 
-SidePanel LayOutPanelRight(const Box& panel, const PanelView& view) {
+SidePanel LayOutPanelRight(const TwipRect& panel, const PanelView& view) {
   SidePanel laidOut;
   laidOut.Controls = ToolsAndOptions(panel.Width, view);
   Control optionsFrame = std::move(laidOut.Controls.back());
@@ -292,14 +290,14 @@ SidePanel LayOutPanelRight(const Box& panel, const PanelView& view) {
   return laidOut;
 }
 
-SidePanel LayOutPanelBelow(const Box& panel, const Box& atRight, const PanelView& view) {
-  const double width = FittingWidth(panel, MINI(atRight.Width, panel.Width), view);
+SidePanel LayOutPanelBelow(const TwipRect& panel, const TwipRect& atRight, const PanelView& view) {
+  const double width = FittingWidth(panel, std::min(atRight.Width, panel.Width), view);
   ControlList inFront = ToolsAndOptions(width, view);
   SidePanel laidOut;
   const double missing = inFront.back().Place.Bottom() - panel.Height;
   if (missing > 0) {
     laidOut.Overhangs = true;
-    const double up = MINI(missing, panel.Top);
+    const double up = std::min(missing, panel.Top);
     for (Control& control : inFront) control.Place.Top -= up;
   }
   laidOut.Controls.push_back(InfoFrameBelow(panel, view.Content));

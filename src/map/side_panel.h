@@ -56,7 +56,7 @@ struct SidePanel {
 
 // Lays out the panel at the map's right. `panel` is the place of its frame on the map frame. No
 // width or height goes below 0. The captions of the frames are covered by what stands in them.
-SidePanel LayOutPanelRight(const Box& panel, const PanelView& view);
+SidePanel LayOutPanelRight(const TwipRect& panel, const PanelView& view);
 
 // The narrowest panel, twips, in which the tools can still be hit.
 inline constexpr double kNarrowestPanel = 3000;
@@ -65,6 +65,6 @@ inline constexpr double kNarrowestPanel = 3000;
 // were laid out in `atRight`, the panel's last place at the map's right. In a panel too low for
 // them they are smaller, down to those of the narrowest panel, and reach up over the map if that is
 // not enough, so that they can always be used.
-SidePanel LayOutPanelBelow(const Box& panel, const Box& atRight, const PanelView& view);
+SidePanel LayOutPanelBelow(const TwipRect& panel, const TwipRect& atRight, const PanelView& view);
 
 }  // namespace orrerix

@@ -223,8 +223,8 @@ class OrrerixMainMapTest : public OrrerixMainTest {
       if (control.Id != ControlId::SystemLabel) continue;
       const auto x = static_cast<float>(control.Place.Left + 30);
       const auto y = static_cast<float>(control.Place.Top + 30);
-      form->Play().SysmapFrameMouseDown(x, y);
-      form->Play().SysmapFrameMouseUp(PointerButton::Left, x, y);
+      form->Play().PressOnMap(x, y);
+      form->Play().ReleaseOnMap(PointerButton::Left, x, y);
       return;
     }
   }
@@ -251,8 +251,8 @@ TEST_F(OrrerixMainMapTest, AClickOnAnIconOpensAStationWindowAndTheyCloseWithTheF
   const int index = StationIcon();
   ASSERT_GT(index, 0);
 
-  form->Play().Image1Click(index);
-  form->Play().Image1Click(index);
+  form->Play().OpenStationOf(index);
+  form->Play().OpenStationOf(index);
 
   ASSERT_EQ(form->Stations().Windows().size(), 2U);
   EXPECT_EQ(form->Stations().Windows()[0]->Picture(), "Planet1");

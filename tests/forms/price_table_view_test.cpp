@@ -8,7 +8,7 @@
 namespace orrerix {
 namespace {
 
-PriceLabel Label(orrerix::Box place, std::string caption) {
+PriceLabel Label(TwipRect place, std::string caption) {
   return {std::move(caption), place, 12, {0x000000}, {0x00C000}};
 }
 

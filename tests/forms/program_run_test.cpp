@@ -219,8 +219,8 @@ TEST_F(NewsRunTest, NewsStandInThePanelAndOpenTheirLinks) {
   ASSERT_NE(PanelControl(ControlId::NewsLabel, 2), nullptr);
   EXPECT_EQ(PanelControl(ControlId::NewsLabel, 1)->Caption, "News 1");
   EXPECT_EQ(PanelControl(ControlId::NewsLabel, 0)->Caption, "OX-Main-Webpage");
-  run.Main()->InfoBoxLabelClick(2);
-  run.Main()->InfoBoxLabelClick(0);
+  run.Main()->OpenNewsLink(2);
+  run.Main()->OpenNewsLink(0);
   EXPECT_EQ(links.Opened, (std::vector<std::string>{"http://n.example/2", "http://x.example/OX"}));
   EXPECT_EQ(sound.Played.back().filename(), "news_vendor_open.wav");
 }
@@ -229,7 +229,7 @@ TEST_F(NewsRunTest, NewsOutliveAChangeOfLanguage) {
   network.Page = NewsOf("1.0", 1);
   Show();
 
-  run.Main()->Play().SetLabelClick(6);
+  run.Main()->Play().ActivateOptionLabel(6);
   PassEvents();
 
   EXPECT_NE(PanelControl(ControlId::NewsLabel, 1), nullptr);
@@ -239,7 +239,7 @@ TEST_F(NewsRunTest, ALinkThatIsNoWebAddressIsNotOpened) {
   network.Page = "1.0\r\nx\r\nx\r\nOne\r\nTip\r\nfile:///etc/hostname\r\n";
   Show();
 
-  run.Main()->InfoBoxLabelClick(1);
+  run.Main()->OpenNewsLink(1);
 
   EXPECT_TRUE(links.Opened.empty());
 }

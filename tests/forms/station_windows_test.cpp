@@ -23,7 +23,8 @@ class StationWindowsTest : public FormFixture {
   CellNames names;
   FailTest mustWork;
   Database db = DBEngine::CreateInMemory(mustWork);
-  StationWindows stations{{log, pictures, sound, english, names, [this](Routine&) {
+  StationWindows stations{{log, pictures, sound, english, names,
+                           [this](Routine&) {
                              return Universe{log, db};
                            },
                            [] { return QSize(0, 0); }}};

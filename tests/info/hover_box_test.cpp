@@ -22,21 +22,21 @@ MapDrawing Drawing() {
 constexpr TextExtent kText{2000, 400};
 
 TEST(HoverBoxPlace, TheBoxIsThreeHundredTwipsLargerThanItsText) {
-  const Box box = HoverBoxPlace({1000, 1000, 600, 600}, kText, Drawing());
+  const TwipRect box = HoverBoxPlace({1000, 1000, 600, 600}, kText, Drawing());
 
   EXPECT_EQ(box.Width, 2300);
   EXPECT_EQ(box.Height, 700);
 }
 
 TEST(HoverBoxPlace, InTheUpperHalfItStandsBelowTheIcon) {
-  const Box box = HoverBoxPlace({1000, 1000, 600, 600}, kText, Drawing());
+  const TwipRect box = HoverBoxPlace({1000, 1000, 600, 600}, kText, Drawing());
 
   EXPECT_EQ(box.Left, 1000);
   EXPECT_EQ(box.Top, 1700);  // 1000 + 600 + 100
 }
 
 TEST(HoverBoxPlace, InTheLowerHalfItStandsAboveTheIcon) {
-  const Box box = HoverBoxPlace({1000, 6001, 600, 600}, kText, Drawing());
+  const TwipRect box = HoverBoxPlace({1000, 6001, 600, 600}, kText, Drawing());
 
   EXPECT_EQ(box.Top, 5201);  // 6001 - 100 - 700
 }
@@ -91,7 +91,7 @@ class HoverBoxTest : public UniverseFixture {
 };
 
 TEST_F(HoverBoxTest, TheIconGrowsFromItsCorner) {
-  EXPECT_EQ(Open(Icon("pier", 40)).Icon.Place, (Box{1000, 1000, 600, 600}));
+  EXPECT_EQ(Open(Icon("pier", 40)).Icon.Place, (TwipRect{1000, 1000, 600, 600}));
 }
 
 TEST_F(HoverBoxTest, TheBoxHoldsItsTextWithinAMargin) {
@@ -101,8 +101,8 @@ TEST_F(HoverBoxTest, TheBoxHoldsItsTextWithinAMargin) {
   EXPECT_EQ(hover.Box[0].Id, ControlId::BoxShape);
   EXPECT_EQ(hover.Box[1].Id, ControlId::BoxText);
   // Four characters of 9 points: 4 x 12 x 9 = 432 wide and 24 x 9 = 216 high.
-  EXPECT_EQ(hover.Box[0].Place, (Box{1000, 1700, 732, 516}));
-  EXPECT_EQ(hover.Box[1].Place, (Box{1150, 1850, 432, 216}));
+  EXPECT_EQ(hover.Box[0].Place, (TwipRect{1000, 1700, 732, 516}));
+  EXPECT_EQ(hover.Box[1].Place, (TwipRect{1150, 1850, 432, 216}));
   EXPECT_EQ(hover.Box[1].Caption, "pier");
   EXPECT_EQ(hover.Box[1].FontSize, 9);
 }

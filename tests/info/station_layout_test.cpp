@@ -33,7 +33,7 @@ TEST_F(StationLayout, TheInfoIsWrappedToTheWindow) {
   const ControlList info = LayOut(StationMode::Info).Controls;
   ASSERT_THAT(info, SizeIs(1));
   EXPECT_EQ(info[0].Id, ControlId::BoxText);
-  EXPECT_EQ(info[0].Place, (Box{kStationMargin + 50, 0, 9000, 5000}));
+  EXPECT_EQ(info[0].Place, (TwipRect{kStationMargin + 50, 0, 9000, 5000}));
   EXPECT_EQ(info[0].Caption, "\r\nabcd efgh \r\n");
 
   // With 1200 - 300 twips there is room for less than 900 / 108 = 8.3 characters.
@@ -66,10 +66,10 @@ TEST_F(StationLayout, AListStandsBesideTheTextOfItsFirstRow) {
   EXPECT_EQ(list[0].Id, ControlId::ForSaleFrame);
   EXPECT_EQ(list[0].Caption, "Select a Ship");
   // Ten characters: 1080, and 200; the frame has a margin of 120 on both sides.
-  EXPECT_EQ(list[0].Place, (Box{kStationMargin, 0, 1520, 5000}));
+  EXPECT_EQ(list[0].Place, (TwipRect{kStationMargin, 0, 1520, 5000}));
   EXPECT_EQ(list[1].Id, ControlId::ForSaleList);
-  EXPECT_EQ(list[1].Place, (Box{120, 240, 1280, 4520}));
-  EXPECT_EQ(list[2].Place, (Box{kStationMargin + 1520.0, 0, 9000 - 1520, 5000}));
+  EXPECT_EQ(list[1].Place, (TwipRect{120, 240, 1280, 4520}));
+  EXPECT_EQ(list[2].Place, (TwipRect{kStationMargin + 1520.0, 0, 9000 - 1520, 5000}));
   EXPECT_THAT(*list[2].Caption,
               ::testing::StartsWith("\r\n   Price: 700   -  First.Second.\r\n\r\n\r\n"
                                     " Extra-Stats\r\n Mass:    \t12.5\r\n Steering:\t\t\t\r\n"));
@@ -126,7 +126,7 @@ TEST_F(PriceTableTest, WithoutRowsTheHeadsStandOneBelowTheOther) {
 
   ASSERT_THAT(table, SizeIs(3));  // rows of 5000 / 5
   EXPECT_EQ(RowsOf(table), 0u);
-  EXPECT_EQ(Head(table, 2).Place, (Box{kStationMargin + 50, 0, 9000, 1000}));
+  EXPECT_EQ(Head(table, 2).Place, (TwipRect{kStationMargin + 50, 0, 9000, 1000}));
   EXPECT_EQ(Head(table, 1).Place.Top, 1000);
   EXPECT_EQ(Head(table, 0).Place.Top, 2000);
   EXPECT_EQ(Head(table, 2).Caption, "Commodities Buy Prices");
@@ -146,9 +146,9 @@ TEST_F(PriceTableTest, RowsStandBelowTheirHeadsInThreeColumns) {
   // 5000 / (2 + 5) = 714.29; a sixth of the width is 1500.
   ASSERT_THAT(table, SizeIs(3));
   ASSERT_EQ(RowsOf(table), 2u);
-  EXPECT_EQ(Row(table, 1).Name.Place, (Box{kStationMargin + 50, 714, 6000, 714}));
-  EXPECT_EQ(Row(table, 1).Price.Place, (Box{kStationMargin + 6050, 714, 1500, 714}));
-  EXPECT_EQ(Row(table, 1).Difference.Place, (Box{kStationMargin + 7550, 714, 1500, 714}));
+  EXPECT_EQ(Row(table, 1).Name.Place, (TwipRect{kStationMargin + 50, 714, 6000, 714}));
+  EXPECT_EQ(Row(table, 1).Price.Place, (TwipRect{kStationMargin + 6050, 714, 1500, 714}));
+  EXPECT_EQ(Row(table, 1).Difference.Place, (TwipRect{kStationMargin + 7550, 714, 1500, 714}));
   EXPECT_EQ(Head(table, 1).Place.Top, 1428);
   EXPECT_EQ(Row(table, 2).Name.Place.Top, 2142);
   EXPECT_EQ(Head(table, 0).Place.Top, 2856);

@@ -15,7 +15,7 @@ using ::testing::SizeIs;
 // A frame of 19000 x 19000 twips: cells of 1000 when the whole grid is shown.
 class Gestures : public ::testing::Test {
  protected:
-  static constexpr Box kFrame{50, 50, 19000, 19000};
+  static constexpr TwipRect kFrame{50, 50, 19000, 19000};
 
   CellGeometry Cells() const { return CellGeometry(kFrame, state.Zoom.Current()); }
 
@@ -132,7 +132,7 @@ TEST_F(Gestures, FarBelowTheMapTheLastRowOfTheGridIsTaken) {
 }
 
 TEST_F(Gestures, OnAFrameWithoutRoomTheSearchEndsAtTheEdgesOfTheGrid) {
-  const CellGeometry none(Box{}, state.Zoom.Current());
+  const CellGeometry none(TwipRect{}, state.Zoom.Current());
 
   gestures.MouseDown(-1, 1);
   gestures.MouseUp(PointerButton::Left, none, -1, 1);

@@ -133,7 +133,7 @@ TEST_F(Redraw, ThePaintedUniverseFollowsTheFrameAndNotTheCells) {
 
   // 17450 / 18 x 17, as a 32-bit float
   const Control painted = Named(drawing, ControlId::PaintedUniverse).at(0);
-  EXPECT_EQ(painted.Place, (Box{0, 0, 16480.5546875, 17450}));
+  EXPECT_EQ(painted.Place, (TwipRect{0, 0, 16480.5546875, 17450}));
   // Its border: 16480.55 + 20 = 16500.55, rounded; the right corner is 315 wide.
   EXPECT_EQ(Named(drawing, ControlId::Border).at(2).Place.Right(), 16501);
 }
@@ -145,7 +145,7 @@ TEST_F(Redraw, TheFreeSpaceDecidesWhereThePanelStands) {
   EXPECT_EQ(drawing.FreeRight, 7176);
   EXPECT_EQ(drawing.FreeBelow, 8);
   EXPECT_EQ(drawing.Panel, PanelPlace::Right);
-  EXPECT_EQ(drawing.PanelBox, (Box{16624, 0, 7176, 17450}));
+  EXPECT_EQ(drawing.PanelBox, (TwipRect{16624, 0, 7176, 17450}));
 }
 
 TEST_F(Redraw, MoreRoomBelowPutsThePanelBelow) {
@@ -156,7 +156,7 @@ TEST_F(Redraw, MoreRoomBelowPutsThePanelBelow) {
 
   EXPECT_EQ(drawing.Panel, PanelPlace::Below);
   EXPECT_EQ(drawing.FreeBelow, 9664);  // 20000 - 19 x 544
-  EXPECT_EQ(drawing.PanelBox, (Box{0, 10336, 9800, 9664}));
+  EXPECT_EQ(drawing.PanelBox, (TwipRect{0, 10336, 9800, 9664}));
 }
 
 TEST_F(Redraw, EqualRoomPutsThePanelBelow) {
@@ -274,8 +274,8 @@ TEST_F(Redraw, AnIconIsCentredOnItsPointAndShrinksWithTheColumns) {
 
   // One cell of 17450: its middle is 8725. Six columns: cells of 23800 / 6 = 3966.67, rounded
   // to 3967, the middle 1983.5; not 33 twips but 40.
-  EXPECT_EQ(iconOf({7, 4, 7, 4}), (Box{8625, 8625, 200, 200}));
-  EXPECT_EQ(iconOf({7, 4, 12, 4}), (Box{1963.5, 1963.5, 40, 40}));
+  EXPECT_EQ(iconOf({7, 4, 7, 4}), (TwipRect{8625, 8625, 200, 200}));
+  EXPECT_EQ(iconOf({7, 4, 12, 4}), (TwipRect{1963.5, 1963.5, 40, 40}));
   EXPECT_EQ(iconOf({7, 4, 9, 4}).Width, static_cast<double>(static_cast<float>(200.0 / 3)));
 }
 
@@ -326,9 +326,9 @@ TEST_F(Redraw, TheBackgroundIsTiledOneTileFurtherThanTheFrame) {
 
   // Three tiles of 1920 cover 5000, two rows cover 3000, and one more tile begins a third row.
   ASSERT_EQ(tiles.size(), 7u);
-  EXPECT_EQ(tiles[2].Place, (Box{3840, 0, 1920, 1920}));
-  EXPECT_EQ(tiles[3].Place, (Box{0, 1920, 1920, 1920}));
-  EXPECT_EQ(tiles[6].Place, (Box{0, 3840, 1920, 1920}));
+  EXPECT_EQ(tiles[2].Place, (TwipRect{3840, 0, 1920, 1920}));
+  EXPECT_EQ(tiles[3].Place, (TwipRect{0, 1920, 1920, 1920}));
+  EXPECT_EQ(tiles[6].Place, (TwipRect{0, 3840, 1920, 1920}));
 }
 
 TEST_F(Redraw, TilesStayWhenTheMapIsWholeAgain) {
@@ -358,7 +358,7 @@ TEST_F(Redraw, SystemPicturesStandInTheirCellsWhereverTheyLie) {
 
   ASSERT_EQ(pictures.size(), 47u);
   // The first belongs to cell 8, 6; cells of 23800 / 2.
-  EXPECT_EQ(pictures[0].Place, (Box{11900, 23800, 11900, 11900}));
+  EXPECT_EQ(pictures[0].Place, (TwipRect{11900, 23800, 11900, 11900}));
 }
 
 TEST_F(Redraw, TheBorderOfAZoomedMapSurroundsTheShownCells) {

@@ -26,7 +26,7 @@ int CountOf(const ControlList& list, ControlId id) {
 }
 
 // Where the panel stood at the right of a map 17450 high.
-constexpr Box kAtRight{10000, 0, 7100, 17450};
+constexpr TwipRect kAtRight{10000, 0, 7100, 17450};
 
 class Panel : public ::testing::Test {
  protected:
@@ -48,8 +48,8 @@ TEST_F(Panel, FiveToolsShareTheWidth) {
   // (7100 - 100) / 5 = 1400
   const SidePanel panel = LayOut(7100);
 
-  EXPECT_EQ(Find(panel.Controls, ControlId::Tool, 0)->Place, (Box{50, 50, 1400, 1400}));
-  EXPECT_EQ(Find(panel.Controls, ControlId::Tool, 4)->Place, (Box{5650, 50, 1400, 1400}));
+  EXPECT_EQ(Find(panel.Controls, ControlId::Tool, 0)->Place, (TwipRect{50, 50, 1400, 1400}));
+  EXPECT_EQ(Find(panel.Controls, ControlId::Tool, 4)->Place, (TwipRect{5650, 50, 1400, 1400}));
 }
 
 TEST_F(Panel, OptionsStandBelowTheToolsAndTheInfoBoxBelowThem) {
@@ -85,9 +85,9 @@ TEST_F(Panel, SwitchesAreThereOnlyWhenUnfolded) {
 TEST_F(Panel, AWidePanelHasItsSwitchesInTwoColumns) {
   const SidePanel open = LayOut(7100, 17450, true);
 
-  const Box first = Find(open.Controls, ControlId::OptionSwitch, 0)->Place;
-  const Box second = Find(open.Controls, ControlId::OptionSwitch, 1)->Place;
-  const Box third = Find(open.Controls, ControlId::OptionSwitch, 2)->Place;
+  const TwipRect first = Find(open.Controls, ControlId::OptionSwitch, 0)->Place;
+  const TwipRect second = Find(open.Controls, ControlId::OptionSwitch, 1)->Place;
+  const TwipRect third = Find(open.Controls, ControlId::OptionSwitch, 2)->Place;
   EXPECT_EQ(second.Top, first.Top);
   EXPECT_GT(second.Left, first.Left);
   EXPECT_EQ(third.Left, first.Left);
@@ -97,8 +97,8 @@ TEST_F(Panel, AWidePanelHasItsSwitchesInTwoColumns) {
 TEST_F(Panel, ANarrowPanelHasItsSwitchesInOneColumn) {
   const SidePanel open = LayOut(2000, 17450, true);
 
-  const Box first = Find(open.Controls, ControlId::OptionSwitch, 0)->Place;
-  const Box second = Find(open.Controls, ControlId::OptionSwitch, 1)->Place;
+  const TwipRect first = Find(open.Controls, ControlId::OptionSwitch, 0)->Place;
+  const TwipRect second = Find(open.Controls, ControlId::OptionSwitch, 1)->Place;
   EXPECT_EQ(second.Left, first.Left);
   EXPECT_EQ(second.Top, first.Top + 495);
 }
@@ -106,7 +106,7 @@ TEST_F(Panel, ANarrowPanelHasItsSwitchesInOneColumn) {
 TEST_F(Panel, TheLanguageStandsInTheCornerOfTheCaption) {
   const SidePanel panel = LayOut(7100);
 
-  const Box caption = Find(panel.Controls, ControlId::OptionsCaption, std::nullopt)->Place;
+  const TwipRect caption = Find(panel.Controls, ControlId::OptionsCaption, std::nullopt)->Place;
   const Control& language = *Find(panel.Controls, ControlId::OptionLabel, 6);
   EXPECT_EQ(*language.Caption, "English");
   EXPECT_EQ(language.Place.Right(), caption.Right());
@@ -117,7 +117,8 @@ TEST_F(Panel, TheHeadBandKeepsItsProportions) {
   const SidePanel panel = LayOut(8175);
 
   // The info box is 8175 - 60 = 8115 wide.
-  EXPECT_EQ(Find(panel.Controls, ControlId::InfoBoxPicture, 0)->Place, (Box{0, 60, 8115, 615}));
+  EXPECT_EQ(Find(panel.Controls, ControlId::InfoBoxPicture, 0)->Place,
+            (TwipRect{0, 60, 8115, 615}));
 }
 
 TEST_F(Panel, NewsThatFitsDoesNotScroll) {
@@ -133,8 +134,8 @@ TEST_F(Panel, NewsThatReachesTheSloganScrolls) {
 TEST_F(Panel, TheLogoShrinksAndIsCentredWhereThePanelIsLow) {
   const SidePanel panel = LayOut(7100, 5000);
 
-  const Box info = Find(panel.Controls, ControlId::PanelFrame, 2)->Place;
-  const Box logo = Find(panel.Controls, ControlId::Logo, std::nullopt)->Place;
+  const TwipRect info = Find(panel.Controls, ControlId::PanelFrame, 2)->Place;
+  const TwipRect logo = Find(panel.Controls, ControlId::Logo, std::nullopt)->Place;
   EXPECT_LT(logo.Width, info.Width);
   EXPECT_DOUBLE_EQ(logo.Left, info.Width / 2 - logo.Width / 2);
 }
@@ -155,7 +156,7 @@ TEST_F(Panel, ATinyPanelHasNoNegativeSizes) {
 TEST_F(Panel, TheReducedPanelShowsNewsAndLogo) {
   const SidePanel panel = LayOutPanelBelow({0, 9000, 12000, 3000}, kAtRight, View());
 
-  EXPECT_EQ(Find(panel.Controls, ControlId::PanelFrame, 2)->Place, (Box{0, 0, 12000, 3000}));
+  EXPECT_EQ(Find(panel.Controls, ControlId::PanelFrame, 2)->Place, (TwipRect{0, 0, 12000, 3000}));
   EXPECT_EQ(Find(panel.Controls, ControlId::NewsLabel, 0)->Place.Top, 0);
   // 3000 - 100 high, 4 : 1; its right edge 50 twips from the panel's.
   EXPECT_DOUBLE_EQ(Find(panel.Controls, ControlId::Logo, std::nullopt)->Place.Height, 2900);
@@ -195,7 +196,7 @@ TEST_F(Panel, InALowPanelTheToolsAreAsLargeAsItsHeightAllows) {
   const SidePanel below = LayOutPanelBelow({0, 9000, 12000, 1600}, kAtRight, View());
 
   // 1600 - 675 for the options - 100
-  EXPECT_EQ(Find(below.Controls, ControlId::Tool, 0)->Place, (Box{50, 50, 825, 825}));
+  EXPECT_EQ(Find(below.Controls, ControlId::Tool, 0)->Place, (TwipRect{50, 50, 825, 825}));
   EXPECT_FALSE(below.Overhangs);
   // Unfolded they stay as wide and reach up.
   const SidePanel open = LayOutPanelBelow({0, 9000, 12000, 1600}, kAtRight, unfolded);

@@ -3,6 +3,7 @@
 
 #include <QImage>
 #include <QPainter>
+#include <algorithm>
 
 #include <gtest/gtest.h>
 
@@ -16,7 +17,7 @@ class MapSceneTest : public ::testing::Test {
  protected:
   MapSceneTest() { drawing.Frame = {0, 0, 1500, 1500}; }
 
-  static Control Rectangle(Box place, Color back) {
+  static Control Rectangle(TwipRect place, Color back) {
     return MakeFrame(ControlId::PanelFrame, 0, place, back);
   }
 

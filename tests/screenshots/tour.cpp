@@ -5,6 +5,7 @@
 #include <QListWidget>
 #include <QTest>
 #include <QTimer>
+#include <algorithm>
 #include <chrono>
 #include <stdexcept>
 #include <string>
@@ -168,23 +169,23 @@ void Tour::TakeUpdate() {
 
 void Tour::TakeMap() {
   TakeMain("map");
-  for (const int pictures : {0, 1}) Play().SetImageClick(pictures);
+  for (const int pictures : {0, 1}) Play().ToggleSwitch(pictures);
   PassEvents();
   TakeMain("map-pictures");
-  for (const int pictures : {0, 1}) Play().SetImageClick(pictures);
+  for (const int pictures : {0, 1}) Play().ToggleSwitch(pictures);
 }
 
 void Tour::TakeOptions() {
-  Play().ShowOptionsLabelMouseMove();
+  Play().UnfoldOptions();
   PassEvents();
   TakeMain("map-options");
-  Play().SysmapFrameMouseMove(PointerButton::None, 0, 0);
+  Play().MoveOverMap(PointerButton::None, 0, 0);
 }
 
 // Around the system in the middle, `cells` to each side.
 void Tour::ZoomInto(int cells) {
   const Control& label = NearestLabel(Drawing(), MiddleOfLabels(Drawing()));
-  const Box place = label.Place;
+  const TwipRect place = label.Place;
   const double reach = cells * place.Width;
   const auto from = [&](double corner) {
     return static_cast<float>(std::max(10.0, corner + place.Width / 2 - reach));
@@ -192,8 +193,8 @@ void Tour::ZoomInto(int cells) {
   const auto to = [&](double corner) {
     return static_cast<float>(corner + place.Width / 2 + reach);
   };
-  Play().SysmapFrameMouseDown(from(place.Left), from(place.Top));
-  Play().SysmapFrameMouseUp(PointerButton::Left, to(place.Left), to(place.Top));
+  Play().PressOnMap(from(place.Left), from(place.Top));
+  Play().ReleaseOnMap(PointerButton::Left, to(place.Left), to(place.Top));
   PassEvents();
 }
 
@@ -205,8 +206,8 @@ void Tour::TakeMain(const QString& name) {
 }
 
 void Tour::ZoomOut() {
-  Play().SysmapFrameMouseDown(10, 10);
-  Play().SysmapFrameMouseUp(PointerButton::Right, 10, 10);
+  Play().PressOnMap(10, 10);
+  Play().ReleaseOnMap(PointerButton::Right, 10, 10);
   PassEvents();
 }
 
@@ -221,10 +222,10 @@ void Tour::TakeZoomed() {
 void Tour::TakeHover() {
   const std::vector<int> stations = Stations(Drawing());
   if (stations.empty()) throw std::runtime_error("the system in the middle has no station");
-  Play().Image1MouseMove(stations.front());
+  Play().HoverIcon(stations.front());
   PassEvents();
   TakeMain("hover");
-  Play().SysmapFrameMouseMove(PointerButton::None, 0, 0);
+  Play().MoveOverMap(PointerButton::None, 0, 0);
 }
 
 void Tour::ClickPanel(ControlId id, int index) {
@@ -253,7 +254,7 @@ void Tour::TakeSearch() {
 // The first station of the map at which ships and equipment are sold; null if there is none.
 StationInfo* Tour::OpenRichStation() {
   for (const int icon : Stations(Drawing())) {
-    Play().Image1Click(icon);
+    Play().OpenStationOf(icon);
     PassEvents();
     const auto& windows = run_.Main()->Stations().Windows();
     if (windows.empty()) continue;

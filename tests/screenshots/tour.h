@@ -32,7 +32,7 @@ class Tour {
   void TakeErrorLog();
   void TakeFailure();
 
-  MapPlay& Play() { return run_.Main()->Play(); }
+  MapController& Play() { return run_.Main()->Play(); }
   const MapDrawing& Drawing() { return run_.Main()->Map().Drawing(); }
   void Wait(const char* what, const std::function<bool()>& isSo);
   void TakeMain(const QString& name);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "forms/news_play.h"
+#include "forms/news_controller.h"
 
 #include <algorithm>
 
@@ -29,12 +29,12 @@ bool IsSlogan(const Control& control) {
 
 }  // namespace
 
-NewsPlay::NewsPlay(MapScreen& screen, ErrorLog& log) : screen_(screen), log_(log) {
+NewsController::NewsController(MapScreen& screen, ErrorLog& log) : screen_(screen), log_(log) {
   timer_.setInterval(kNewsInterval);
-  QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] { NewsTimerTimer(); });
+  QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] { ScrollNews(); });
 }
 
-void NewsPlay::MapRedrawn() {
+void NewsController::MapRedrawn() {
   timer_.stop();
   all_.clear();
   band_.clear();
@@ -53,7 +53,7 @@ void NewsPlay::MapRedrawn() {
   timer_.start();
 }
 
-void NewsPlay::NewsTimerTimer() {
+void NewsController::ScrollNews() {
   Routine routine(log_, "OrrerixMain.NewsTimer_Timer");
   routine.Run([&] {
     NewsTimer(band_, bottom_);
@@ -61,7 +61,7 @@ void NewsPlay::NewsTimerTimer() {
   });
 }
 
-void NewsPlay::ShowBand() {
+void NewsController::ShowBand() {
   const Control* shown = screen_.Scene().Find(ControlId::PanelFrame, 0);
   if (shown == nullptr) return;
   Control panel = *shown;

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "forms/map_play.h"
+#include "forms/map_controller.h"
 
 #include <gmock/gmock.h>
 
-#include "map_play_fixture.h"
+#include "map_controller_fixture.h"
 
 namespace orrerix {
 namespace {
@@ -12,11 +12,11 @@ using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 using ::testing::SizeIs;
 
-class MapPlayTest : public MapPlayFixture {};
+class MapControllerTest : public MapControllerFixture {};
 
 // Cells 8, 10 and 10, 12 have their middles at 255, 315 and 315, 375.
 
-TEST_F(MapPlayTest, ADragZoomsInWhicheverWayItGoes) {
+TEST_F(MapControllerTest, ADragZoomsInWhicheverWayItGoes) {
   struct Case {
     QPoint From, To;
   };
@@ -31,7 +31,7 @@ TEST_F(MapPlayTest, ADragZoomsInWhicheverWayItGoes) {
   EXPECT_EQ(redraws, 8);
 }
 
-TEST_F(MapPlayTest, ADragThatLeavesTheFrameEndsWithTheCellsShown) {
+TEST_F(MapControllerTest, ADragThatLeavesTheFrameEndsWithTheCellsShown) {
   Drag({255, 315}, {-50, -50});
   EXPECT_EQ(Visible(), (ZoomRectangle{0, 0, 8, 10}));
   Click({300, 300}, Qt::RightButton);
@@ -40,7 +40,7 @@ TEST_F(MapPlayTest, ADragThatLeavesTheFrameEndsWithTheCellsShown) {
   EXPECT_EQ(Visible(), (ZoomRectangle{8, 10, 17, 18}));
 }
 
-TEST_F(MapPlayTest, ADragThatEndsOverThePanelOrAnIconIsADragAllTheSame) {
+TEST_F(MapControllerTest, ADragThatEndsOverThePanelOrAnIconIsADragAllTheSame) {
   // The tools are (5800 - 100) / 5 twips high, with their middle at 50 + 570, in row 1.
   Drag({255, 315}, OnPanel(ControlId::Tool, 4));
   EXPECT_EQ(Visible(), (ZoomRectangle{8, 1, 17, 10}));
@@ -54,7 +54,7 @@ TEST_F(MapPlayTest, ADragThatEndsOverThePanelOrAnIconIsADragAllTheSame) {
   EXPECT_THAT(stations, IsEmpty());
 }
 
-TEST_F(MapPlayTest, AClickOnABorderZoomsIntoBothCells) {
+TEST_F(MapControllerTest, AClickOnABorderZoomsIntoBothCells) {
   Click({240, 315});  // 3600 twips: the border between columns 7 and 8
   EXPECT_EQ(Visible(), (ZoomRectangle{7, 10, 8, 10}));
   Click({5, 5}, Qt::RightButton);
@@ -63,7 +63,7 @@ TEST_F(MapPlayTest, AClickOnABorderZoomsIntoBothCells) {
   EXPECT_EQ(Visible(), (ZoomRectangle{8, 9, 8, 10}));
 }
 
-TEST_F(MapPlayTest, ZoomingIntoACellAndBackShowsTheSameMap) {
+TEST_F(MapControllerTest, ZoomingIntoACellAndBackShowsTheSameMap) {
   const std::size_t before = map.Drawing().Controls.size();
 
   Click({255, 315});
@@ -79,7 +79,7 @@ TEST_F(MapPlayTest, ZoomingIntoACellAndBackShowsTheSameMap) {
   EXPECT_THAT(Sounds(), SizeIs(1));
 }
 
-TEST_F(MapPlayTest, ARightClickOnTheFirstRectangleDoesNothing) {
+TEST_F(MapControllerTest, ARightClickOnTheFirstRectangleDoesNothing) {
   Click({255, 315}, Qt::RightButton);
 
   EXPECT_EQ(redraws, 0);
@@ -87,7 +87,7 @@ TEST_F(MapPlayTest, ARightClickOnTheFirstRectangleDoesNothing) {
   EXPECT_THAT(Sounds(), IsEmpty());
 }
 
-TEST_F(MapPlayTest, AClickIntoASingleCellBeepsAndItsIconsStay) {
+TEST_F(MapControllerTest, AClickIntoASingleCellBeepsAndItsIconsStay) {
   Zoom({8, 10, 8, 10});
 
   Click({20, 300});
@@ -98,7 +98,7 @@ TEST_F(MapPlayTest, AClickIntoASingleCellBeepsAndItsIconsStay) {
   EXPECT_THAT(Sounds(), IsEmpty());
 }
 
-TEST_F(MapPlayTest, TheBandFollowsTheDragAndGoesWithIt) {
+TEST_F(MapControllerTest, TheBandFollowsTheDragAndGoesWithIt) {
   Press({100, 100});
   Move({103, 200});  // 45 twips are too few
   EXPECT_THAT(Shown(ControlId::RubberBand), IsEmpty());
@@ -114,20 +114,20 @@ TEST_F(MapPlayTest, TheBandFollowsTheDragAndGoesWithIt) {
   EXPECT_THAT(Shown(ControlId::RubberBand), IsEmpty());
 }
 
-TEST_F(MapPlayTest, OnlyTheLeftButtonDrawsABand) {
+TEST_F(MapControllerTest, OnlyTheLeftButtonDrawsABand) {
   Press({100, 100}, Qt::RightButton);
   Move({200, 200});
 
   EXPECT_THAT(Shown(ControlId::RubberBand), IsEmpty());
 }
 
-TEST_F(MapPlayTest, AMoveWithNothingOpenDoesNothing) {
+TEST_F(MapControllerTest, AMoveWithNothingOpenDoesNothing) {
   Move({255, 315});
 
   EXPECT_EQ(redraws, 0);
 }
 
-TEST_F(MapPlayTest, TouchingTheCaptionUnfoldsTheOptionsAndTheMapFoldsThem) {
+TEST_F(MapControllerTest, TouchingTheCaptionUnfoldsTheOptionsAndTheMapFoldsThem) {
   Move(OnPanel(ControlId::OptionsCaption));
   EXPECT_THAT(Shown(ControlId::OptionSwitch), SizeIs(6));
   EXPECT_EQ(redraws, 1);
@@ -139,7 +139,7 @@ TEST_F(MapPlayTest, TouchingTheCaptionUnfoldsTheOptionsAndTheMapFoldsThem) {
   EXPECT_EQ(redraws, 2);
 }
 
-TEST_F(MapPlayTest, WithTheSearchPanelOpenTheCaptionDoesNothing) {
+TEST_F(MapControllerTest, WithTheSearchPanelOpenTheCaptionDoesNothing) {
   searchPanelOpen = true;
 
   Move(OnPanel(ControlId::OptionsCaption));
@@ -148,7 +148,7 @@ TEST_F(MapPlayTest, WithTheSearchPanelOpenTheCaptionDoesNothing) {
   EXPECT_THAT(Shown(ControlId::OptionSwitch), IsEmpty());
 }
 
-TEST_F(MapPlayTest, ASwitchTurnsOverOnTheWholeGridWithoutTheOtherSet) {
+TEST_F(MapControllerTest, ASwitchTurnsOverOnTheWholeGridWithoutTheOtherSet) {
   Move(OnPanel(ControlId::OptionsCaption));
 
   Click(OnPanel(ControlId::OptionSwitch, 0));
@@ -160,7 +160,7 @@ TEST_F(MapPlayTest, ASwitchTurnsOverOnTheWholeGridWithoutTheOtherSet) {
   EXPECT_THAT(Sounds(), ElementsAre("ui_item_select"));
 }
 
-TEST_F(MapPlayTest, ASwitchTurnsOverInAZoomedMapWithoutTheOtherSet) {
+TEST_F(MapControllerTest, ASwitchTurnsOverInAZoomedMapWithoutTheOtherSet) {
   Zoom({7, 9, 9, 11});
   Move(OnPanel(ControlId::OptionsCaption));
   ASSERT_EQ(Shown(ControlId::OptionSwitch, 5)->Picture, "tools/check_on.svg");
@@ -173,7 +173,7 @@ TEST_F(MapPlayTest, ASwitchTurnsOverInAZoomedMapWithoutTheOtherSet) {
   EXPECT_THAT(Shown(ControlId::SystemLabel), IsEmpty());
 }
 
-TEST_F(MapPlayTest, ThePanelShowsTheSetOfTheViewAndASettingThatIsNoNumberAsOff) {
+TEST_F(MapControllerTest, ThePanelShowsTheSetOfTheViewAndASettingThatIsNoNumberAsOff) {
   settings.WriteSettingValue("SET2-2", "none");
   Zoom({7, 9, 9, 11});
 
@@ -183,7 +183,7 @@ TEST_F(MapPlayTest, ThePanelShowsTheSetOfTheViewAndASettingThatIsNoNumberAsOff) 
   EXPECT_EQ(Shown(ControlId::OptionSwitch, 2)->Picture, "tools/check_off.svg");
 }
 
-TEST_F(MapPlayTest, TheLanguagesAreGoneThroughWithAllCaptions) {
+TEST_F(MapControllerTest, TheLanguagesAreGoneThroughWithAllCaptions) {
   const std::string english = *Shown(ControlId::OptionLabel, 6)->Caption;
   Move(OnPanel(ControlId::OptionsCaption));
   for (const int number : {2, 1, 0}) {
@@ -204,7 +204,7 @@ TEST_F(MapPlayTest, TheLanguagesAreGoneThroughWithAllCaptions) {
   EXPECT_THAT(Sounds(), IsEmpty());
 }
 
-TEST_F(MapPlayTest, AToolIsClickedByReleasingTheButtonOnIt) {
+TEST_F(MapControllerTest, AToolIsClickedByReleasingTheButtonOnIt) {
   Click(OnPanel(ControlId::Tool, 2));
   Press(OnPanel(ControlId::Tool, 1));
   Release(OnPanel(ControlId::Tool, 3));
@@ -214,7 +214,7 @@ TEST_F(MapPlayTest, AToolIsClickedByReleasingTheButtonOnIt) {
   EXPECT_EQ(Visible(), ZoomRectangle{});
 }
 
-TEST_F(MapPlayTest, AStepOfTheZoomFromElsewhereSoundsOrBeeps) {
+TEST_F(MapControllerTest, AStepOfTheZoomFromElsewhereSoundsOrBeeps) {
   EXPECT_TRUE(play.PushZoomStack({8, 10, 8, 10}));
   EXPECT_THAT(Sounds(), ElementsAre("ui_nav_map_fade"));
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "forms/search_play.h"
+#include "forms/search_controller.h"
 
 #include <gmock/gmock.h>
 
-#include "map_play_fixture.h"
+#include "map_controller_fixture.h"
 
 namespace orrerix {
 namespace {
@@ -13,9 +13,9 @@ using ::testing::IsEmpty;
 using ::testing::SizeIs;
 
 // Gear is sold at one base of system Li01, whose bases are all called "Base".
-class SearchPlayTest : public MapPlayFixture {
+class SearchControllerTest : public MapControllerFixture {
  protected:
-  SearchPlayTest() {
+  SearchControllerTest() {
     Add("DockObjects", {{"nickname", "quay"},
                         {"realname", "Quay"},
                         {"MapX", 3},
@@ -43,11 +43,11 @@ class SearchPlayTest : public MapPlayFixture {
   QListWidget& Lower() { return Part<QListWidget>(ControlId::PlaceList); }
   bool InfoShown() { return Part(ControlId::BoxText).isVisible(); }
 
-  SearchPlay search{map, Form(), play, log, language};
+  SearchController search{map, Form(), play, log, language};
 };
 
-TEST_F(SearchPlayTest, PlacesAreFilteredAsTheUserTypes) {
-  search.StationSearchClick(SearchType::Place);
+TEST_F(SearchControllerTest, PlacesAreFilteredAsTheUserTypes) {
+  search.OpenSearch(SearchType::Place);
   EXPECT_EQ(Lower().count(), 5);
   EXPECT_FALSE(Upper().isVisible());
 
@@ -58,16 +58,16 @@ TEST_F(SearchPlayTest, PlacesAreFilteredAsTheUserTypes) {
   EXPECT_EQ(Lower().currentRow(), 0);
 }
 
-TEST_F(SearchPlayTest, ThePanelStandsAtTheMapsRight) {
-  search.StationSearchClick(SearchType::Place);
+TEST_F(SearchControllerTest, ThePanelStandsAtTheMapsRight) {
+  search.OpenSearch(SearchType::Place);
 
   // The frame is 14000 twips wide, the panel 4200, with 100 beside it: 9700 twips are 647 pixels.
   EXPECT_EQ(Part(ControlId::SearchFrame).x(), 647);
   EXPECT_EQ(Part(ControlId::SearchFrame).y(), 13);
 }
 
-TEST_F(SearchPlayTest, EquipmentIsListedWithItsBoxAndItsSellers) {
-  search.StationSearchClick(SearchType::Equipment);
+TEST_F(SearchControllerTest, EquipmentIsListedWithItsBoxAndItsSellers) {
+  search.OpenSearch(SearchType::Equipment);
   EXPECT_EQ(Upper().count(), 2);
   EXPECT_EQ(Lower().count(), 0);  // nobody sells the first
   EXPECT_TRUE(InfoShown());
@@ -79,8 +79,8 @@ TEST_F(SearchPlayTest, EquipmentIsListedWithItsBoxAndItsSellers) {
   EXPECT_EQ(Lower().item(0)->text(), "Quay");
 }
 
-TEST_F(SearchPlayTest, AClickInTheUpperListShowsThatRow) {
-  search.StationSearchClick(SearchType::Equipment);
+TEST_F(SearchControllerTest, AClickInTheUpperListShowsThatRow) {
+  search.OpenSearch(SearchType::Equipment);
 
   QTest::mouseClick(Upper().viewport(), Qt::LeftButton, {},
                     Upper().visualItemRect(Upper().item(1)).center());
@@ -88,8 +88,8 @@ TEST_F(SearchPlayTest, AClickInTheUpperListShowsThatRow) {
   EXPECT_EQ(Lower().count(), 1);
 }
 
-TEST_F(SearchPlayTest, EnterOnAPlaceJumpsHoversAndOpensItsStation) {
-  search.StationSearchClick(SearchType::Place);
+TEST_F(SearchControllerTest, EnterOnAPlaceJumpsHoversAndOpensItsStation) {
+  search.OpenSearch(SearchType::Place);
   QTest::keyClicks(&Text(), "quay");
 
   QTest::keyClick(&Text(), Qt::Key_Return);
@@ -101,8 +101,8 @@ TEST_F(SearchPlayTest, EnterOnAPlaceJumpsHoversAndOpensItsStation) {
   EXPECT_THAT(stations, ElementsAre(testing::Pair("quay", testing::_)));
 }
 
-TEST_F(SearchPlayTest, EnterGoesThroughTheSellersToTheJump) {
-  search.StationSearchClick(SearchType::Equipment);
+TEST_F(SearchControllerTest, EnterGoesThroughTheSellersToTheJump) {
+  search.OpenSearch(SearchType::Equipment);
   QTest::keyClicks(&Text(), "lamp");
 
   QTest::keyClick(&Text(), Qt::Key_Return);
@@ -115,8 +115,8 @@ TEST_F(SearchPlayTest, EnterGoesThroughTheSellersToTheJump) {
   EXPECT_FALSE(InfoShown());
 }
 
-TEST_F(SearchPlayTest, ADoubleClickOnAPlaceJumpsToo) {
-  search.StationSearchClick(SearchType::Place);
+TEST_F(SearchControllerTest, ADoubleClickOnAPlaceJumpsToo) {
+  search.OpenSearch(SearchType::Place);
   const QPoint row = Lower().visualItemRect(Lower().item(4)).center();
 
   QTest::mouseClick(Lower().viewport(), Qt::LeftButton, {}, row);
@@ -125,9 +125,9 @@ TEST_F(SearchPlayTest, ADoubleClickOnAPlaceJumpsToo) {
   EXPECT_THAT(stations, ElementsAre(testing::Pair("quay", testing::_)));
 }
 
-TEST_F(SearchPlayTest, APlaceBesideTheGridIsAFailureAndTheMapStays) {
+TEST_F(SearchControllerTest, APlaceBesideTheGridIsAFailureAndTheMapStays) {
   Add("DockObjects", {{"nickname", "void"}, {"realname", "Void"}, {"MapX", 50}, {"MapY", 4}});
-  search.StationSearchClick(SearchType::Place);
+  search.OpenSearch(SearchType::Place);
   QTest::keyClicks(&Text(), "void");
 
   QTest::keyClick(&Text(), Qt::Key_Return);
@@ -138,24 +138,24 @@ TEST_F(SearchPlayTest, APlaceBesideTheGridIsAFailureAndTheMapStays) {
   EXPECT_THAT(stations, IsEmpty());
 }
 
-TEST_F(SearchPlayTest, EscapeAndTheCloseButtonHidePanelAndBox) {
-  search.StationSearchClick(SearchType::Equipment);
+TEST_F(SearchControllerTest, EscapeAndTheCloseButtonHidePanelAndBox) {
+  search.OpenSearch(SearchType::Equipment);
   QTest::keyClick(&Text(), Qt::Key_Escape);
   EXPECT_FALSE(search.Visible());
   EXPECT_FALSE(InfoShown());
   EXPECT_FALSE(play.Box().Visible());
 
-  search.StationSearchClick(SearchType::Equipment);
+  search.OpenSearch(SearchType::Equipment);
   QTest::mouseClick(&Part(ControlId::SearchClose), Qt::LeftButton);
   EXPECT_FALSE(Part(ControlId::SearchFrame).isVisible());
 }
 
-TEST_F(SearchPlayTest, EscapeClosesThePanelWhereverTheFocusIs) {
+TEST_F(SearchControllerTest, EscapeClosesThePanelWhereverTheFocusIs) {
   Zoom({8, 10, 8, 10});
   for (QWidget* focused : {static_cast<QWidget*>(&map.Frame()), &Part(ControlId::FoundList),
                            &Part(ControlId::PlaceList), &Part(ControlId::BoxText),
                            &Part(ControlId::SearchClose), &Find(map.Frame(), ControlId::Tool, 2)}) {
-    search.StationSearchClick(SearchType::Equipment);
+    search.OpenSearch(SearchType::Equipment);
     ASSERT_TRUE(InfoShown());
     focused->setFocus();
 
@@ -168,9 +168,9 @@ TEST_F(SearchPlayTest, EscapeClosesThePanelWhereverTheFocusIs) {
   }
 }
 
-TEST_F(SearchPlayTest, WithThePanelClosedEscapeIsForTheMapAgain) {
+TEST_F(SearchControllerTest, WithThePanelClosedEscapeIsForTheMapAgain) {
   Zoom({8, 10, 8, 10});
-  search.StationSearchClick(SearchType::Place);
+  search.OpenSearch(SearchType::Place);
   QTest::keyClick(&Text(), Qt::Key_Escape);
 
   Key(Qt::Key_Escape);
@@ -178,8 +178,8 @@ TEST_F(SearchPlayTest, WithThePanelClosedEscapeIsForTheMapAgain) {
   EXPECT_EQ(Visible(), ZoomRectangle{});
 }
 
-TEST_F(SearchPlayTest, TheCaptionStandsAtTheHeadInTheLanguageInUse) {
-  search.StationSearchClick(SearchType::Place);
+TEST_F(SearchControllerTest, TheCaptionStandsAtTheHeadInTheLanguageInUse) {
+  search.OpenSearch(SearchType::Place);
 
   const QLabel& caption = Part<QLabel>(ControlId::SearchCaption);
   EXPECT_TRUE(caption.isVisible());
@@ -188,12 +188,12 @@ TEST_F(SearchPlayTest, TheCaptionStandsAtTheHeadInTheLanguageInUse) {
   EXPECT_GE(caption.height(), caption.fontMetrics().height());
 
   language.CurrentLanguage = 1;
-  search.StationSearchClick(SearchType::Ship);
+  search.OpenSearch(SearchType::Ship);
   EXPECT_EQ(caption.text().toStdString(), language.TXT(12));
 }
 
-TEST_F(SearchPlayTest, AQuoteIsAFailureAndThePanelGoesOn) {
-  search.StationSearchClick(SearchType::Place);
+TEST_F(SearchControllerTest, AQuoteIsAFailureAndThePanelGoesOn) {
+  search.OpenSearch(SearchType::Place);
 
   QTest::keyClicks(&Text(), "'");
   EXPECT_EQ(Lower().count(), 0);
@@ -203,8 +203,8 @@ TEST_F(SearchPlayTest, AQuoteIsAFailureAndThePanelGoesOn) {
   EXPECT_EQ(Lower().count(), 5);
 }
 
-TEST_F(SearchPlayTest, EveryControlHasAnAccessibleName) {
-  search.StationSearchClick(SearchType::Equipment);
+TEST_F(SearchControllerTest, EveryControlHasAnAccessibleName) {
+  search.OpenSearch(SearchType::Equipment);
 
   for (const auto id : {ControlId::SearchText, ControlId::FoundList, ControlId::PlaceList,
                         ControlId::SearchClose, ControlId::BoxText}) {

@@ -10,9 +10,9 @@
 namespace orrerix {
 
 // What the map asks of the form that it stands on.
-class MapForm {
+class MapHost {
  public:
-  virtual ~MapForm() = default;
+  virtual ~MapHost() = default;
 
   // The one redraw.
   virtual void FormResize() = 0;
@@ -32,11 +32,11 @@ class MapForm {
   virtual void ShowStation(const std::string& nickname, const std::string& picture) = 0;
 
   // A click on a tool icon.
-  virtual void StationSearchClick(int index) = 0;
+  virtual void UseTool(int index) = 0;
 
   // A click on a news label, and on one of the two halves of the logo.
-  virtual void InfoBoxLabelClick(int index) = 0;
-  virtual void ImageClanClick(bool firstHalf) = 0;
+  virtual void OpenNewsLink(int index) = 0;
+  virtual void OpenLogoPage(bool firstHalf) = 0;
 };
 
 }  // namespace orrerix

@@ -5,32 +5,33 @@
 #include <string>
 
 #include "forms/info_box.h"
-#include "forms/map_form.h"
-#include "forms/map_play.h"
+#include "forms/map_controller.h"
+#include "forms/map_host.h"
 #include "forms/search_panel_view.h"
 
 namespace orrerix {
 
 // The search on the map: the panel, the large info box beside it, and the jump to what was found.
-class SearchPlay : private SearchEvents {
+class SearchController : private SearchEvents {
  public:
   // All of these must outlive this; the widgets belong to the map's frame.
-  SearchPlay(MapScreen& screen, MapForm& form, MapPlay& play, ErrorLog& log, Language& language);
-  ~SearchPlay() override;
-  SearchPlay(const SearchPlay&) = delete;
-  SearchPlay& operator=(const SearchPlay&) = delete;
+  SearchController(MapScreen& screen, MapHost& form, MapController& play, ErrorLog& log,
+                   Language& language);
+  ~SearchController() override;
+  SearchController(const SearchController&) = delete;
+  SearchController& operator=(const SearchController&) = delete;
 
   // A click on one of the first four tool icons.
-  void StationSearchClick(SearchType type);
+  void OpenSearch(SearchType type);
 
   bool Visible() const { return panel_.Visible(); }
 
  private:
-  void StSearchTextChange(const std::string& text) override;
-  void SubSearchClick(std::size_t row) override;
-  void StSearchListClick(std::size_t row) override;
-  void StSearchListDblClick() override;
-  void StSearchCloseClick() override;
+  void ChangeSearchText(const std::string& text) override;
+  void ChooseFound(std::size_t row) override;
+  void ChoosePlace(std::size_t row) override;
+  void GoToPlace() override;
+  void CloseSearch() override;
   bool MoveKey(int by) override;
   void EnterKey(SearchControl in) override;
 
@@ -42,8 +43,8 @@ class SearchPlay : private SearchEvents {
   void Jump(const std::string& nickname);
 
   MapScreen& screen_;
-  MapForm& form_;
-  MapPlay& play_;
+  MapHost& form_;
+  MapController& play_;
   ErrorLog& log_;
   Language& language_;
   QtTextMeasure measure_{FixedFont};

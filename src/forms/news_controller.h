@@ -11,10 +11,10 @@
 namespace orrerix {
 
 // Moves the news in the panel's info box if they do not fit.
-class NewsPlay {
+class NewsController {
  public:
   // Both must outlive this.
-  NewsPlay(MapScreen& screen, ErrorLog& log);
+  NewsController(MapScreen& screen, ErrorLog& log);
 
   // To be called behind each redraw: the labels begin at their own places again.
   void MapRedrawn();
@@ -25,7 +25,7 @@ class NewsPlay {
   bool Scrolls() const { return timer_.isActive(); }
 
   // One step; the timer calls it.
-  void NewsTimerTimer();
+  void ScrollNews();
 
  private:
   void ShowBand();

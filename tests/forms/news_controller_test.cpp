@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: MIT
-#include "forms/news_play.h"
+#include "forms/news_controller.h"
 
 #include <gmock/gmock.h>
 
-#include "map_play_fixture.h"
+#include "map_controller_fixture.h"
 
 namespace orrerix {
 namespace {
 
 using ::testing::ElementsAre;
 
-class NewsPlayTest : public MapPlayFixture {
+class NewsControllerTest : public MapControllerFixture {
  protected:
   void ShowNews(int entries) {
     std::vector<NewsItem> items;
@@ -32,42 +32,42 @@ class NewsPlayTest : public MapPlayFixture {
     return labels;
   }
 
-  NewsPlay news{map, log};
+  NewsController news{map, log};
 };
 
-TEST_F(NewsPlayTest, NewsThatFitStandStill) {
+TEST_F(NewsControllerTest, NewsThatFitStandStill) {
   ShowNews(1);
 
   EXPECT_FALSE(news.Scrolls());
 }
 
-TEST_F(NewsPlayTest, NewsThatDoNotFitMoveUpAStepAtATime) {
+TEST_F(NewsControllerTest, NewsThatDoNotFitMoveUpAStepAtATime) {
   ShowNews(60);
   ASSERT_TRUE(news.Scrolls());
   const auto before = Labels();
 
-  news.NewsTimerTimer();
+  news.ScrollNews();
 
   const auto after = Labels();
   EXPECT_NEAR(after.at(0), before.at(0), 0.5);  // to whole twips
   EXPECT_NEAR(after.at(1), before.at(1) - 21, 0.5);
 }
 
-TEST_F(NewsPlayTest, LabelsBelowTheBoxAreHiddenAtTheFirstStepAndComeUpLater) {
+TEST_F(NewsControllerTest, LabelsBelowTheBoxAreHiddenAtTheFirstStepAndComeUpLater) {
   ShowNews(60);
   EXPECT_EQ(Labels().size(), 61U);
-  news.NewsTimerTimer();
+  news.ScrollNews();
   const auto shown = Labels().size();
   EXPECT_LT(shown, 61U);
-  for (int i = 0; i < 14; ++i) news.NewsTimerTimer();  // 14 x 21 twips are more than a label's 270
+  for (int i = 0; i < 14; ++i) news.ScrollNews();  // 14 x 21 twips are more than a label's 270
 
   EXPECT_GT(Labels().size(), shown);
 }
 
-TEST_F(NewsPlayTest, ARedrawPutsThemBack) {
+TEST_F(NewsControllerTest, ARedrawPutsThemBack) {
   ShowNews(60);
   const auto before = Labels();
-  news.NewsTimerTimer();
+  news.ScrollNews();
 
   Redraw();
   news.MapRedrawn();
@@ -75,14 +75,14 @@ TEST_F(NewsPlayTest, ARedrawPutsThemBack) {
   EXPECT_EQ(Labels(), before);
 }
 
-TEST_F(NewsPlayTest, NewsAndBothHalvesOfTheLogoCanBeClicked) {
+TEST_F(NewsControllerTest, NewsAndBothHalvesOfTheLogoCanBeClicked) {
   ShowNews(1);
   const QPoint label = OnPanel(ControlId::NewsLabel, 1);
   Move(label);
   Click(label);
   EXPECT_THAT(newsClicks, ElementsAre(1));
 
-  const orrerix::Box logo = *PlaceOf(map.Drawing().Controls, ControlId::Logo);
+  const TwipRect logo = *PlaceOf(map.Drawing().Controls, ControlId::Logo);
   const auto at = [&](double x, double y) {
     return QPointF(Pixels(logo.Left + logo.Width * x), Pixels(logo.Top + logo.Height * y))
         .toPoint();
@@ -94,7 +94,7 @@ TEST_F(NewsPlayTest, NewsAndBothHalvesOfTheLogoCanBeClicked) {
   EXPECT_THAT(logoClicks, ElementsAre(true, false));
 }
 
-TEST_F(NewsPlayTest, NewsAreStopsOfTheTabKeyThatOpenThem) {
+TEST_F(NewsControllerTest, NewsAreStopsOfTheTabKeyThatOpenThem) {
   ShowNews(2);
   auto& stop = Find<QAbstractButton>(form, ControlId::NewsLabel, 2);
 
@@ -105,26 +105,26 @@ TEST_F(NewsPlayTest, NewsAreStopsOfTheTabKeyThatOpenThem) {
   EXPECT_EQ(stop.focusPolicy(), Qt::TabFocus);
 }
 
-TEST_F(NewsPlayTest, AStopGoesWithItsNews) {
+TEST_F(NewsControllerTest, AStopGoesWithItsNews) {
   ShowNews(60);
   const auto& first = Find<QAbstractButton>(form, ControlId::NewsLabel, 1);
   const auto& last = Find<QAbstractButton>(form, ControlId::NewsLabel, 60);
   const int top = first.geometry().top();
 
-  for (int i = 0; i < 5; ++i) news.NewsTimerTimer();
+  for (int i = 0; i < 5; ++i) news.ScrollNews();
 
   EXPECT_EQ(first.geometry().top(), top - 7);  // 5 x 21 twips
   EXPECT_FALSE(last.isVisible());
 }
 
-TEST_F(NewsPlayTest, NewsThatAreNoMoreAreNoStops) {
+TEST_F(NewsControllerTest, NewsThatAreNoMoreAreNoStops) {
   ShowNews(2);
   ShowNews(1);
 
   EXPECT_FALSE(Find<QAbstractButton>(form, ControlId::NewsLabel, 2).isVisible());
 }
 
-TEST_F(NewsPlayTest, ATipIsNoMarkup) {
+TEST_F(NewsControllerTest, ATipIsNoMarkup) {
   ShowNews(1);
 
   for (const QGraphicsItem* item : map.Scene().items()) {

@@ -2,7 +2,7 @@
 // The map and its panel by the keyboard.
 #include <gmock/gmock.h>
 
-#include "map_play_fixture.h"
+#include "map_controller_fixture.h"
 
 namespace orrerix {
 namespace {
@@ -11,9 +11,9 @@ using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 using ::testing::SizeIs;
 
-class MapPlayKeysTest : public MapPlayFixture {
+class MapKeysTest : public MapControllerFixture {
  protected:
-  MapPlayKeysTest() {
+  MapKeysTest() {
     form.activateWindow();
     map.Frame().setFocus();
     PassEvents();
@@ -32,7 +32,7 @@ class MapPlayKeysTest : public MapPlayFixture {
   }
 };
 
-TEST_F(MapPlayKeysTest, AnArrowKeyShowsTheCursorAndFurtherOnesMoveIt) {
+TEST_F(MapKeysTest, AnArrowKeyShowsTheCursorAndFurtherOnesMoveIt) {
   EXPECT_THAT(Shown(ControlId::CellCursor), IsEmpty());
 
   Key(Qt::Key_Left);
@@ -46,7 +46,7 @@ TEST_F(MapPlayKeysTest, AnArrowKeyShowsTheCursorAndFurtherOnesMoveIt) {
   EXPECT_EQ(Cursor(), QPointF(240, 270));
 }
 
-TEST_F(MapPlayKeysTest, EnterZoomsIntoItsCellAndBackspaceGoesBack) {
+TEST_F(MapKeysTest, EnterZoomsIntoItsCellAndBackspaceGoesBack) {
   Key(Qt::Key_Down);
   Key(Qt::Key_Down);
 
@@ -60,7 +60,7 @@ TEST_F(MapPlayKeysTest, EnterZoomsIntoItsCellAndBackspaceGoesBack) {
   EXPECT_EQ(Cursor(), QPointF(240, 300));
 }
 
-TEST_F(MapPlayKeysTest, EscapeGoesBackToo) {
+TEST_F(MapKeysTest, EscapeGoesBackToo) {
   Zoom({7, 9, 9, 11});
 
   Key(Qt::Key_Escape);
@@ -68,13 +68,13 @@ TEST_F(MapPlayKeysTest, EscapeGoesBackToo) {
   EXPECT_EQ(Visible(), ZoomRectangle{});
 }
 
-TEST_F(MapPlayKeysTest, WithoutACursorEnterDoesNothing) {
+TEST_F(MapKeysTest, WithoutACursorEnterDoesNothing) {
   Key(Qt::Key_Enter);
 
   EXPECT_EQ(redraws, 0);
 }
 
-TEST_F(MapPlayKeysTest, TheCursorLetsTheMouseThroughAndGoesWithAPress) {
+TEST_F(MapKeysTest, TheCursorLetsTheMouseThroughAndGoesWithAPress) {
   Zoom({8, 10, 8, 10});
   Key(Qt::Key_Up);
   ASSERT_EQ(Cursor(), QPointF(0, 0));
@@ -85,7 +85,7 @@ TEST_F(MapPlayKeysTest, TheCursorLetsTheMouseThroughAndGoesWithAPress) {
   EXPECT_THAT(Shown(ControlId::CellCursor), IsEmpty());
 }
 
-TEST_F(MapPlayKeysTest, TheSystemUnderTheCursorIsToldToScreenReaders) {
+TEST_F(MapKeysTest, TheSystemUnderTheCursorIsToldToScreenReaders) {
   Key(Qt::Key_Down);
   Key(Qt::Key_Down);
 
@@ -93,8 +93,8 @@ TEST_F(MapPlayKeysTest, TheSystemUnderTheCursorIsToldToScreenReaders) {
   EXPECT_FALSE(map.Frame().accessibleName().isEmpty());
 }
 
-TEST_F(MapPlayKeysTest, TabGoesThroughThePanelAndBackToTheMap) {
-  play.ShowOptionsLabelMouseMove();
+TEST_F(MapKeysTest, TabGoesThroughThePanelAndBackToTheMap) {
+  play.UnfoldOptions();
   std::vector<std::string> stops;
   for (int i = 0; i < 14; ++i) {
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
@@ -112,12 +112,12 @@ TEST_F(MapPlayKeysTest, TabGoesThroughThePanelAndBackToTheMap) {
                   ObjectName(ControlId::OptionSwitch, 5), ObjectName(ControlId::NewsLabel, 0)));
 }
 
-TEST_F(MapPlayKeysTest, FoldedOptionsAreNoStops) {
+TEST_F(MapKeysTest, FoldedOptionsAreNoStops) {
   EXPECT_FALSE(Button(ControlId::OptionSwitch, 0).isVisible());
   EXPECT_TRUE(Button(ControlId::OptionLabel, 6).isVisible());
 }
 
-TEST_F(MapPlayKeysTest, EnterAndSpaceActivateAStop) {
+TEST_F(MapKeysTest, EnterAndSpaceActivateAStop) {
   QTest::keyClick(&Button(ControlId::Tool, 1), Qt::Key_Return);
   QTest::keyClick(&Button(ControlId::Tool, 2), Qt::Key_Space);
   EXPECT_THAT(searches, ElementsAre(1, 2));
@@ -133,20 +133,20 @@ TEST_F(MapPlayKeysTest, EnterAndSpaceActivateAStop) {
   EXPECT_THAT(Shown(ControlId::OptionSwitch), IsEmpty());
 }
 
-TEST_F(MapPlayKeysTest, EveryStopHasANameInTheLanguageInUse) {
-  play.ShowOptionsLabelMouseMove();
+TEST_F(MapKeysTest, EveryStopHasANameInTheLanguageInUse) {
+  play.UnfoldOptions();
   for (const QAbstractButton* button : form.findChildren<QAbstractButton*>()) {
     EXPECT_FALSE(button->accessibleName().isEmpty()) << button->objectName().toStdString();
   }
 
-  play.SetLabelClick(6);
+  play.ActivateOptionLabel(6);
 
   EXPECT_EQ(Button(ControlId::OptionSwitch, 5).accessibleName().toStdString(),
             FixedLanguage(2).TXT(6));
   EXPECT_EQ(Button(ControlId::Tool, 0).accessibleName().toStdString(), FixedLanguage(2).TXT(9));
 }
 
-TEST_F(MapPlayKeysTest, AStopStandsOverItsControlAndLetsTheMouseThrough) {
+TEST_F(MapKeysTest, AStopStandsOverItsControlAndLetsTheMouseThrough) {
   const QPoint tool = OnPanel(ControlId::Tool, 3);
 
   EXPECT_TRUE(Button(ControlId::Tool, 3).geometry().contains(tool));

@@ -6,7 +6,7 @@
 #include <string_view>
 
 #include "forms/map_box.h"
-#include "forms/map_form.h"
+#include "forms/map_host.h"
 #include "forms/map_keys.h"
 #include "forms/map_mouse.h"
 #include "forms/map_screen.h"
@@ -21,14 +21,14 @@ namespace orrerix {
 // Plays on the map what mouse and keyboard ask for. An icon keeps its events to itself, and so does
 // the panel; all others belong to the map. Whoever is pressed upon gets moves and release too,
 // wherever they are.
-class MapPlay : private MapMouse, private MapKeys {
+class MapController : private MapMouse, private MapKeys {
  public:
   // All of these must outlive this.
-  MapPlay(MapScreen& screen, MapForm& form, ErrorLog& log, Settings& settings, Language& language,
-          SoundPlayer& sound);
-  ~MapPlay() override;
-  MapPlay(const MapPlay&) = delete;
-  MapPlay& operator=(const MapPlay&) = delete;
+  MapController(MapScreen& screen, MapHost& form, ErrorLog& log, Settings& settings,
+                Language& language, SoundPlayer& sound);
+  ~MapController() override;
+  MapController(const MapController&) = delete;
+  MapController& operator=(const MapController&) = delete;
 
   // To be called behind each redraw.
   void MapRedrawn();
@@ -37,20 +37,20 @@ class MapPlay : private MapMouse, private MapKeys {
   void NewsMoved();
 
   // The map's own events, in twips on the frame. A move folds the options and ends a hover.
-  void SysmapFrameMouseDown(float x, float y);
-  void SysmapFrameMouseMove(PointerButton held, float x, float y);
-  void SysmapFrameMouseUp(PointerButton released, float x, float y);
+  void PressOnMap(float x, float y);
+  void MoveOverMap(PointerButton held, float x, float y);
+  void ReleaseOnMap(PointerButton released, float x, float y);
 
   // Events of the icon with an index on the map as it was drawn last: the first opens its hover
   // box unless a box is up, the second its station window. Without such an icon nothing happens.
-  void Image1MouseMove(int index);
-  void Image1Click(int index);
+  void HoverIcon(int index);
+  void OpenStationOf(int index);
 
   // Events of the panel.
-  void ShowOptionsLabelMouseMove();
-  void SetImageClick(int index);
-  void SetLabelClick(int index);
-  void ImageClanMouseMove(double x, double y);
+  void UnfoldOptions();
+  void ToggleSwitch(int index);
+  void ActivateOptionLabel(int index);
+  void NoteLogoHalf(double x, double y);
 
   // Takes a step of the zoom that others make: the same rectangle beeps, another one sounds.
   // True if the map is to be redrawn.
@@ -87,7 +87,7 @@ class MapPlay : private MapMouse, private MapKeys {
   const ZoomRectangle& Visible() const { return screen_.State().Zoom.Current(); }
 
   MapScreen& screen_;
-  MapForm& form_;
+  MapHost& form_;
   ErrorLog& log_;
   Language& language_;
   SoundPlayer& sound_;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "forms/map_play.h"
+#include "forms/map_controller.h"
 
 #include <utility>
 
@@ -9,8 +9,8 @@
 
 namespace orrerix {
 
-MapPlay::MapPlay(MapScreen& screen, MapForm& form, ErrorLog& log, Settings& settings,
-                 Language& language, SoundPlayer& sound)
+MapController::MapController(MapScreen& screen, MapHost& form, ErrorLog& log, Settings& settings,
+                             Language& language, SoundPlayer& sound)
     : screen_(screen),
       form_(form),
       log_(log),
@@ -25,32 +25,32 @@ MapPlay::MapPlay(MapScreen& screen, MapForm& form, ErrorLog& log, Settings& sett
   screen_.Frame().SetKeys(this);
 }
 
-MapPlay::~MapPlay() {
+MapController::~MapController() {
   screen_.Frame().SetMouse(nullptr);
   screen_.Frame().SetKeys(nullptr);
 }
 
-void MapPlay::MapRedrawn() {
+void MapController::MapRedrawn() {
   box_.MapRedrawn();
   ShowCursor();
   NewsMoved();
 }
 
-void MapPlay::NewsMoved() {
+void MapController::NewsMoved() {
   panelKeys_.Follow(screen_.Drawing());
 }
 
-void MapPlay::Play(std::string_view sound) {
+void MapController::Play(std::string_view sound) {
   if (!sound.empty()) PlaySoundfile(log_, sound_, form_.Game(), sound);
 }
 
 // The map's own events.
 
-void MapPlay::SysmapFrameMouseDown(float x, float y) {
+void MapController::PressOnMap(float x, float y) {
   gestures_.MouseDown(x, y);
 }
 
-void MapPlay::SysmapFrameMouseMove(PointerButton held, float x, float y) {
+void MapController::MoveOverMap(PointerButton held, float x, float y) {
   Routine routine(log_, "OrrerixMain.SysmapFrame_MouseMove");
   routine.Run([&] {
     MoveAnswer answer = gestures_.MouseMove(held, x, y, box_.IsHoverBox());
@@ -62,7 +62,7 @@ void MapPlay::SysmapFrameMouseMove(PointerButton held, float x, float y) {
   });
 }
 
-void MapPlay::SysmapFrameMouseUp(PointerButton released, float x, float y) {
+void MapController::ReleaseOnMap(PointerButton released, float x, float y) {
   Routine routine(log_, "OrrerixMain.SysmapFrame_MouseUp");
   routine.Run([&] {
     screen_.Scene().ShowInFront(FrontLayer::RubberBand, {});
@@ -73,7 +73,7 @@ void MapPlay::SysmapFrameMouseUp(PointerButton released, float x, float y) {
   });
 }
 
-bool MapPlay::PushZoomStack(const ZoomRectangle& rectangle) {
+bool MapController::PushZoomStack(const ZoomRectangle& rectangle) {
   const ZoomChange change = screen_.State().Zoom.PushZoomStack(log_, rectangle);
   if (change == ZoomChange::Beep) sound_.Beep();
   if (change == ZoomChange::Changed) Play(kZoomSound);
@@ -82,7 +82,7 @@ bool MapPlay::PushZoomStack(const ZoomRectangle& rectangle) {
 
 // Icons.
 
-void MapPlay::Image1MouseMove(int index) {
+void MapController::HoverIcon(int index) {
   if (box_.Visible()) return;
   const Control* shown = screen_.Scene().Find(ControlId::MapIcon, index);
   if (shown == nullptr) return;
@@ -97,7 +97,7 @@ void MapPlay::Image1MouseMove(int index) {
   });
 }
 
-void MapPlay::Image1Click(int index) {
+void MapController::OpenStationOf(int index) {
   const Control* icon = screen_.Scene().Find(ControlId::MapIcon, index);
   if (icon == nullptr) return;
   // The map may be drawn anew while the window opens.
@@ -114,42 +114,42 @@ void MapPlay::Image1Click(int index) {
 
 // The panel.
 
-void MapPlay::ShowOptionsLabelMouseMove() {
-  if (switches_.ShowOptionsLabelMouseMove(form_.SearchPanelOpen())) form_.FormResize();
+void MapController::UnfoldOptions() {
+  if (switches_.UnfoldOptions(form_.SearchPanelOpen())) form_.FormResize();
 }
 
-void MapPlay::SetImageClick(int index) {
-  Follow(switches_.SetImageClick(index, screen_.Options()));
+void MapController::ToggleSwitch(int index) {
+  Follow(switches_.ToggleSwitch(index, screen_.Options()));
 }
 
-void MapPlay::SetLabelClick(int index) {
-  Follow(switches_.SetLabelClick(index, screen_.Options()));
+void MapController::ActivateOptionLabel(int index) {
+  Follow(switches_.ActivateOptionLabel(index, screen_.Options()));
 }
 
-void MapPlay::Follow(const SwitchAnswer& answer) {
+void MapController::Follow(const SwitchAnswer& answer) {
   if (answer.LoadFormTXT) form_.LoadFormTXT();
   if (answer.Redraw) form_.FormResize();
 }
 
-void MapPlay::PanelClick(ControlId id, int index) {
+void MapController::PanelClick(ControlId id, int index) {
   switch (id) {
     case ControlId::Tool:
-      return form_.StationSearchClick(index);
+      return form_.UseTool(index);
     case ControlId::OptionSwitch:
-      return SetImageClick(index);
+      return ToggleSwitch(index);
     case ControlId::OptionLabel:
-      return SetLabelClick(index);
+      return ActivateOptionLabel(index);
     case ControlId::NewsLabel:
-      return form_.InfoBoxLabelClick(index);
+      return form_.OpenNewsLink(index);
     case ControlId::Logo:
-      return form_.ImageClanClick(firstHalfClick_);
+      return form_.OpenLogoPage(firstHalfClick_);
     default:
       return;
   }
 }
 
 // A place on the map frame, twips.
-void MapPlay::ImageClanMouseMove(double x, double y) {
+void MapController::NoteLogoHalf(double x, double y) {
   Routine routine(log_, "OrrerixMain.ImageClan_MouseMove");
   routine.Run([&] {
     const auto logo = PlaceOf(screen_.Drawing().Controls, ControlId::Logo);
@@ -159,19 +159,19 @@ void MapPlay::ImageClanMouseMove(double x, double y) {
 }
 
 // The keyboard touches nothing in passing: it unfolds and folds the options by a click.
-void MapPlay::PanelKeyClick(ControlId id, int index) {
+void MapController::PanelKeyClick(ControlId id, int index) {
   if (id == ControlId::OptionsCaption) return FoldOrUnfold();
   PanelClick(id, index);
 }
 
-void MapPlay::FoldOrUnfold() {
-  if (!std::exchange(screen_.State().OptionsOpen, false)) return ShowOptionsLabelMouseMove();
+void MapController::FoldOrUnfold() {
+  if (!std::exchange(screen_.State().OptionsOpen, false)) return UnfoldOptions();
   form_.FormResize();
 }
 
 // The mouse.
 
-MapPlay::Target MapPlay::TargetOf(const MapPointer& pointer) {
+MapController::Target MapController::TargetOf(const MapPointer& pointer) {
   if (pointer.Under == nullptr) return {};
   const Control& control = *pointer.Under;
   if (pointer.OnPanel) return {Part::Panel, control.Id, control.Index.value_or(0)};
@@ -179,50 +179,49 @@ MapPlay::Target MapPlay::TargetOf(const MapPointer& pointer) {
   return {};
 }
 
-void MapPlay::MouseDown(const MapPointer& pointer) {
+void MapController::MouseDown(const MapPointer& pointer) {
   cursor_.Hide();
   ShowCursor();
   if (!pointer.OthersHeld || !pressed_) pressed_ = TargetOf(pointer);
   if (pressed_->Of == Part::Map) {
-    SysmapFrameMouseDown(static_cast<float>(pointer.X), static_cast<float>(pointer.Y));
+    PressOnMap(static_cast<float>(pointer.X), static_cast<float>(pointer.Y));
   }
 }
 
-void MapPlay::MouseMove(const MapPointer& pointer) {
+void MapController::MouseMove(const MapPointer& pointer) {
   const Target target = pressed_ ? *pressed_ : TargetOf(pointer);
   switch (target.Of) {
     case Part::Map:
-      return SysmapFrameMouseMove(pointer.Button, static_cast<float>(pointer.X),
-                                  static_cast<float>(pointer.Y));
+      return MoveOverMap(pointer.Button, static_cast<float>(pointer.X),
+                         static_cast<float>(pointer.Y));
     case Part::Icon:
-      return Image1MouseMove(target.Index);
+      return HoverIcon(target.Index);
     case Part::Panel:
-      if (target.Id == ControlId::OptionsCaption) ShowOptionsLabelMouseMove();
-      if (target.Id == ControlId::Logo) ImageClanMouseMove(pointer.X, pointer.Y);
+      if (target.Id == ControlId::OptionsCaption) UnfoldOptions();
+      if (target.Id == ControlId::Logo) NoteLogoHalf(pointer.X, pointer.Y);
       return;
   }
 }
 
-void MapPlay::MouseUp(const MapPointer& pointer) {
+void MapController::MouseUp(const MapPointer& pointer) {
   if (!pressed_) return;
   const Target target = *pressed_;
   if (!pointer.OthersHeld) pressed_.reset();
   if (target.Of == Part::Map) {
-    SysmapFrameMouseUp(pointer.Button, static_cast<float>(pointer.X),
-                       static_cast<float>(pointer.Y));
+    ReleaseOnMap(pointer.Button, static_cast<float>(pointer.X), static_cast<float>(pointer.Y));
   } else if (pointer.Button == PointerButton::Left && target == TargetOf(pointer)) {
     Click(target);
   }
 }
 
-void MapPlay::Click(const Target& target) {
-  if (target.Of == Part::Icon) return Image1Click(target.Index);
+void MapController::Click(const Target& target) {
+  if (target.Of == Part::Icon) return OpenStationOf(target.Index);
   PanelClick(target.Id, target.Index);
 }
 
 // The keyboard.
 
-void MapPlay::KeyDown(MapKey key) {
+void MapController::KeyDown(MapKey key) {
   switch (key) {
     case MapKey::Left:
       cursor_.Move(-1, 0, Visible());
@@ -239,23 +238,23 @@ void MapPlay::KeyDown(MapKey key) {
     case MapKey::ZoomIn:
       return ZoomInOnCursor();
     case MapKey::GoBack:
-      return SysmapFrameMouseUp(PointerButton::Right, 0, 0);
+      return ReleaseOnMap(PointerButton::Right, 0, 0);
   }
   ShowCursor();
 }
 
 // As a click into the middle of its cell.
-void MapPlay::ZoomInOnCursor() {
+void MapController::ZoomInOnCursor() {
   const auto cell = cursor_.Cell(Visible());
   if (!cell) return;
-  const orrerix::Box box = screen_.Drawing().Cells.CellBox(cell->X, cell->Y);
+  const TwipRect box = screen_.Drawing().Cells.CellBox(cell->X, cell->Y);
   const auto x = static_cast<float>(box.Left + box.Width / 2);
   const auto y = static_cast<float>(box.Top + box.Height / 2);
-  SysmapFrameMouseDown(x, y);
-  SysmapFrameMouseUp(PointerButton::Left, x, y);
+  PressOnMap(x, y);
+  ReleaseOnMap(PointerButton::Left, x, y);
 }
 
-void MapPlay::ShowCursor() {
+void MapController::ShowCursor() {
   screen_.Scene().ShowInFront(FrontLayer::CellCursor,
                               cursor_.Lines(screen_.Drawing().Cells, Visible()));
   const auto cell = cursor_.Cell(Visible());
@@ -263,12 +262,12 @@ void MapPlay::ShowCursor() {
       cell ? QString::fromStdString(screen_.State().Names.Of(*cell)) : QString());
 }
 
-void MapPlay::FocusByTab() {
+void MapController::FocusByTab() {
   cursor_.Show(Visible());
   ShowCursor();
 }
 
-void MapPlay::FocusLost() {
+void MapController::FocusLost() {
   cursor_.Hide();
   ShowCursor();
 }

@@ -2,7 +2,7 @@
 // Hovers and clicks on icons.
 #include <gmock/gmock.h>
 
-#include "map_play_fixture.h"
+#include "map_controller_fixture.h"
 
 namespace orrerix {
 namespace {
@@ -12,56 +12,57 @@ using ::testing::IsEmpty;
 using ::testing::SizeIs;
 
 // One cell of 8550 twips, icons of 200; the panel begins at 8550 + 100 twips.
-class MapPlayHoverTest : public MapPlayFixture {
+class MapHoverTest : public MapControllerFixture {
  protected:
-  MapPlayHoverTest() { Zoom({8, 10, 8, 10}); }
+  MapHoverTest() { Zoom({8, 10, 8, 10}); }
 
-  Box Hover(std::string_view nickname) {
+  TwipRect Hover(std::string_view nickname) {
     Move(At(nickname));
-    return Shown(ControlId::BoxShape).empty() ? Box{} : Shown(ControlId::BoxShape).front()->Place;
+    return Shown(ControlId::BoxShape).empty() ? TwipRect{}
+                                              : Shown(ControlId::BoxShape).front()->Place;
   }
 };
 
-TEST_F(MapPlayHoverTest, TheIconGrowsFromItsCornerAndItsBoxOpens) {
+TEST_F(MapHoverTest, TheIconGrowsFromItsCornerAndItsBoxOpens) {
   Hover("li01_nw_base");
 
   // 0.1 x 8550 - 100
-  EXPECT_EQ(Icon("li01_nw_base").Place, (Box{755, 755, 600, 600}));
+  EXPECT_EQ(Icon("li01_nw_base").Place, (TwipRect{755, 755, 600, 600}));
   EXPECT_EQ(Shown(ControlId::BoxText, 0)->Caption, "li01_nw_base");
   EXPECT_EQ(Shown(ControlId::BoxShape, 0)->Shape, ShapeForm::RoundedRectangle);
   EXPECT_THAT(Sounds(), ElementsAre("ui_secondary_window_open"));
 }
 
-TEST_F(MapPlayHoverTest, TheBoxKeepsClearOfTheIconInAllFourCorners) {
+TEST_F(MapHoverTest, TheBoxKeepsClearOfTheIconInAllFourCorners) {
   EXPECT_EQ(Hover("li01_nw_base").Top, 1455);  // 755 + 600 + 100
   EXPECT_EQ(Hover("li01_nw_base").Left, 755);
   Move({300, 300});
 
   // A line as long as this does not fit between 7595 and the panel at 8650.
-  const Box ne = Hover("li01_ne_base");
+  const TwipRect ne = Hover("li01_ne_base");
   EXPECT_EQ(ne.Top, 1455);
   EXPECT_EQ(ne.Right(), 8195);  // 7595 + 600
   Move({300, 300});
 
-  const Box sw = Hover("li01_sw_base");
+  const TwipRect sw = Hover("li01_sw_base");
   EXPECT_EQ(sw.Bottom(), 7495);  // 7595 - 100
   EXPECT_EQ(sw.Left, 755);
   Move({300, 300});
 
-  const Box se = Hover("li01_se_base");
+  const TwipRect se = Hover("li01_se_base");
   EXPECT_EQ(se.Bottom(), 7495);
   EXPECT_EQ(se.Right(), 8195);  // 7595 + 600
 }
 
-TEST_F(MapPlayHoverTest, TheBoxIsAsLargeAsItsLettersOfOneWidthNeed) {
-  const Box box = Hover("li01_nw_base");
+TEST_F(MapHoverTest, TheBoxIsAsLargeAsItsLettersOfOneWidthNeed) {
+  const TwipRect box = Hover("li01_nw_base");
 
   const QtTextMeasure measure(FixedFont);
   EXPECT_EQ(box.Width, measure.TextWidth("li01_nw_base", 9) + 300);
   EXPECT_EQ(box.Height, measure.TextHeight("li01_nw_base", 9) + 300);
 }
 
-TEST_F(MapPlayHoverTest, WhileABoxIsUpOtherIconsStayAsTheyAre) {
+TEST_F(MapHoverTest, WhileABoxIsUpOtherIconsStayAsTheyAre) {
   Hover("li01_nw_base");
 
   Hover("li01_se_base");
@@ -71,26 +72,26 @@ TEST_F(MapPlayHoverTest, WhileABoxIsUpOtherIconsStayAsTheyAre) {
   EXPECT_THAT(Sounds(), SizeIs(1));
 }
 
-TEST_F(MapPlayHoverTest, AMoveOnTheMapEndsIt) {
+TEST_F(MapHoverTest, AMoveOnTheMapEndsIt) {
   Hover("li01_nw_base");
 
   Move({300, 300});
 
   EXPECT_THAT(Shown(ControlId::BoxShape), IsEmpty());
   EXPECT_THAT(Shown(ControlId::BoxText), IsEmpty());
-  EXPECT_EQ(Icon("li01_nw_base").Place, (Box{755, 755, 200, 200}));
+  EXPECT_EQ(Icon("li01_nw_base").Place, (TwipRect{755, 755, 200, 200}));
   EXPECT_EQ(redraws, 0);
 }
 
-TEST_F(MapPlayHoverTest, AMoveOntoTheBoxEndsIt) {
-  const Box box = Hover("li01_nw_base");
+TEST_F(MapHoverTest, AMoveOntoTheBoxEndsIt) {
+  const TwipRect box = Hover("li01_nw_base");
 
   Move(Pixels(box).center().toPoint());
 
   EXPECT_THAT(Shown(ControlId::BoxShape), IsEmpty());
 }
 
-TEST_F(MapPlayHoverTest, AMoveOnThePanelLeavesItUp) {
+TEST_F(MapHoverTest, AMoveOnThePanelLeavesItUp) {
   Hover("li01_ne_base");
 
   Move(OnPanel(ControlId::Tool, 2));
@@ -98,19 +99,19 @@ TEST_F(MapPlayHoverTest, AMoveOnThePanelLeavesItUp) {
   EXPECT_THAT(Shown(ControlId::BoxShape), SizeIs(1));
 }
 
-TEST_F(MapPlayHoverTest, ItGoesOnThroughARedrawWithItsBoxPlacedAnew) {
+TEST_F(MapHoverTest, ItGoesOnThroughARedrawWithItsBoxPlacedAnew) {
   Hover("li01_nw_base");
-  const orrerix::Box before = Shown(ControlId::BoxShape).at(0)->Place;
+  const TwipRect before = Shown(ControlId::BoxShape).at(0)->Place;
   const std::optional<std::string> text = Shown(ControlId::BoxText).at(0)->Caption;
 
   map.Redraw(universe, 14200, 6550);  // the cell is 6000 instead of 8550 twips wide
   play.MapRedrawn();
 
   ASSERT_THAT(Shown(ControlId::BoxShape), SizeIs(1));
-  const orrerix::Box icon = Icon("li01_nw_base").Place;
+  const TwipRect icon = Icon("li01_nw_base").Place;
   EXPECT_EQ(icon.Width, 600);
   EXPECT_FLOAT_EQ(static_cast<float>(icon.Left), 500);  // 6000 x 0.1 - 100
-  const orrerix::Box box = Shown(ControlId::BoxShape).at(0)->Place;
+  const TwipRect box = Shown(ControlId::BoxShape).at(0)->Place;
   EXPECT_FLOAT_EQ(static_cast<float>(box.Top), 1200);  // 500 + 600 + 100
   EXPECT_EQ(box.Width, before.Width);
   EXPECT_EQ(Shown(ControlId::BoxText).at(0)->Caption, text);
@@ -121,7 +122,7 @@ TEST_F(MapPlayHoverTest, ItGoesOnThroughARedrawWithItsBoxPlacedAnew) {
   EXPECT_EQ(Icon("li01_nw_base").Place.Width, 200);
 }
 
-TEST_F(MapPlayHoverTest, ItsBoxStaysWhenTheIconIsNoLongerThereUntilTheMouseMoves) {
+TEST_F(MapHoverTest, ItsBoxStaysWhenTheIconIsNoLongerThereUntilTheMouseMoves) {
   Hover("li01_nw_base");
   Key(Qt::Key_Backspace);
   ASSERT_EQ(Visible(), ZoomRectangle{});
@@ -131,7 +132,7 @@ TEST_F(MapPlayHoverTest, ItsBoxStaysWhenTheIconIsNoLongerThereUntilTheMouseMoves
   EXPECT_THAT(Shown(ControlId::BoxShape), IsEmpty());
 }
 
-TEST_F(MapPlayHoverTest, ARedrawWhileAQuestionIsOpenLeavesNoIconBehind) {
+TEST_F(MapHoverTest, ARedrawWhileAQuestionIsOpenLeavesNoIconBehind) {
   const QPoint at = At("li01_nw_base");
   db.Execute(mustWork, "DROP TABLE Objects");
   messages.WhileShown = [this] { Redraw(); };
@@ -142,7 +143,7 @@ TEST_F(MapPlayHoverTest, ARedrawWhileAQuestionIsOpenLeavesNoIconBehind) {
   EXPECT_EQ(Icon("li01_nw_base").Place.Width, 600);
 }
 
-TEST_F(MapPlayHoverTest, AnotherBoxStaysThroughMovesAndRedrawsAndKeepsHoversAway) {
+TEST_F(MapHoverTest, AnotherBoxStaysThroughMovesAndRedrawsAndKeepsHoversAway) {
   Control shape = MakeFrame(ControlId::BoxShape, std::nullopt, {5000, 0, 3650, 8550}, {0x400000});
   shape.Shape = ShapeForm::Rectangle;
   play.Box().Show({shape});
@@ -157,7 +158,7 @@ TEST_F(MapPlayHoverTest, AnotherBoxStaysThroughMovesAndRedrawsAndKeepsHoversAway
   EXPECT_THAT(Shown(ControlId::BoxShape), IsEmpty());
 }
 
-TEST_F(MapPlayHoverTest, WithoutSoundFilesNothingIsSaidOfThem) {
+TEST_F(MapHoverTest, WithoutSoundFilesNothingIsSaidOfThem) {
   std::filesystem::remove_all(folder.Path() / "DATA");
 
   Hover("li01_nw_base");
@@ -167,7 +168,7 @@ TEST_F(MapPlayHoverTest, WithoutSoundFilesNothingIsSaidOfThem) {
   EXPECT_TRUE(messages.Shown.empty());
 }
 
-TEST_F(MapPlayHoverTest, AClickOnAnObjectOpensItsStation) {
+TEST_F(MapHoverTest, AClickOnAnObjectOpensItsStation) {
   Click(At("li01_nw_base"));
 
   ASSERT_THAT(stations, SizeIs(1));
@@ -177,14 +178,14 @@ TEST_F(MapPlayHoverTest, AClickOnAnObjectOpensItsStation) {
   EXPECT_EQ(Visible(), (ZoomRectangle{8, 10, 8, 10}));
 }
 
-TEST_F(MapPlayHoverTest, EachClickOpensOneMore) {
+TEST_F(MapHoverTest, EachClickOpensOneMore) {
   Click(At("li01_nw_base"));
   Click(At("li01_nw_base"));
 
   EXPECT_THAT(stations, SizeIs(2));
 }
 
-TEST_F(MapPlayHoverTest, APressThatIsReleasedElsewhereIsNoClickAndNoDrag) {
+TEST_F(MapHoverTest, APressThatIsReleasedElsewhereIsNoClickAndNoDrag) {
   Press(At("li01_nw_base"));
   Move({300, 300});
   Release({300, 300});
@@ -193,14 +194,14 @@ TEST_F(MapPlayHoverTest, APressThatIsReleasedElsewhereIsNoClickAndNoDrag) {
   EXPECT_EQ(sound.Beeps, 0);
 }
 
-TEST_F(MapPlayHoverTest, ARightClickOnAnIconIsNeitherAClickNorAStepBack) {
+TEST_F(MapHoverTest, ARightClickOnAnIconIsNeitherAClickNorAStepBack) {
   Click(At("li01_nw_base"), Qt::RightButton);
 
   EXPECT_THAT(stations, IsEmpty());
   EXPECT_EQ(Visible(), (ZoomRectangle{8, 10, 8, 10}));
 }
 
-TEST_F(MapPlayHoverTest, AnIconThatTheMapDoesNotKnowOpensNothing) {
+TEST_F(MapHoverTest, AnIconThatTheMapDoesNotKnowOpensNothing) {
   const QPoint at = At("li01_nw_base");
   db.Execute(mustWork, "DELETE FROM DockObjects");
 
@@ -210,16 +211,16 @@ TEST_F(MapPlayHoverTest, AnIconThatTheMapDoesNotKnowOpensNothing) {
   EXPECT_THAT(Sounds(), IsEmpty());
 }
 
-TEST_F(MapPlayHoverTest, IconsAnswerByTheirIndexAndUnknownOnesDoNothing) {
+TEST_F(MapHoverTest, IconsAnswerByTheirIndexAndUnknownOnesDoNothing) {
   const int index = *Icon("li01_se_base").Index;
 
-  play.Image1MouseMove(0);
-  play.Image1Click(999);
+  play.HoverIcon(0);
+  play.OpenStationOf(999);
   EXPECT_THAT(Shown(ControlId::BoxShape), IsEmpty());
 
-  play.SysmapFrameMouseMove(PointerButton::None, 0, 0);
-  play.Image1MouseMove(index);
-  play.Image1Click(index);
+  play.MoveOverMap(PointerButton::None, 0, 0);
+  play.HoverIcon(index);
+  play.OpenStationOf(index);
 
   EXPECT_EQ(Shown(ControlId::BoxText, 0)->Caption, "li01_se_base");
   ASSERT_THAT(stations, SizeIs(1));

@@ -13,7 +13,7 @@
 
 #include "db/schema.h"
 #include "form_fixture.h"
-#include "forms/map_play.h"
+#include "forms/map_controller.h"
 #include "picture/control_items.h"
 #include "picture/twips.h"
 #include "support/universe_fixture.h"
@@ -22,9 +22,9 @@ namespace orrerix {
 
 // The frame is 14000 by 8550 twips: the whole grid's cells have 8550 / 19 = 450 twips, 30 pixels.
 // System Li01 is in cell 8, 10; in each corner of it stands an object.
-class MapPlayFixture : public UniverseFixture, private MapForm {
+class MapControllerFixture : public UniverseFixture, private MapHost {
  protected:
-  MapPlayFixture() {
+  MapControllerFixture() {
     db.CreateTable(mustWork, JumpNodesTable());
     db.CreateTable(mustWork, TradeLanesTable());
     db.CreateTable(mustWork, DockObjectsTable());
@@ -56,7 +56,7 @@ class MapPlayFixture : public UniverseFixture, private MapForm {
                         {"loadout", "space_station"}});
   }
 
-  MapForm& Form() { return *this; }
+  MapHost& Form() { return *this; }
 
   void Redraw() {
     map.Redraw(universe, 14200, 9100);
@@ -148,7 +148,7 @@ class MapPlayFixture : public UniverseFixture, private MapForm {
   Settings settings{log, folder.Path(), JetVersionOption::Version30};
   Language language{log, folder.Path(), JetVersionOption::Version30};
   MapScreen map{pictures, settings, language, &form};
-  MapPlay play{map, *this, log, settings, language, sound};
+  MapController play{map, *this, log, settings, language, sound};
 
   int redraws = 0;
   bool searchPanelOpen = false;
@@ -171,9 +171,9 @@ class MapPlayFixture : public UniverseFixture, private MapForm {
   void ShowStation(const std::string& nickname, const std::string& picture) override {
     stations.emplace_back(nickname, picture);
   }
-  void StationSearchClick(int index) override { searches.push_back(index); }
-  void InfoBoxLabelClick(int index) override { newsClicks.push_back(index); }
-  void ImageClanClick(bool firstHalf) override { logoClicks.push_back(firstHalf); }
+  void UseTool(int index) override { searches.push_back(index); }
+  void OpenNewsLink(int index) override { newsClicks.push_back(index); }
+  void OpenLogoPage(bool firstHalf) override { logoClicks.push_back(firstHalf); }
 };
 
 }  // namespace orrerix

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "forms/search_play.h"
+#include "forms/search_controller.h"
 
 #include <algorithm>
 #include <utility>
@@ -16,8 +16,8 @@ constexpr int kCaptionText = 12;
 
 }  // namespace
 
-SearchPlay::SearchPlay(MapScreen& screen, MapForm& form, MapPlay& play, ErrorLog& log,
-                       Language& language)
+SearchController::SearchController(MapScreen& screen, MapHost& form, MapController& play,
+                                   ErrorLog& log, Language& language)
     : screen_(screen),
       form_(form),
       play_(play),
@@ -26,10 +26,11 @@ SearchPlay::SearchPlay(MapScreen& screen, MapForm& form, MapPlay& play, ErrorLog
       view_(new SearchPanelView(*this, &screen.Frame())),
       infoBox_(new InfoBox(&screen.Frame())) {}
 
-SearchPlay::~SearchPlay() = default;
+SearchController::~SearchController() = default;
 
 template <typename Event>
-SearchAnswer SearchPlay::Ask(const char* source, const std::string& info, const Event& event) {
+SearchAnswer SearchController::Ask(const char* source, const std::string& info,
+                                   const Event& event) {
   SearchAnswer answer;
   Routine routine(log_, source, info);
   routine.Run([&] {
@@ -40,35 +41,35 @@ SearchAnswer SearchPlay::Ask(const char* source, const std::string& info, const 
   return answer;
 }
 
-void SearchPlay::StationSearchClick(SearchType type) {
+void SearchController::OpenSearch(SearchType type) {
   Follow(Ask("OrrerixMain.StationSearch_Click", fmt::format("Index: {}", static_cast<int>(type)),
              [&](const SearchScope& scope) { return panel_.Open(scope, type); }));
 }
 
-void SearchPlay::StSearchTextChange(const std::string& text) {
+void SearchController::ChangeSearchText(const std::string& text) {
   Follow(Ask("OrrerixMain.StSearchText_Change", "",
              [&](const SearchScope& scope) { return panel_.SetText(scope, text); }));
 }
 
-void SearchPlay::SubSearchClick(std::size_t row) {
+void SearchController::ChooseFound(std::size_t row) {
   Follow(Ask("OrrerixMain.SubSearch_Click", "",
              [&](const SearchScope& scope) { return panel_.SelectSubSearch(scope, row); }));
 }
 
-void SearchPlay::StSearchListClick(std::size_t row) {
+void SearchController::ChoosePlace(std::size_t row) {
   panel_.SelectList(row);
 }
 
-void SearchPlay::StSearchListDblClick() {
+void SearchController::GoToPlace() {
   Follow(panel_.EnterInList());
 }
 
-void SearchPlay::StSearchCloseClick() {
+void SearchController::CloseSearch() {
   Follow(panel_.Close());
   screen_.Frame().setFocus();
 }
 
-bool SearchPlay::MoveKey(int by) {
+bool SearchController::MoveKey(int by) {
   SearchAnswer answer = Ask("OrrerixMain.StSearchText_KeyDown", "", [&](const SearchScope& scope) {
     return panel_.MoveSelection(scope, by);
   });
@@ -76,7 +77,7 @@ bool SearchPlay::MoveKey(int by) {
   return true;
 }
 
-void SearchPlay::EnterKey(SearchControl in) {
+void SearchController::EnterKey(SearchControl in) {
   switch (in) {
     case SearchControl::Text:
       return Follow(panel_.EnterInText());
@@ -89,20 +90,20 @@ void SearchPlay::EnterKey(SearchControl in) {
   }
 }
 
-void SearchPlay::Follow(SearchAnswer answer) {
+void SearchController::Follow(SearchAnswer answer) {
   view_->Show(panel_, QString::fromStdString(language_.TXT(kCaptionText)));
   if (answer.InfoBox) ShowInfo(std::move(*answer.InfoBox));
   view_->Focus(answer.Focus);
   if (answer.Jump) Jump(*answer.Jump);
 }
 
-void SearchPlay::ShowInfo(ControlList box) {
+void SearchController::ShowInfo(ControlList box) {
   infoBox_->Show(box);
   if (box.empty()) return play_.Box().Hide();
   play_.Box().ShowElsewhere(std::move(box));
 }
 
-void SearchPlay::Jump(const std::string& nickname) {
+void SearchController::Jump(const std::string& nickname) {
   Routine routine(log_, "OrrerixMain.StSearchList_DblClick");
   routine.Run([&] {
     Universe universe = form_.OpenUniverse(routine);
@@ -120,10 +121,10 @@ void SearchPlay::Jump(const std::string& nickname) {
     // The move may fold the options, which redraws the map.
     const bool found = icon != controls.end();
     const int index = found ? icon->Index.value_or(0) : 0;
-    play_.SysmapFrameMouseMove(PointerButton::None, 0, 0);
+    play_.MoveOverMap(PointerButton::None, 0, 0);
     if (!found) return routine.Fail(RuntimeFailure(failure_number::kSubscriptOutOfRange));
-    play_.Image1MouseMove(index);
-    play_.Image1Click(index);
+    play_.HoverIcon(index);
+    play_.OpenStationOf(index);
     screen_.Frame().setFocus();
   });
 }
