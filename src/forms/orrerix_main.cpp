@@ -12,7 +12,7 @@
 
 #include "db/number_text.h"
 #include "derived/stages.h"
-#include "forms/form_geometry.h"
+#include "forms/controls/form_geometry.h"
 #include "forms/print_form.h"
 #include "import/import_driver.h"
 #include "map/game_sounds.h"

@@ -4,7 +4,7 @@
 #include <QApplication>
 #include <QScreen>
 
-#include "forms/spoiler.h"
+#include "forms/start/spoiler.h"
 #include "map/game_sounds.h"
 #include "online/news_loader.h"
 #include "online/web_pages.h"

@@ -13,9 +13,9 @@
 
 #include <fmt/format.h>
 
-#include "forms/control_name.h"
-#include "forms/spoiler.h"
-#include "forms/update.h"
+#include "forms/controls/control_name.h"
+#include "forms/start/spoiler.h"
+#include "forms/start/update.h"
 #include "map/map_coords.h"
 #include "map/system_pictures.h"
 #include "picture/control_items.h"

@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+#include "forms/controls/row_list.h"
+
+#include <QScrollBar>
+
+#include <gtest/gtest.h>
+
+namespace orrerix {
+namespace {
+
+class RowListTest : public testing::Test {
+ protected:
+  RowListTest() {
+    for (int i = 0; i < 100; ++i) list.addItem("row");
+    list.show();
+  }
+
+  int RowHeight() const { return list.visualItemRect(list.item(0)).height(); }
+
+  // In a height of seven rows and a half.
+  void ShowSevenAndAHalf() {
+    list.resize(200, 7 * RowHeight() + RowHeight() / 2 + 2 * list.frameWidth());
+  }
+
+  RowList list{nullptr};
+};
+
+TEST_F(RowListTest, ShowsNoHalfRowAtItsEnd) {
+  ASSERT_GT(RowHeight(), 1);
+
+  ShowSevenAndAHalf();
+
+  EXPECT_EQ(list.viewport()->height(), 7 * RowHeight());
+}
+
+TEST_F(RowListTest, ItsLastPageEndsWithItsLastRow) {
+  ShowSevenAndAHalf();
+
+  list.verticalScrollBar()->setValue(list.verticalScrollBar()->maximum());
+
+  EXPECT_EQ(list.visualItemRect(list.item(99)).bottom(), list.viewport()->height() - 1);
+  EXPECT_EQ(list.visualItemRect(list.item(93)).top(), 0);
+}
+
+TEST_F(RowListTest, ARowThatDoesNotFitIsShownAsFarAsItGoes) {
+  list.resize(200, RowHeight() / 2 + 2 * list.frameWidth());
+
+  EXPECT_EQ(list.viewport()->height(), RowHeight() / 2);
+}
+
+}  // namespace
+}  // namespace orrerix
