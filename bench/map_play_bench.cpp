@@ -120,12 +120,13 @@ void RegisterMapPlayBenchmarks(const std::vector<BenchGame>& games, const fs::pa
                              Play{"Language", NextLanguage, 60}, Play{"RubberBand", Band, 200},
                              Play{"ZoomAgain", ZoomAgain, 60}, Play{"ZoomFirst", ZoomFirst, 12},
                              Play{"ZoomOut", ZoomOut, 60}}) {
-      benchmark::RegisterBenchmark((std::string("MapPlay/") + game.Name + "/" + play.Name).c_str(),
-                                   [game, work, universe, play](benchmark::State& state) {
-                                     if (universe->empty()) *universe = ImportInto(game, work);
-                                     MapWindow window(game, *universe);
-                                     play.Run(state, window);
-                                   })
+      benchmark::RegisterBenchmark(
+          (std::string("MapController/") + game.Name + "/" + play.Name).c_str(),
+          [game, work, universe, play](benchmark::State& state) {
+            if (universe->empty()) *universe = ImportInto(game, work);
+            MapWindow window(game, *universe);
+            play.Run(state, window);
+          })
           ->UseManualTime()
           ->Iterations(play.Iterations)
           ->Unit(benchmark::kMillisecond);

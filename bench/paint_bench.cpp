@@ -84,7 +84,7 @@ class PaintBench {
     scene.Show(DrawMap(
         universe_, map_,
         {static_cast<int>(Twips(window.width())), static_cast<int>(Twips(window.height())),
-         MapOptions::Defaults(redraw_.Rectangle.IsZoomed()), measure_, panel_, "StarMapPic"}));
+         MapOptions::Defaults(redraw_.Rectangle.IsZoomed()), measure_, panel_}));
     view_.setScene(&scene);
     view_.resize(window);
     view_.viewport()->render(&canvas_);

@@ -70,7 +70,7 @@ void Station(benchmark::State& state, MapWindow& window) {
   std::size_t next = 0;
   for (auto _ : state) {
     state.SetIterationTime(
-        Seconds([&] { window.Form().Play().Image1Click(icons[next++ % icons.size()]); }));
+        Seconds([&] { window.Form().Play().OpenStationOf(icons[next++ % icons.size()]); }));
     const auto& windows = window.Form().Stations().Windows();
     if (!windows.empty()) windows.back()->close();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
@@ -82,7 +82,7 @@ void Trades(benchmark::State& state, MapWindow& window) {
   window.Click(window.CellMiddle(8, 9));
   StationInfo* busiest = nullptr;
   for (const Control& control : window.Map().Drawing().Controls) {
-    if (control.Name == "Image1") window.Form().Play().Image1Click(control.Index.value_or(0));
+    if (control.Name == "Image1") window.Form().Play().OpenStationOf(control.Index.value_or(0));
   }
   int most = -1;
   for (const auto& station : window.Form().Stations().Windows()) {

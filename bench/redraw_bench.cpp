@@ -38,7 +38,7 @@ void DrawingList(benchmark::State& state, const BenchGame& game, const fs::path&
   map.Zoom.Reset(rectangle);
   map.Names = GetSystemNames(universe, english);
   const MapView view{28800,   16200, MapOptions::Defaults(rectangle.IsZoomed()),
-                     measure, panel, "StarMapPic"};
+                     measure, panel};
   std::size_t controls = 0;
   for (auto _ : state) controls = DrawMap(universe, map, view).Controls.size();
   state.counters["controls"] = static_cast<double>(controls);

@@ -92,8 +92,7 @@ class SceneMap {
     const MapOptions switches = words_.Switches
                                     ? ParseSwitches(*words_.Switches)
                                     : MapOptions::Defaults(state_.Zoom.Current().IsZoomed());
-    return DrawMap(universe_, state_,
-                   {form_.Width, form_.Height, switches, measure_, panel_, "StarMapPic"});
+    return DrawMap(universe_, state_, {form_.Width, form_.Height, switches, measure_, panel_});
   }
 
   // Every gesture meets a map that was drawn: background tiles stay from one to the next.
@@ -109,10 +108,11 @@ class SceneMap {
   }
 
   void Hover(MapDrawing& drawing) {
-    const auto icon = std::find_if(
-        drawing.Controls.begin(), drawing.Controls.end(), [this](const Control& control) {
-          return control.Name == "Image1" && Ucase(*control.Tag) == Ucase(*words_.Hover);
-        });
+    const auto icon = std::find_if(drawing.Controls.begin(), drawing.Controls.end(),
+                                   [this](const Control& control) {
+                                     return control.Id == ControlId::MapIcon &&
+                                            Ucase(IconText(control)) == Ucase(*words_.Hover);
+                                   });
     if (icon == drawing.Controls.end()) {
       throw CouldNot("the map as it is shown has no icon of '" + *words_.Hover + "'");
     }
@@ -127,9 +127,9 @@ class SceneMap {
     ControlList box = ShowInfoTextType(universe_, Wording{texts_, {}}, measure_, drawing,
                                        info.Nickname, info.Type);
     std::erase_if(drawing.Controls, [&](const Control& control) {
-      const bool isShape = control.Name == "Shape1";
-      if (isShape && !box.empty()) box.front().Tag = control.Tag;
-      return isShape || control.Name == "InfoText";
+      const bool isShape = control.Id == ControlId::BoxShape;
+      if (isShape && !box.empty()) box.front().Subject = control.Subject;
+      return isShape || control.Id == ControlId::BoxText;
     });
     for (Control& control : box) drawing.Controls.push_back(std::move(control));
   }

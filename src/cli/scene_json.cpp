@@ -2,6 +2,13 @@
 #include "cli/scene_json.h"
 
 #include <cmath>
+#include <optional>
+#include <string>
+
+#include <fmt/format.h>
+
+#include "db/number_text.h"
+#include "map/system_pictures.h"
 
 namespace orrerix {
 namespace {
@@ -26,11 +33,40 @@ void AddLine(Json& json, const Control& line) {
   json["BorderColor"] = line.BorderColor.Text();
 }
 
-void AddPlace(Json& json, const Box& place) {
+void AddPlace(Json& json, const TwipRect& place) {
   json["Left"] = Number(place.Left);
   json["Top"] = Number(place.Top);
   json["Width"] = Number(place.Width);
   json["Height"] = Number(place.Height);
+}
+
+// What the command line calls the tag of a control.
+std::optional<std::string> TagOf(const Control& control) {
+  switch (control.Id) {
+    case ControlId::MapLine: {
+      const auto* ends = std::get_if<ConnectedPlaces>(&control.Subject);
+      return ends == nullptr ? std::string() : ends->From + " <-> " + ends->To;
+    }
+    case ControlId::MapIcon:
+      return IconText(control);
+    case ControlId::SystemPicture:
+      return std::string(SystemPictureTag(control.Index.value_or(0)));
+    case ControlId::BoxShape:
+      if (const auto* icon = std::get_if<HoveredIcon>(&control.Subject)) {
+        return fmt::format("{},{}", icon->Index, NumberText(icon->Width));
+      }
+      return std::nullopt;
+    default:
+      return std::nullopt;
+  }
+}
+
+Control PriceControl(ControlId id, int index, const PriceLabel& label) {
+  Control control = MakeLabel(id, index, label.Place, label.Caption);
+  control.FontSize = label.FontSize;
+  control.ForeColor = label.ForeColor;
+  control.BackColor = label.BackColor;
+  return control;
 }
 
 const char* PanelName(PanelPlace place) {
@@ -49,7 +85,7 @@ const char* PanelName(PanelPlace place) {
 
 Json ControlJson(const Control& control) {
   Json json;
-  json["control"] = control.Name;
+  json["control"] = PrintedName(control.Id);
   json["index"] = control.Index ? Json(*control.Index) : Json(nullptr);
   if (control.Kind == ControlKind::Line) {
     AddLine(json, control);
@@ -61,8 +97,42 @@ Json ControlJson(const Control& control) {
   if (control.ForeColor) json["ForeColor"] = control.ForeColor->Text();
   if (control.BackColor) json["BackColor"] = control.BackColor->Text();
   if (control.Picture) json["Picture"] = *control.Picture;
-  if (control.Tag) json["Tag"] = *control.Tag;
+  if (const auto tag = TagOf(control)) json["Tag"] = *tag;
   return json;
+}
+
+Json PriceTableJson(const PriceTable& table) {
+  Json json = Json::array();
+  json.push_back(ControlJson(PriceControl(ControlId::PriceHead, table.Group, table.Head)));
+  for (const PriceRow& row : table.Rows) {
+    json.push_back(ControlJson(PriceControl(ControlId::PriceName, row.Number, row.Name)));
+    json.back()["Tag"] = row.Good;
+    json.push_back(ControlJson(PriceControl(ControlId::Price, row.Number, row.Price)));
+    json.push_back(
+        ControlJson(PriceControl(ControlId::PriceDifference, row.Number, row.Difference)));
+  }
+  return json;
+}
+
+void PrintControl(const Control& control) {
+  const std::string index = control.Index ? fmt::format("({})", *control.Index) : "";
+  const std::string_view name = PrintedName(control.Id);
+  if (control.Kind == ControlKind::Line) {
+    fmt::print("{}{} {},{} - {},{} {}\n", name, index, control.Ends.X1, control.Ends.Y1,
+               control.Ends.X2, control.Ends.Y2, TagOf(control).value_or(""));
+  } else {
+    fmt::print("{}{} {},{} {}x{} {}\n", name, index, control.Place.Left, control.Place.Top,
+               control.Place.Width, control.Place.Height, control.Caption.value_or(""));
+  }
+}
+
+void PrintPriceTable(const PriceTable& table) {
+  PrintControl(PriceControl(ControlId::PriceHead, table.Group, table.Head));
+  for (const PriceRow& row : table.Rows) {
+    PrintControl(PriceControl(ControlId::PriceName, row.Number, row.Name));
+    PrintControl(PriceControl(ControlId::Price, row.Number, row.Price));
+    PrintControl(PriceControl(ControlId::PriceDifference, row.Number, row.Difference));
+  }
 }
 
 Json SceneJson(const Scene& scene) {

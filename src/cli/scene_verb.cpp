@@ -1,25 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include <memory>
 
-#include <fmt/format.h>
-
 #include "cli/json_text.h"
 #include "cli/opened_universe.h"
 #include "cli/scene_json.h"
 #include "cli/verbs.h"
 
 namespace orrerix {
-
-void PrintControl(const Control& control) {
-  const std::string index = control.Index ? fmt::format("({})", *control.Index) : "";
-  if (control.Kind == ControlKind::Line) {
-    fmt::print("{}{} {},{} - {},{} {}\n", control.Name, index, control.Ends.X1, control.Ends.Y1,
-               control.Ends.X2, control.Ends.Y2, control.Tag.value_or(""));
-  } else {
-    fmt::print("{}{} {},{} {}x{} {}\n", control.Name, index, control.Place.Left, control.Place.Top,
-               control.Place.Width, control.Place.Height, control.Caption.value_or(""));
-  }
-}
 
 namespace {
 

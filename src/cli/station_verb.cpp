@@ -8,7 +8,6 @@
 #include "cli/scene.h"
 #include "cli/scene_json.h"
 #include "cli/verbs.h"
-#include "info/price_table.h"
 #include "info/station_layout.h"
 
 namespace orrerix {
@@ -26,7 +25,7 @@ struct StationWords {
 struct StationAnswer {
   StationData Data;
   std::vector<std::string> Names;  // of the rows of the price table
-  std::optional<ControlList> Controls;
+  std::optional<StationPicture> Layout;
 };
 
 StationMode ModeOf(const StationWords& words) {
@@ -46,8 +45,8 @@ StationAnswer ReadAnswer(OpenedUniverse& universe, const StationWords& words, St
   if (words.Layout) {
     const Extent form = ParseExtent(*words.Layout);
     const StationTexts texts = ReadStationTexts({}, mode, universe.Texts);
-    answer.Controls = LayOutStation(universe.Data, Wording{universe.Texts, {}}, FixedTextMeasure(),
-                                    {answer.Data, texts, mode, form.Width, form.Height});
+    answer.Layout = LayOutStation(universe.Data, Wording{universe.Texts, {}}, FixedTextMeasure(),
+                                  {answer.Data, texts, mode, form.Width, form.Height});
   }
   return answer;
 }
@@ -74,10 +73,11 @@ Json AnswerJson(const StationAnswer& answer) {
   }
   json["ships"] = ForSaleJson(data.Ships, "packagename");
   json["equipment"] = ForSaleJson(data.Equipment, "nickname");
-  if (answer.Controls) {
-    json["controls"] = Json::array();
-    for (const Control& control : *answer.Controls) {
-      json["controls"].push_back(ControlJson(control));
+  if (answer.Layout) {
+    Json& controls = json["controls"] = Json::array();
+    for (const Control& control : answer.Layout->Controls) controls.push_back(ControlJson(control));
+    for (const PriceTable& table : answer.Layout->Prices) {
+      for (Json& label : PriceTableJson(table)) controls.push_back(std::move(label));
     }
   }
   return json;
@@ -93,8 +93,9 @@ void PrintText(const StationAnswer& answer) {
   for (const auto* items : {&data.Ships, &data.Equipment}) {
     for (const ForSale& item : *items) fmt::print("{}\t{}\n", item.Nickname, item.RealName);
   }
-  if (answer.Controls) {
-    for (const Control& control : *answer.Controls) PrintControl(control);
+  if (answer.Layout) {
+    for (const Control& control : answer.Layout->Controls) PrintControl(control);
+    for (const PriceTable& table : answer.Layout->Prices) PrintPriceTable(table);
   }
 }
 

@@ -18,9 +18,6 @@ namespace orrerix {
 // Answers with one text: as it is, or as {"text": ...}.
 void AnswerText(const CommonOptions& options, const std::string& text);
 
-// One line about a control, for people.
-void PrintControl(const Control& control);
-
 // The words for what info texts are about.
 const std::map<std::string, InfoType>& InfoKinds();
 

@@ -9,9 +9,9 @@
 #include <QTimer>
 #include <utility>
 
-#include "forms/captions.h"
-#include "forms/form_geometry.h"
-#include "forms/plated_label.h"
+#include "forms/controls/captions.h"
+#include "forms/controls/form_geometry.h"
+#include "forms/controls/plated_label.h"
 #include "picture/form_font.h"
 #include "shell/error_log_layout.h"
 

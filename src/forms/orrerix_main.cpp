@@ -14,7 +14,7 @@
 
 #include "db/number_text.h"
 #include "derived/stages.h"
-#include "forms/form_geometry.h"
+#include "forms/controls/form_geometry.h"
 #include "forms/print_form.h"
 #include "import/import_driver.h"
 #include "map/game_sounds.h"
@@ -339,14 +339,14 @@ void OrrerixMain::ShowStation(const std::string& nickname, const std::string& pi
   stations_.Open(nickname, picture);
 }
 
-void OrrerixMain::StationSearchClick(int index) {
+void OrrerixMain::UseTool(int index) {
   constexpr int printTool = 4;
   Routine routine(parts_.Log, "OrrerixMain.StationSearch_Click", fmt::format("Index: {}", index));
   routine.Run([&] {
     if (index == printTool) {
       PrintTheMap();
     } else {
-      search_.StationSearchClick(static_cast<SearchType>(index));
+      search_.OpenSearch(static_cast<SearchType>(index));
     }
   });
 }
@@ -363,7 +363,7 @@ void OrrerixMain::InfoBoxLabelFillup(const std::string& text) {
   });
 }
 
-void OrrerixMain::InfoBoxLabelClick(int index) {
+void OrrerixMain::OpenNewsLink(int index) {
   PlaySoundfile(parts_.Log, parts_.Sound, Game(), kLinkSound);
   const auto entry = static_cast<std::size_t>(index) - 1;
   OpenLink(parts_.Links, index > 0 && entry < news_.Entries.size()
@@ -371,7 +371,7 @@ void OrrerixMain::InfoBoxLabelClick(int index) {
                              : PageAddress(parts_.Paths.NewsAddress, WebPage::Main));
 }
 
-void OrrerixMain::ImageClanClick(bool firstHalf) {
+void OrrerixMain::OpenLogoPage(bool firstHalf) {
   OpenLink(parts_.Links, PageAddress(parts_.Paths.NewsAddress,
                                      firstHalf ? WebPage::FirstClan : WebPage::GameServer));
 }

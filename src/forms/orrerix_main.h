@@ -9,14 +9,14 @@
 #include "db/engine.h"
 #include "db/working_copy.h"
 #include "forms/form_parts.h"
-#include "forms/import_screen.h"
-#include "forms/map_form.h"
-#include "forms/map_play.h"
-#include "forms/map_screen.h"
-#include "forms/news_play.h"
-#include "forms/search_play.h"
-#include "forms/station_windows.h"
-#include "forms/window_host.h"
+#include "forms/map/map_controller.h"
+#include "forms/map/map_host.h"
+#include "forms/map/map_screen.h"
+#include "forms/map/news_controller.h"
+#include "forms/map/search_controller.h"
+#include "forms/start/import_screen.h"
+#include "forms/start/window_host.h"
+#include "forms/station/station_windows.h"
 #include "online/news.h"
 #include "platform/folder_lock.h"
 
@@ -24,7 +24,7 @@ namespace orrerix {
 
 // The main form. It shows one of three screens, decided anew in every Form_Resize: first run,
 // importing, or the map.
-class OrrerixMain : public QWidget, private MapForm {
+class OrrerixMain : public QWidget, private MapHost {
  public:
   OrrerixMain(const FormParts& parts, Settings& settings, LanguageFile& language,
               const MemoryStatus& startMemory, JetVersionOption format);
@@ -64,12 +64,12 @@ class OrrerixMain : public QWidget, private MapForm {
   void InfoBoxLabelFillup(const std::string& text);
 
   // Opens the link of a news label with the game's sound for that.
-  void InfoBoxLabelClick(int index) override;
+  void OpenNewsLink(int index) override;
 
   std::filesystem::path UniverseFile() const { return saveFolder_ / "Orrerix.fl"; }
   GameFolder Game() const override;
   MapScreen& Map() { return map_; }
-  MapPlay& Play() { return play_; }
+  MapController& Play() { return play_; }
   const StationWindows& Stations() const { return stations_; }
 
  protected:
@@ -82,9 +82,9 @@ class OrrerixMain : public QWidget, private MapForm {
   Universe OpenUniverse(Routine& routine) override;
   bool SearchPanelOpen() const override { return search_.Visible(); }
   void ShowStation(const std::string& nickname, const std::string& picture) override;
-  void StationSearchClick(int index) override;
+  void UseTool(int index) override;
 
-  void ImageClanClick(bool firstHalf) override;
+  void OpenLogoPage(bool firstHalf) override;
 
   void QueueFocus();
   void FormGotFocus();
@@ -128,9 +128,9 @@ class OrrerixMain : public QWidget, private MapForm {
 
   ImportScreen* importScreen_;
   MapScreen map_;
-  MapPlay play_;
-  SearchPlay search_;
-  NewsPlay newsPlay_;
+  MapController play_;
+  SearchController search_;
+  NewsController newsPlay_;
   StationWindows stations_;
   WindowHost host_;
 };

@@ -5,7 +5,7 @@
 #include <QScreen>
 
 #include "db/number_text.h"
-#include "forms/spoiler.h"
+#include "forms/start/spoiler.h"
 #include "map/game_sounds.h"
 #include "online/news_loader.h"
 #include "online/web_pages.h"
@@ -122,7 +122,7 @@ void ProgramRun::ShowUpdate(const News& news) {
   update_ = std::make_unique<Update>(news.UpdateToolTip, parts_.Pictures, parts_.Speech.Current);
   update_->OnQueryUnload = [this] { main_->ShowMaximised(); };
   update_->OnLabel1Click = [this] {
-    main_->InfoBoxLabelClick(0);
+    main_->OpenNewsLink(0);
     EndAtOnce();
   };
   update_->setWindowIcon(main_->windowIcon());

@@ -6,9 +6,9 @@
 
 #include "forms/error_log_window.h"
 #include "forms/form_parts.h"
-#include "forms/loading.h"
 #include "forms/orrerix_main.h"
-#include "forms/update.h"
+#include "forms/start/loading.h"
+#include "forms/start/update.h"
 
 namespace orrerix {
 

@@ -22,7 +22,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "forms/captions.h"
+#include "forms/controls/captions.h"
 #include "picture/picture_store.h"
 
 namespace orrerix {

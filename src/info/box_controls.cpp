@@ -12,15 +12,15 @@ constexpr Color kBoxText{0x00CCCC};
 
 }  // namespace
 
-Control BoxShape(const Box& place, ShapeForm form) {
-  Control shape = MakeFrame("Shape1", std::nullopt, place, kBoxBack);
+Control BoxShape(const TwipRect& place, ShapeForm form) {
+  Control shape = MakeFrame(ControlId::BoxShape, std::nullopt, place, kBoxBack);
   shape.Shape = form;
   shape.BorderColor = kBoxBorder;
   return shape;
 }
 
-Control BoxText(const Box& place, std::string text) {
-  Control info = MakeLabel("InfoText", std::nullopt, place, std::move(text));
+Control BoxText(const TwipRect& place, std::string text) {
+  Control info = MakeLabel(ControlId::BoxText, std::nullopt, place, std::move(text));
   info.FontSize = kBoxFont;
   info.ForeColor = kBoxText;
   info.BackColor = kBoxBack;

@@ -12,9 +12,9 @@ namespace orrerix {
 // Size of a box's letters, points.
 inline constexpr int kBoxFont = 9;
 
-// Shape1 and InfoText at their places on the map frame.
-Control BoxShape(const Box& place, ShapeForm form);
-Control BoxText(const Box& place, std::string text);
+// A box and its text at their places on the map frame.
+Control BoxShape(const TwipRect& place, ShapeForm form);
+Control BoxText(const TwipRect& place, std::string text);
 
 // The right edge of what a box may cover, twips: the panel's left side, or the frame's width where
 // the panel does not stand at the right.

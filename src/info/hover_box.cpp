@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "info/hover_box.h"
 
+#include <algorithm>
 #include <utility>
-
-#include <fmt/format.h>
 
 #include "db/number_text.h"
 #include "map/numeric.h"
@@ -24,20 +23,21 @@ void Grow(Routine& routine, int& size, int grown) {
   });
 }
 
-ControlList BoxControls(const Box& place, std::string text, std::string tag) {
+ControlList BoxControls(const TwipRect& place, std::string text, HoveredIcon icon) {
   Control shape = BoxShape(place, ShapeForm::RoundedRectangle);
-  shape.Tag = std::move(tag);
-  const Box inner{static_cast<float>(place.Left + kMargin), static_cast<float>(place.Top + kMargin),
-                  place.Width - 2 * kMargin, place.Height - 2 * kMargin};
+  shape.Subject = icon;
+  const TwipRect inner{static_cast<float>(place.Left + kMargin),
+                       static_cast<float>(place.Top + kMargin), place.Width - 2 * kMargin,
+                       place.Height - 2 * kMargin};
   return {std::move(shape), BoxText(inner, std::move(text))};
 }
 
-// Enlarges the icon; the tag that says what it was before.
-std::string Enlarge(Control& icon) {
-  std::string tag = fmt::format("{},{}", icon.Index.value_or(0), NumberText(icon.Place.Width));
+// Enlarges the icon and returns what it was before.
+HoveredIcon Enlarge(Control& icon) {
+  const HoveredIcon before{icon.Index.value_or(0), static_cast<float>(icon.Place.Width)};
   icon.Place.Width = kHoveredIcon;
   icon.Place.Height = kHoveredIcon;
-  return tag;
+  return before;
 }
 
 }  // namespace
@@ -47,32 +47,29 @@ HoverBox OpenHoverBox(Universe& universe, const CellNames& names, TextSource& te
   HoverBox hover{icon, {}};
   Routine routine(universe.Log, "OrrerixMain.Image1_MouseMove");
   routine.Run([&] {
-    std::string tag = Enlarge(hover.Icon);
-    std::string text = icon.Tag.value_or("");
+    const HoveredIcon before = Enlarge(hover.Icon);
+    std::string text = IconText(icon);
     WriteHoverText(routine, universe, names, texts, text);
     const TextExtent extent = MeasureLines(routine, text, measure, kBoxFont);
-    hover.Box = BoxControls(HoverBoxPlace(hover.Icon.Place, extent, drawing), std::move(text),
-                            std::move(tag));
+    hover.Box =
+        BoxControls(HoverBoxPlace(hover.Icon.Place, extent, drawing), std::move(text), before);
   });
   return hover;
 }
 
 HoverBox MovedHoverBox(const ControlList& box, const Control& icon, const MapDrawing& drawing) {
   HoverBox hover{icon, {}};
-  std::string tag = Enlarge(hover.Icon);
-  const Box& before = box.front().Place;
-  const TextExtent extent{WholeTwips(before.Width) - 2 * kMargin,
-                          WholeTwips(before.Height) - 2 * kMargin};
+  const HoveredIcon before = Enlarge(hover.Icon);
+  const TwipRect& place = box.front().Place;
+  const TextExtent extent{WholeTwips(place.Width) - 2 * kMargin,
+                          WholeTwips(place.Height) - 2 * kMargin};
   hover.Box = BoxControls(HoverBoxPlace(hover.Icon.Place, extent, drawing),
-                          box.back().Caption.value_or(""), std::move(tag));
+                          box.back().Caption.value_or(""), before);
   return hover;
 }
 
-Control RestoredIcon(Control icon, std::string_view shapeTag) {
-  const std::size_t comma = shapeTag.find(',');
-  if (comma == std::string_view::npos) return icon;
-  const auto size = static_cast<float>(Val(shapeTag.substr(comma + 1)));
-  icon.Place.Width = icon.Place.Height = size;
+Control RestoredIcon(Control icon, const HoveredIcon& hovered) {
+  icon.Place.Width = icon.Place.Height = hovered.Width;
   return icon;
 }
 
@@ -87,13 +84,13 @@ TextExtent MeasureLines(Routine& routine, std::string_view text, const TextMeasu
   return extent;
 }
 
-Box HoverBoxPlace(const Box& icon, const TextExtent& text, const MapDrawing& drawing) {
-  Box box{icon.Left, 0, static_cast<double>(text.Width + 2 * kMargin),
-          static_cast<double>(text.Height + 2 * kMargin)};
+TwipRect HoverBoxPlace(const TwipRect& icon, const TextExtent& text, const MapDrawing& drawing) {
+  TwipRect box{icon.Left, 0, static_cast<double>(text.Width + 2 * kMargin),
+               static_cast<double>(text.Height + 2 * kMargin)};
   const bool above = icon.Top > drawing.Frame.Height / 2;
   box.Top = static_cast<float>(above ? icon.Top - kIconGap - box.Height : icon.Bottom() + kIconGap);
   if (box.Right() > RoomForBox(drawing)) {
-    box.Left = static_cast<float>(MAX(kSmallestLeft, icon.Right() - box.Width));
+    box.Left = static_cast<float>(std::max(icon.Right() - box.Width, kSmallestLeft));
   }
   return box;
 }

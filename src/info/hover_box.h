@@ -13,19 +13,19 @@ inline constexpr float kHoveredIcon = 600;
 
 struct HoverBox {
   Control Icon;     // the icon at its larger size; its corner stays
-  ControlList Box;  // Shape1 and InfoText, to be shown in front; empty if the user gave it up
+  ControlList Box;  // shape and text, to be shown in front; empty if the user gave it up
 };
 
-// Opens the box of an icon of the last drawing. `measure` is that of the box's own font. Shape1's
-// tag holds the icon's index and its own width, so that the icon gets them back.
+// Opens the box of an icon of the last drawing. `measure` is that of the box's own font. The
+// shape's subject is the icon as it was, so that it can be restored.
 HoverBox OpenHoverBox(Universe& universe, const CellNames& names, TextSource& texts,
                       const TextMeasure& measure, const MapDrawing& drawing, const Control& icon);
 
 // The box of a hover after a redraw: the same text beside the icon's new place.
 HoverBox MovedHoverBox(const ControlList& box, const Control& icon, const MapDrawing& drawing);
 
-// The icon at the size that the tag of its box keeps for it.
-Control RestoredIcon(Control icon, std::string_view shapeTag);
+// The icon at the size that it had before its box opened.
+Control RestoredIcon(Control icon, const HoveredIcon& hovered);
 
 // Size of a text of several lines, twips.
 struct TextExtent {
@@ -40,6 +40,6 @@ TextExtent MeasureLines(Routine& routine, std::string_view text, const TextMeasu
 
 // Where the box stands: below the icon, or above it in the lower half of the map; flush with the
 // icon's left side, or with its right side where the panel would be in the way.
-Box HoverBoxPlace(const Box& icon, const TextExtent& text, const MapDrawing& drawing);
+TwipRect HoverBoxPlace(const TwipRect& icon, const TextExtent& text, const MapDrawing& drawing);
 
 }  // namespace orrerix

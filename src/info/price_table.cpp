@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "info/price_table.h"
 
+#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -20,7 +21,6 @@ constexpr Color kRowText{0x000000};
 constexpr std::array<Color, kPriceGroups> kGroupBacks = {Color{0xFFC0C0}, Color{0x0000FF},
                                                          Color{0x00C000}};
 constexpr int kEmptyRows = 5;  // heads and air, in rows
-constexpr const char* kTradeTip = "...";
 
 bool IsTrade(const PriceItem& item, StationMode mode) {
   return mode != StationMode::Prices && item.Group != kPriceGroups - 1;
@@ -57,89 +57,14 @@ int FittingFont(std::string_view text, const TextMeasure& measure, int width, in
   const auto share = [](int room, int taken) {
     return taken > 0 ? kSampleFont * room / taken : kSampleFont;
   };
-  int size = MAXI(1, MINI(share(width, measure.TextWidth(text, kSampleFont)),
-                          share(height, measure.TextHeight(text, kSampleFont))));
+  int size = std::max(1, std::min(share(width, measure.TextWidth(text, kSampleFont)),
+                                  share(height, measure.TextHeight(text, kSampleFont))));
   while (size > 1 &&
          (measure.TextWidth(text, size) > width || measure.TextHeight(text, size) > height)) {
     --size;
   }
   return size;
 }
-
-class TableWriter {
- public:
-  TableWriter(Routine& routine, Universe& universe, const TextMeasure& measure,
-              const StationData& data, StationMode mode, const Box& place, ControlList& controls)
-      : routine_(routine),
-        universe_(universe),
-        measure_(measure),
-        data_(data),
-        mode_(mode),
-        place_(place),
-        rowHeight_(
-            WholeTwips(place.Height / (static_cast<double>(data.Prices.size()) + kEmptyRows))),
-        controls_(controls) {}
-
-  void Write(const std::array<std::string, kPriceGroups>& heads) {
-    for (int group = kPriceGroups - 1; group >= 0; --group) {
-      WriteHead(group, heads[static_cast<std::size_t>(group)]);
-      for (const PriceItem& item : data_.Prices) {
-        if (item.Group == group) WriteRow(item);
-      }
-    }
-  }
-
- private:
-  double Top(int group) const {
-    return static_cast<double>(rowHeight_) * (kPriceGroups - 1 - group + row_);
-  }
-
-  void WriteHead(int group, std::string caption) {
-    const Box box{place_.Left, Top(group), place_.Width, static_cast<double>(rowHeight_)};
-    Control& head = AddLabel("PricesHead", group, box, std::move(caption), kHeadBack);
-    head.ForeColor = kHeadText;
-  }
-
-  void WriteRow(const PriceItem& item) {
-    ++row_;
-    const double sixth = place_.Width / 6;
-    const Color back = kGroupBacks[static_cast<std::size_t>(item.Group)];
-    const double top = Top(item.Group);
-    const auto column = [&](double left, double width) {
-      return Box{static_cast<float>(place_.Left + left), top, static_cast<float>(width),
-                 static_cast<double>(rowHeight_)};
-    };
-    Control& name = AddLabel("PricesField0", row_, column(0, sixth * 4),
-                             RowName(routine_, universe_, item, mode_), back);
-    name.Tag = item.Good;
-    if (IsTrade(item, mode_)) name.ToolTip = kTradeTip;
-    AddLabel("PricesField1", row_, column(sixth * 4, sixth), item.Price, back);
-    AddLabel("PricesField2", row_, column(sixth * 5, sixth), item.Difference, back);
-  }
-
-  // A label in the largest font that fits it.
-  Control& AddLabel(const char* name, int index, const Box& box, std::string caption, Color back) {
-    Control label = MakeLabel(name, index, box, std::move(caption));
-    const int width = WholeTwips(box.Width);
-    const int height = WholeTwips(box.Height);
-    label.FontSize =
-        OptFontSize(*label.Caption, measure_, FittingFont(*label.Caption, measure_, width, height),
-                    width, height);
-    label.ForeColor = kRowText;
-    label.BackColor = back;
-    return controls_.emplace_back(std::move(label));
-  }
-
-  Routine& routine_;
-  Universe& universe_;
-  const TextMeasure& measure_;
-  const StationData& data_;
-  StationMode mode_;
-  Box place_;
-  int rowHeight_;
-  int row_ = 0;
-  ControlList& controls_;
-};
 
 }  // namespace
 
@@ -156,10 +81,53 @@ std::vector<std::string> PriceRowNames(Universe& universe, const StationData& da
   return names;
 }
 
-void WritePriceTable(Routine& routine, Universe& universe, const TextMeasure& measure,
-                     const StationData& data, const StationTexts& texts, StationMode mode,
-                     const Box& place, ControlList& controls) {
-  TableWriter(routine, universe, measure, data, mode, place, controls).Write(texts.Heads);
+void PriceTableWriter::Write(const std::vector<PriceItem>& items,
+                             const std::array<std::string, kPriceGroups>& heads,
+                             const TwipRect& place) {
+  place_ = place;
+  rowHeight_ = WholeTwips(place.Height / (static_cast<double>(items.size()) + kEmptyRows));
+  for (int group = kPriceGroups - 1; group >= 0; --group) {
+    tables_.push_back({group, Head(group, heads[static_cast<std::size_t>(group)]), {}});
+    for (const PriceItem& item : items) {
+      if (item.Group != group) continue;
+      ++rows_;
+      tables_.back().Rows.push_back(Row(item));
+    }
+  }
+}
+
+double PriceTableWriter::Top(int group) const {
+  return static_cast<double>(rowHeight_) * (kPriceGroups - 1 - group + rows_);
+}
+
+PriceLabel PriceTableWriter::Head(int group, const std::string& caption) const {
+  const TwipRect box{place_.Left, Top(group), place_.Width, static_cast<double>(rowHeight_)};
+  return Label(box, caption, kHeadText, kHeadBack);
+}
+
+PriceRow PriceTableWriter::Row(const PriceItem& item) const {
+  const double sixth = place_.Width / 6;
+  const Color back = kGroupBacks[static_cast<std::size_t>(item.Group)];
+  const double top = Top(item.Group);
+  const auto column = [&](double left, double width) {
+    return TwipRect{static_cast<float>(place_.Left + left), top, static_cast<float>(width),
+                    static_cast<double>(rowHeight_)};
+  };
+  return {rows_,
+          item.Good,
+          IsTrade(item, mode_),
+          Label(column(0, sixth * 4), RowName(routine_, universe_, item, mode_), kRowText, back),
+          Label(column(sixth * 4, sixth), item.Price, kRowText, back),
+          Label(column(sixth * 5, sixth), item.Difference, kRowText, back)};
+}
+
+PriceLabel PriceTableWriter::Label(const TwipRect& place, std::string caption, Color text,
+                                   Color back) const {
+  const int width = WholeTwips(place.Width);
+  const int height = WholeTwips(place.Height);
+  const int font =
+      OptFontSize(caption, measure_, FittingFont(caption, measure_, width, height), width, height);
+  return {std::move(caption), place, font, text, back};
 }
 
 }  // namespace orrerix

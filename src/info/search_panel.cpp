@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "info/search_panel.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "info/text_info_box.h"
@@ -18,10 +19,6 @@ constexpr int kTextTop = 180;
 constexpr int kTextHeight = 345;
 constexpr int kCloseWidth = 360;  // room beside the text box
 
-double NotBelowZero(double size) {
-  return MAXI(0.0, size);
-}
-
 void SelectFirst(SearchList& list) {
   list.Selected = list.Rows.empty() ? std::nullopt : std::optional<std::size_t>(0);
 }
@@ -31,13 +28,13 @@ std::optional<std::size_t> Neighbour(const SearchList& list, int by) {
   if (list.Rows.empty()) return std::nullopt;
   const auto last = static_cast<std::ptrdiff_t>(list.Rows.size()) - 1;
   const auto from = list.Selected ? static_cast<std::ptrdiff_t>(*list.Selected) : 0;
-  return static_cast<std::size_t>(MINI(last, MAXI<std::ptrdiff_t>(0, from + by)));
+  return static_cast<std::size_t>(std::min(last, std::max<std::ptrdiff_t>(0, from + by)));
 }
 
 }  // namespace
 
 SearchAnswer SearchPanel::Open(const SearchScope& scope, SearchType type) {
-  const Box& map = scope.Drawing.Frame;
+  const TwipRect& map = scope.Drawing.Frame;
   frame_ = {map.Width - kSearchFrameWidth - kFrameRight, kFrameTop, kSearchFrameWidth,
             NotBelowZero(map.Height - kFrameBelow)};
   textBox_ = {kSide, kTextTop, kSearchFrameWidth - 2 * kSide - kCloseWidth, kTextHeight};

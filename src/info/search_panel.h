@@ -75,10 +75,10 @@ class SearchPanel {
   bool TextVisible() const { return textVisible_; }
 
   // Places in twips: of the frame on the map, of the rest within the frame.
-  const Box& Frame() const { return frame_; }
-  const Box& TextBox() const { return textBox_; }
-  const Box& SubSearchBox() const { return subSearchBox_; }
-  const Box& ListBox() const { return listBox_; }
+  const TwipRect& Frame() const { return frame_; }
+  const TwipRect& TextBox() const { return textBox_; }
+  const TwipRect& SubSearchBox() const { return subSearchBox_; }
+  const TwipRect& ListBox() const { return listBox_; }
 
  private:
   SearchAnswer Refresh(const SearchScope& scope);
@@ -91,10 +91,10 @@ class SearchPanel {
   SearchList list_;
   bool subSearchVisible_ = false;
   bool textVisible_ = true;
-  Box frame_;
-  Box textBox_;
-  Box subSearchBox_;
-  Box listBox_;
+  TwipRect frame_;
+  TwipRect textBox_;
+  TwipRect subSearchBox_;
+  TwipRect listBox_;
 };
 
 }  // namespace orrerix

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "info/station_layout.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "info/info_text.h"
-#include "info/price_table.h"
 #include "info/ship_text.h"
 #include "info/text_wrap.h"
 #include "map/numeric.h"
@@ -22,8 +22,8 @@ constexpr int kWrapMargin = 300;  // of the info text
 constexpr Color kText{0x00CCCC};
 constexpr Color kBack{0x400000};
 
-Control InfoText(const Box& place, std::string text) {
-  Control info = MakeLabel("InfoText", std::nullopt, place, std::move(text));
+Control InfoText(const TwipRect& place, std::string text) {
+  Control info = MakeLabel(ControlId::BoxText, std::nullopt, place, std::move(text));
   info.FontSize = kStationText;
   info.ForeColor = kText;
   info.BackColor = kBack;
@@ -37,14 +37,14 @@ struct Room {
 };
 
 Room RoomOf(const StationView& view) {
-  return {MAXI(0, WholeTwips(view.FormWidth - (kStationMargin + kGap))),
-          MAXI(0, WholeTwips(view.FormHeight - kBelow))};
+  return {std::max(0, WholeTwips(view.FormWidth - (kStationMargin + kGap))),
+          std::max(0, WholeTwips(view.FormHeight - kBelow))};
 }
 
 ControlList InfoView(const TextMeasure& measure, const StationView& view) {
   const Room room = RoomOf(view);
-  const Box place{kStationMargin + kGap, 0, static_cast<double>(room.Width),
-                  static_cast<double>(room.Height)};
+  const TwipRect place{kStationMargin + kGap, 0, static_cast<double>(room.Width),
+                       static_cast<double>(room.Height)};
   return {
       InfoText(place, WrapText(view.Data.Info, measure, kStationText, room.Width - kWrapMargin))};
 }
@@ -56,24 +56,24 @@ ControlList ListView(Universe& universe, const Wording& wording, const TextMeasu
   const std::vector<ForSale>& rows = ships ? view.Data.Ships : view.Data.Equipment;
   int widest = 0;
   for (const ForSale& row : rows) {
-    widest = MAXI(widest, measure.TextWidth(row.RealName, kStationText));
+    widest = std::max(widest, measure.TextWidth(row.RealName, kStationText));
   }
   const double listWidth = widest + kListMargin;
   const double frameWidth = 2 * kListLeft + listWidth;
   Control frame =
-      MakeFrame("SearchFrame", std::nullopt,
+      MakeFrame(ControlId::ForSaleFrame, std::nullopt,
                 {kStationMargin, 0, frameWidth, static_cast<double>(room.Height)}, kBack);
   frame.Caption = wording.Texts.Text(ships ? TextId::SelectShip : TextId::SelectEquipment);
   frame.ForeColor = kText;
-  Control list =
-      MakeFrame("SearchList", std::nullopt,
-                {kListLeft, kListTop, listWidth, MAXI(0.0, room.Height - 2.0 * kListTop)}, kBack);
+  Control list = MakeFrame(
+      ControlId::ForSaleList, std::nullopt,
+      {kListLeft, kListTop, listWidth, NotBelowZero(room.Height - 2.0 * kListTop)}, kBack);
   list.FontSize = kStationText;
   list.ForeColor = kText;
   std::string text;
   if (!rows.empty()) text = ForSaleText(universe, wording, view.Mode, rows.front());
-  const Box place{kStationMargin + frameWidth, 0, MAXI(0.0, room.Width - frameWidth),
-                  static_cast<double>(room.Height)};
+  const TwipRect place{kStationMargin + frameWidth, 0, NotBelowZero(room.Width - frameWidth),
+                       static_cast<double>(room.Height)};
   return {std::move(frame), std::move(list), InfoText(place, std::move(text))};
 }
 
@@ -89,30 +89,31 @@ void WriteShipForSale(Routine& routine, Universe& universe, std::string_view pac
 
 }  // namespace
 
-ControlList LayOutStation(Universe& universe, const Wording& wording, const TextMeasure& measure,
-                          const StationView& view) {
-  ControlList controls;
+StationPicture LayOutStation(Universe& universe, const Wording& wording, const TextMeasure& measure,
+                             const StationView& view) {
+  StationPicture picture;
   Routine routine(universe.Log, "StationInfo.Form_Resize", "While resizing objects in Shipinfo");
+  PriceTableWriter tables(routine, universe, measure, view.Mode);
   routine.Run([&] {
     switch (view.Mode) {
       case StationMode::Info:
-        controls = InfoView(measure, view);
+        picture.Controls = InfoView(measure, view);
         return;
       case StationMode::Ships:
       case StationMode::Equipment:
-        controls = ListView(universe, wording, measure, view);
+        picture.Controls = ListView(universe, wording, measure, view);
         return;
       case StationMode::Prices:
       case StationMode::Trades: {
         const Room room = RoomOf(view);
-        const Box place{kStationMargin + kGap, 0, static_cast<double>(room.Width),
-                        static_cast<double>(room.Height)};
-        return WritePriceTable(routine, universe, measure, view.Data, view.Texts, view.Mode, place,
-                               controls);
+        const TwipRect place{kStationMargin + kGap, 0, static_cast<double>(room.Width),
+                             static_cast<double>(room.Height)};
+        return tables.Write(view.Data.Prices, view.Texts.Heads, place);
       }
     }
   });
-  return controls;
+  picture.Prices = tables.Take();
+  return picture;
 }
 
 std::string ForSaleText(Universe& universe, const Wording& wording, StationMode mode,

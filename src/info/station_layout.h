@@ -3,7 +3,9 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
+#include "info/price_table.h"
 #include "info/station_modes.h"
 #include "info/wording.h"
 #include "map/drawing_list.h"
@@ -12,8 +14,8 @@
 namespace orrerix {
 
 // Design values that the views rest on, twips and points.
-inline constexpr int kStationMargin = 1200;  // Image1.Width, the left margin of every view
-inline constexpr int kStationText = 9;       // letters of InfoText and SearchList
+inline constexpr int kStationMargin = 1200;  // left of every view
+inline constexpr int kStationText = 9;       // letters of texts and lists
 
 // What a view needs to know.
 struct StationView {
@@ -24,12 +26,18 @@ struct StationView {
   int FormHeight = 0;
 };
 
-// The controls of a view, back to front: the wrapped info text; the price table; or the list of
-// ships or equipment (its rows are those of the data) beside the text of the first one. All
-// places are twips from the window's top left corner, but that of SearchList, which lies in
-// SearchFrame. A list is filled anew by every lay-out, which selects its first row.
-ControlList LayOutStation(Universe& universe, const Wording& wording, const TextMeasure& measure,
-                          const StationView& view);
+// A view: either the wrapped info text, or the list of ships or equipment (its rows are those of
+// the data) beside the text of the first one, or price tables. All places are twips from the
+// window's top left corner, except that of the list, which lies in its frame.
+struct StationPicture {
+  ControlList Controls;  // back to front
+  std::vector<PriceTable> Prices;
+};
+
+// A list is filled anew by every layout, which selects its first row. If the user cancels, price
+// tables keep the rows that they have so far.
+StationPicture LayOutStation(Universe& universe, const Wording& wording, const TextMeasure& measure,
+                             const StationView& view);
 
 // What the window tells of a row of its list: a ship by its package, equipment by its nickname.
 std::string ForSaleText(Universe& universe, const Wording& wording, StationMode mode,

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "info/text_info_box.h"
 
+#include <algorithm>
+
 #include <fmt/format.h>
 
 #include "info/box_controls.h"
@@ -16,14 +18,9 @@ constexpr int kTextTop = 150;
 int WidestLine(std::string_view text, const TextMeasure& measure) {
   int widest = 0;
   ForEachLine(text, [&](std::string_view line) {
-    widest = MAXI(widest, measure.TextWidth(line, kBoxFont));
+    widest = std::max(widest, measure.TextWidth(line, kBoxFont));
   });
   return widest;
-}
-
-// A length of the text within its box.
-double Inner(double length, int margins) {
-  return MAXI(0.0, length - margins);
 }
 
 }  // namespace
@@ -35,11 +32,11 @@ ControlList ShowTextInfoBox(ErrorLog& log, const std::string& text, const TextMe
                   [&] { return "While showing InfoText: " + text; });
   routine.Run([&] {
     const double room = RoomForBox(drawing);
-    const double width = MINI<double>(WidestLine(text, measure) + kRoomBesideText, room);
-    const Box place{MAXI(0.0, room - width), 0, width, drawing.Frame.Height};
+    const double width = std::min<double>(WidestLine(text, measure) + kRoomBesideText, room);
+    const TwipRect place{NotBelowZero(room - width), 0, width, drawing.Frame.Height};
     box.push_back(BoxShape(place, ShapeForm::Rectangle));
-    box.push_back(BoxText({place.Left + kTextLeft, place.Top + kTextTop, Inner(place.Width, 450),
-                           Inner(place.Height, 300)},
+    box.push_back(BoxText({place.Left + kTextLeft, place.Top + kTextTop,
+                           NotBelowZero(place.Width - 450), NotBelowZero(place.Height - 300)},
                           text));
   });
   return box;

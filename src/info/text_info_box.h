@@ -10,7 +10,7 @@
 namespace orrerix {
 
 // The box with a text: as high as the map, against the panel, as wide as the text's longest line
-// but no wider than the map. Shape1 and InfoText, to be shown in front. `measure` is that of the
+// but no wider than the map. Shape and text, to be shown in front. `measure` is that of the
 // box's own font, which has equal widths.
 ControlList ShowTextInfoBox(ErrorLog& log, const std::string& text, const TextMeasure& measure,
                             const MapDrawing& drawing);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "map/borders.h"
 
+#include <algorithm>
 #include <array>
 
 #include <fmt/format.h>
@@ -14,9 +15,9 @@ namespace {
 enum Piece { TopLeft, Top, TopRight, LeftEdge, RightEdge, BottomLeft, Bottom, BottomRight };
 
 // Natural sizes of the pieces; edges are stretched along their length.
-Box NaturalSize(BorderSet set, int piece) {
+TwipRect NaturalSize(BorderSet set, int piece) {
   const bool large = set == BorderSet::Map || set == BorderSet::InfoBox;
-  const Box corner = large ? Box{0, 0, 315, 315} : Box{0, 0, 225, 240};
+  const TwipRect corner = large ? TwipRect{0, 0, 315, 315} : TwipRect{0, 0, 225, 240};
   switch (piece) {
     case Top:
     case Bottom:
@@ -32,27 +33,27 @@ Box NaturalSize(BorderSet set, int piece) {
 }  // namespace
 
 ControlList BorderPieces(BorderSet set, int left, int top, int right, int bottom) {
-  std::array<Box, kBorderPieces> boxes;
+  std::array<TwipRect, kBorderPieces> boxes;
   for (int k = 0; k < kBorderPieces; ++k) boxes[static_cast<std::size_t>(k)] = NaturalSize(set, k);
-  const auto moveTo = [](Box& box, double x, double y) { box.Left = x, box.Top = y; };
+  const auto moveTo = [](TwipRect& box, double x, double y) { box.Left = x, box.Top = y; };
   moveTo(boxes[TopLeft], left, top);
   moveTo(boxes[TopRight], right - boxes[TopRight].Width, top);
   moveTo(boxes[BottomLeft], left, bottom - boxes[BottomLeft].Height);
   moveTo(boxes[BottomRight], right - boxes[BottomRight].Width, bottom - boxes[BottomRight].Height);
 
   moveTo(boxes[Top], left + boxes[TopLeft].Width, top);
-  boxes[Top].Width = MAXI(0.0, boxes[TopRight].Left - boxes[Top].Left);
+  boxes[Top].Width = NotBelowZero(boxes[TopRight].Left - boxes[Top].Left);
   moveTo(boxes[LeftEdge], left, top + boxes[TopLeft].Height);
-  boxes[LeftEdge].Height = MAXI(0.0, boxes[BottomLeft].Top - top - boxes[TopLeft].Height);
+  boxes[LeftEdge].Height = NotBelowZero(boxes[BottomLeft].Top - top - boxes[TopLeft].Height);
   moveTo(boxes[RightEdge], right - boxes[RightEdge].Width, top + boxes[TopRight].Height);
-  boxes[RightEdge].Height = MAXI(0.0, boxes[BottomRight].Top - boxes[RightEdge].Top);
+  boxes[RightEdge].Height = NotBelowZero(boxes[BottomRight].Top - boxes[RightEdge].Top);
   moveTo(boxes[Bottom], left + boxes[BottomLeft].Width, bottom - boxes[Bottom].Height);
-  boxes[Bottom].Width = MAXI(0.0, boxes[BottomRight].Left - boxes[Bottom].Left);
+  boxes[Bottom].Width = NotBelowZero(boxes[BottomRight].Left - boxes[Bottom].Left);
 
   ControlList pieces;
   const int number = static_cast<int>(set);
   for (int k = 0; k < kBorderPieces; ++k) {
-    pieces.push_back(MakePicture("Rahmen", kBorderPieces * number + k,
+    pieces.push_back(MakePicture(ControlId::Border, kBorderPieces * number + k,
                                  boxes[static_cast<std::size_t>(k)],
                                  fmt::format("rahmen/set{}_{}.png", number, k)));
   }

@@ -15,7 +15,7 @@ inline constexpr int kBorderPieces = 8;
 // Thickness of the edges of every set.
 inline constexpr int kBorderThickness = 60;
 
-// The eight pieces (control `Rahmen`) of a set, fitted into the rectangle between the four sides.
+// The eight pieces of a set, fitted into the rectangle between the four sides.
 // Corners first, then the edges between them; no width or height goes below 0.
 ControlList BorderPieces(BorderSet set, int left, int top, int right, int bottom);
 

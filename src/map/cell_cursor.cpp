@@ -11,12 +11,8 @@ constexpr int kOutlines = 2;  // one within the other
 constexpr int kOutlineGap = 15;
 
 Control CursorLine(int index, LineEnds ends) {
-  Control line;
-  line.Kind = ControlKind::Line;
-  line.Name = "CellCursor";
-  line.Index = index;
+  Control line = MakeLine(ControlId::CellCursor, index, LineKind::CellCursor, kCursorColor);
   line.Ends = ends;
-  line.BorderColor = kCursorColor;
   return line;
 }
 
@@ -45,7 +41,7 @@ ControlList CellCursor::Lines(const CellGeometry& cells, const ZoomRectangle& vi
   ControlList lines;
   const auto cell = Cell(visible);
   if (!cell) return lines;
-  const Box box = cells.CellBox(cell->X, cell->Y);
+  const TwipRect box = cells.CellBox(cell->X, cell->Y);
   for (int i = 0; i < kOutlines; ++i) {
     const double inset = (i + 0.5) * kOutlineGap;
     const auto left = static_cast<float>(box.Left + inset);

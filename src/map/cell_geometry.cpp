@@ -1,22 +1,24 @@
 // SPDX-License-Identifier: MIT
 #include "map/cell_geometry.h"
 
+#include <algorithm>
+
 #include "map/numeric.h"
 
 namespace orrerix {
 
-Box FrameOn(int formWidth, int formHeight) {
-  return {50, 50, static_cast<double>(MAXI(0, formWidth - 200)),
-          static_cast<double>(MAXI(0, formHeight - 550))};
+TwipRect FrameOn(int formWidth, int formHeight) {
+  return {50, 50, static_cast<double>(std::max(0, formWidth - 200)),
+          static_cast<double>(std::max(0, formHeight - 550))};
 }
 
-CellGeometry::CellGeometry(const Box& frame, const ZoomRectangle& visible)
-    : size_(MINI(WholeTwips(frame.Width / visible.Columns()),
-                 WholeTwips(frame.Height / visible.Rows()))),
+CellGeometry::CellGeometry(const TwipRect& frame, const ZoomRectangle& visible)
+    : size_(std::min(WholeTwips(frame.Width / visible.Columns()),
+                     WholeTwips(frame.Height / visible.Rows()))),
       x1_(visible.X1),
       y1_(visible.Y1) {}
 
-Box CellGeometry::CellBox(int x, int y) const {
+TwipRect CellGeometry::CellBox(int x, int y) const {
   return {static_cast<double>(CellLeft(x)), static_cast<double>(CellTop(y)),
           static_cast<double>(size_), static_cast<double>(size_)};
 }

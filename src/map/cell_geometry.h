@@ -11,7 +11,7 @@
 namespace orrerix {
 
 // The frame's place on a form of this outer size (twips); title bar and borders are allowed for.
-Box FrameOn(int formWidth, int formHeight);
+TwipRect FrameOn(int formWidth, int formHeight);
 
 // Place of a point on the frame, twips as 32-bit floats.
 struct ScreenPoint {
@@ -24,12 +24,12 @@ struct ScreenPoint {
 class CellGeometry {
  public:
   CellGeometry() = default;
-  CellGeometry(const Box& frame, const ZoomRectangle& visible);
+  CellGeometry(const TwipRect& frame, const ZoomRectangle& visible);
 
   int CellSize() const { return size_; }
   int CellLeft(int x) const { return size_ * (x - x1_); }
   int CellTop(int y) const { return size_ * (y - y1_); }
-  Box CellBox(int x, int y) const;
+  TwipRect CellBox(int x, int y) const;
 
   // Where a point of a cell stands. The product of size and fraction is formed in double and kept
   // as float.

@@ -21,7 +21,7 @@ void LayTile(MapState& state, std::size_t index, int left, int top) {
 }
 
 // Rows of tiles from the top left corner on, one tile further than the frame reaches.
-void LayTiles(MapState& state, const Box& frame) {
+void LayTiles(MapState& state, const TwipRect& frame) {
   std::size_t index = 0;
   while (state.Tiles[index].Top < frame.Height) {
     while (state.Tiles[index].Left + kTileSize < frame.Width) {
@@ -41,7 +41,7 @@ int LabelFont(const std::string& name, int cellSize, const TextMeasure& measure)
 
 }  // namespace
 
-ControlList BackgroundTiles(MapState& state, const Box& frame) {
+ControlList BackgroundTiles(MapState& state, const TwipRect& frame) {
   if (state.Tiles.empty()) state.Tiles.resize(1);
   state.Tiles[0] = {0, 0, true};
   if (state.Zoom.Current().IsZoomed()) LayTiles(state, frame);
@@ -51,26 +51,25 @@ ControlList BackgroundTiles(MapState& state, const Box& frame) {
     if (state.PrintMode) tile.Visible = false;
     if (!tile.Visible) continue;
     tiles.push_back(MakePicture(
-        "Hintergrund", static_cast<int>(i),
-        {static_cast<double>(tile.Left), static_cast<double>(tile.Top), kTileSize, kTileSize},
-        "Hintergrund"));
+        ControlId::BackgroundTile, static_cast<int>(i),
+        {static_cast<double>(tile.Left), static_cast<double>(tile.Top), kTileSize, kTileSize}));
   }
   return tiles;
 }
 
-Control PaintedUniverse(const Box& frame, const std::string& picture) {
+Control PaintedUniverse(const TwipRect& frame, const std::optional<std::string>& file) {
   const auto height = static_cast<float>(frame.Height);
   const auto width = static_cast<float>(frame.Height / MapMaxY * MapMaxX);
-  return MakePicture("StarMapPic", std::nullopt, {0, 0, width, height}, picture);
+  const TwipRect place{0, 0, width, height};
+  return file ? MakePicture(ControlId::PaintedUniverse, std::nullopt, place, *file)
+              : MakePicture(ControlId::PaintedUniverse, std::nullopt, place);
 }
 
 ControlList SystemPictures(const CellGeometry& cells) {
   ControlList pictures;
   for (int i = 0; i < kSystemPictures; ++i) {
     const MapCell cell = CellOfTag(SystemPictureTag(i));
-    Control picture = MakePicture("SysMapGfx", i, cells.CellBox(cell.X, cell.Y), "SysMapGfx");
-    picture.Tag = SystemPictureTag(i);
-    pictures.push_back(std::move(picture));
+    pictures.push_back(MakePicture(ControlId::SystemPicture, i, cells.CellBox(cell.X, cell.Y)));
   }
   return pictures;
 }
@@ -81,7 +80,7 @@ ControlList Fillers(const CellNames& names, const CellGeometry& cells) {
   for (int x = 0; x <= MapMaxX; ++x) {
     for (int y = 0; y <= MapMaxY; ++y) {
       if (!names.Of({x, y}).empty()) continue;
-      fillers.push_back(MakePicture("Blanko", counter++, cells.CellBox(x, y), "Blanko"));
+      fillers.push_back(MakePicture(ControlId::EmptyCell, counter++, cells.CellBox(x, y)));
     }
   }
   return fillers;
@@ -95,7 +94,7 @@ ControlList SystemLabels(Routine& routine, const MapState& state, const CellGeom
     for (int x = visible.X1; x <= visible.X2; ++x) {
       const std::string& name = state.Names.Of({x, y});
       if (name.empty()) continue;
-      Control label = MakeLabel("SysmapLabel", static_cast<int>(CellNames::Index({x, y})),
+      Control label = MakeLabel(ControlId::SystemLabel, static_cast<int>(CellNames::Index({x, y})),
                                 cells.CellBox(x, y), name);
       label.FontSize = kLargestFont;
       routine.Try([&] { label.FontSize = LabelFont(name, cells.CellSize(), measure); });

@@ -8,10 +8,11 @@
 namespace orrerix {
 
 // Tiles of the background; lays further ones if the map is zoomed.
-ControlList BackgroundTiles(MapState& state, const Box& frame);
+ControlList BackgroundTiles(MapState& state, const TwipRect& frame);
 
-// The painted universe, its size that of the frame and not of the cells.
-Control PaintedUniverse(const Box& frame, const std::string& picture);
+// The painted universe, or the player's own file; its size is that of the frame and not of the
+// cells.
+Control PaintedUniverse(const TwipRect& frame, const std::optional<std::string>& file);
 
 // Pictures of the systems, all of them, wherever they lie.
 ControlList SystemPictures(const CellGeometry& cells);

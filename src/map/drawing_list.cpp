@@ -1,15 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "map/drawing_list.h"
 
+#include <utility>
+
 #include <fmt/format.h>
 
 namespace orrerix {
 namespace {
 
-Control MakeControl(ControlKind kind, std::string name, std::optional<int> index, Box place) {
+Control MakeControl(ControlKind kind, ControlId id, std::optional<int> index, TwipRect place) {
   Control control;
   control.Kind = kind;
-  control.Name = std::move(name);
+  control.Id = id;
   control.Index = index;
   control.Place = place;
   return control;
@@ -21,10 +23,10 @@ std::string Color::Text() const {
   return fmt::format("0x{:06X}", Bgr);
 }
 
-std::optional<Box> PlaceOf(const ControlList& controls, std::string_view name) {
+std::optional<TwipRect> PlaceOf(const ControlList& controls, ControlId id) {
   for (const Control& control : controls) {
-    if (control.Name == name) return control.Place;
-    if (auto inner = PlaceOf(control.Children, name)) {
+    if (control.Id == id) return control.Place;
+    if (auto inner = PlaceOf(control.Children, id)) {
       inner->Left += control.Place.Left;
       inner->Top += control.Place.Top;
       return inner;
@@ -33,20 +35,43 @@ std::optional<Box> PlaceOf(const ControlList& controls, std::string_view name) {
   return std::nullopt;
 }
 
-Control MakePicture(std::string name, std::optional<int> index, Box place, std::string picture) {
-  Control control = MakeControl(ControlKind::Picture, std::move(name), index, place);
+const std::string& IconText(const Control& control) {
+  static const std::string none;
+  if (const auto* object = std::get_if<DockableObject>(&control.Subject)) return object->Nickname;
+  if (const auto* jump = std::get_if<JumpEnd>(&control.Subject)) return jump->Description;
+  return none;
+}
+
+void Append(ControlList& list, ControlList more) {
+  for (Control& control : more) list.push_back(std::move(control));
+}
+
+Control MakeLine(ControlId id, int index, LineKind kind, Color color, LineStyle style) {
+  Control line = MakeControl(ControlKind::Line, id, index, {});
+  line.Line = kind;
+  line.Style = style;
+  line.BorderColor = color;
+  return line;
+}
+
+Control MakePicture(ControlId id, std::optional<int> index, TwipRect place, std::string picture) {
+  Control control = MakeControl(ControlKind::Picture, id, index, place);
   control.Picture = std::move(picture);
   return control;
 }
 
-Control MakeFrame(std::string name, std::optional<int> index, Box place, Color back) {
-  Control control = MakeControl(ControlKind::Frame, std::move(name), index, place);
+Control MakePicture(ControlId id, std::optional<int> index, TwipRect place) {
+  return MakePicture(id, index, place, ObjectName(id));
+}
+
+Control MakeFrame(ControlId id, std::optional<int> index, TwipRect place, Color back) {
+  Control control = MakeControl(ControlKind::Frame, id, index, place);
   control.BackColor = back;
   return control;
 }
 
-Control MakeLabel(std::string name, std::optional<int> index, Box place, std::string caption) {
-  Control control = MakeControl(ControlKind::Label, std::move(name), index, place);
+Control MakeLabel(ControlId id, std::optional<int> index, TwipRect place, std::string caption) {
+  Control control = MakeControl(ControlKind::Label, id, index, place);
   control.Caption = std::move(caption);
   return control;
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "map/gestures.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "map/game_sounds.h"
@@ -13,12 +14,8 @@ constexpr Color kBandColor{0x00FFFF};
 constexpr float kSmallestBand = 50;
 
 Control BandLine(int index, LineEnds ends) {
-  Control line;
-  line.Kind = ControlKind::Line;
-  line.Name = "MouseLine";
-  line.Index = index;
+  Control line = MakeLine(ControlId::RubberBand, index, LineKind::RubberBand, kBandColor);
   line.Ends = ends;
-  line.BorderColor = kBandColor;
   return line;
 }
 
@@ -34,9 +31,9 @@ Stretch TouchedCells(Stretch visible, int highest, double size, double from, dou
                      Origin origin) {
   int first = visible.First;
   int last = visible.Last;
-  while (MINI(from, to) > origin(first) + size && first < highest) ++first;
-  while (MAXI(from, to) < origin(last) && last > first) --last;
-  return {first, MAXI(last, first)};
+  while (std::min(from, to) > origin(first) + size && first < highest) ++first;
+  while (std::max(from, to) < origin(last) && last > first) --last;
+  return {first, std::max(last, first)};
 }
 
 }  // namespace

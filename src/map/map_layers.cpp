@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "map/map_layers.h"
 
+#include <algorithm>
 #include <cmath>
 #include <string_view>
 #include <utility>
@@ -51,17 +52,6 @@ float ScreenY(const CellGeometry& cells, Recordset& row, const PlaceFields& fiel
   return RequireFinite(cells.ScreenY(RequireCell(row, fields), row[fields.PosY].RequireNumber()));
 }
 
-Control MakeLine(int index, LineStyle style, Color color) {
-  Control line;
-  line.Kind = ControlKind::Line;
-  line.Name = "Line1";
-  line.Index = index;
-  line.Style = style;
-  line.BorderColor = color;
-  line.Tag = "";
-  return line;
-}
-
 // A place that the row does not tell, or one beyond the grid, is a failure of each statement that
 // uses it.
 void PlaceEnds(Routine& routine, const CellGeometry& cells, Recordset& row, Control& line) {
@@ -75,35 +65,43 @@ void PlaceEnds(Routine& routine, const CellGeometry& cells, Recordset& row, Cont
 Control MakeIcon(Routine& routine, int index, const CellGeometry& cells,
                  const ZoomRectangle& visible, Recordset& row, const PlaceFields& fields,
                  std::string picture) {
-  const auto size = static_cast<float>(MAXI(40.0, 200.0 / visible.Columns()));
+  const auto size = static_cast<float>(std::max(40.0, 200.0 / visible.Columns()));
   ScreenPoint point;
   routine.Try([&] { point.X = ScreenX(cells, row, fields); });
   routine.Try([&] { point.Y = ScreenY(cells, row, fields); });
   const double half = size / 2.0;
-  const Box box{static_cast<float>(point.X - half), static_cast<float>(point.Y - half), size, size};
-  Control icon = MakePicture("Image1", index, box, std::move(picture));
-  icon.Tag = "";
+  const TwipRect box{static_cast<float>(point.X - half), static_cast<float>(point.Y - half), size,
+                     size};
+  Control icon = MakePicture(ControlId::MapIcon, index, box, std::move(picture));
   icon.Bordered = true;
   icon.BorderColor = kIconBorder;
   return icon;
 }
 
-std::string LineTag(Recordset& row, const CellNames& names) {
+ConnectedPlaces SystemsOf(Recordset& row, const CellNames& names) {
   const std::string& from = names.Of(RequireCell(row, kFrom));
-  return from + " <-> " + names.Of(RequireCell(row, kTo));
+  return {from, names.Of(RequireCell(row, kTo))};
 }
 
 // What the hover box of a jump icon shows: its kind, where it is and where it leads.
-std::string JumpTag(Universe& universe, const CellNames& names, Recordset& row,
+JumpEnd DescribeEnd(Universe& universe, const CellNames& names, Recordset& row,
                     const PlaceFields& here, const PlaceFields& there) {
   const auto coords = [&](const PlaceFields& fields) {
     return CoordsToMapCoords(universe.Log, names, CellOf(row, fields),
                              {row[fields.PosX].RequireNumber(), row[fields.PosY].RequireNumber()});
   };
-  std::string tag = row["Type"].Get().Number() == kJumpHole ? "\r\n  Jumphole" : "\r\n  Jumpgate";
-  tag += "\r\n  " + coords(here) + " TO";
-  tag += "\r\n  " + coords(there);
-  return tag;
+  std::string text = row["Type"].Get().Number() == kJumpHole ? "\r\n  Jumphole" : "\r\n  Jumpgate";
+  text += "\r\n  " + coords(here) + " TO";
+  text += "\r\n  " + coords(there);
+  return {std::move(text)};
+}
+
+Control MakeJumpLine(int index, int type, bool inPrint) {
+  if (type == kJumpHole) {
+    return MakeLine(ControlId::MapLine, index, LineKind::JumpHole, kHoleLine, LineStyle::Dotted);
+  }
+  return MakeLine(ControlId::MapLine, index, LineKind::JumpGate,
+                  inPrint ? kGateLineInPrint : kGateLine);
 }
 
 bool IsLineOn(int type, const MapOptions& options) {
@@ -122,10 +120,8 @@ void AddJumpConnections(Routine& routine, Universe& universe, const MapState& st
        !nodes.AtEnd(); nodes.MoveNext()) {
     const auto type = static_cast<int>(nodes["Type"].Get().Number());
     if (IsLineOn(type, options)) {
-      const Color gate = state.PrintMode ? kGateLineInPrint : kGateLine;
-      Control line = MakeLine(counters.Line++, static_cast<LineStyle>(type),
-                              type == kJumpHole ? kHoleLine : gate);
-      routine.Try([&] { line.Tag = LineTag(nodes, state.Names); });
+      Control line = MakeJumpLine(counters.Line++, type, state.PrintMode);
+      routine.Try([&] { line.Subject = SystemsOf(nodes, state.Names); });
       PlaceEnds(routine, cells, nodes, line);
       layers.Lines.push_back(std::move(line));
     }
@@ -134,7 +130,8 @@ void AddJumpConnections(Routine& routine, Universe& universe, const MapState& st
     for (const PlaceFields* here : {&kFrom, &kTo}) {
       const PlaceFields& there = here == &kFrom ? kTo : kFrom;
       Control icon = MakeIcon(routine, counters.Image++, cells, visible, nodes, *here, picture);
-      routine.Try([&] { icon.Tag = JumpTag(universe, state.Names, nodes, *here, there); });
+      icon.Subject = JumpEnd{};
+      routine.Try([&] { icon.Subject = DescribeEnd(universe, state.Names, nodes, *here, there); });
       layers.Icons.push_back(std::move(icon));
     }
   }
@@ -144,8 +141,8 @@ void AddTradeLaneLines(Routine& routine, Universe& universe, const CellGeometry&
                        ElementCounters& counters, ControlList& lines) {
   for (Recordset lanes = universe.DB.OpenRecordset(routine, "SELECT * from TradeLanes");
        !lanes.AtEnd(); lanes.MoveNext()) {
-    Control line = MakeLine(counters.Line++, LineStyle::Solid, kLaneLine);
-    line.Tag = lanes["realname"].Get().Text() + " <-> " + lanes["realname2"].Get().Text();
+    Control line = MakeLine(ControlId::MapLine, counters.Line++, LineKind::TradeLane, kLaneLine);
+    line.Subject = ConnectedPlaces{lanes["realname"].Get().Text(), lanes["realname2"].Get().Text()};
     PlaceEnds(routine, cells, lanes, line);
     lines.push_back(std::move(line));
   }
@@ -162,7 +159,7 @@ void AddObjectIcons(Routine& routine, Universe& universe, const MapState& state,
        !objects.AtEnd(); objects.MoveNext()) {
     const std::string picture(ObjectPicture(objects["loadout"].Get().Text()));
     Control icon = MakeIcon(routine, counters.Image++, cells, visible, objects, kPlace, picture);
-    icon.Tag = objects["nickname"].Get().Text();
+    icon.Subject = DockableObject{objects["nickname"].Get().Text()};
     icons.push_back(std::move(icon));
   }
 }

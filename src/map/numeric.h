@@ -9,20 +9,9 @@
 
 namespace orrerix {
 
-// The smaller of two numbers, the first when they are equal.
-template <typename Number>
-constexpr Number MINI(Number a, Number b) {
-  return b < a ? b : a;
-}
-
-// The greater of two numbers: MAXI the first when they are equal, MAX the second.
-template <typename Number>
-constexpr Number MAXI(Number a, Number b) {
-  return b > a ? b : a;
-}
-template <typename Number>
-constexpr Number MAX(Number a, Number b) {
-  return a > b ? a : b;
+// A size that may have come out negative; 0 then.
+inline double NotBelowZero(double size) {
+  return std::max(0.0, size);
 }
 
 // A place or size as a whole number of twips, rounded to nearest, ties to even, and kept within 32

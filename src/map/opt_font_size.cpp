@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "map/opt_font_size.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdlib>
 
@@ -14,7 +15,7 @@ constexpr int kLargestSize = 32767;
 
 // Half a step, rounded down, but at least 1.
 int HalfStep(int step) {
-  return MAXI(1, static_cast<int>(std::floor(step / 2.0)));
+  return std::max(1, static_cast<int>(std::floor(step / 2.0)));
 }
 
 // Walks in steps until a step of one down ends at a size that fits.
@@ -25,7 +26,7 @@ int SearchSize(const Fits& fits, int size, int firstStep) {
   int step = up ? firstStep : -firstStep;
   while (true) {
     if (size + step > kLargestSize) return size;  // a text without width fits any size
-    size = MAXI(1, size + step);
+    size = std::max(1, size + step);
     if (fits(size)) {
       if (step == -1) return size;
       step = up ? std::abs(step) : HalfStep(step);
@@ -51,7 +52,7 @@ int OptFontSize(std::string_view text, const TextMeasure& measure, int size, int
     return measure.TextWidth(text, points) <= maxWidth &&
            measure.TextHeight(text, points) <= maxHeight;
   };
-  return SearchSize(fits, size, MAXI(1, static_cast<int>(RoundToEven(size / 2.0))));
+  return SearchSize(fits, size, std::max(1, static_cast<int>(RoundToEven(size / 2.0))));
 }
 
 }  // namespace orrerix

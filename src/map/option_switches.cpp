@@ -26,12 +26,12 @@ MapOptions ReadMapOptions(Settings& settings, bool zoomed) {
   return options;
 }
 
-bool OptionSwitches::ShowOptionsLabelMouseMove(bool searchPanelOpen) {
+bool OptionSwitches::UnfoldOptions(bool searchPanelOpen) {
   if (searchPanelOpen) return false;
   return !std::exchange(state_.OptionsOpen, true);
 }
 
-SwitchAnswer OptionSwitches::SetImageClick(int which, const MapOptions& shown) {
+SwitchAnswer OptionSwitches::ToggleSwitch(int which, const MapOptions& shown) {
   SwitchAnswer answer;
   Routine routine(log_, "OrrerixMain.SetImage_Click", IndexText(which));
   routine.Run([&] {
@@ -50,11 +50,11 @@ SwitchAnswer OptionSwitches::SetImageClick(int which, const MapOptions& shown) {
   return answer;
 }
 
-SwitchAnswer OptionSwitches::SetLabelClick(int which, const MapOptions& shown) {
+SwitchAnswer OptionSwitches::ActivateOptionLabel(int which, const MapOptions& shown) {
   SwitchAnswer answer;
   Routine routine(log_, "OrrerixMain.SetLabel_Click", IndexText(which));
   routine.Run(
-      [&] { answer = which == kLanguageLabel ? NextLanguage() : SetImageClick(which, shown); });
+      [&] { answer = which == kLanguageLabel ? NextLanguage() : ToggleSwitch(which, shown); });
   return answer;
 }
 

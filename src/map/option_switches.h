@@ -38,14 +38,14 @@ class OptionSwitches {
 
   // The mouse touches the panel's caption: the options unfold, unless the search panel is open.
   // True if the map is to be redrawn.
-  bool ShowOptionsLabelMouseMove(bool searchPanelOpen);
+  bool UnfoldOptions(bool searchPanelOpen);
 
   // Turns a switch over, from what the panel shows, in the set of the current view. The sound comes
   // first, then the setting is written; the objects on the map are unloaded.
-  SwitchAnswer SetImageClick(int which, const MapOptions& shown);
+  SwitchAnswer ToggleSwitch(int which, const MapOptions& shown);
 
   // The same for a click on the switch's caption; the language's label goes to the next language.
-  SwitchAnswer SetLabelClick(int which, const MapOptions& shown);
+  SwitchAnswer ActivateOptionLabel(int which, const MapOptions& shown);
 
  private:
   SwitchAnswer NextLanguage();

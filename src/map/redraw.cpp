@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "map/redraw.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "map/borders.h"
@@ -19,17 +20,13 @@ constexpr Color kPanelText{0x0000FF};
 constexpr int kBorderMargin = 100;
 constexpr int kUniverseMargin = 20;
 
-double NotBelowZero(double size) {
-  return MAXI(0.0, size);
-}
-
 // Where the panel stands when the map is shown for the first time, as the whole grid. A form that
 // leaves no room at the right of it counts as if it did.
-Box FirstPanelPlace(const Box& frame) {
+TwipRect FirstPanelPlace(const TwipRect& frame) {
   const ZoomRectangle grid;
   const double cells = grid.Columns() * CellGeometry(frame, grid).CellSize();
   const double width =
-      MINI(frame.Width, MAXI(kNarrowestPanel, frame.Width - cells - kBorderMargin));
+      std::min(frame.Width, std::max(kNarrowestPanel, frame.Width - cells - kBorderMargin));
   return {frame.Width - width, 0, width, frame.Height};
 }
 
@@ -69,10 +66,6 @@ class Redraw {
  private:
   const ZoomRectangle& Visible() const { return state_.Zoom.Current(); }
 
-  static void Append(ControlList& list, ControlList more) {
-    for (Control& control : more) list.push_back(std::move(control));
-  }
-
   // The elements placed now in front of those from before that they do not replace.
   static ControlList Over(ControlList before, ControlList placed) {
     const int last = placed.empty() ? 0 : placed.back().Index.value_or(0);
@@ -107,8 +100,8 @@ class Redraw {
   }
 
   void ShowPaintedUniverse() {
-    painted_ = {PaintedUniverse(drawing_.Frame, view_.StarMapPicture)};
-    const Box& universe = painted_.front().Place;
+    painted_ = {PaintedUniverse(drawing_.Frame, view_.StarMapFile)};
+    const TwipRect& universe = painted_.front().Place;
     border_ =
         SetRahmen(universe_.Log, BorderSet::Map, universe.Width + kUniverseMargin, universe.Height);
   }
@@ -120,7 +113,7 @@ class Redraw {
   }
 
   void PlacePanel() {
-    const Box& frame = drawing_.Frame;
+    const TwipRect& frame = drawing_.Frame;
     const int cell = drawing_.Cells.CellSize();
     drawing_.FreeRight = WholeTwips(frame.Width - Visible().Columns() * cell - kBorderMargin);
     drawing_.FreeBelow = WholeTwips(frame.Height - Visible().Rows() * cell);
@@ -140,7 +133,7 @@ class Redraw {
   void LayOutPanel() {
     const PanelView view{universe_.Log,      view_.Panel,      view_.Options,
                          state_.OptionsOpen, state_.PrintMode, view_.Measure};
-    Control panel = MakeFrame("MenuFrame", 0, drawing_.PanelBox, kPanelBack);
+    Control panel = MakeFrame(ControlId::PanelFrame, 0, drawing_.PanelBox, kPanelBack);
     panel.ForeColor = kPanelText;
     SidePanel content;
     if (drawing_.Panel == PanelPlace::Right) {

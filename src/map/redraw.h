@@ -24,7 +24,7 @@ struct MapTile {
   bool Visible = false;
 };
 
-// The elements of the arrays Line1 and Image1, back to front.
+// The lines and icons of the map, back to front.
 struct MapObjects {
   ControlList Lines;
   ControlList Icons;
@@ -37,7 +37,7 @@ struct MapState {
   std::vector<MapTile> Tiles;
   MapObjects Objects;        // as the last redraw left them
   bool BorderShown = false;  // the map's border, by the last redraw that got that far
-  std::optional<Box>
+  std::optional<TwipRect>
       PanelAtRight;  // where the panel stood on the screen when it was last at the right
   bool PrintMode = false;
   bool OptionsOpen = false;
@@ -50,13 +50,13 @@ struct MapView {
   MapOptions Options;
   const TextMeasure& Measure;
   const PanelContent& Panel;
-  std::string StarMapPicture = "StarMapPic";  // or the file that replaces it
+  std::optional<std::string> StarMapFile = std::nullopt;  // in the place of the painted universe
 };
 
 enum class PanelPlace { None, Right, Below };
 
 struct MapDrawing {
-  Box Frame;
+  TwipRect Frame;
   Color FrameColor;
   bool PrintMode = false;  // on white paper
   bool Zoomed = false;
@@ -64,7 +64,7 @@ struct MapDrawing {
   int FreeRight = 0;  // twips beside the shown cells
   int FreeBelow = 0;
   PanelPlace Panel = PanelPlace::None;
-  Box PanelBox;  // MenuFrame(0)
+  TwipRect PanelBox;
   bool NewsScrolls = false;
   ControlList Controls;  // visible children of the frame, back to front
 };

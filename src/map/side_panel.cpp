@@ -5,7 +5,6 @@
 
 #include <fmt/format.h>
 
-#include "db/number_text.h"
 #include "map/borders.h"
 #include "map/numeric.h"
 #include "map/opt_font_size.h"
@@ -32,7 +31,7 @@ constexpr int kInnerLeft = 40;     // of the frames within the panel
 constexpr int kInnerRight = 20;
 constexpr int kCheckSize = 225;
 constexpr int kCheckLeft = 120;
-constexpr Box kOptionLabel{0, 0, 1095, 495};
+constexpr TwipRect kOptionLabel{0, 0, 1095, 495};
 constexpr int kShowOptionsHeight = 495;
 constexpr int kNewsHeight = 270;
 constexpr int kSloganFont = 10;
@@ -40,31 +39,24 @@ constexpr int kCreditFont = 8;
 constexpr int kNewsFont = 9;
 constexpr int kOptionFont = 8;
 
-// Design height and width of the head band, as its control carries them.
-constexpr std::string_view kHeadBandTag = "615,8115";
+// Design size of the head band; only the ratio counts.
+constexpr double kHeadBandHeight = 615;
+constexpr double kHeadBandWidth = 8115;
 
 constexpr std::array<const char*, kTools> kToolPictures = {
     "tools/search_place.svg", "tools/search_ship.svg", "tools/search_equipment.svg",
     "tools/search_bribe.svg", "tools/print.svg"};
 
-double NotBelowZero(double size) {
-  return MAXI(0.0, size);
-}
-
-Box WithSize(double left, double top, double width, double height) {
+TwipRect WithSize(double left, double top, double width, double height) {
   return {left, top, NotBelowZero(width), NotBelowZero(height)};
 }
 
-Control Label(std::string name, std::optional<int> index, Box place, std::string caption,
+Control Label(ControlId id, std::optional<int> index, TwipRect place, std::string caption,
               int fontSize, Color color) {
-  Control label = MakeLabel(std::move(name), index, place, std::move(caption));
+  Control label = MakeLabel(id, index, place, std::move(caption));
   label.FontSize = fontSize;
   label.ForeColor = color;
   return label;
-}
-
-void Append(ControlList& list, ControlList more) {
-  for (Control& control : more) list.push_back(std::move(control));
 }
 
 ControlList Border(const PanelView& view, BorderSet set, double right, double bottom) {
@@ -73,8 +65,8 @@ ControlList Border(const PanelView& view, BorderSet set, double right, double bo
 }
 
 // Fits a picture of the logo's proportions into a room, as wide as it can be.
-Box FitLogo(const PanelContent& content, double width, double mostHeight) {
-  Box logo = WithSize(0, 0, width, 0);
+TwipRect FitLogo(const PanelContent& content, double width, double mostHeight) {
+  TwipRect logo = WithSize(0, 0, width, 0);
   logo.Height = logo.Width / content.LogoWidth * content.LogoHeight;
   if (mostHeight < logo.Height) {
     logo.Height = NotBelowZero(mostHeight);
@@ -87,27 +79,27 @@ ControlList NewsLabels(const PanelContent& content, double width, double top) {
   ControlList labels;
   for (std::size_t i = 0; i < content.News.size(); ++i) {
     const NewsItem& item = content.News[i];
-    Control label = Label("InfoBoxLabel", static_cast<int>(i),
+    Control label = Label(ControlId::NewsLabel, static_cast<int>(i),
                           {0, top + static_cast<double>(i) * kNewsHeight, width, kNewsHeight},
                           item.Caption, kNewsFont, kNewsText);
     label.ToolTip = item.ToolTip;
-    label.Tag = item.Link;
+    label.Subject = NewsLink{item.Link};
     labels.push_back(std::move(label));
   }
   return labels;
 }
 
-Control Logo(const PanelContent& content, Box place) {
-  Control logo = MakePicture("ImageClan", std::nullopt, place, "logo.png");
+Control Logo(const PanelContent& content, TwipRect place) {
+  Control logo = MakePicture(ControlId::Logo, std::nullopt, place, "logo.png");
   logo.ToolTip = content.LogoTip;
   return logo;
 }
 
 // The row of tool icons with its border.
-ControlList Tools(const Box& panel, int iconSize, const PanelView& view) {
+ControlList Tools(const TwipRect& panel, int iconSize, const PanelView& view) {
   ControlList tools;
   for (int i = 0; i < kTools; ++i) {
-    Control tool = MakePicture("StationSearch", i,
+    Control tool = MakePicture(ControlId::Tool, i,
                                {static_cast<double>(i * iconSize + 50), 50,
                                 static_cast<double>(iconSize), static_cast<double>(iconSize)},
                                kToolPictures[static_cast<std::size_t>(i)]);
@@ -132,29 +124,30 @@ ControlList Switches(double frameWidth, double top, const PanelContent& content,
     const double left = twoColumns && i % 2 == 1 ? secondLeft : kCheckLeft;
     const double rowTop = top + row * kOptionLabel.Height;
     const bool on = options.On[static_cast<std::size_t>(i)];
-    Control check = MakePicture("SetImage", i, {left, rowTop, kCheckSize, kCheckSize},
+    Control check = MakePicture(ControlId::OptionSwitch, i, {left, rowTop, kCheckSize, kCheckSize},
                                 on ? "tools/check_on.svg" : "tools/check_off.svg");
-    check.Tag = on ? "1" : "0";
+    check.Subject = SwitchState{on};
     switches.push_back(std::move(check));
-    switches.push_back(
-        Label("SetLabel", i, {left + kCheckSize, rowTop, kOptionLabel.Width, kOptionLabel.Height},
-              content.Options[static_cast<std::size_t>(i)], kOptionFont, kOptionText));
+    switches.push_back(Label(ControlId::OptionLabel, i,
+                             {left + kCheckSize, rowTop, kOptionLabel.Width, kOptionLabel.Height},
+                             content.Options[static_cast<std::size_t>(i)], kOptionFont,
+                             kOptionText));
   }
   return switches;
 }
 
-Control OptionsFrame(const Box& panel, double top, const PanelView& view) {
+Control OptionsFrame(const TwipRect& panel, double top, const PanelView& view) {
   const PanelContent& content = view.Content;
   const double width = NotBelowZero(panel.Width - kInnerLeft - kInnerRight);
-  const Box caption{0, kBorderThickness, width, kShowOptionsHeight};
+  const TwipRect caption{0, kBorderThickness, width, kShowOptionsHeight};
   const double switchesTop = caption.Bottom() + 2 * kBorderThickness;
-  Control frame = MakeFrame("MenuFrame", 1, {kInnerLeft, top, width, switchesTop}, kBack);
+  Control frame = MakeFrame(ControlId::PanelFrame, 1, {kInnerLeft, top, width, switchesTop}, kBack);
   frame.Caption = "Show - Options";
   frame.ForeColor = kText;
-  frame.Children.push_back(Label("ShowOptionsLabel", std::nullopt, caption, content.ShowOptions,
-                                 kNewsFont, kOptionText));
+  frame.Children.push_back(Label(ControlId::OptionsCaption, std::nullopt, caption,
+                                 content.ShowOptions, kNewsFont, kOptionText));
   frame.Children.push_back(
-      Label("SetLabel", kLanguageLabel,
+      Label(ControlId::OptionLabel, kLanguageLabel,
             {caption.Right() - kOptionLabel.Width, caption.Bottom() - kOptionLabel.Height,
              kOptionLabel.Width, kOptionLabel.Height},
             content.Options[kLanguageLabel], kOptionFont, kOptionText));
@@ -174,22 +167,22 @@ struct InfoBoxFoot {
   Control Credit;
 };
 
-InfoBoxFoot FootOf(const Box& box, const PanelContent& content, const TextMeasure& measure) {
+InfoBoxFoot FootOf(const TwipRect& box, const PanelContent& content, const TextMeasure& measure) {
   const int width = WholeTwips(box.Width);
   const int sloganFont = OptFontSize(content.Slogan, measure, kSloganFont, width);
   const int creditFont =
       OptFontSize(content.Credit, measure, kCreditFont, WholeTwips(box.Width / 2));
   InfoBoxFoot foot{
-      Label("WRTP", 0,
+      Label(ControlId::InfoBoxLine, 0,
             {0, 0, box.Width, static_cast<double>(measure.TextHeight(content.Slogan, sloganFont))},
             content.Slogan, sloganFont, kText),
       Logo(content, FitLogo(content, box.Width, 0)),
-      Label("WRTP", 1,
+      Label(ControlId::InfoBoxLine, 1,
             {0, 0, box.Width, static_cast<double>(measure.TextHeight(content.Credit, creditFont))},
             content.Credit, creditFont, kCreditText)};
   foot.Slogan.BackColor = kBack;
   foot.Slogan.ToolTip = content.SloganTip;
-  Box& logo = foot.LogoPicture.Place;
+  TwipRect& logo = foot.LogoPicture.Place;
   logo = FitLogo(content, box.Width, box.Height - 1000 - foot.Slogan.Place.Height);
   if (logo.Width < box.Width) logo.Left = box.Width / 2 - logo.Width / 2;
   foot.Credit.Place.Top = NotBelowZero(box.Height - foot.Credit.Place.Height - 50);
@@ -203,31 +196,30 @@ struct InfoBox {
   bool NewsScrolls = false;
 };
 
-Control InfoFrame(const Box& box) {
-  Control frame = MakeFrame("MenuFrame", 2, box, kBack);
+Control InfoFrame(const TwipRect& box) {
+  Control frame = MakeFrame(ControlId::PanelFrame, 2, box, kBack);
   frame.Caption = "Infobox";
   frame.ForeColor = kText;
   return frame;
 }
 
-InfoBox MakeInfoBox(const Box& panel, double top, const PanelView& view) {
+InfoBox MakeInfoBox(const TwipRect& panel, double top, const PanelView& view) {
   const PanelContent& content = view.Content;
   InfoBox info;
-  const Box box =
+  const TwipRect box =
       WithSize(kInnerLeft, top, panel.Width - kInnerLeft - kInnerRight, panel.Height - top);
   info.Frame = InfoFrame(box);
   InfoBoxFoot foot = FootOf(box, content, view.Measure);
   const double sloganTop = foot.Slogan.Place.Top;
 
-  const double bandHeight = box.Width / Val(kHeadBandTag.substr(4)) * Val(kHeadBandTag);
-  const Box background =
+  const double bandHeight = box.Width / kHeadBandWidth * kHeadBandHeight;
+  const TwipRect background =
       WithSize(kBorderThickness, kBorderThickness, box.Width - 2 * kBorderThickness,
                sloganTop - kBorderThickness - kBorderThickness);
   ControlList& children = info.Frame.Children;
-  children.push_back(MakePicture("ITACImage", 1, background, "itac_background.jpg"));
-  children.push_back(
-      MakePicture("ITACImage", 0, {0, kBorderThickness, box.Width, bandHeight}, "itac_head.png"));
-  children.back().Tag = kHeadBandTag;
+  children.push_back(MakePicture(ControlId::InfoBoxPicture, 1, background, "itac_background.jpg"));
+  children.push_back(MakePicture(ControlId::InfoBoxPicture, 0,
+                                 {0, kBorderThickness, box.Width, bandHeight}, "itac_head.png"));
   Append(children, NewsLabels(content, box.Width, kBorderThickness + bandHeight));
   info.NewsScrolls = !content.News.empty() && children.back().Place.Bottom() > sloganTop;
   Append(children, Border(view, BorderSet::InfoBox, box.Width, sloganTop));
@@ -237,13 +229,13 @@ InfoBox MakeInfoBox(const Box& panel, double top, const PanelView& view) {
   return info;
 }
 
-int IconSize(const Box& panel) {
-  return MAXI(0, WholeTwips((panel.Width - kToolsMargin) / kTools));
+int IconSize(const TwipRect& panel) {
+  return std::max(0, WholeTwips((panel.Width - kToolsMargin) / kTools));
 }
 
 // The tools with the options below them, which come last.
 ControlList ToolsAndOptions(double width, const PanelView& view) {
-  const Box panel{0, 0, width, 0};
+  const TwipRect panel{0, 0, width, 0};
   const int iconSize = IconSize(panel);
   ControlList controls = Tools(panel, iconSize, view);
   controls.push_back(OptionsFrame(panel, iconSize + kToolsMargin, view));
@@ -252,19 +244,19 @@ ControlList ToolsAndOptions(double width, const PanelView& view) {
 
 // The width at which tools and folded options are no higher than the panel, if they can be. They
 // keep it while the options are unfolded, so that these do not move away from the mouse.
-double FittingWidth(const Box& panel, double width, PanelView view) {
+double FittingWidth(const TwipRect& panel, double width, PanelView view) {
   view.OptionsOpen = false;
-  const Box options = ToolsAndOptions(width, view).back().Place;
+  const TwipRect options = ToolsAndOptions(width, view).back().Place;
   if (options.Bottom() <= panel.Height) return width;
   const double iconSize = panel.Height - options.Height - kToolsMargin;
-  return MINI(width, MAXI(kNarrowestPanel, kTools * iconSize + kToolsMargin));
+  return std::min(width, std::max(kNarrowestPanel, kTools * iconSize + kToolsMargin));
 }
 
-Control InfoFrameBelow(const Box& panel, const PanelContent& content) {
-  const Box box = WithSize(0, 0, panel.Width, panel.Height);
+Control InfoFrameBelow(const TwipRect& panel, const PanelContent& content) {
+  const TwipRect box = WithSize(0, 0, panel.Width, panel.Height);
   Control frame = InfoFrame(box);
   Append(frame.Children, NewsLabels(content, box.Width, 0));
-  Box logo = FitLogo(content, NotBelowZero(box.Width - 100), box.Height - 100);
+  TwipRect logo = FitLogo(content, NotBelowZero(box.Width - 100), box.Height - 100);
   logo.Left = NotBelowZero(box.Width - logo.Width) - 50;
   logo.Top = NotBelowZero(box.Height - logo.Height) - 50;
   frame.Children.push_back(Logo(content, logo));
@@ -290,7 +282,7 @@ PanelContent PanelTexts(TextSource& texts) {
   return content;
 }
 
-SidePanel LayOutPanelRight(const Box& panel, const PanelView& view) {
+SidePanel LayOutPanelRight(const TwipRect& panel, const PanelView& view) {
   SidePanel laidOut;
   laidOut.Controls = ToolsAndOptions(panel.Width, view);
   Control optionsFrame = std::move(laidOut.Controls.back());
@@ -302,14 +294,14 @@ SidePanel LayOutPanelRight(const Box& panel, const PanelView& view) {
   return laidOut;
 }
 
-SidePanel LayOutPanelBelow(const Box& panel, const Box& atRight, const PanelView& view) {
-  const double width = FittingWidth(panel, MINI(atRight.Width, panel.Width), view);
+SidePanel LayOutPanelBelow(const TwipRect& panel, const TwipRect& atRight, const PanelView& view) {
+  const double width = FittingWidth(panel, std::min(atRight.Width, panel.Width), view);
   ControlList inFront = ToolsAndOptions(width, view);
   SidePanel laidOut;
   const double missing = inFront.back().Place.Bottom() - panel.Height;
   if (missing > 0) {
     laidOut.Overhangs = true;
-    const double up = MINI(missing, panel.Top);
+    const double up = std::min(missing, panel.Top);
     for (Control& control : inFront) control.Place.Top -= up;
   }
   laidOut.Controls.push_back(InfoFrameBelow(panel, view.Content));

@@ -23,13 +23,13 @@ struct NewsItem {
 
 // What the panel shows, in the language in use.
 struct PanelContent {
-  std::array<std::string, 7> Options;  // SetLabel(0) to (6)
+  std::array<std::string, 7> Options;  // of the switches, and the language
   std::string ShowOptions;
-  std::string Slogan;  // WRTP(0)
+  std::string Slogan;  // above the logo
   std::string SloganTip;
-  std::string Credit;  // WRTP(1)
+  std::string Credit;  // below it
   std::string LogoTip;
-  std::array<std::string, 5> ToolTips;  // StationSearch(0) to (4)
+  std::array<std::string, 5> ToolTips;  // of the tools
   std::vector<NewsItem> News;           // element 0 is the program's own
   double LogoWidth = 4;                 // natural size of the logo, in any unit
   double LogoHeight = 1;
@@ -49,14 +49,14 @@ struct PanelView {
 };
 
 struct SidePanel {
-  ControlList Controls;      // children of MenuFrame(0), back to front
+  ControlList Controls;      // children of the panel's frame, back to front
   bool NewsScrolls = false;  // the news does not fit
   bool Overhangs = false;    // tools and options reach over the panel's upper edge
 };
 
-// Lays out the panel at the map's right. `panel` is the place of MenuFrame(0) on the map frame. No
+// Lays out the panel at the map's right. `panel` is the place of its frame on the map frame. No
 // width or height goes below 0. The captions of the frames are covered by what stands in them.
-SidePanel LayOutPanelRight(const Box& panel, const PanelView& view);
+SidePanel LayOutPanelRight(const TwipRect& panel, const PanelView& view);
 
 // The narrowest panel, twips, in which the tools can still be hit.
 inline constexpr double kNarrowestPanel = 3000;
@@ -65,6 +65,6 @@ inline constexpr double kNarrowestPanel = 3000;
 // were laid out in `atRight`, the panel's last place at the map's right. In a panel too low for
 // them they are smaller, down to those of the narrowest panel, and reach up over the map if that is
 // not enough, so that they can always be used.
-SidePanel LayOutPanelBelow(const Box& panel, const Box& atRight, const PanelView& view);
+SidePanel LayOutPanelBelow(const TwipRect& panel, const TwipRect& atRight, const PanelView& view);
 
 }  // namespace orrerix

@@ -25,7 +25,6 @@ constexpr int kSmallestFont = 6;
 // Its edges may go to the next whole pixel.
 constexpr double kSnapMargin = 1;
 
-constexpr Color kTradeLaneBlue{0xFF0000};
 constexpr QColor kHalo(150, 190, 255, 190);
 constexpr QColor kDotGround(0, 0, 16, 110);
 constexpr double kPale = 0.3;  // of a line in front of letters
@@ -151,8 +150,8 @@ class LineItem : public ControlItem {
     const QLineF part(line_.pointAt(stretch.From), line_.pointAt(stretch.To));
     const double ratio = painter.device()->devicePixelRatioF();
     if (!onPaper_) {
-      if (Shown().BorderColor == kTradeLaneBlue) DrawUnder(painter, part, kHalo, ratio);
-      if (Shown().Style == LineStyle::Dotted) DrawUnder(painter, part, kDotGround, ratio);
+      if (Shown().Line == LineKind::TradeLane) DrawUnder(painter, part, kHalo, ratio);
+      if (Shown().Line == LineKind::JumpHole) DrawUnder(painter, part, kDotGround, ratio);
     }
     painter.setPen(PenOf(Shown(), ratio));
     painter.drawLine(part);
@@ -193,8 +192,8 @@ class LineItem : public ControlItem {
 
 class LabelItem : public ControlItem {
  public:
-  LabelItem(const Control& control, QGraphicsItem* parent)
-      : ControlItem(control, parent), style_(StyleOf(control)) {
+  LabelItem(const Control& control, bool onPaper, QGraphicsItem* parent)
+      : ControlItem(control, parent), style_(StyleOf(control, onPaper)) {
     LayOut();
   }
 
@@ -215,8 +214,7 @@ class LabelItem : public ControlItem {
     }
     painter->setFont(font_);
     const QColor color = ToQColor(label.ForeColor.value_or(Color{}));
-    // Black letters are those of a printed page.
-    if (style_.Outlined && color != Qt::black) DrawOutline(*painter);
+    if (style_.Outlined) DrawOutline(*painter);
     painter->setPen(color);
     painter->drawStaticText(corner_, text_);
   }
@@ -329,7 +327,7 @@ ControlItem* MakeControlItem(const Control& control, PictureStore& pictures, con
     case ControlKind::Line:
       return new LineItem(control, view.OnPaper, parent);
     case ControlKind::Label:
-      return new LabelItem(control, parent);
+      return new LabelItem(control, view.OnPaper, parent);
     case ControlKind::Frame:
       if (control.Shape) return new ShapeItem(control, parent);
       return new FrameItem(control, pictures, view, parent);

@@ -13,25 +13,25 @@ constexpr double kCheckMargin = 4;
 
 }  // namespace
 
-LabelStyle StyleOf(const Control& label) {
+LabelStyle StyleOf(const Control& label, bool onPaper) {
   LabelStyle style;
-  if (label.Name == "SysmapLabel") {
+  if (label.Id == ControlId::SystemLabel) {
     style.Transparent = true;
-    style.Outlined = true;
+    style.Outlined = !onPaper;
     style.Overflows = true;
     style.Spared = true;
     style.MarginY = kNameMargin;
-  } else if (label.Name == "SetLabel" && label.Index == kLanguageLabel) {
+  } else if (label.Id == ControlId::OptionLabel && label.Index == kLanguageLabel) {
     style.Alignment = Qt::AlignRight | Qt::AlignBottom;
     style.MarginX = kBorderMargin;
     style.MarginY = kBorderMargin / 2;
-  } else if (label.Name == "SetLabel") {
+  } else if (label.Id == ControlId::OptionLabel) {
     style.Alignment = Qt::AlignLeft | Qt::AlignTop;
     style.Wraps = true;
     style.MarginX = kCheckMargin;
-  } else if (label.Name == "InfoBoxLabel") {
+  } else if (label.Id == ControlId::NewsLabel) {
     style.Outlined = true;
-  } else if (label.Name == "InfoText") {
+  } else if (label.Id == ControlId::BoxText) {
     style.Alignment = Qt::AlignLeft | Qt::AlignTop;
     style.FixedWidth = true;
     style.Lines = true;

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// How labels are drawn.
 #pragma once
 
 #include <Qt>
@@ -18,9 +19,10 @@ struct LabelStyle {
   bool Wraps = false;       // at word ends, in a smaller font if it must; else it is cut with "..."
   bool Transparent = false;  // its back colour is not painted
   bool Spared = false;       // lines in front of it pale
-  bool Outlined = false;     // dark round the letters, where the ground may be bright
+  bool Outlined = false;     // dark round the letters, where the background may be bright
 };
 
-LabelStyle StyleOf(const Control& label);
+// Names of systems stand on white paper in print, and need no outline there.
+LabelStyle StyleOf(const Control& label, bool onPaper);
 
 }  // namespace orrerix

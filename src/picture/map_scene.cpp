@@ -81,7 +81,7 @@ void MapScene::ShowInFront(FrontLayer layer, ControlList controls) {
   if (layer == FrontLayer::Box && OnBoxChanged) OnBoxChanged();
 }
 
-// Those of before must be gone.
+// Precondition: the layer's old items have been deleted.
 void MapScene::MakeFrontItems(FrontLayer layer) {
   Layer& shown = front_[static_cast<std::size_t>(layer)];
   shown.Items.clear();
@@ -92,17 +92,17 @@ void MapScene::MakeFrontItems(FrontLayer layer) {
   }
 }
 
-const Control* MapScene::Find(std::string_view name, int index) const {
+const Control* MapScene::Find(ControlId id, int index) const {
   const auto found = std::find_if(
       drawing_.Controls.begin(), drawing_.Controls.end(),
-      [&](const Control& control) { return control.Name == name && control.Index == index; });
+      [&](const Control& control) { return control.Id == id && control.Index == index; });
   return found == drawing_.Controls.end() ? nullptr : &*found;
 }
 
 void MapScene::Replace(const Control& control) {
   for (std::size_t i = 0; i < drawing_.Controls.size(); ++i) {
     Control& known = drawing_.Controls[i];
-    if (known.Name != control.Name || known.Index != control.Index) continue;
+    if (known.Id != control.Id || known.Index != control.Index) continue;
     const Control changed = control;  // which may be the one that goes
     delete items_[i];
     known = changed;
@@ -118,7 +118,8 @@ ControlHit MapScene::HitAt(QPointF point) const {
   const QList<QGraphicsItem*> under = items(point, Qt::IntersectsItemShape, Qt::DescendingOrder);
   if (under.isEmpty()) return {};
   const QGraphicsItem& topmost = *under.front();
-  return {&ControlItem::Of(topmost), ControlItem::Of(*topmost.topLevelItem()).Name == "MenuFrame"};
+  return {&ControlItem::Of(topmost),
+          ControlItem::Of(*topmost.topLevelItem()).Id == ControlId::PanelFrame};
 }
 
 }  // namespace orrerix

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// The map as a graphics scene.
 #pragma once
 
 #include <QGraphicsScene>
@@ -37,7 +38,7 @@ class MapScene : public QGraphicsScene {
   void ShowInFront(FrontLayer layer, ControlList controls);
 
   // An element of a control array of the drawing; null if there is none.
-  const Control* Find(std::string_view name, int index) const;
+  const Control* Find(ControlId id, int index) const;
 
   // Called when a box has been shown, moved or hidden.
   std::function<void()> OnBoxChanged;
@@ -47,7 +48,7 @@ class MapScene : public QGraphicsScene {
     return front_[static_cast<std::size_t>(layer)].Controls;
   }
 
-  // Shows a control of the drawing in another size or place; it is known by name and index. One
+  // Shows a control of the drawing in another size or place; it is known by identity and index. One
   // that the drawing does not have changes nothing.
   void Replace(const Control& control);
 

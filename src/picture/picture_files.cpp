@@ -8,20 +8,31 @@ namespace {
 
 const QString kBuiltIn = QStringLiteral(":/pictures/");
 
+// The picture of a control that carries one itself.
+QString OwnPicture(const Control& control) {
+  switch (control.Id) {
+    case ControlId::PaintedUniverse:
+      return kBuiltIn + "star_map.jpg";
+    case ControlId::BackgroundTile:
+      return kBuiltIn + "hintergrund.png";
+    case ControlId::EmptyCell:
+      return kBuiltIn + "blanko.jpg";
+    case ControlId::SystemPicture:
+      return kBuiltIn + QStringLiteral("systems/%1.jpg")
+                            .arg(control.Index.value_or(0), 2, 10, QLatin1Char('0'));
+    default:
+      return {};
+  }
+}
+
 }  // namespace
 
 QString PictureFile(const Control& control) {
+  if (control.Picture == PrintedName(control.Id)) return OwnPicture(control);
   const QString name = QString::fromStdString(control.Picture.value_or(""));
   if (name.isEmpty()) return {};
   if (QDir::isAbsolutePath(name)) return name;
   if (name.contains('.')) return kBuiltIn + name;
-  if (name == "StarMapPic") return kBuiltIn + "star_map.jpg";
-  if (name == "Hintergrund") return kBuiltIn + "hintergrund.png";
-  if (name == "Blanko") return kBuiltIn + "blanko.jpg";
-  if (name == "SysMapGfx") {
-    return kBuiltIn +
-           QStringLiteral("systems/%1.jpg").arg(control.Index.value_or(0), 2, 10, QLatin1Char('0'));
-  }
   // The rest are the icons of the map, each named like its control.
   return kBuiltIn + "icons/" + name.toLower() + ".svg";
 }

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// Where the pictures of controls come from.
 #pragma once
 
 #include <QString>
@@ -7,9 +8,9 @@
 
 namespace orrerix {
 
-// The file behind a picture control's `Picture`: the name of a control that carries a built-in
-// picture ("Jumpgate", "StarMapPic"; "SysMapGfx" goes by the index), a file below the built-in
-// pictures ("tools/print.svg"), or the absolute path of the player's own file.
+// The file of a picture control. Its `Picture` is its own name, if it carries a built-in picture
+// (those of systems go by the index); the name of an icon ("Jumpgate"); a file below the built-in
+// pictures ("tools/print.svg"); or the absolute path of the player's own file.
 QString PictureFile(const Control& control);
 
 }  // namespace orrerix

@@ -20,7 +20,7 @@ inline double Twips(double pixels) {
   return pixels * kTwipsPerPixel;
 }
 
-inline QRectF Pixels(const Box& box) {
+inline QRectF Pixels(const TwipRect& box) {
   return {Pixels(box.Left), Pixels(box.Top), Pixels(box.Width), Pixels(box.Height)};
 }
 

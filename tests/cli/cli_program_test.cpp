@@ -10,6 +10,7 @@
 #include <nlohmann/json.hpp>
 
 #include "demo/demo_game.h"
+#include "map/control_id.h"
 #include "platform/folder_lock.h"
 #include "support/temp_folder.h"
 
@@ -65,7 +66,7 @@ class CommandLine : public ::testing::Test {
   std::string FirstObject() {
     const nlohmann::json scene = Run("scene --json --zoom 0,0,17,17 " + Database()).Json();
     for (const auto& control : scene["controls"]) {
-      if (control["control"] != "Image1") continue;
+      if (control["control"] != ObjectName(ControlId::MapIcon)) continue;
       if (control["Picture"] != "Jumpgate" && control["Picture"] != "JumpHole") {
         return control["Tag"];
       }
@@ -111,8 +112,9 @@ TEST_F(CommandLine, AMistypedOptionNamesTheClosestOneOfItsVerbOrOfAll) {
 TEST_F(CommandLine, AnEmptyTextOfAnOptionIsAText) {
   Import();
 
-  for (const char* arguments : {"scene --options ''", "scene --zoom ''", "scene --info ''",
-                                "scene --size ''", "station x --layout ''", "station x --mode ''"}) {
+  for (const char* arguments :
+       {"scene --options ''", "scene --zoom ''", "scene --info ''", "scene --size ''",
+        "station x --layout ''", "station x --mode ''"}) {
     EXPECT_EQ(Run(std::string(arguments) + " " + Database()).ExitCode, 2) << arguments;
   }
   EXPECT_EQ(Run("scene --hover '' " + Database()).ExitCode, 1);
@@ -261,7 +263,7 @@ TEST_F(CommandLine, ASceneTellsFrameCellsAndControls) {
   EXPECT_EQ(scene["zoomed"], false);
   EXPECT_EQ(scene["cell"]["Width"], 918);
   EXPECT_EQ(scene["panel"], "right");
-  EXPECT_EQ(scene["controls"].back()["control"], "MenuFrame");
+  EXPECT_EQ(scene["controls"].back()["control"], ObjectName(ControlId::PanelFrame));
 }
 
 TEST_F(CommandLine, ASceneHeedsItsWords) {
@@ -274,7 +276,8 @@ TEST_F(CommandLine, ASceneHeedsItsWords) {
   EXPECT_EQ(scene["form"]["Height"], 9000);
   EXPECT_EQ(scene["zoomed"], true);
   EXPECT_EQ(scene["frame"]["BackColor"], "0xFFFFFF");
-  for (const auto& control : scene["controls"]) EXPECT_NE(control["control"], "SysmapLabel");
+  for (const auto& control : scene["controls"])
+    EXPECT_NE(control["control"], ObjectName(ControlId::SystemLabel));
 }
 
 TEST_F(CommandLine, RectanglesAndSwitchesThatMakeNoSenseAreWrongUsage) {
@@ -340,7 +343,8 @@ TEST_F(CommandLine, TilesOfAZoomedMapStayOnTheWholeGrid) {
   const auto tiles = [&](const std::string& words) {
     int count = 0;
     const nlohmann::json scene = Run("scene --json " + words + " " + Database()).Json();
-    for (const auto& control : scene["controls"]) count += control["control"] == "Hintergrund";
+    for (const auto& control : scene["controls"])
+      count += control["control"] == ObjectName(ControlId::BackgroundTile);
     return count;
   };
 
@@ -367,13 +371,13 @@ TEST_F(CommandLine, AHoverEnlargesTheIconAndShowsItsBoxInFront) {
   ASSERT_GE(controls.size(), 2u);
   const nlohmann::json& shape = controls[controls.size() - 2];
   const nlohmann::json& text = controls.back();
-  EXPECT_EQ(shape["control"], "Shape1");
-  EXPECT_EQ(text["control"], "InfoText");
+  EXPECT_EQ(shape["control"], ObjectName(ControlId::BoxShape));
+  EXPECT_EQ(text["control"], ObjectName(ControlId::BoxText));
   EXPECT_EQ(text["Caption"].get<std::string>() + "\n",
             Run("hover " + nickname + " " + Database()).Output);
   int hovered = 0;
   for (const auto& control : controls) {
-    if (control["control"] != "Image1" || control["Width"] != 600) continue;
+    if (control["control"] != ObjectName(ControlId::MapIcon) || control["Width"] != 600) continue;
     ++hovered;
     EXPECT_EQ(control["Tag"], nickname);
     EXPECT_EQ(shape["Tag"], std::to_string(control["index"].get<int>()) + ",40");
@@ -443,8 +447,8 @@ TEST_F(CommandLine, AnInfoTextIsThatOfTheBox) {
   EXPECT_THAT(text, ::testing::StartsWith("\r\n   Price: "));
   const nlohmann::json& controls = scene["controls"];
   ASSERT_GE(controls.size(), 2u);
-  EXPECT_EQ(controls[controls.size() - 2]["control"], "Shape1");
-  EXPECT_EQ(controls[controls.size() - 1]["control"], "InfoText");
+  EXPECT_EQ(controls[controls.size() - 2]["control"], ObjectName(ControlId::BoxShape));
+  EXPECT_EQ(controls[controls.size() - 1]["control"], ObjectName(ControlId::BoxText));
   EXPECT_EQ(controls[controls.size() - 1]["Caption"], text);
 }
 
@@ -454,7 +458,7 @@ TEST_F(CommandLine, WithoutAnInfoThereIsNoBox) {
   EXPECT_EQ(Run("info group nowhere --json " + Database()).Json()["text"], "");
   const Answer scene = Run("scene --info group:nowhere " + Database());
   EXPECT_EQ(scene.ExitCode, 0);
-  EXPECT_THAT(scene.Output, ::testing::Not(HasSubstr("Shape1")));
+  EXPECT_THAT(scene.Output, ::testing::Not(HasSubstr(ObjectName(ControlId::BoxShape))));
   EXPECT_EQ(Run("scene --info nowhere " + Database()).ExitCode, 2);
   EXPECT_EQ(Run("scene --info wreck:nowhere " + Database()).ExitCode, 2);
 }
@@ -471,7 +475,7 @@ TEST_F(CommandLine, TheInfoBoxTakesThePlaceOfTheHoverBox) {
 
   int shapes = 0;
   for (const auto& control : controls) {
-    if (control["control"] != "Shape1") continue;
+    if (control["control"] != ObjectName(ControlId::BoxShape)) continue;
     ++shapes;
     EXPECT_EQ(control["Top"], 0);
     EXPECT_TRUE(control.contains("Tag"));  // the icon's own size is not forgotten
@@ -490,7 +494,7 @@ TEST_F(CommandLine, AStationTellsItsWindowsData) {
     EXPECT_TRUE(station.contains(key)) << key;
   }
   ASSERT_EQ(station["controls"].size(), 1u);
-  EXPECT_EQ(station["controls"][0]["control"], "InfoText");
+  EXPECT_EQ(station["controls"][0]["control"], ObjectName(ControlId::BoxText));
   EXPECT_FALSE(Run("station " + nickname + " --json " + Database()).Json().contains("controls"));
 }
 

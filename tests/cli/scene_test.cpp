@@ -18,7 +18,8 @@ TEST(SceneWords, ASizeIsTwoWholeNumbers) {
 }
 
 TEST(SceneWords, AnythingElseIsWrongUsage) {
-  for (const char* text : {"", "24000", "24000x", "x18000", "axb", "1x2x3", "-1x5", "1,2", "1x2 "}) {
+  for (const char* text :
+       {"", "24000", "24000x", "x18000", "axb", "1x2x3", "-1x5", "1,2", "1x2 "}) {
     EXPECT_THROW(ParseExtent(text), WrongUsage) << text;
   }
 }
@@ -52,8 +53,8 @@ TEST(SceneWords, ADragHasTwoPlaces) {
 }
 
 TEST(SceneJson, WholeNumbersAreWrittenAsSuchAndOthersInFull) {
-  Control icon = MakePicture("Image1", 3, {1.5, 2, 40, 40}, "Jumpgate");
-  icon.Tag = "li01_to_li02";
+  Control icon = MakePicture(ControlId::MapIcon, 3, {1.5, 2, 40, 40}, "Jumpgate");
+  icon.Subject = DockableObject{"li01_to_li02"};
 
   EXPECT_EQ(ControlJson(icon).dump(),
             "{\"control\":\"Image1\",\"index\":3,\"Left\":1.5,\"Top\":2,\"Width\":40,"
@@ -61,19 +62,15 @@ TEST(SceneJson, WholeNumbersAreWrittenAsSuchAndOthersInFull) {
 }
 
 TEST(SceneJson, AControlThatIsNoArrayHasTheIndexNull) {
-  const Control universe = MakePicture("StarMapPic", std::nullopt, {}, "StarMapPic");
+  const Control universe = MakePicture(ControlId::PaintedUniverse, std::nullopt, {});
 
   EXPECT_TRUE(ControlJson(universe)["index"].is_null());
 }
 
 TEST(SceneJson, ALineTellsItsEndsAndItsStyle) {
-  Control line;
-  line.Kind = ControlKind::Line;
-  line.Name = "Line1";
-  line.Index = 1;
+  Control line = MakeLine(ControlId::MapLine, 1, LineKind::JumpHole, {0x808080}, LineStyle::Dotted);
   line.Ends = {0.1F, 2, 3, 4};
-  line.Style = LineStyle::Dotted;
-  line.BorderColor = {0x808080};
+  line.Subject = ConnectedPlaces{"Lantern", "Ember"};
 
   const nlohmann::ordered_json json = ControlJson(line);
 
@@ -81,7 +78,52 @@ TEST(SceneJson, ALineTellsItsEndsAndItsStyle) {
   EXPECT_EQ(json["Y2"], 4);
   EXPECT_EQ(json["BorderStyle"], 3);
   EXPECT_EQ(json["BorderColor"], "0x808080");
+  EXPECT_EQ(json["Tag"], "Lantern <-> Ember");
   EXPECT_FALSE(json.contains("Left"));
+}
+
+TEST(SceneJson, ALineWhosePlacesAreUnknownHasAnEmptyTag) {
+  const Control line = MakeLine(ControlId::MapLine, 1, LineKind::JumpGate, {});
+
+  EXPECT_EQ(ControlJson(line)["Tag"], "");
+}
+
+TEST(SceneJson, TheTagOfAHoverBoxIsItsIconsIndexAndWidth) {
+  Control shape = MakeFrame(ControlId::BoxShape, std::nullopt, {}, {});
+  EXPECT_FALSE(ControlJson(shape).contains("Tag"));
+
+  shape.Subject = HoveredIcon{12, 200.0F / 3};
+
+  EXPECT_EQ(ControlJson(shape)["Tag"], "12,66.6666641235352");  // the 32-bit float next to 200 / 3
+}
+
+TEST(SceneJson, TheTagOfASystemPictureIsItsPlaceInTheGamesCount) {
+  EXPECT_EQ(ControlJson(MakePicture(ControlId::SystemPicture, 0, {}))["Tag"], "7, 4");
+}
+
+TEST(SceneJson, APriceTableIsItsHeadAndThreeLabelsARow) {
+  PriceTable table;
+  table.Group = 2;
+  table.Head = {"Prices", {0, 0, 900, 100}, 9, {0x00FFFF}, {0x400000}};
+  table.Rows = {{1,
+                 "commodity_gold",
+                 false,
+                 {"Gold", {}, 8, {}, {}},
+                 {"50", {}, 8, {}, {}},
+                 {"10", {}, 8, {}, {}}}};
+
+  const nlohmann::ordered_json json = PriceTableJson(table);
+
+  ASSERT_EQ(json.size(), 4u);
+  EXPECT_EQ(json[0].dump(),
+            "{\"control\":\"PricesHead\",\"index\":2,\"Left\":0,\"Top\":0,\"Width\":900,"
+            "\"Height\":100,\"Caption\":\"Prices\",\"FontSize\":9,\"ForeColor\":\"0x00FFFF\","
+            "\"BackColor\":\"0x400000\"}");
+  EXPECT_EQ(json[1]["control"], "PricesField0");
+  EXPECT_EQ(json[1]["Tag"], "commodity_gold");
+  EXPECT_EQ(json[2]["control"], "PricesField1");
+  EXPECT_EQ(json[3]["Caption"], "10");
+  EXPECT_EQ(json[3]["index"], 1);
 }
 
 }  // namespace

@@ -6,10 +6,10 @@
 #include <gtest/gtest.h>
 
 #include "form_fixture.h"
-#include "forms/import_screen.h"
-#include "forms/loading.h"
-#include "forms/spoiler.h"
-#include "forms/update.h"
+#include "forms/start/import_screen.h"
+#include "forms/start/loading.h"
+#include "forms/start/spoiler.h"
+#include "forms/start/update.h"
 
 namespace orrerix {
 namespace {

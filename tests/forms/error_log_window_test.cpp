@@ -4,7 +4,7 @@
 #include <QScrollBar>
 
 #include "form_fixture.h"
-#include "forms/plated_label.h"
+#include "forms/controls/plated_label.h"
 
 namespace orrerix {
 namespace {

@@ -13,6 +13,7 @@
 #include <gtest/gtest.h>
 
 #include "forms/form_parts.h"
+#include "map/control_id.h"
 #include "support/fake_message_boxes.h"
 #include "support/temp_folder.h"
 
@@ -80,6 +81,15 @@ Child& Find(const QWidget& root, const char* name) {
     if (!child->objectName().isEmpty()) there += " " + child->objectName().toStdString();
   }
   throw std::runtime_error(std::string("no child '") + name + "'; there are:" + there);
+}
+
+template <typename Child = QWidget>
+Child& Find(const QWidget& root, ControlId id) {
+  return Find<Child>(root, PrintedName(id).data());
+}
+template <typename Child = QWidget>
+Child& Find(const QWidget& root, ControlId id, int index) {
+  return Find<Child>(root, ObjectName(id, index).c_str());
 }
 
 // Lets events through until something is so. False if it does not come about.

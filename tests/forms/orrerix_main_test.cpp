@@ -247,7 +247,7 @@ TEST_F(OrrerixMainTest, ThePlayersStarMapIsFoundInTheApplicationFolder) {
 
   std::string picture;
   for (const Control& control : form->Map().Drawing().Controls) {
-    if (control.Name == "StarMapPic") picture = control.Picture.value_or("");
+    if (control.Id == ControlId::PaintedUniverse) picture = control.Picture.value_or("");
   }
   EXPECT_EQ(picture, (folder.Path() / "SysMap.jpg").string());
 }
@@ -267,19 +267,19 @@ class OrrerixMainMapTest : public OrrerixMainTest {
     };
   }
 
-  bool Prints(std::string_view control) const {
+  bool Prints(ControlId id) const {
     return std::any_of(printed.Controls.begin(), printed.Controls.end(),
-                       [&](const Control& shown) { return shown.Name == control; });
+                       [&](const Control& shown) { return shown.Id == id; });
   }
 
   // The first system of the map, zoomed into.
   void ZoomIn() {
     for (const Control& control : form->Map().Drawing().Controls) {
-      if (control.Name != "SysmapLabel") continue;
+      if (control.Id != ControlId::SystemLabel) continue;
       const auto x = static_cast<float>(control.Place.Left + 30);
       const auto y = static_cast<float>(control.Place.Top + 30);
-      form->Play().SysmapFrameMouseDown(x, y);
-      form->Play().SysmapFrameMouseUp(PointerButton::Left, x, y);
+      form->Play().PressOnMap(x, y);
+      form->Play().ReleaseOnMap(PointerButton::Left, x, y);
       return;
     }
   }
@@ -287,7 +287,7 @@ class OrrerixMainMapTest : public OrrerixMainTest {
   // Index of an object's icon.
   int StationIcon() {
     for (const Control& control : form->Map().Drawing().Controls) {
-      if (control.Name == "Image1" && control.Picture == "Planet1") return *control.Index;
+      if (control.Id == ControlId::MapIcon && control.Picture == "Planet1") return *control.Index;
     }
     return -1;
   }
@@ -306,8 +306,8 @@ TEST_F(OrrerixMainMapTest, AClickOnAnIconOpensAStationWindowAndTheyCloseWithTheF
   const int index = StationIcon();
   ASSERT_GT(index, 0);
 
-  form->Play().Image1Click(index);
-  form->Play().Image1Click(index);
+  form->Play().OpenStationOf(index);
+  form->Play().OpenStationOf(index);
 
   ASSERT_EQ(form->Stations().Windows().size(), 2U);
   EXPECT_EQ(form->Stations().Windows()[0]->Picture(), "Planet1");
@@ -317,18 +317,17 @@ TEST_F(OrrerixMainMapTest, AClickOnAnIconOpensAStationWindowAndTheyCloseWithTheF
 }
 
 TEST_F(OrrerixMainMapTest, FourToolsOpenTheSearchPanelAndTheLastOnePrints) {
-  const auto& panel = Find(*form, "StSearchFrame");
+  const auto& panel = Find(*form, ControlId::SearchFrame);
   for (int i = 0; i < 4; ++i) {
-    QTest::keyClick(&Find(*form, qPrintable(QStringLiteral("StationSearch_%1").arg(i))),
-                    Qt::Key_Return);
+    QTest::keyClick(&Find(*form, ControlId::Tool, i), Qt::Key_Return);
     EXPECT_TRUE(panel.isVisible()) << i;
     // Places fill one list, all other searches two.
-    EXPECT_EQ(Find(*form, "SubSearch").isVisible(), i > 0) << i;
-    QTest::mouseClick(&Find(*form, "StSearchClose"), Qt::LeftButton);
+    EXPECT_EQ(Find(*form, ControlId::FoundList).isVisible(), i > 0) << i;
+    QTest::mouseClick(&Find(*form, ControlId::SearchClose), Qt::LeftButton);
     EXPECT_FALSE(panel.isVisible()) << i;
   }
 
-  QTest::keyClick(&Find(*form, "StationSearch_4"), Qt::Key_Return);
+  QTest::keyClick(&Find(*form, ControlId::Tool, 4), Qt::Key_Return);
 
   EXPECT_FALSE(panel.isVisible());
   EXPECT_TRUE(std::filesystem::exists(printers.File));
@@ -366,8 +365,8 @@ TEST_F(OrrerixMainMapTest, TheWholeMapIsPrintedOnWhiteFromASquareForm) {
   EXPECT_EQ(printed.Frame.Width, side * 15 - 200);
   EXPECT_EQ(printed.Frame.Height, side * 15 - 550);
   EXPECT_EQ(printed.FrameColor, Color{0xFFFFFF});
-  EXPECT_FALSE(Prints("StarMapPic"));
-  EXPECT_FALSE(Prints("Rahmen"));
+  EXPECT_FALSE(Prints(ControlId::PaintedUniverse));
+  EXPECT_FALSE(Prints(ControlId::Border));
   EXPECT_GT(std::filesystem::file_size(printers.File), 1000U);
 }
 
@@ -378,10 +377,10 @@ TEST_F(OrrerixMainMapTest, AZoomedMapIsPrintedWithItsIconsAndWithoutFillers) {
   form->PrintTheMap();
 
   EXPECT_TRUE(printed.Zoomed);
-  EXPECT_TRUE(Prints("Image1"));
-  EXPECT_FALSE(Prints("Blanko"));
-  EXPECT_FALSE(Prints("SysMapGfx"));
-  EXPECT_FALSE(Prints("Hintergrund"));
+  EXPECT_TRUE(Prints(ControlId::MapIcon));
+  EXPECT_FALSE(Prints(ControlId::EmptyCell));
+  EXPECT_FALSE(Prints(ControlId::SystemPicture));
+  EXPECT_FALSE(Prints(ControlId::BackgroundTile));
 }
 
 TEST_F(OrrerixMainMapTest, BehindAPrintTheFormIsMaximisedAgainWithTheSameMap) {

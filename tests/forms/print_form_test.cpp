@@ -16,7 +16,7 @@ class PrintFormTest : public FormFixture {
     MapDrawing drawing;
     drawing.Frame = {0, 0, 6000, 3000};
     drawing.FrameColor = {0xFFFFFF};
-    drawing.Controls = {MakePicture("Image1", 5, {300, 300, 600, 600}, "Jumpgate")};
+    drawing.Controls = {MakePicture(ControlId::MapIcon, 5, {300, 300, 600, 600}, "Jumpgate")};
     scene.Show(drawing);
     form.resize(410, 210);
     map.setFrameShape(QFrame::NoFrame);

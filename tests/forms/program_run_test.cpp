@@ -44,14 +44,14 @@ class ProgramRunTest : public FormFixture {
     PassEvents();
   }
 
-  const Control* PanelControl(std::string_view name, int index) {
-    const Control* panel = run.Main()->Map().Scene().Find("MenuFrame", 0);
-    return panel == nullptr ? nullptr : FindIn(panel->Children, name, index);
+  const Control* PanelControl(ControlId id, int index) {
+    const Control* panel = run.Main()->Map().Scene().Find(ControlId::PanelFrame, 0);
+    return panel == nullptr ? nullptr : FindIn(panel->Children, id, index);
   }
-  static const Control* FindIn(const ControlList& controls, std::string_view name, int index) {
+  static const Control* FindIn(const ControlList& controls, ControlId id, int index) {
     for (const Control& control : controls) {
-      if (control.Name == name && control.Index == index) return &control;
-      if (const Control* inner = FindIn(control.Children, name, index)) return inner;
+      if (control.Id == id && control.Index == index) return &control;
+      if (const Control* inner = FindIn(control.Children, id, index)) return inner;
     }
     return nullptr;
   }
@@ -216,11 +216,11 @@ TEST_F(NewsRunTest, NewsStandInThePanelAndOpenTheirLinks) {
 
   Show();
 
-  ASSERT_NE(PanelControl("InfoBoxLabel", 2), nullptr);
-  EXPECT_EQ(PanelControl("InfoBoxLabel", 1)->Caption, "News 1");
-  EXPECT_EQ(PanelControl("InfoBoxLabel", 0)->Caption, "OX-Main-Webpage");
-  run.Main()->InfoBoxLabelClick(2);
-  run.Main()->InfoBoxLabelClick(0);
+  ASSERT_NE(PanelControl(ControlId::NewsLabel, 2), nullptr);
+  EXPECT_EQ(PanelControl(ControlId::NewsLabel, 1)->Caption, "News 1");
+  EXPECT_EQ(PanelControl(ControlId::NewsLabel, 0)->Caption, "OX-Main-Webpage");
+  run.Main()->OpenNewsLink(2);
+  run.Main()->OpenNewsLink(0);
   EXPECT_EQ(links.Opened, (std::vector<std::string>{"http://n.example/2", "http://x.example/OX"}));
   EXPECT_EQ(sound.Played.back().filename(), "news_vendor_open.wav");
 }
@@ -229,17 +229,17 @@ TEST_F(NewsRunTest, NewsOutliveAChangeOfLanguage) {
   network.Page = NewsOf("1.0", 1);
   Show();
 
-  run.Main()->Play().SetLabelClick(6);
+  run.Main()->Play().ActivateOptionLabel(6);
   PassEvents();
 
-  EXPECT_NE(PanelControl("InfoBoxLabel", 1), nullptr);
+  EXPECT_NE(PanelControl(ControlId::NewsLabel, 1), nullptr);
 }
 
 TEST_F(NewsRunTest, ALinkThatIsNoWebAddressIsNotOpened) {
   network.Page = "1.0\r\nx\r\nx\r\nOne\r\nTip\r\nfile:///etc/hostname\r\n";
   Show();
 
-  run.Main()->InfoBoxLabelClick(1);
+  run.Main()->OpenNewsLink(1);
 
   EXPECT_TRUE(links.Opened.empty());
 }
@@ -249,7 +249,7 @@ TEST_F(NewsRunTest, AnErrorPageGivesNeitherNewsNorAFailure) {
 
   Show();
 
-  EXPECT_EQ(PanelControl("InfoBoxLabel", 1), nullptr);
+  EXPECT_EQ(PanelControl(ControlId::NewsLabel, 1), nullptr);
   EXPECT_TRUE(log.Failures().empty());
 }
 

@@ -22,21 +22,21 @@ MapDrawing Drawing() {
 constexpr TextExtent kText{2000, 400};
 
 TEST(HoverBoxPlace, TheBoxIsThreeHundredTwipsLargerThanItsText) {
-  const Box box = HoverBoxPlace({1000, 1000, 600, 600}, kText, Drawing());
+  const TwipRect box = HoverBoxPlace({1000, 1000, 600, 600}, kText, Drawing());
 
   EXPECT_EQ(box.Width, 2300);
   EXPECT_EQ(box.Height, 700);
 }
 
 TEST(HoverBoxPlace, InTheUpperHalfItStandsBelowTheIcon) {
-  const Box box = HoverBoxPlace({1000, 1000, 600, 600}, kText, Drawing());
+  const TwipRect box = HoverBoxPlace({1000, 1000, 600, 600}, kText, Drawing());
 
   EXPECT_EQ(box.Left, 1000);
   EXPECT_EQ(box.Top, 1700);  // 1000 + 600 + 100
 }
 
 TEST(HoverBoxPlace, InTheLowerHalfItStandsAboveTheIcon) {
-  const Box box = HoverBoxPlace({1000, 6001, 600, 600}, kText, Drawing());
+  const TwipRect box = HoverBoxPlace({1000, 6001, 600, 600}, kText, Drawing());
 
   EXPECT_EQ(box.Top, 5201);  // 6001 - 100 - 700
 }
@@ -76,9 +76,9 @@ class HoverBoxTest : public UniverseFixture {
     names.Set({7, 4}, "Lantern");
   }
 
-  static Control Icon(std::string tag, float size) {
-    Control icon = MakePicture("Image1", 12, {1000, 1000, size, size}, "Outpost");
-    icon.Tag = std::move(tag);
+  static Control Icon(std::string nickname, float size) {
+    Control icon = MakePicture(ControlId::MapIcon, 12, {1000, 1000, size, size}, "Outpost");
+    icon.Subject = DockableObject{std::move(nickname)};
     return icon;
   }
   HoverBox Open(const Control& icon) {
@@ -91,18 +91,18 @@ class HoverBoxTest : public UniverseFixture {
 };
 
 TEST_F(HoverBoxTest, TheIconGrowsFromItsCorner) {
-  EXPECT_EQ(Open(Icon("pier", 40)).Icon.Place, (Box{1000, 1000, 600, 600}));
+  EXPECT_EQ(Open(Icon("pier", 40)).Icon.Place, (TwipRect{1000, 1000, 600, 600}));
 }
 
 TEST_F(HoverBoxTest, TheBoxHoldsItsTextWithinAMargin) {
   const HoverBox hover = Open(Icon("pier", 40));
 
   ASSERT_THAT(hover.Box, SizeIs(2));
-  EXPECT_EQ(hover.Box[0].Name, "Shape1");
-  EXPECT_EQ(hover.Box[1].Name, "InfoText");
+  EXPECT_EQ(hover.Box[0].Id, ControlId::BoxShape);
+  EXPECT_EQ(hover.Box[1].Id, ControlId::BoxText);
   // Four characters of 9 points: 4 x 12 x 9 = 432 wide and 24 x 9 = 216 high.
-  EXPECT_EQ(hover.Box[0].Place, (Box{1000, 1700, 732, 516}));
-  EXPECT_EQ(hover.Box[1].Place, (Box{1150, 1850, 432, 216}));
+  EXPECT_EQ(hover.Box[0].Place, (TwipRect{1000, 1700, 732, 516}));
+  EXPECT_EQ(hover.Box[1].Place, (TwipRect{1150, 1850, 432, 216}));
   EXPECT_EQ(hover.Box[1].Caption, "pier");
   EXPECT_EQ(hover.Box[1].FontSize, 9);
 }
@@ -111,12 +111,9 @@ TEST_F(HoverBoxTest, TheBoxRemembersTheIconAndItsOwnSize) {
   const Control icon = Icon("pier", 200.0F / 3);
   const HoverBox hover = Open(icon);
 
-  EXPECT_EQ(hover.Box[0].Tag, "12,66.6666641235352");  // the 32-bit float next to 200 / 3
-  EXPECT_EQ(RestoredIcon(hover.Icon, *hover.Box[0].Tag).Place, icon.Place);
-}
-
-TEST_F(HoverBoxTest, ATagWithoutASizeLeavesTheIconAsItIs) {
-  EXPECT_EQ(RestoredIcon(Icon("pier", 40), "").Place, (Box{1000, 1000, 40, 40}));
+  const auto before = std::get<HoveredIcon>(hover.Box[0].Subject);
+  EXPECT_EQ(before, (HoveredIcon{12, 200.0F / 3}));
+  EXPECT_EQ(RestoredIcon(hover.Icon, before).Place, icon.Place);
 }
 
 TEST_F(HoverBoxTest, TheLongestLineGivesTheWidthAndAllLinesTheHeight) {

@@ -32,11 +32,11 @@ TEST_F(TextInfoBox, ItStandsAgainstThePanelAsHighAsTheMap) {
   const ControlList box = Show("\r\n0123456789\r\nab");
 
   ASSERT_THAT(box, SizeIs(2));
-  EXPECT_EQ(box[0].Name, "Shape1");
-  EXPECT_EQ(box[1].Name, "InfoText");
+  EXPECT_EQ(box[0].Id, ControlId::BoxShape);
+  EXPECT_EQ(box[1].Id, ControlId::BoxText);
   // Ten characters of 9 points: 10 x 108 = 1080, and 400; its left side is 14000 - 1480.
-  EXPECT_EQ(box[0].Place, (Box{12520, 0, 1480, 12000}));
-  EXPECT_EQ(box[1].Place, (Box{12720, 150, 1030, 11700}));
+  EXPECT_EQ(box[0].Place, (TwipRect{12520, 0, 1480, 12000}));
+  EXPECT_EQ(box[1].Place, (TwipRect{12720, 150, 1030, 11700}));
   EXPECT_EQ(box[1].Caption, "\r\n0123456789\r\nab");
   EXPECT_EQ(box[1].FontSize, 9);
 }
@@ -44,7 +44,7 @@ TEST_F(TextInfoBox, ItStandsAgainstThePanelAsHighAsTheMap) {
 TEST_F(TextInfoBox, ATextThatIsTooWideFillsTheMapUpToThePanel) {
   const ControlList box = Show(std::string(200, 'x'));  // 200 x 108 = 21600
 
-  EXPECT_EQ(box[0].Place, (Box{0, 0, 14000, 12000}));
+  EXPECT_EQ(box[0].Place, (TwipRect{0, 0, 14000, 12000}));
 }
 
 TEST_F(TextInfoBox, WithThePanelBelowItEndsAtTheFramesEdge) {
@@ -65,7 +65,7 @@ TEST_F(TextInfoBox, AMapWithoutRoomHasABoxWithoutSize) {
 
   const ControlList box = Show("0123456789", drawing);
 
-  EXPECT_EQ(box[0].Place, (Box{0, 0, 100, 100}));
+  EXPECT_EQ(box[0].Place, (TwipRect{0, 0, 100, 100}));
   EXPECT_EQ(box[1].Place.Width, 0);
   EXPECT_EQ(box[1].Place.Height, 0);
 }

@@ -12,14 +12,14 @@ TEST(Borders, CornersSitInTheCornersAndEdgesBetweenThem) {
   const ControlList pieces = BorderPieces(BorderSet::Map, 100, 200, 2100, 1200);
 
   ASSERT_EQ(pieces.size(), 8u);
-  EXPECT_EQ(pieces[0].Place, (Box{100, 200, 315, 315}));
-  EXPECT_EQ(pieces[2].Place, (Box{1785, 200, 315, 315}));
-  EXPECT_EQ(pieces[5].Place, (Box{100, 885, 315, 315}));
-  EXPECT_EQ(pieces[7].Place, (Box{1785, 885, 315, 315}));
-  EXPECT_EQ(pieces[1].Place, (Box{415, 200, 1370, 60}));  // 1785 - 415
-  EXPECT_EQ(pieces[3].Place, (Box{100, 515, 60, 370}));   // 885 - 200 - 315
-  EXPECT_EQ(pieces[4].Place, (Box{2040, 515, 60, 370}));  // 885 - 515
-  EXPECT_EQ(pieces[6].Place, (Box{415, 1140, 1370, 60}));
+  EXPECT_EQ(pieces[0].Place, (TwipRect{100, 200, 315, 315}));
+  EXPECT_EQ(pieces[2].Place, (TwipRect{1785, 200, 315, 315}));
+  EXPECT_EQ(pieces[5].Place, (TwipRect{100, 885, 315, 315}));
+  EXPECT_EQ(pieces[7].Place, (TwipRect{1785, 885, 315, 315}));
+  EXPECT_EQ(pieces[1].Place, (TwipRect{415, 200, 1370, 60}));  // 1785 - 415
+  EXPECT_EQ(pieces[3].Place, (TwipRect{100, 515, 60, 370}));   // 885 - 200 - 315
+  EXPECT_EQ(pieces[4].Place, (TwipRect{2040, 515, 60, 370}));  // 885 - 515
+  EXPECT_EQ(pieces[6].Place, (TwipRect{415, 1140, 1370, 60}));
 }
 
 TEST(Borders, EachSetHasElementsOfItsOwn) {

@@ -7,16 +7,16 @@ namespace orrerix {
 namespace {
 
 TEST(CellGeometry, TheFrameLeavesRoomForTitleAndBorders) {
-  EXPECT_EQ(FrameOn(24000, 18000), (Box{50, 50, 23800, 17450}));
+  EXPECT_EQ(FrameOn(24000, 18000), (TwipRect{50, 50, 23800, 17450}));
 }
 
 TEST(CellGeometry, AFormSmallerThanItsMarginsHasAnEmptyFrame) {
-  const Box frame = FrameOn(150, 500);
+  const TwipRect frame = FrameOn(150, 500);
   const CellGeometry cells(frame, {});
 
-  EXPECT_EQ(frame, (Box{50, 50, 0, 0}));
+  EXPECT_EQ(frame, (TwipRect{50, 50, 0, 0}));
   EXPECT_EQ(cells.CellSize(), 0);
-  EXPECT_EQ(cells.CellBox(17, 18), (Box{0, 0, 0, 0}));
+  EXPECT_EQ(cells.CellBox(17, 18), (TwipRect{0, 0, 0, 0}));
 }
 
 TEST(CellGeometry, CellsAreSquareInAWideFrameAndInAHighOne) {
@@ -34,8 +34,8 @@ TEST(CellGeometry, HalfATwipGoesToTheEvenNeighbour) {
 TEST(CellGeometry, TheVisibleRectangleStartsAtTheTopLeftCorner) {
   const CellGeometry cells({0, 0, 1000, 1000}, {3, 5, 4, 6});
 
-  EXPECT_EQ(cells.CellBox(3, 5), (Box{0, 0, 500, 500}));
-  EXPECT_EQ(cells.CellBox(4, 6), (Box{500, 500, 500, 500}));
+  EXPECT_EQ(cells.CellBox(3, 5), (TwipRect{0, 0, 500, 500}));
+  EXPECT_EQ(cells.CellBox(4, 6), (TwipRect{500, 500, 500, 500}));
 }
 
 TEST(CellGeometry, CellsBeyondTheRectangleLieBeyondTheFrame) {

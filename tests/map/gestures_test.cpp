@@ -15,11 +15,11 @@ using ::testing::SizeIs;
 // A frame of 19000 x 19000 twips: cells of 1000 when the whole grid is shown.
 class Gestures : public ::testing::Test {
  protected:
-  static constexpr Box kFrame{50, 50, 19000, 19000};
+  static constexpr TwipRect kFrame{50, 50, 19000, 19000};
 
   CellGeometry Cells() const { return CellGeometry(kFrame, state.Zoom.Current()); }
 
-  void ShowIcon() { state.Objects.Icons = {MakePicture("Image1", 1, {}, "Jumpgate")}; }
+  void ShowIcon() { state.Objects.Icons = {MakePicture(ControlId::MapIcon, 1, {}, "Jumpgate")}; }
   bool Unloaded() const { return state.Objects.Icons.empty(); }
 
   ReleaseAnswer Drag(float x1, float y1, float x2, float y2) {
@@ -132,7 +132,7 @@ TEST_F(Gestures, FarBelowTheMapTheLastRowOfTheGridIsTaken) {
 }
 
 TEST_F(Gestures, OnAFrameWithoutRoomTheSearchEndsAtTheEdgesOfTheGrid) {
-  const CellGeometry none(Box{}, state.Zoom.Current());
+  const CellGeometry none(TwipRect{}, state.Zoom.Current());
 
   gestures.MouseDown(-1, 1);
   gestures.MouseUp(PointerButton::Left, none, -1, 1);
@@ -201,7 +201,7 @@ TEST_F(Gestures, TheBandRunsRoundFromThePress) {
   EXPECT_EQ(answer.RubberBand[2].Ends, (LineEnds{300, 500, 100, 500}));
   EXPECT_EQ(answer.RubberBand[3].Ends, (LineEnds{100, 500, 100, 200}));
   for (const Control& line : answer.RubberBand) {
-    EXPECT_EQ(line.Name, "MouseLine");
+    EXPECT_EQ(line.Id, ControlId::RubberBand);
     EXPECT_EQ(line.BorderColor.Text(), "0x00FFFF");
   }
 }

@@ -6,17 +6,9 @@
 namespace orrerix {
 namespace {
 
-TEST(Numeric, TheSmallerAndTheGreaterOfTwoNumbersAreFound) {
-  EXPECT_EQ(MINI(3, 4), 3);
-  EXPECT_EQ(MINI(4, 3), 3);
-  EXPECT_EQ(MAXI(3, 4), 4);
-  EXPECT_EQ(MAX(4, 3), 4);
-}
-
-TEST(Numeric, OfEqualNumbersMiniAndMaxiGiveTheFirstAndMaxTheSecond) {
-  EXPECT_FALSE(std::signbit(MINI(0.0, -0.0)));
-  EXPECT_FALSE(std::signbit(MAXI(0.0, -0.0)));
-  EXPECT_TRUE(std::signbit(MAX(0.0, -0.0)));
+TEST(Numeric, ANegativeSizeCountsAsNothing) {
+  EXPECT_EQ(NotBelowZero(-1), 0);
+  EXPECT_EQ(NotBelowZero(1.5), 1.5);
 }
 
 TEST(Numeric, WholeTwipsAreRoundedTiesToEven) {

@@ -20,17 +20,18 @@ class Switches : public ::testing::Test {
  protected:
   Switches() {
     settings.CreateSettings();
-    state.Objects.Icons = {MakePicture("Image1", 1, {}, "Jumpgate")};
+    state.Objects.Icons = {MakePicture(ControlId::MapIcon, 1, {}, "Jumpgate")};
   }
 
   bool Unloaded() const { return state.Objects.Icons.empty(); }
 
   void Zoom() { state.Zoom.Reset({7, 4, 8, 5}); }
   SwitchAnswer Click(int which) {
-    return switches.SetImageClick(which, ReadMapOptions(settings, state.Zoom.Current().IsZoomed()));
+    return switches.ToggleSwitch(which, ReadMapOptions(settings, state.Zoom.Current().IsZoomed()));
   }
   SwitchAnswer ClickLabel(int which) {
-    return switches.SetLabelClick(which, ReadMapOptions(settings, state.Zoom.Current().IsZoomed()));
+    return switches.ActivateOptionLabel(which,
+                                        ReadMapOptions(settings, state.Zoom.Current().IsZoomed()));
   }
 
   FakeMessageBoxes messages;
@@ -110,7 +111,7 @@ TEST_F(Switches, WhatThePanelShowsIsTurnedOverNotWhatIsStored) {
   MapOptions shown = ReadMapOptions(settings, false);
   settings.WriteSettingValue("SET1-4", "0");
 
-  switches.SetImageClick(kTradeLanes, shown);
+  switches.ToggleSwitch(kTradeLanes, shown);
 
   EXPECT_EQ(settings.ReadSetting("SET1-4"), "0");
 }
@@ -145,7 +146,7 @@ TEST_F(Switches, ThreeClicksOnTheLanguageReturnToTheStart) {
 }
 
 TEST_F(Switches, AFailureNamesTheIndex) {
-  const SwitchAnswer answer = switches.SetImageClick(6, {});
+  const SwitchAnswer answer = switches.ToggleSwitch(6, {});
 
   ASSERT_THAT(log.Failures(), SizeIs(1));
   EXPECT_EQ(log.Failures()[0].Source, "OrrerixMain.SetImage_Click");
@@ -157,20 +158,20 @@ TEST_F(Switches, AFailureNamesTheIndex) {
 TEST_F(Switches, CancelBehindAFailureLeavesTheMapAsItIs) {
   messages.Answer = MessageAnswer::Cancel;
 
-  const SwitchAnswer answer = switches.SetImageClick(6, {});
+  const SwitchAnswer answer = switches.ToggleSwitch(6, {});
 
   EXPECT_FALSE(Unloaded());
   EXPECT_FALSE(answer.Redraw);
 }
 
 TEST_F(Switches, TouchingTheCaptionUnfoldsTheOptionsOnce) {
-  EXPECT_TRUE(switches.ShowOptionsLabelMouseMove(false));
+  EXPECT_TRUE(switches.UnfoldOptions(false));
   EXPECT_TRUE(state.OptionsOpen);
-  EXPECT_FALSE(switches.ShowOptionsLabelMouseMove(false));
+  EXPECT_FALSE(switches.UnfoldOptions(false));
 }
 
 TEST_F(Switches, WhileTheSearchPanelIsOpenTheOptionsStayFolded) {
-  EXPECT_FALSE(switches.ShowOptionsLabelMouseMove(true));
+  EXPECT_FALSE(switches.UnfoldOptions(true));
   EXPECT_FALSE(state.OptionsOpen);
 }
 

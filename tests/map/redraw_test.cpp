@@ -76,21 +76,21 @@ class Redraw : public UniverseFixture {
   MapDrawing Draw() {
     const MapOptions options =
         switches.value_or(MapOptions::Defaults(state.Zoom.Current().IsZoomed()));
-    return DrawMap(universe, state, {formWidth, formHeight, options, measure, panel, "StarMapPic"});
+    return DrawMap(universe, state, {formWidth, formHeight, options, measure, panel});
   }
 
   // Names of the controls in their stacking, runs of the same name once.
-  static std::vector<std::string> Layers(const MapDrawing& drawing) {
-    std::vector<std::string> layers;
+  static std::vector<ControlId> Layers(const MapDrawing& drawing) {
+    std::vector<ControlId> layers;
     for (const Control& control : drawing.Controls) {
-      if (layers.empty() || layers.back() != control.Name) layers.push_back(control.Name);
+      if (layers.empty() || layers.back() != control.Id) layers.push_back(control.Id);
     }
     return layers;
   }
-  static ControlList Named(const MapDrawing& drawing, std::string_view name) {
+  static ControlList Named(const MapDrawing& drawing, ControlId id) {
     ControlList found;
     for (const Control& control : drawing.Controls) {
-      if (control.Name == name) found.push_back(control);
+      if (control.Id == id) found.push_back(control);
     }
     return found;
   }
@@ -111,8 +111,9 @@ TEST_F(Redraw, TheWholeGridIsStackedFromTheTileToThePanel) {
   Lane();
   Dock("dock", "depot");
 
-  EXPECT_THAT(Layers(Draw()), ElementsAre("Hintergrund", "StarMapPic", "SysmapLabel", "Line1",
-                                          "Rahmen", "MenuFrame"));
+  EXPECT_THAT(Layers(Draw()), ElementsAre(ControlId::BackgroundTile, ControlId::PaintedUniverse,
+                                          ControlId::SystemLabel, ControlId::MapLine,
+                                          ControlId::Border, ControlId::PanelFrame));
 }
 
 TEST_F(Redraw, AZoomedMapIsStackedFromTheTilesToThePanel) {
@@ -121,18 +122,20 @@ TEST_F(Redraw, AZoomedMapIsStackedFromTheTilesToThePanel) {
   Lane();
   Dock("dock", "depot");
 
-  EXPECT_THAT(Layers(Draw()), ElementsAre("Hintergrund", "SysMapGfx", "Blanko", "SysmapLabel",
-                                          "Line1", "Image1", "Rahmen", "MenuFrame"));
+  EXPECT_THAT(Layers(Draw()),
+              ElementsAre(ControlId::BackgroundTile, ControlId::SystemPicture, ControlId::EmptyCell,
+                          ControlId::SystemLabel, ControlId::MapLine, ControlId::MapIcon,
+                          ControlId::Border, ControlId::PanelFrame));
 }
 
 TEST_F(Redraw, ThePaintedUniverseFollowsTheFrameAndNotTheCells) {
   const MapDrawing drawing = Draw();
 
   // 17450 / 18 x 17, as a 32-bit float
-  const Control painted = Named(drawing, "StarMapPic").at(0);
-  EXPECT_EQ(painted.Place, (Box{0, 0, 16480.5546875, 17450}));
+  const Control painted = Named(drawing, ControlId::PaintedUniverse).at(0);
+  EXPECT_EQ(painted.Place, (TwipRect{0, 0, 16480.5546875, 17450}));
   // Its border: 16480.55 + 20 = 16500.55, rounded; the right corner is 315 wide.
-  EXPECT_EQ(Named(drawing, "Rahmen").at(2).Place.Right(), 16501);
+  EXPECT_EQ(Named(drawing, ControlId::Border).at(2).Place.Right(), 16501);
 }
 
 TEST_F(Redraw, TheFreeSpaceDecidesWhereThePanelStands) {
@@ -142,7 +145,7 @@ TEST_F(Redraw, TheFreeSpaceDecidesWhereThePanelStands) {
   EXPECT_EQ(drawing.FreeRight, 7176);
   EXPECT_EQ(drawing.FreeBelow, 8);
   EXPECT_EQ(drawing.Panel, PanelPlace::Right);
-  EXPECT_EQ(drawing.PanelBox, (Box{16624, 0, 7176, 17450}));
+  EXPECT_EQ(drawing.PanelBox, (TwipRect{16624, 0, 7176, 17450}));
 }
 
 TEST_F(Redraw, MoreRoomBelowPutsThePanelBelow) {
@@ -153,7 +156,7 @@ TEST_F(Redraw, MoreRoomBelowPutsThePanelBelow) {
 
   EXPECT_EQ(drawing.Panel, PanelPlace::Below);
   EXPECT_EQ(drawing.FreeBelow, 9664);  // 20000 - 19 x 544
-  EXPECT_EQ(drawing.PanelBox, (Box{0, 10336, 9800, 9664}));
+  EXPECT_EQ(drawing.PanelBox, (TwipRect{0, 10336, 9800, 9664}));
 }
 
 TEST_F(Redraw, EqualRoomPutsThePanelBelow) {
@@ -172,17 +175,18 @@ TEST_F(Redraw, TheWholeGridHasNoIcons) {
   Jump(kJumpGate);
   Dock("dock", "depot");
 
-  EXPECT_THAT(Named(Draw(), "Image1"), IsEmpty());
+  EXPECT_THAT(Named(Draw(), ControlId::MapIcon), IsEmpty());
 }
 
 TEST_F(Redraw, AGateLineIsSolidWhiteAndNamesItsSystems) {
   Jump(kJumpGate);
 
-  const Control line = Named(Draw(), "Line1").at(0);
+  const Control line = Named(Draw(), ControlId::MapLine).at(0);
 
+  EXPECT_EQ(line.Line, LineKind::JumpGate);
   EXPECT_EQ(line.Style, LineStyle::Solid);
   EXPECT_EQ(line.BorderColor.Text(), "0xFFFFFF");
-  EXPECT_EQ(line.Tag, "Lantern <-> Ember");
+  EXPECT_EQ(std::get<ConnectedPlaces>(line.Subject), (ConnectedPlaces{"Lantern", "Ember"}));
   EXPECT_EQ(line.Index, 1);
   // Cells of 918: 7 x 918 + 459, 4 x 918 + 459, 8 x 918 + 229.5, 4 x 918 + 688.5
   EXPECT_EQ(line.Ends, (LineEnds{6885.0F, 4131.0F, 7573.5F, 4360.5F}));
@@ -191,8 +195,9 @@ TEST_F(Redraw, AGateLineIsSolidWhiteAndNamesItsSystems) {
 TEST_F(Redraw, AHoleLineIsDottedGrey) {
   Jump(kJumpHole);
 
-  const Control line = Named(Draw(), "Line1").at(0);
+  const Control line = Named(Draw(), ControlId::MapLine).at(0);
 
+  EXPECT_EQ(line.Line, LineKind::JumpHole);
   EXPECT_EQ(line.Style, LineStyle::Dotted);
   EXPECT_EQ(line.BorderColor.Text(), "0x808080");
 }
@@ -201,19 +206,20 @@ TEST_F(Redraw, LanesAreBlueAndFollowTheJumpLines) {
   Lane();
   Jump(kJumpGate);
 
-  const ControlList lines = Named(Draw(), "Line1");
+  const ControlList lines = Named(Draw(), ControlId::MapLine);
 
   ASSERT_EQ(lines.size(), 2u);
   EXPECT_EQ(lines[1].Index, 2);
   EXPECT_EQ(lines[1].BorderColor.Text(), "0xFF0000");
-  EXPECT_EQ(lines[1].Tag, "Jetty <-> Harbour");
+  EXPECT_EQ(lines[1].Line, LineKind::TradeLane);
+  EXPECT_EQ(std::get<ConnectedPlaces>(lines[1].Subject), (ConnectedPlaces{"Jetty", "Harbour"}));
 }
 
 TEST_F(Redraw, JumpLinesComeInTheOrderOfTheirKind) {
   Jump(kJumpHole);
   Jump(kJumpGate);
 
-  const ControlList lines = Named(Draw(), "Line1");
+  const ControlList lines = Named(Draw(), ControlId::MapLine);
 
   EXPECT_EQ(lines.at(0).Style, LineStyle::Solid);
   EXPECT_EQ(lines.at(1).Style, LineStyle::Dotted);
@@ -225,23 +231,23 @@ TEST_F(Redraw, AConnectionOfAnotherKindHasNoLineButGateIcons) {
 
   const MapDrawing drawing = Draw();
 
-  EXPECT_THAT(Named(drawing, "Line1"), IsEmpty());
-  const ControlList icons = Named(drawing, "Image1");
+  EXPECT_THAT(Named(drawing, ControlId::MapLine), IsEmpty());
+  const ControlList icons = Named(drawing, ControlId::MapIcon);
   ASSERT_EQ(icons.size(), 2u);
   EXPECT_EQ(icons[0].Picture, "Jumpgate");
-  EXPECT_THAT(*icons[0].Tag, ::testing::StartsWith("\r\n  Jumpgate\r\n"));
+  EXPECT_THAT(IconText(icons[0]), ::testing::StartsWith("\r\n  Jumpgate\r\n"));
 }
 
 TEST_F(Redraw, EachEndOfAConnectionTellsWhereItIsAndWhereItLeads) {
   Zoom(kTwoCells);
   Jump(kJumpHole);
 
-  const ControlList icons = Named(Draw(), "Image1");
+  const ControlList icons = Named(Draw(), ControlId::MapIcon);
 
   // 8 x 0.25 - 0.35 = 1.65; 8 x 0.75 - 0.5 = 5.5
-  EXPECT_EQ(icons.at(0).Tag,
+  EXPECT_EQ(IconText(icons.at(0)),
             "\r\n  Jumphole\r\n  Lantern [X=D.6/Y=4.5] TO\r\n  Ember [X=B.6/Y=6.5]");
-  EXPECT_EQ(icons.at(1).Tag,
+  EXPECT_EQ(IconText(icons.at(1)),
             "\r\n  Jumphole\r\n  Ember [X=B.6/Y=6.5] TO\r\n  Lantern [X=D.6/Y=4.5]");
   EXPECT_EQ(icons.at(1).Picture, "JumpHole");
 }
@@ -255,21 +261,21 @@ TEST_F(Redraw, IconsStayWhenAllLinesAreOff) {
 
   const MapDrawing drawing = Draw();
 
-  EXPECT_THAT(Named(drawing, "Line1"), IsEmpty());
-  EXPECT_EQ(Named(drawing, "Image1").size(), 3u);
+  EXPECT_THAT(Named(drawing, ControlId::MapLine), IsEmpty());
+  EXPECT_EQ(Named(drawing, ControlId::MapIcon).size(), 3u);
 }
 
 TEST_F(Redraw, AnIconIsCentredOnItsPointAndShrinksWithTheColumns) {
   Dock("dock", "depot");
   const auto iconOf = [&](const ZoomRectangle& rectangle) {
     Zoom(rectangle);
-    return Named(Draw(), "Image1").at(0).Place;
+    return Named(Draw(), ControlId::MapIcon).at(0).Place;
   };
 
   // One cell of 17450: its middle is 8725. Six columns: cells of 23800 / 6 = 3966.67, rounded
   // to 3967, the middle 1983.5; not 33 twips but 40.
-  EXPECT_EQ(iconOf({7, 4, 7, 4}), (Box{8625, 8625, 200, 200}));
-  EXPECT_EQ(iconOf({7, 4, 12, 4}), (Box{1963.5, 1963.5, 40, 40}));
+  EXPECT_EQ(iconOf({7, 4, 7, 4}), (TwipRect{8625, 8625, 200, 200}));
+  EXPECT_EQ(iconOf({7, 4, 12, 4}), (TwipRect{1963.5, 1963.5, 40, 40}));
   EXPECT_EQ(iconOf({7, 4, 9, 4}).Width, static_cast<double>(static_cast<float>(200.0 / 3)));
 }
 
@@ -278,17 +284,17 @@ TEST_F(Redraw, OnlyObjectsOfTheRectangleHaveIcons) {
   Dock("inside", "SECRET_wreck", 8, 4);
   Dock("outside", "depot", 9, 4);
 
-  const ControlList icons = Named(Draw(), "Image1");
+  const ControlList icons = Named(Draw(), ControlId::MapIcon);
 
   ASSERT_EQ(icons.size(), 1u);
-  EXPECT_EQ(icons[0].Tag, "inside");
+  EXPECT_EQ(IconText(icons[0]), "inside");
   EXPECT_EQ(icons[0].Picture, "NavyFighter");
 }
 
 TEST_F(Redraw, LabelsNameTheSystemsOfTheRectangle) {
   Zoom({8, 4, 9, 5});
 
-  const ControlList labels = Named(Draw(), "SysmapLabel");
+  const ControlList labels = Named(Draw(), ControlId::SystemLabel);
 
   ASSERT_EQ(labels.size(), 1u);
   EXPECT_EQ(labels[0].Caption, "Ember");
@@ -302,13 +308,13 @@ TEST_F(Redraw, ANameShrinksUntilItFitsItsCell) {
   // 15 characters of 12 twips a point in a cell of 918: 5 points are 900, 6 are 1080.
   state.Names.Set({7, 4}, "Fifteen letters");
 
-  EXPECT_EQ(Named(Draw(), "SysmapLabel").at(0).FontSize, 5);
+  EXPECT_EQ(Named(Draw(), ControlId::SystemLabel).at(0).FontSize, 5);
 }
 
 TEST_F(Redraw, ANameThatNeverFitsIsShownAtSizeOne) {
   state.Names.Set({7, 4}, std::string(100, 'x'));
 
-  EXPECT_EQ(Named(Draw(), "SysmapLabel").at(0).FontSize, 1);
+  EXPECT_EQ(Named(Draw(), ControlId::SystemLabel).at(0).FontSize, 1);
 }
 
 TEST_F(Redraw, TheBackgroundIsTiledOneTileFurtherThanTheFrame) {
@@ -316,13 +322,13 @@ TEST_F(Redraw, TheBackgroundIsTiledOneTileFurtherThanTheFrame) {
   formWidth = 200 + 5000;
   formHeight = 550 + 3000;
 
-  const ControlList tiles = Named(Draw(), "Hintergrund");
+  const ControlList tiles = Named(Draw(), ControlId::BackgroundTile);
 
   // Three tiles of 1920 cover 5000, two rows cover 3000, and one more tile begins a third row.
   ASSERT_EQ(tiles.size(), 7u);
-  EXPECT_EQ(tiles[2].Place, (Box{3840, 0, 1920, 1920}));
-  EXPECT_EQ(tiles[3].Place, (Box{0, 1920, 1920, 1920}));
-  EXPECT_EQ(tiles[6].Place, (Box{0, 3840, 1920, 1920}));
+  EXPECT_EQ(tiles[2].Place, (TwipRect{3840, 0, 1920, 1920}));
+  EXPECT_EQ(tiles[3].Place, (TwipRect{0, 1920, 1920, 1920}));
+  EXPECT_EQ(tiles[6].Place, (TwipRect{0, 3840, 1920, 1920}));
 }
 
 TEST_F(Redraw, TilesStayWhenTheMapIsWholeAgain) {
@@ -330,13 +336,13 @@ TEST_F(Redraw, TilesStayWhenTheMapIsWholeAgain) {
   Draw();
   Zoom({});
 
-  EXPECT_GT(Named(Draw(), "Hintergrund").size(), 1u);
+  EXPECT_GT(Named(Draw(), ControlId::BackgroundTile).size(), 1u);
 }
 
 TEST_F(Redraw, FillersCoverEveryCellWithoutASystem) {
   Zoom(kTwoCells);
 
-  const ControlList fillers = Named(Draw(), "Blanko");
+  const ControlList fillers = Named(Draw(), ControlId::EmptyCell);
 
   ASSERT_EQ(fillers.size(), 18u * 19 - 2);
   EXPECT_EQ(fillers.front().Index, 1);
@@ -348,18 +354,17 @@ TEST_F(Redraw, FillersCoverEveryCellWithoutASystem) {
 TEST_F(Redraw, SystemPicturesStandInTheirCellsWhereverTheyLie) {
   Zoom(kTwoCells);
 
-  const ControlList pictures = Named(Draw(), "SysMapGfx");
+  const ControlList pictures = Named(Draw(), ControlId::SystemPicture);
 
   ASSERT_EQ(pictures.size(), 47u);
-  // "7, 4" belongs to cell 8, 6; cells of 23800 / 2.
-  EXPECT_EQ(pictures[0].Tag, "7, 4");
-  EXPECT_EQ(pictures[0].Place, (Box{11900, 23800, 11900, 11900}));
+  // The first belongs to cell 8, 6; cells of 23800 / 2.
+  EXPECT_EQ(pictures[0].Place, (TwipRect{11900, 23800, 11900, 11900}));
 }
 
 TEST_F(Redraw, TheBorderOfAZoomedMapSurroundsTheShownCells) {
   Zoom(kTwoCells);
 
-  const ControlList border = Named(Draw(), "Rahmen");
+  const ControlList border = Named(Draw(), ControlId::Border);
 
   EXPECT_EQ(border.at(7).Place.Right(), 2 * 11900 + 100);
   EXPECT_EQ(border.at(7).Place.Bottom(), 11900);
@@ -377,9 +382,9 @@ TEST_F(Print, PaperIsWhiteWithBlackNamesAndGates) {
   const MapDrawing drawing = Draw();
 
   EXPECT_EQ(drawing.FrameColor.Text(), "0xFFFFFF");
-  EXPECT_EQ(Named(drawing, "SysmapLabel").at(0).ForeColor->Text(), "0x000000");
-  EXPECT_EQ(Named(drawing, "Line1").at(0).BorderColor.Text(), "0x000000");
-  EXPECT_EQ(Named(drawing, "Line1").at(1).BorderColor.Text(), "0x808080");
+  EXPECT_EQ(Named(drawing, ControlId::SystemLabel).at(0).ForeColor->Text(), "0x000000");
+  EXPECT_EQ(Named(drawing, ControlId::MapLine).at(0).BorderColor.Text(), "0x000000");
+  EXPECT_EQ(Named(drawing, ControlId::MapLine).at(1).BorderColor.Text(), "0x808080");
 }
 
 TEST_F(Print, PicturesTilesFillersAndBordersAreLeftOutAndThePanelLiesAtTheBack) {
@@ -390,15 +395,16 @@ TEST_F(Print, PicturesTilesFillersAndBordersAreLeftOutAndThePanelLiesAtTheBack) 
   Jump(kJumpGate);
   Dock("dock", "depot");
 
-  EXPECT_THAT(Layers(Draw()), ElementsAre("MenuFrame", "SysmapLabel", "Line1", "Image1"));
+  EXPECT_THAT(Layers(Draw()), ElementsAre(ControlId::PanelFrame, ControlId::SystemLabel,
+                                          ControlId::MapLine, ControlId::MapIcon));
 }
 
 TEST_F(Print, NoBorderIsVisibleInThePanelEither) {
   const MapDrawing drawing = Draw();
 
   ASSERT_EQ(drawing.Panel, PanelPlace::Right);
-  EXPECT_FALSE(PlaceOf(drawing.Controls, "Rahmen"));
-  EXPECT_TRUE(PlaceOf(drawing.Controls, "StationSearch"));
+  EXPECT_FALSE(PlaceOf(drawing.Controls, ControlId::Border));
+  EXPECT_TRUE(PlaceOf(drawing.Controls, ControlId::Tool));
   EXPECT_TRUE(drawing.PrintMode);
 }
 
@@ -421,8 +427,8 @@ TEST_F(Redraw, ADatabaseWithoutRowsGivesAMapWithoutLines) {
 
   const MapDrawing drawing = Draw();
 
-  EXPECT_THAT(Named(drawing, "Line1"), IsEmpty());
-  EXPECT_THAT(Named(drawing, "Image1"), IsEmpty());
+  EXPECT_THAT(Named(drawing, ControlId::MapLine), IsEmpty());
+  EXPECT_THAT(Named(drawing, ControlId::MapIcon), IsEmpty());
   EXPECT_THAT(log.Failures(), IsEmpty());
 }
 
@@ -434,9 +440,9 @@ TEST_F(Redraw, APointTooFarOffForAControlIsAFailureAndItsNumberStaysZero) {
 
   ASSERT_EQ(log.Failures().size(), 1u);
   EXPECT_EQ(log.Failures().front().What.Number, 6);
-  EXPECT_EQ(Named(drawing, "Line1").at(0).Ends.X1, 0);
-  EXPECT_GT(Named(drawing, "Line1").at(0).Ends.Y1, 0);
-  EXPECT_GT(Named(drawing, "Line1").at(0).Ends.X2, 0);
+  EXPECT_EQ(Named(drawing, ControlId::MapLine).at(0).Ends.X1, 0);
+  EXPECT_GT(Named(drawing, ControlId::MapLine).at(0).Ends.Y1, 0);
+  EXPECT_GT(Named(drawing, ControlId::MapLine).at(0).Ends.X2, 0);
 }
 
 TEST_F(Redraw, ANumberThatARowLacksIsAFailureOfEachStatementThatNeedsIt) {
@@ -445,10 +451,10 @@ TEST_F(Redraw, ANumberThatARowLacksIsAFailureOfEachStatementThatNeedsIt) {
 
   const MapDrawing drawing = Draw();
 
-  const Control line = Named(drawing, "Line1").at(0);
+  const Control line = Named(drawing, ControlId::MapLine).at(0);
   EXPECT_EQ(line.Ends.X1, 0);
   EXPECT_GT(line.Ends.Y1, 0);
-  EXPECT_EQ(Named(drawing, "Image1").at(0).Tag, "");
+  EXPECT_EQ(IconText(Named(drawing, ControlId::MapIcon).at(0)), "");
   // Of the line, of its icon, and of the tags of both icons.
   EXPECT_EQ(log.Failures().size(), 4u);
   for (const FailureEntry& entry : log.Failures()) EXPECT_EQ(entry.What.Number, 94);
@@ -464,9 +470,10 @@ TEST_F(Redraw, ACancelledRedrawShowsWhatItHadComeTo) {
   const MapDrawing drawing = Draw();
 
   // The second lane ends the redraw; the border is shown after the lines only.
-  EXPECT_EQ(Named(drawing, "Line1").size(), 2u);
+  EXPECT_EQ(Named(drawing, ControlId::MapLine).size(), 2u);
   EXPECT_THAT(Layers(drawing),
-              ElementsAre("Hintergrund", "StarMapPic", "SysmapLabel", "Line1", "MenuFrame"));
+              ElementsAre(ControlId::BackgroundTile, ControlId::PaintedUniverse,
+                          ControlId::SystemLabel, ControlId::MapLine, ControlId::PanelFrame));
 }
 
 // A map of a gate and two lanes that was drawn once; the gate's row cannot be drawn any more.
@@ -487,14 +494,14 @@ class RedrawnWithAFailure : public Redraw {
 TEST_F(RedrawnWithAFailure, CancelledItKeepsTheBorderAndTheLinesItDidNotReach) {
   const MapDrawing drawing = Draw();
 
-  EXPECT_EQ(Named(drawing, "Rahmen"), Named(before, "Rahmen"));
-  EXPECT_EQ(Named(drawing, "Line1"), Named(before, "Line1"));
+  EXPECT_EQ(Named(drawing, ControlId::Border), Named(before, ControlId::Border));
+  EXPECT_EQ(Named(drawing, ControlId::MapLine), Named(before, ControlId::MapLine));
 }
 
 TEST_F(RedrawnWithAFailure, CancelledItsBorderSurroundsTheCellsThatAreShownNow) {
   Zoom(kTwoCells);
 
-  const ControlList border = Named(Draw(), "Rahmen");
+  const ControlList border = Named(Draw(), ControlId::Border);
 
   ASSERT_EQ(border.size(), 8u);
   EXPECT_EQ(border.at(7).Place.Right(), 2 * 11900 + 100);
@@ -503,17 +510,17 @@ TEST_F(RedrawnWithAFailure, CancelledItsBorderSurroundsTheCellsThatAreShownNow) 
 TEST_F(RedrawnWithAFailure, ObjectsThatWereUnloadedDoNotComeBack) {
   UnloadObjects(state);
 
-  EXPECT_THAT(Named(Draw(), "Line1"), IsEmpty());
+  EXPECT_THAT(Named(Draw(), ControlId::MapLine), IsEmpty());
 }
 
 TEST_F(Redraw, SurplusElementsOfTheLastRedrawVanish) {
   Zoom(kTwoCells);
   Jump(kJumpGate);
   Dock("dock", "depot");
-  ASSERT_EQ(Named(Draw(), "Image1").size(), 3u);
+  ASSERT_EQ(Named(Draw(), ControlId::MapIcon).size(), 3u);
   db.Execute(mustWork, "DELETE FROM DockObjects");
 
-  EXPECT_EQ(Named(Draw(), "Image1").size(), 2u);
+  EXPECT_EQ(Named(Draw(), ControlId::MapIcon).size(), 2u);
 }
 
 // Fails to measure one name.
@@ -527,37 +534,35 @@ class FailingMeasure : public FixedTextMeasure {
 
 TEST_F(Redraw, AFailureAmongTheCellsIsOneOfZoomCalcAndTheNextStepRuns) {
   const FailingMeasure failing;
-  const MapDrawing drawing =
-      DrawMap(universe, state,
-              {formWidth, formHeight, MapOptions::Defaults(false), failing, panel, "StarMapPic"});
+  const MapDrawing drawing = DrawMap(
+      universe, state, {formWidth, formHeight, MapOptions::Defaults(false), failing, panel});
 
   ASSERT_EQ(log.Failures().size(), 1u);
   EXPECT_EQ(log.Failures()[0].Source, "OrrerixMain.ZoomCalc");
-  EXPECT_EQ(Named(drawing, "SysmapLabel").size(), 2u);
-  EXPECT_EQ(Named(drawing, "MenuFrame").size(), 1u);
+  EXPECT_EQ(Named(drawing, ControlId::SystemLabel).size(), 2u);
+  EXPECT_EQ(Named(drawing, ControlId::PanelFrame).size(), 1u);
 }
 
 TEST_F(Redraw, CancelledInZoomCalcTheRedrawGoesOn) {
   messages.Answer = MessageAnswer::Cancel;
   Lane();
   const FailingMeasure failing;
-  const MapDrawing drawing =
-      DrawMap(universe, state,
-              {formWidth, formHeight, MapOptions::Defaults(false), failing, panel, "StarMapPic"});
+  const MapDrawing drawing = DrawMap(
+      universe, state, {formWidth, formHeight, MapOptions::Defaults(false), failing, panel});
 
-  EXPECT_THAT(Named(drawing, "SysmapLabel"), IsEmpty());
-  EXPECT_EQ(Named(drawing, "Line1").size(), 1u);
+  EXPECT_THAT(Named(drawing, ControlId::SystemLabel), IsEmpty());
+  EXPECT_EQ(Named(drawing, ControlId::MapLine).size(), 1u);
 }
 
 TEST_F(Redraw, APanelBelowKeepsTheToolsWhereTheyWereAtTheRight) {
-  const auto atRight = PlaceOf(Draw().Controls, "StationSearch");
+  const auto atRight = PlaceOf(Draw().Controls, ControlId::Tool);
   Zoom(kTwoCells);
 
   const MapDrawing drawing = Draw();
 
   // Two cells of 11900 leave 17450 - 11900 = 5550 below; panel 23800 - 18 x 918 - 100 wide.
   ASSERT_EQ(drawing.Panel, PanelPlace::Below);
-  const auto below = PlaceOf(drawing.Controls, "StationSearch");
+  const auto below = PlaceOf(drawing.Controls, ControlId::Tool);
   ASSERT_TRUE(atRight && below);
   EXPECT_EQ(below->Left, 50);
   EXPECT_EQ(below->Top, 11900 + 50);
@@ -571,9 +576,9 @@ TEST_F(Redraw, APanelThatIsBelowFromTheStartHasToolsAndOptionsAsTheWholeGridHadT
 
   ASSERT_EQ(drawing.Panel, PanelPlace::Below);
   // (23800 - 16524 - 100 - 100) / 5 = 1415.2
-  EXPECT_EQ(PlaceOf(drawing.Controls, "StationSearch")->Width, 1415);
-  EXPECT_TRUE(PlaceOf(drawing.Controls, "ShowOptionsLabel"));
-  EXPECT_TRUE(PlaceOf(drawing.Controls, "SetLabel"));
+  EXPECT_EQ(PlaceOf(drawing.Controls, ControlId::Tool)->Width, 1415);
+  EXPECT_TRUE(PlaceOf(drawing.Controls, ControlId::OptionsCaption));
+  EXPECT_TRUE(PlaceOf(drawing.Controls, ControlId::OptionLabel));
 }
 
 TEST_F(Redraw, AFormWithoutRoomAtTheRightHasToolsAllTheSame) {
@@ -581,7 +586,7 @@ TEST_F(Redraw, AFormWithoutRoomAtTheRightHasToolsAllTheSame) {
   formHeight = 18000;
 
   // (3000 - 100) / 5
-  EXPECT_EQ(PlaceOf(Draw().Controls, "StationSearch")->Width, 580);
+  EXPECT_EQ(PlaceOf(Draw().Controls, ControlId::Tool)->Width, 580);
 }
 
 TEST_F(Redraw, AMapThatFillsTheFrameIsOverlaidByTheTools) {
@@ -593,7 +598,7 @@ TEST_F(Redraw, AMapThatFillsTheFrameIsOverlaidByTheTools) {
 
   ASSERT_EQ(drawing.FreeBelow, 100);
   EXPECT_FALSE(drawing.Controls.back().ClipsChildren);
-  EXPECT_LT(PlaceOf(drawing.Controls, "StationSearch")->Top, 10000);
+  EXPECT_LT(PlaceOf(drawing.Controls, ControlId::Tool)->Top, 10000);
 }
 
 TEST_F(Redraw, IconsHaveADarkBorder) {
@@ -601,7 +606,7 @@ TEST_F(Redraw, IconsHaveADarkBorder) {
   Jump(kJumpGate);
   Dock("dock", "depot");
 
-  for (const Control& icon : Named(Draw(), "Image1")) {
+  for (const Control& icon : Named(Draw(), ControlId::MapIcon)) {
     EXPECT_TRUE(icon.Bordered);
     EXPECT_LT(icon.BorderColor.Red() + icon.BorderColor.Green() + icon.BorderColor.Blue(), 255);
   }
@@ -618,7 +623,8 @@ TEST_F(Redraw, ACellBeyondTheGridIsAFailureOnceForEachStatement) {
   }
   // The line's tag, and both numbers of its first end.
   EXPECT_EQ(log.Failures().size(), 3u);
-  EXPECT_EQ(Named(drawing, "Line1").at(0).Tag, "");
+  EXPECT_TRUE(
+      std::holds_alternative<std::monostate>(Named(drawing, ControlId::MapLine).at(0).Subject));
 }
 
 }  // namespace

@@ -9,24 +9,24 @@
 namespace orrerix {
 namespace {
 
-const Control* Find(const ControlList& list, std::string_view name, std::optional<int> index) {
+const Control* Find(const ControlList& list, ControlId id, std::optional<int> index) {
   for (const Control& control : list) {
-    if (control.Name == name && control.Index == index) return &control;
-    if (const Control* inner = Find(control.Children, name, index)) return inner;
+    if (control.Id == id && control.Index == index) return &control;
+    if (const Control* inner = Find(control.Children, id, index)) return inner;
   }
   return nullptr;
 }
 
-int CountOf(const ControlList& list, std::string_view name) {
+int CountOf(const ControlList& list, ControlId id) {
   int count = 0;
   for (const Control& control : list) {
-    count += (control.Name == name ? 1 : 0) + CountOf(control.Children, name);
+    count += (control.Id == id ? 1 : 0) + CountOf(control.Children, id);
   }
   return count;
 }
 
 // Where the panel stood at the right of a map 17450 high.
-constexpr Box kAtRight{10000, 0, 7100, 17450};
+constexpr TwipRect kAtRight{10000, 0, 7100, 17450};
 
 class Panel : public ::testing::Test {
  protected:
@@ -48,15 +48,15 @@ TEST_F(Panel, FiveToolsShareTheWidth) {
   // (7100 - 100) / 5 = 1400
   const SidePanel panel = LayOut(7100);
 
-  EXPECT_EQ(Find(panel.Controls, "StationSearch", 0)->Place, (Box{50, 50, 1400, 1400}));
-  EXPECT_EQ(Find(panel.Controls, "StationSearch", 4)->Place, (Box{5650, 50, 1400, 1400}));
+  EXPECT_EQ(Find(panel.Controls, ControlId::Tool, 0)->Place, (TwipRect{50, 50, 1400, 1400}));
+  EXPECT_EQ(Find(panel.Controls, ControlId::Tool, 4)->Place, (TwipRect{5650, 50, 1400, 1400}));
 }
 
 TEST_F(Panel, OptionsStandBelowTheToolsAndTheInfoBoxBelowThem) {
   const SidePanel panel = LayOut(7100);
 
-  const Control& options = *Find(panel.Controls, "MenuFrame", 1);
-  const Control& info = *Find(panel.Controls, "MenuFrame", 2);
+  const Control& options = *Find(panel.Controls, ControlId::PanelFrame, 1);
+  const Control& info = *Find(panel.Controls, ControlId::PanelFrame, 2);
   EXPECT_EQ(options.Place.Top, 1500);
   EXPECT_EQ(info.Place.Top, options.Place.Bottom());
   EXPECT_EQ(info.Place.Bottom(), 17450);
@@ -67,27 +67,27 @@ TEST_F(Panel, TheCreditLineMayTakeHalfTheInfoBoxRoundedToTheEvenTwip) {
   content.Credit = std::string(28, 'x');
 
   // Half of the info box's 6107 - 60 = 6047 twips is 3023.5, so 3024: 28 letters of 9 points.
-  EXPECT_EQ(Find(LayOut(6107).Controls, "WRTP", 1)->FontSize, 9);
+  EXPECT_EQ(Find(LayOut(6107).Controls, ControlId::InfoBoxLine, 1)->FontSize, 9);
   // Half of 6045 is 3022.5, so 3022.
-  EXPECT_EQ(Find(LayOut(6105).Controls, "WRTP", 1)->FontSize, 8);
+  EXPECT_EQ(Find(LayOut(6105).Controls, ControlId::InfoBoxLine, 1)->FontSize, 8);
 }
 
 TEST_F(Panel, SwitchesAreThereOnlyWhenUnfolded) {
-  EXPECT_EQ(Find(LayOut(7100).Controls, "SetImage", 0), nullptr);
+  EXPECT_EQ(Find(LayOut(7100).Controls, ControlId::OptionSwitch, 0), nullptr);
 
   const SidePanel open = LayOut(7100, 17450, true);
 
-  EXPECT_EQ(*Find(open.Controls, "SetImage", 0)->Picture, "tools/check_off.svg");
-  EXPECT_EQ(*Find(open.Controls, "SetImage", 5)->Picture, "tools/check_on.svg");
-  EXPECT_EQ(*Find(open.Controls, "SetLabel", 4)->Caption, "Tradelane Lines");
+  EXPECT_EQ(*Find(open.Controls, ControlId::OptionSwitch, 0)->Picture, "tools/check_off.svg");
+  EXPECT_EQ(*Find(open.Controls, ControlId::OptionSwitch, 5)->Picture, "tools/check_on.svg");
+  EXPECT_EQ(*Find(open.Controls, ControlId::OptionLabel, 4)->Caption, "Tradelane Lines");
 }
 
 TEST_F(Panel, AWidePanelHasItsSwitchesInTwoColumns) {
   const SidePanel open = LayOut(7100, 17450, true);
 
-  const Box first = Find(open.Controls, "SetImage", 0)->Place;
-  const Box second = Find(open.Controls, "SetImage", 1)->Place;
-  const Box third = Find(open.Controls, "SetImage", 2)->Place;
+  const TwipRect first = Find(open.Controls, ControlId::OptionSwitch, 0)->Place;
+  const TwipRect second = Find(open.Controls, ControlId::OptionSwitch, 1)->Place;
+  const TwipRect third = Find(open.Controls, ControlId::OptionSwitch, 2)->Place;
   EXPECT_EQ(second.Top, first.Top);
   EXPECT_GT(second.Left, first.Left);
   EXPECT_EQ(third.Left, first.Left);
@@ -97,8 +97,8 @@ TEST_F(Panel, AWidePanelHasItsSwitchesInTwoColumns) {
 TEST_F(Panel, ANarrowPanelHasItsSwitchesInOneColumn) {
   const SidePanel open = LayOut(2000, 17450, true);
 
-  const Box first = Find(open.Controls, "SetImage", 0)->Place;
-  const Box second = Find(open.Controls, "SetImage", 1)->Place;
+  const TwipRect first = Find(open.Controls, ControlId::OptionSwitch, 0)->Place;
+  const TwipRect second = Find(open.Controls, ControlId::OptionSwitch, 1)->Place;
   EXPECT_EQ(second.Left, first.Left);
   EXPECT_EQ(second.Top, first.Top + 495);
 }
@@ -106,8 +106,8 @@ TEST_F(Panel, ANarrowPanelHasItsSwitchesInOneColumn) {
 TEST_F(Panel, TheLanguageStandsInTheCornerOfTheCaption) {
   const SidePanel panel = LayOut(7100);
 
-  const Box caption = Find(panel.Controls, "ShowOptionsLabel", std::nullopt)->Place;
-  const Control& language = *Find(panel.Controls, "SetLabel", 6);
+  const TwipRect caption = Find(panel.Controls, ControlId::OptionsCaption, std::nullopt)->Place;
+  const Control& language = *Find(panel.Controls, ControlId::OptionLabel, 6);
   EXPECT_EQ(*language.Caption, "English");
   EXPECT_EQ(language.Place.Right(), caption.Right());
   EXPECT_EQ(language.Place.Bottom(), caption.Bottom());
@@ -117,7 +117,8 @@ TEST_F(Panel, TheHeadBandKeepsItsProportions) {
   const SidePanel panel = LayOut(8175);
 
   // The info box is 8175 - 60 = 8115 wide.
-  EXPECT_EQ(Find(panel.Controls, "ITACImage", 0)->Place, (Box{0, 60, 8115, 615}));
+  EXPECT_EQ(Find(panel.Controls, ControlId::InfoBoxPicture, 0)->Place,
+            (TwipRect{0, 60, 8115, 615}));
 }
 
 TEST_F(Panel, NewsThatFitsDoesNotScroll) {
@@ -133,8 +134,8 @@ TEST_F(Panel, NewsThatReachesTheSloganScrolls) {
 TEST_F(Panel, TheLogoShrinksAndIsCentredWhereThePanelIsLow) {
   const SidePanel panel = LayOut(7100, 5000);
 
-  const Box info = Find(panel.Controls, "MenuFrame", 2)->Place;
-  const Box logo = Find(panel.Controls, "ImageClan", std::nullopt)->Place;
+  const TwipRect info = Find(panel.Controls, ControlId::PanelFrame, 2)->Place;
+  const TwipRect logo = Find(panel.Controls, ControlId::Logo, std::nullopt)->Place;
   EXPECT_LT(logo.Width, info.Width);
   EXPECT_DOUBLE_EQ(logo.Left, info.Width / 2 - logo.Width / 2);
 }
@@ -144,8 +145,8 @@ TEST_F(Panel, ATinyPanelHasNoNegativeSizes) {
 
   const std::function<void(const ControlList&)> check = [&](const ControlList& list) {
     for (const Control& control : list) {
-      EXPECT_GE(control.Place.Width, 0) << control.Name;
-      EXPECT_GE(control.Place.Height, 0) << control.Name;
+      EXPECT_GE(control.Place.Width, 0) << PrintedName(control.Id);
+      EXPECT_GE(control.Place.Height, 0) << PrintedName(control.Id);
       check(control.Children);
     }
   };
@@ -155,10 +156,10 @@ TEST_F(Panel, ATinyPanelHasNoNegativeSizes) {
 TEST_F(Panel, TheReducedPanelShowsNewsAndLogo) {
   const SidePanel panel = LayOutPanelBelow({0, 9000, 12000, 3000}, kAtRight, View());
 
-  EXPECT_EQ(Find(panel.Controls, "MenuFrame", 2)->Place, (Box{0, 0, 12000, 3000}));
-  EXPECT_EQ(Find(panel.Controls, "InfoBoxLabel", 0)->Place.Top, 0);
+  EXPECT_EQ(Find(panel.Controls, ControlId::PanelFrame, 2)->Place, (TwipRect{0, 0, 12000, 3000}));
+  EXPECT_EQ(Find(panel.Controls, ControlId::NewsLabel, 0)->Place.Top, 0);
   // 3000 - 100 high, 4 : 1; its right edge 50 twips from the panel's.
-  EXPECT_DOUBLE_EQ(Find(panel.Controls, "ImageClan", std::nullopt)->Place.Height, 2900);
+  EXPECT_DOUBLE_EQ(Find(panel.Controls, ControlId::Logo, std::nullopt)->Place.Height, 2900);
 }
 
 TEST_F(Panel, BelowToolsAndOptionsStayInFrontWhereTheyWereAtTheRight) {
@@ -167,9 +168,10 @@ TEST_F(Panel, BelowToolsAndOptionsStayInFrontWhereTheyWereAtTheRight) {
   const SidePanel below = LayOutPanelBelow({0, 9000, 12000, 3000}, kAtRight, View());
 
   for (int i = 0; i < 5; ++i) {
-    EXPECT_EQ(*Find(below.Controls, "StationSearch", i), *Find(right, "StationSearch", i));
+    EXPECT_EQ(*Find(below.Controls, ControlId::Tool, i), *Find(right, ControlId::Tool, i));
   }
-  EXPECT_EQ(*Find(below.Controls, "MenuFrame", 1), *Find(right, "MenuFrame", 1));
+  EXPECT_EQ(*Find(below.Controls, ControlId::PanelFrame, 1),
+            *Find(right, ControlId::PanelFrame, 1));
   EXPECT_EQ(below.Controls.front().Index, 2);
   EXPECT_FALSE(below.Overhangs);
 }
@@ -177,7 +179,7 @@ TEST_F(Panel, BelowToolsAndOptionsStayInFrontWhereTheyWereAtTheRight) {
 TEST_F(Panel, BelowTheOptionsUnfoldToo) {
   const SidePanel below = LayOutPanelBelow({0, 4000, 12000, 9000}, kAtRight, View(true));
 
-  EXPECT_NE(Find(below.Controls, "SetImage", 5), nullptr);
+  EXPECT_NE(Find(below.Controls, ControlId::OptionSwitch, 5), nullptr);
 }
 
 TEST_F(Panel, APanelTooLowForToolsAndOptionsLetsThemReachUp) {
@@ -185,8 +187,8 @@ TEST_F(Panel, APanelTooLowForToolsAndOptionsLetsThemReachUp) {
   const SidePanel below = LayOutPanelBelow({0, 9000, 12000, 175}, kAtRight, View());
 
   EXPECT_TRUE(below.Overhangs);
-  EXPECT_EQ(Find(below.Controls, "MenuFrame", 1)->Place.Bottom(), 175);
-  EXPECT_EQ(Find(below.Controls, "StationSearch", 0)->Place.Top, 50 - 1180);
+  EXPECT_EQ(Find(below.Controls, ControlId::PanelFrame, 1)->Place.Bottom(), 175);
+  EXPECT_EQ(Find(below.Controls, ControlId::Tool, 0)->Place.Top, 50 - 1180);
 }
 
 TEST_F(Panel, InALowPanelTheToolsAreAsLargeAsItsHeightAllows) {
@@ -194,34 +196,34 @@ TEST_F(Panel, InALowPanelTheToolsAreAsLargeAsItsHeightAllows) {
   const SidePanel below = LayOutPanelBelow({0, 9000, 12000, 1600}, kAtRight, View());
 
   // 1600 - 675 for the options - 100
-  EXPECT_EQ(Find(below.Controls, "StationSearch", 0)->Place, (Box{50, 50, 825, 825}));
+  EXPECT_EQ(Find(below.Controls, ControlId::Tool, 0)->Place, (TwipRect{50, 50, 825, 825}));
   EXPECT_FALSE(below.Overhangs);
   // Unfolded they stay as wide and reach up.
   const SidePanel open = LayOutPanelBelow({0, 9000, 12000, 1600}, kAtRight, unfolded);
-  EXPECT_EQ(Find(open.Controls, "StationSearch", 0)->Place.Width, 825);
+  EXPECT_EQ(Find(open.Controls, ControlId::Tool, 0)->Place.Width, 825);
   EXPECT_TRUE(open.Overhangs);
 }
 
 TEST_F(Panel, ToolsNeverReachUpBeyondTheMap) {
   const SidePanel below = LayOutPanelBelow({0, 1000, 12000, 0}, kAtRight, View());
 
-  EXPECT_EQ(Find(below.Controls, "StationSearch", 0)->Place.Top, 50 - 1000);
+  EXPECT_EQ(Find(below.Controls, ControlId::Tool, 0)->Place.Top, 50 - 1000);
 }
 
 TEST_F(Panel, ANarrowerFormHasNarrowerToolsBelow) {
   // (6100 - 100) / 5 = 1200
   const SidePanel below = LayOutPanelBelow({0, 4000, 6100, 9000}, kAtRight, View());
 
-  EXPECT_EQ(Find(below.Controls, "StationSearch", 4)->Place.Right(), 5 * 1200 + 50);
+  EXPECT_EQ(Find(below.Controls, ControlId::Tool, 4)->Place.Right(), 5 * 1200 + 50);
 }
 
 TEST_F(Panel, InPrintNoneOfItsBordersIsVisible) {
   printMode = true;
 
-  EXPECT_EQ(CountOf(LayOut(7100, 17450, true).Controls, "Rahmen"), 0);
+  EXPECT_EQ(CountOf(LayOut(7100, 17450, true).Controls, ControlId::Border), 0);
   printMode = false;
   // Those of the tools, the options and the info box.
-  EXPECT_EQ(CountOf(LayOut(7100, 17450, true).Controls, "Rahmen"), 3 * 8);
+  EXPECT_EQ(CountOf(LayOut(7100, 17450, true).Controls, ControlId::Border), 3 * 8);
 }
 
 TEST_F(Panel, ABorderThatFailsLeavesTheRestOfThePanel) {
@@ -231,7 +233,7 @@ TEST_F(Panel, ABorderThatFailsLeavesTheRestOfThePanel) {
   for (const FailureEntry& entry : log.Failures()) {
     EXPECT_EQ(entry.Source, "OrrerixMain.SetRahmen");
   }
-  EXPECT_NE(Find(panel.Controls, "ImageClan", std::nullopt), nullptr);
+  EXPECT_NE(Find(panel.Controls, ControlId::Logo, std::nullopt), nullptr);
 }
 
 }  // namespace

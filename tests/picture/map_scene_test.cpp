@@ -3,6 +3,7 @@
 
 #include <QImage>
 #include <QPainter>
+#include <algorithm>
 
 #include <gtest/gtest.h>
 
@@ -16,14 +17,14 @@ class MapSceneTest : public ::testing::Test {
  protected:
   MapSceneTest() { drawing.Frame = {0, 0, 1500, 1500}; }
 
-  static Control Rectangle(Box place, Color back) { return MakeFrame("Frame", 0, place, back); }
+  static Control Rectangle(TwipRect place, Color back) {
+    return MakeFrame(ControlId::PanelFrame, 0, place, back);
+  }
 
-  static Control Line(float x1, float y1, float x2, float y2, Color color) {
-    Control line;
-    line.Kind = ControlKind::Line;
-    line.Name = "Line1";
+  static Control Line(float x1, float y1, float x2, float y2, Color color,
+                      LineKind kind = LineKind::JumpGate) {
+    Control line = MakeLine(ControlId::MapLine, 1, kind, color);
     line.Ends = {x1, y1, x2, y2};
-    line.BorderColor = color;
     return line;
   }
 
@@ -73,7 +74,7 @@ TEST_F(MapSceneTest, LaterControlsStandInFront) {
 class LinesAndNamesTest : public MapSceneTest {
  protected:
   LinesAndNamesTest() {
-    Control name = MakeLabel("SysmapLabel", 1, {0, 300, 1500, 375}, "MMMM");
+    Control name = MakeLabel(ControlId::SystemLabel, 1, {0, 300, 1500, 375}, "MMMM");
     name.FontSize = 12;
     name.ForeColor = Color{0x000000};
     drawing.Controls = {name};
@@ -122,7 +123,7 @@ TEST_F(LinesAndNamesTest, ALineThatComesInALaterDrawingPalesToo) {
 
 TEST_F(MapSceneTest, GreyDotsHaveADarkGroundOnABrightOne) {
   drawing.FrameColor = {0xFFFFFF};
-  Control dots = Line(750, 0, 750, 1500, {0x808080});
+  Control dots = Line(750, 0, 750, 1500, {0x808080}, LineKind::JumpHole);
   dots.Style = LineStyle::Dotted;
   drawing.Controls = {dots};
 
@@ -137,9 +138,9 @@ TEST_F(MapSceneTest, GreyDotsHaveADarkGroundOnABrightOne) {
 TEST_F(MapSceneTest, OnPaperLinesAreDrawnAsTheyAre) {
   drawing.PrintMode = true;
   drawing.FrameColor = {0xFFFFFF};
-  Control dots = Line(750, 0, 750, 1500, {0x808080});
+  Control dots = Line(750, 0, 750, 1500, {0x808080}, LineKind::JumpHole);
   dots.Style = LineStyle::Dotted;
-  drawing.Controls = {Line(0, 307, 1500, 307, {0xFF0000}), dots};
+  drawing.Controls = {Line(0, 307, 1500, 307, {0xFF0000}, LineKind::TradeLane), dots};
 
   const QImage image = Rendered();
 
@@ -153,7 +154,7 @@ TEST_F(MapSceneTest, OnPaperLinesAreDrawnAsTheyAre) {
 }
 
 TEST_F(MapSceneTest, ALineOfTheScreenIsPaintedAnewOnPaper) {
-  drawing.Controls = {Line(0, 307, 1500, 307, {0xFF0000})};
+  drawing.Controls = {Line(0, 307, 1500, 307, {0xFF0000}, LineKind::TradeLane)};
   Rendered();
   drawing.PrintMode = true;
 
@@ -176,7 +177,7 @@ TEST_F(MapSceneTest, ALineAlongThePixelsIsSharpInItsColour) {
 }
 
 TEST_F(MapSceneTest, ABorderedPictureHasALineOfOnePixelInsideItsPlace) {
-  Control icon = MakePicture("Image1", 1, {300, 450, 150, 150}, "Planet1");
+  Control icon = MakePicture(ControlId::MapIcon, 1, {300, 450, 150, 150}, "Planet1");
   icon.Bordered = true;
   icon.BorderColor = {0x503828};
   drawing.FrameColor = {0xFFFFFF};
@@ -262,7 +263,7 @@ TEST_F(MapSceneTest, OnAFineScreenTheyAreAsWideAsOnACoarseOne) {
 
 // Blue alone is a seventh as bright as white; its edges are seen instead.
 TEST_F(MapSceneTest, ATradeLaneIsBlueBetweenLightEdges) {
-  drawing.Controls = {Line(0, 757, 1500, 757, {0xFF0000})};
+  drawing.Controls = {Line(0, 757, 1500, 757, {0xFF0000}, LineKind::TradeLane)};
 
   const QImage image = Rendered();
 
@@ -283,7 +284,7 @@ TEST_F(MapSceneTest, LinesOfJumpsHaveNoEdges) {
 }
 
 TEST_F(MapSceneTest, ADottedLineHasGaps) {
-  Control line = Line(0, 750, 1500, 750, {0x808080});
+  Control line = Line(0, 750, 1500, 750, {0x808080}, LineKind::JumpHole);
   line.Style = LineStyle::Dotted;
   drawing.Controls = {line};
 
@@ -297,25 +298,25 @@ TEST_F(MapSceneTest, ADottedLineHasGaps) {
 
 TEST_F(MapSceneTest, TheTopmostControlIsUnderTheMouseAndLinesAreNot) {
   drawing.Controls = {Rectangle({0, 0, 750, 750}, {}),
-                      MakePicture("Image1", 3, {0, 0, 300, 300}, "Jumpgate"),
+                      MakePicture(ControlId::MapIcon, 3, {0, 0, 300, 300}, "Jumpgate"),
                       Line(0, 0, 1500, 1500, {0xFFFFFF})};
   scene.Show(drawing);
 
   const Control* icon = scene.ControlAt({10, 10});
   ASSERT_NE(icon, nullptr);
-  EXPECT_EQ(icon->Name, "Image1");
+  EXPECT_EQ(icon->Id, ControlId::MapIcon);
   EXPECT_EQ(icon->Index, 3);
-  EXPECT_EQ(scene.ControlAt({40, 40})->Name, "Frame");
+  EXPECT_EQ(scene.ControlAt({40, 40})->Id, ControlId::PanelFrame);
   EXPECT_EQ(scene.ControlAt({80, 80}), nullptr);
 }
 
 TEST_F(MapSceneTest, ControlsInsideAFrameAreFoundThere) {
   Control panel = Rectangle({750, 0, 750, 1500}, {});
-  panel.Children = {MakePicture("StationSearch", 2, {150, 150, 150, 150}, "tools/print.svg")};
+  panel.Children = {MakePicture(ControlId::Tool, 2, {150, 150, 150, 150}, "tools/print.svg")};
   drawing.Controls = {panel};
   scene.Show(drawing);
 
-  EXPECT_EQ(scene.ControlAt({65, 15})->Name, "StationSearch");
+  EXPECT_EQ(scene.ControlAt({65, 15})->Id, ControlId::Tool);
 }
 
 TEST_F(MapSceneTest, WhatANewListBeginsWithAsBeforeKeepsItsItems) {
@@ -329,12 +330,12 @@ TEST_F(MapSceneTest, WhatANewListBeginsWithAsBeforeKeepsItsItems) {
 
   EXPECT_EQ(scene.items({10, 10}).front()->data(0), "of before");
   EXPECT_FALSE(scene.items({60, 10}).front()->data(0).isValid());
-  EXPECT_EQ(scene.ControlAt({10, 10}), scene.Find("Frame", 0));
+  EXPECT_EQ(scene.ControlAt({10, 10}), scene.Find(ControlId::PanelFrame, 0));
 }
 
 TEST_F(MapSceneTest, WhereThePanelLeavesOtherRoomNoItemIsKept) {
   drawing.Controls = {Rectangle({0, 0, 750, 1500}, {0x0000FF}),
-                      MakeFrame("MenuFrame", 0, {750, 0, 750, 1500}, {})};
+                      MakeFrame(ControlId::PanelFrame, 0, {750, 0, 750, 1500}, {})};
   drawing.Panel = PanelPlace::Right;
   drawing.PanelBox = {750, 0, 750, 1500};
   scene.Show(drawing);
@@ -348,7 +349,7 @@ TEST_F(MapSceneTest, WhereThePanelLeavesOtherRoomNoItemIsKept) {
 
 TEST_F(MapSceneTest, ControlsWithinAFrameThatStaysAreThoseOfTheNewList) {
   Control panel = Rectangle({0, 0, 750, 1500}, {0x0000FF});
-  panel.Children = {MakePicture("StationSearch", 2, {150, 150, 150, 150}, "tools/print.svg")};
+  panel.Children = {MakePicture(ControlId::Tool, 2, {150, 150, 150, 150}, "tools/print.svg")};
   drawing.Controls = {panel};
   scene.Show(drawing);
 
@@ -358,9 +359,9 @@ TEST_F(MapSceneTest, ControlsWithinAFrameThatStaysAreThoseOfTheNewList) {
 }
 
 TEST_F(MapSceneTest, PartsOfThePanelAreToldApartFromTheMap) {
-  Control panel = MakeFrame("MenuFrame", 0, {750, 0, 750, 1500}, {});
-  panel.Children = {MakePicture("StationSearch", 2, {150, 150, 150, 150}, "tools/print.svg")};
-  drawing.Controls = {MakePicture("Image1", 3, {0, 0, 300, 300}, "Jumpgate"), panel};
+  Control panel = MakeFrame(ControlId::PanelFrame, 0, {750, 0, 750, 1500}, {});
+  panel.Children = {MakePicture(ControlId::Tool, 2, {150, 150, 150, 150}, "tools/print.svg")};
+  drawing.Controls = {MakePicture(ControlId::MapIcon, 3, {0, 0, 300, 300}, "Jumpgate"), panel};
   scene.Show(drawing);
 
   EXPECT_TRUE(scene.HitAt({65, 15}).OnPanel);
@@ -397,8 +398,8 @@ TEST_F(MapSceneTest, AControlThatIsReplacedKeepsItsPlaceInTheStack) {
   back.Place = {0, 0, 1500, 1500};
   scene.Replace(back);
 
-  ASSERT_NE(scene.Find("Frame", 1), nullptr);
-  EXPECT_EQ(scene.Find("Frame", 1)->Place.Width, 1500);
+  ASSERT_NE(scene.Find(ControlId::PanelFrame, 1), nullptr);
+  EXPECT_EQ(scene.Find(ControlId::PanelFrame, 1)->Place.Width, 1500);
   EXPECT_EQ(scene.ControlAt({10, 10})->Index, 0);
   EXPECT_EQ(scene.ControlAt({90, 90})->Index, 1);
 }
@@ -407,14 +408,14 @@ TEST_F(MapSceneTest, ReplacingWhatIsNotThereChangesNothing) {
   drawing.Controls = {Rectangle({0, 0, 750, 750}, {0xFF0000})};
   scene.Show(drawing);
 
-  scene.Replace(MakePicture("Image1", 7, {0, 0, 600, 600}, "Jumpgate"));
+  scene.Replace(MakePicture(ControlId::MapIcon, 7, {0, 0, 600, 600}, "Jumpgate"));
 
-  EXPECT_EQ(scene.Find("Image1", 7), nullptr);
+  EXPECT_EQ(scene.Find(ControlId::MapIcon, 7), nullptr);
   EXPECT_EQ(scene.ControlAt({90, 90}), nullptr);
 }
 
 TEST_F(MapSceneTest, AShapeHasAnOutlineAndRoundOrSquareCorners) {
-  Control shape = MakeFrame("Shape1", std::nullopt, {150, 150, 750, 750}, {0x0000FF});
+  Control shape = MakeFrame(ControlId::BoxShape, std::nullopt, {150, 150, 750, 750}, {0x0000FF});
   shape.BorderColor = {0x00FF00};
   shape.Shape = ShapeForm::RoundedRectangle;
   drawing.Controls = {shape};
@@ -429,7 +430,7 @@ TEST_F(MapSceneTest, AShapeHasAnOutlineAndRoundOrSquareCorners) {
 }
 
 TEST_F(MapSceneTest, TheTextOfABoxHasItsLines) {
-  Control text = MakeLabel("InfoText", std::nullopt, {0, 0, 1500, 1500}, "M\r\n\r\nM");
+  Control text = MakeLabel(ControlId::BoxText, std::nullopt, {0, 0, 1500, 1500}, "M\r\n\r\nM");
   text.FontSize = 9;
   text.ForeColor = Color{0xFFFFFF};
   drawing.Controls = {text};
@@ -460,7 +461,7 @@ TEST_F(MapSceneTest, ANewListReplacesTheOneBefore) {
 }
 
 TEST_F(MapSceneTest, LabelsWriteInTheirColourOnTheirGround) {
-  Control label = MakeLabel("WRTP", 0, {0, 0, 1500, 300}, "HHHHHHHH");
+  Control label = MakeLabel(ControlId::InfoBoxLine, 0, {0, 0, 1500, 300}, "HHHHHHHH");
   label.ForeColor = Color{0x0000FF};
   label.BackColor = Color{0x400000};
   drawing.Controls = {label};
@@ -477,7 +478,7 @@ TEST_F(MapSceneTest, LabelsWriteInTheirColourOnTheirGround) {
 
 TEST_F(MapSceneTest, NamesOfSystemsAreTransparent) {
   drawing.FrameColor = {0xFFFFFF};
-  Control label = MakeLabel("SysmapLabel", 0, {0, 0, 1500, 1500}, "X");
+  Control label = MakeLabel(ControlId::SystemLabel, 0, {0, 0, 1500, 1500}, "X");
   label.BackColor = Color{0x400000};
   drawing.Controls = {label};
 

@@ -20,20 +20,24 @@ namespace orrerix {
 namespace {
 
 QString FileOf(const std::string& picture, std::optional<int> index = std::nullopt) {
-  return PictureFile(MakePicture("Image1", index, {}, picture));
+  return PictureFile(MakePicture(ControlId::MapIcon, index, {}, picture));
+}
+
+QString OwnFileOf(ControlId id, std::optional<int> index = std::nullopt) {
+  return PictureFile(MakePicture(id, index, {}));
 }
 
 TEST(PictureFiles, ControlsThatCarryAPictureHaveItsFile) {
-  EXPECT_EQ(FileOf("StarMapPic"), ":/pictures/star_map.jpg");
-  EXPECT_EQ(FileOf("Hintergrund"), ":/pictures/hintergrund.png");
-  EXPECT_EQ(FileOf("Blanko"), ":/pictures/blanko.jpg");
+  EXPECT_EQ(OwnFileOf(ControlId::PaintedUniverse), ":/pictures/star_map.jpg");
+  EXPECT_EQ(OwnFileOf(ControlId::BackgroundTile), ":/pictures/hintergrund.png");
+  EXPECT_EQ(OwnFileOf(ControlId::EmptyCell), ":/pictures/blanko.jpg");
   EXPECT_EQ(FileOf("JumpHole"), ":/pictures/icons/jumphole.svg");
   EXPECT_EQ(FileOf("WaterlooStation"), ":/pictures/icons/waterloostation.svg");
 }
 
 TEST(PictureFiles, SystemPicturesGoByTheirIndex) {
-  EXPECT_EQ(FileOf("SysMapGfx", 7), ":/pictures/systems/07.jpg");
-  EXPECT_EQ(FileOf("SysMapGfx", 46), ":/pictures/systems/46.jpg");
+  EXPECT_EQ(OwnFileOf(ControlId::SystemPicture, 7), ":/pictures/systems/07.jpg");
+  EXPECT_EQ(OwnFileOf(ControlId::SystemPicture, 46), ":/pictures/systems/46.jpg");
 }
 
 TEST(PictureFiles, FileNamesAreFilesBelowTheBuiltInPictures) {
@@ -117,7 +121,7 @@ TEST(PictureFiles, TheLogoHasTheProportionsThatThePanelGivesIt) {
 
 TEST(PictureFiles, AllPicturesOfSystemsAndObjectsAreThere) {
   for (int i = 0; i < kSystemPictures; ++i) {
-    EXPECT_TRUE(QFile::exists(FileOf("SysMapGfx", i))) << i;
+    EXPECT_TRUE(QFile::exists(OwnFileOf(ControlId::SystemPicture, i))) << i;
   }
   for (const char* loadout : {"", "battleship", "factory", "space_station", "trading_outpost",
                               "gasminer", "miningbase", "SECRET_", "docking_ring"}) {

@@ -107,9 +107,9 @@ TEST_F(RealData, WholeGridAndZoomedMapAreDrawnWithoutAFailure) {
 
   for (const ZoomRectangle& rectangle : {ZoomRectangle{}, ZoomRectangle{7, 5, 9, 8}}) {
     state.Zoom.Reset(rectangle);
-    const MapDrawing drawing = DrawMap(
-        universe, state,
-        {24000, 18000, MapOptions::Defaults(rectangle.IsZoomed()), measure, panel, "StarMapPic"});
+    const MapDrawing drawing =
+        DrawMap(universe, state,
+                {24000, 18000, MapOptions::Defaults(rectangle.IsZoomed()), measure, panel});
     EXPECT_GT(drawing.Controls.size(), 200u);
   }
 

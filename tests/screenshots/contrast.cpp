@@ -15,7 +15,7 @@
 
 #include <fmt/format.h>
 
-#include "forms/sysmap_frame.h"
+#include "forms/map/sysmap_frame.h"
 #include "picture/map_scene.h"
 #include "picture/twips.h"
 

@@ -5,6 +5,7 @@
 #include <QListWidget>
 #include <QTest>
 #include <QTimer>
+#include <algorithm>
 #include <chrono>
 #include <stdexcept>
 #include <string>
@@ -12,8 +13,9 @@
 
 #include <fmt/format.h>
 
-#include "forms/spoiler.h"
-#include "forms/update.h"
+#include "forms/controls/control_name.h"
+#include "forms/start/spoiler.h"
+#include "forms/start/update.h"
 #include "map/map_coords.h"
 #include "map/system_pictures.h"
 #include "picture/control_items.h"
@@ -27,16 +29,17 @@ void PassEvents() {
 }
 
 template <typename Child>
-Child& ChildOf(QWidget& window, const char* name) {
+Child& ChildOf(QWidget& window, const QString& name) {
   if (auto* child = window.findChild<Child*>(name)) return *child;
-  throw std::runtime_error(fmt::format("there is no {}", name));
+  throw std::runtime_error(fmt::format("there is no {}", name.toStdString()));
 }
 
 // The middle of the cells that have a name: where most is to be seen.
 QPointF MiddleOfLabels(const MapDrawing& drawing) {
   QRectF all;
   for (const Control& control : drawing.Controls) {
-    if (control.Name == "SysmapLabel") all |= QRectF(control.Place.Left, control.Place.Top, 1, 1);
+    if (control.Id == ControlId::SystemLabel)
+      all |= QRectF(control.Place.Left, control.Place.Top, 1, 1);
   }
   return all.center();
 }
@@ -54,7 +57,7 @@ const Control& NearestLabel(const MapDrawing& drawing, QPointF point) {
   const Control* nearest = nullptr;
   double least = 0;
   for (const Control& control : drawing.Controls) {
-    if (control.Name != "SysmapLabel" || !HasPicture(control)) continue;
+    if (control.Id != ControlId::SystemLabel || !HasPicture(control)) continue;
     const QPointF way = QPointF(control.Place.Left, control.Place.Top) - point;
     const double distance = QPointF::dotProduct(way, way);
     if (nearest != nullptr && distance >= least) continue;
@@ -69,7 +72,7 @@ std::vector<int> Stations(const MapDrawing& drawing) {
   std::vector<int> stations;
   for (const Control& control : drawing.Controls) {
     const std::string picture = control.Picture.value_or("");
-    if (control.Name == "Image1" && picture != "Jumpgate" && picture != "JumpHole") {
+    if (control.Id == ControlId::MapIcon && picture != "Jumpgate" && picture != "JumpHole") {
       stations.push_back(control.Index.value_or(0));
     }
   }
@@ -166,23 +169,23 @@ void Tour::TakeUpdate() {
 
 void Tour::TakeMap() {
   TakeMain("map");
-  for (const int pictures : {0, 1}) Play().SetImageClick(pictures);
+  for (const int pictures : {0, 1}) Play().ToggleSwitch(pictures);
   PassEvents();
   TakeMain("map-pictures");
-  for (const int pictures : {0, 1}) Play().SetImageClick(pictures);
+  for (const int pictures : {0, 1}) Play().ToggleSwitch(pictures);
 }
 
 void Tour::TakeOptions() {
-  Play().ShowOptionsLabelMouseMove();
+  Play().UnfoldOptions();
   PassEvents();
   TakeMain("map-options");
-  Play().SysmapFrameMouseMove(PointerButton::None, 0, 0);
+  Play().MoveOverMap(PointerButton::None, 0, 0);
 }
 
 // Around the system in the middle, `cells` to each side.
 void Tour::ZoomInto(int cells) {
   const Control& label = NearestLabel(Drawing(), MiddleOfLabels(Drawing()));
-  const Box place = label.Place;
+  const TwipRect place = label.Place;
   const double reach = cells * place.Width;
   const auto from = [&](double corner) {
     return static_cast<float>(std::max(10.0, corner + place.Width / 2 - reach));
@@ -190,8 +193,8 @@ void Tour::ZoomInto(int cells) {
   const auto to = [&](double corner) {
     return static_cast<float>(corner + place.Width / 2 + reach);
   };
-  Play().SysmapFrameMouseDown(from(place.Left), from(place.Top));
-  Play().SysmapFrameMouseUp(PointerButton::Left, to(place.Left), to(place.Top));
+  Play().PressOnMap(from(place.Left), from(place.Top));
+  Play().ReleaseOnMap(PointerButton::Left, to(place.Left), to(place.Top));
   PassEvents();
 }
 
@@ -203,8 +206,8 @@ void Tour::TakeMain(const QString& name) {
 }
 
 void Tour::ZoomOut() {
-  Play().SysmapFrameMouseDown(10, 10);
-  Play().SysmapFrameMouseUp(PointerButton::Right, 10, 10);
+  Play().PressOnMap(10, 10);
+  Play().ReleaseOnMap(PointerButton::Right, 10, 10);
   PassEvents();
 }
 
@@ -219,47 +222,47 @@ void Tour::TakeZoomed() {
 void Tour::TakeHover() {
   const std::vector<int> stations = Stations(Drawing());
   if (stations.empty()) throw std::runtime_error("the system in the middle has no station");
-  Play().Image1MouseMove(stations.front());
+  Play().HoverIcon(stations.front());
   PassEvents();
   TakeMain("hover");
-  Play().SysmapFrameMouseMove(PointerButton::None, 0, 0);
+  Play().MoveOverMap(PointerButton::None, 0, 0);
 }
 
-void Tour::ClickPanel(std::string_view name, int index) {
+void Tour::ClickPanel(ControlId id, int index) {
   SysmapFrame& frame = run_.Main()->Map().Frame();
   for (const QGraphicsItem* item : frame.scene()->items()) {
     const Control& control = ControlItem::Of(*item);
-    if (control.Name != name || control.Index != index) continue;
+    if (control.Id != id || control.Index != index) continue;
     const QRectF box(0, 0, Pixels(control.Place.Width), Pixels(control.Place.Height));
     QTest::mouseClick(frame.viewport(), Qt::LeftButton, {},
                       item->mapToScene(box.center()).toPoint());
     PassEvents();
     return;
   }
-  throw std::runtime_error(fmt::format("the panel has no {}({})", name, index));
+  throw std::runtime_error(fmt::format("the panel has no {}({})", PrintedName(id), index));
 }
 
 void Tour::TakeSearch() {
-  ClickPanel("StationSearch", 0);
+  ClickPanel(ControlId::Tool, 0);
   TakeMain("search-places");
-  ClickPanel("StationSearch", 1);
+  ClickPanel(ControlId::Tool, 1);
   TakeMain("search-ships");
-  run_.Main()->findChild<QAbstractButton*>("StSearchClose")->click();
+  run_.Main()->findChild<QAbstractButton*>(NameOf(ControlId::SearchClose))->click();
   PassEvents();
 }
 
 // The first station of the map at which ships and equipment are sold; null if there is none.
 StationInfo* Tour::OpenRichStation() {
   for (const int icon : Stations(Drawing())) {
-    Play().Image1Click(icon);
+    Play().OpenStationOf(icon);
     PassEvents();
     const auto& windows = run_.Main()->Stations().Windows();
     if (windows.empty()) continue;
     StationInfo& station = *windows.back();
-    const auto sells = [&](const char* mode) {
-      return ChildOf<QAbstractButton>(station, mode).text() != "X";
+    const auto sells = [&](int mode) {
+      return ChildOf<QAbstractButton>(station, NameOf(ControlId::ModeButton, mode)).text() != "X";
     };
-    if (sells("Mode_2") && sells("Mode_3")) return &station;
+    if (sells(2) && sells(3)) return &station;
     station.close();
     PassEvents();
   }
@@ -272,12 +275,12 @@ void Tour::TakeStation() {
   StationInfo* station = OpenRichStation();
   if (station == nullptr) throw std::runtime_error("no station sells ships and equipment");
   album_.Take("station-info", *station);
-  const auto take = [&](const char* mode) {
-    ChildOf<QAbstractButton>(*station, mode).click();
+  const auto take = [&](int mode) {
+    ChildOf<QAbstractButton>(*station, NameOf(ControlId::ModeButton, mode)).click();
     PassEvents();
     album_.Take(ViewName(station->Mode()), *station);
   };
-  for (const char* mode : {"Mode_0", "Mode_0", "Mode_2", "Mode_3"}) take(mode);
+  for (const int mode : {0, 0, 2, 3}) take(mode);
   station->close();
 }
 

@@ -32,13 +32,13 @@ class Tour {
   void TakeErrorLog();
   void TakeFailure();
 
-  MapPlay& Play() { return run_.Main()->Play(); }
+  MapController& Play() { return run_.Main()->Play(); }
   const MapDrawing& Drawing() { return run_.Main()->Map().Drawing(); }
   void Wait(const char* what, const std::function<bool()>& isSo);
   void TakeMain(const QString& name);
   void ZoomInto(int cells);
   void ZoomOut();
-  void ClickPanel(std::string_view name, int index);
+  void ClickPanel(ControlId id, int index);
   StationInfo* OpenRichStation();
 
   ProgramRun& run_;

@@ -1,0 +1,93 @@
+// SPDX-License-Identifier: MIT
+#include "forms/map/map_screen.h"
+
+#include <utility>
+
+#include <fmt/format.h>
+
+#include "map/option_switches.h"
+#include "map/system_pictures.h"
+#include "online/web_pages.h"
+#include "picture/picture_files.h"
+#include "picture/twips.h"
+
+namespace orrerix {
+
+MapScreen::MapScreen(PictureStore& pictures, Settings& settings, TextSource& texts, QWidget* form)
+    : pictures_(pictures),
+      settings_(settings),
+      texts_(texts),
+      scene_(pictures),
+      frame_(new SysmapFrame(scene_, form)),
+      sharpening_(new QTimer(frame_)) {
+  frame_->hide();
+  overlay_ = std::make_unique<HoverOverlay>(scene_, frame_);
+  QObject::connect(sharpening_, &QTimer::timeout, frame_, [this] { Sharpen(); });
+  pictures_.OnWanted = [this] { sharpening_->start(0); };
+}
+
+MapScreen::~MapScreen() {
+  pictures_.OnWanted = nullptr;
+}
+
+void MapScreen::LoadFormTXT() {
+  panel_ = PanelTexts(texts_);
+  frame_->setAccessibleName(QString::fromStdString(texts_.Text(TextId::StarMap)));
+  panel_.News.front().Link = ownLink_;
+  for (const NewsItem& item : news_) {
+    NewsItem& shown = panel_.News.emplace_back(item);
+    if (IsOpenable(item.Link)) continue;
+    const std::string notOpened = texts_.Text(TextId::LinkNotOpened);
+    shown.ToolTip += " - " + fmt::format(fmt::runtime(notOpened), item.Link);
+  }
+}
+
+void MapScreen::SetNews(std::string ownLink, std::vector<NewsItem> news) {
+  ownLink_ = std::move(ownLink);
+  news_ = std::move(news);
+  LoadFormTXT();
+}
+
+void MapScreen::InitDataUsage(Universe& universe) {
+  if (std::exchange(namesRead_, true)) return;
+  state_.Zoom.Reset();
+  state_.Names = GetSystemNames(universe, texts_);
+  ReadAhead();
+}
+
+// The first zoom needs many pictures at once: they are read one by one while nothing else happens.
+void MapScreen::ReadAhead() {
+  auto* timer = new QTimer(frame_);
+  QObject::connect(timer, &QTimer::timeout, frame_, [this, timer, next = 0]() mutable {
+    pictures_.Read(PictureFile(MakePicture(ControlId::SystemPicture, next, {})));
+    if (++next == kSystemPictures) timer->deleteLater();
+  });
+  timer->start(0);
+}
+
+// Reading a finer picture takes longer than a redraw, so it is done behind one.
+void MapScreen::Sharpen() {
+  pictures_.ReadWanted();
+  scene_.update();
+  if (!pictures_.IsWanting()) sharpening_->stop();
+}
+
+MapOptions MapScreen::ReadOptions() {
+  return ReadMapOptions(settings_, state_.Zoom.Current().IsZoomed());
+}
+
+void MapScreen::Redraw(Universe& universe, int formWidth, int formHeight) {
+  options_ = ReadOptions();
+  // News and language may change while a question about a failure is open.
+  const PanelContent panel = panel_;
+  MapDrawing drawing =
+      DrawMap(universe, state_, {formWidth, formHeight, options_, measure_, panel, starMap_});
+  // No pixel that the drawing does not reach to its far side.
+  const QRectF frame = Pixels(drawing.Frame);
+  frame_->setGeometry(QRect(frame.topLeft().toPoint(), QSize(static_cast<int>(frame.width()),
+                                                             static_cast<int>(frame.height()))));
+  scene_.Show(std::move(drawing));
+  frame_->show();
+}
+
+}  // namespace orrerix

@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "forms/map/info_box.h"
+#include "forms/map/map_controller.h"
+#include "forms/map/map_host.h"
+#include "forms/map/search_panel_view.h"
+
+namespace orrerix {
+
+// The search on the map: the panel, the large info box beside it, and the jump to what was found.
+class SearchController : private SearchEvents {
+ public:
+  // All of these must outlive this; the widgets belong to the map's frame.
+  SearchController(MapScreen& screen, MapHost& form, MapController& play, ErrorLog& log,
+                   LanguageFile& language);
+  ~SearchController() override;
+  SearchController(const SearchController&) = delete;
+  SearchController& operator=(const SearchController&) = delete;
+
+  // A click on one of the first four tool icons.
+  void OpenSearch(SearchType type);
+
+  bool Visible() const { return panel_.Visible(); }
+
+ private:
+  void ChangeSearchText(const std::string& text) override;
+  void ChooseFound(std::size_t row) override;
+  void ChoosePlace(std::size_t row) override;
+  void GoToPlace() override;
+  void CloseSearch() override;
+  bool MoveKey(int by) override;
+  void EnterKey(SearchControl in) override;
+
+  // Runs an event that reads the universe, and does what it asks.
+  template <typename Event>
+  SearchAnswer Ask(const char* source, const std::string& info, const Event& event);
+  void Follow(SearchAnswer answer);
+  void ShowInfo(ControlList box);
+  void Jump(const std::string& nickname);
+
+  MapScreen& screen_;
+  MapHost& form_;
+  MapController& play_;
+  ErrorLog& log_;
+  LanguageFile& language_;
+  QtTextMeasure measure_{FixedFont};
+  SearchPanel panel_;
+  SearchPanelView* view_;
+  InfoBox* infoBox_;
+};
+
+}  // namespace orrerix

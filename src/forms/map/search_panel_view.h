@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QFrame>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QToolButton>
+
+#include "info/search_panel.h"
+#include "shell/language.h"
+
+namespace orrerix {
+
+// What the user does in the search panel.
+class SearchEvents {
+ public:
+  virtual ~SearchEvents() = default;
+  virtual void ChangeSearchText(const std::string& text) = 0;
+  virtual void ChooseFound(std::size_t row) = 0;
+  virtual void ChoosePlace(std::size_t row) = 0;
+  virtual void GoToPlace() = 0;
+  virtual void CloseSearch() = 0;
+
+  // Keys of the three controls. True if the key means nothing else.
+  virtual bool MoveKey(int by) = 0;
+  virtual void EnterKey(SearchControl in) = 0;
+};
+
+// The search panel's controls on the map: they show a SearchPanel and tell what is done to them.
+class SearchPanelView : public QFrame {
+ public:
+  // `events` must outlive this. While the panel is seen the Escape key closes it, wherever on its
+  // window the focus is.
+  SearchPanelView(SearchEvents& events, QWidget* map);
+
+  // Shows the panel as it is now, with captions in the language in use; hides it if it is closed.
+  void Show(const SearchPanel& panel, TextSource& texts);
+  void Focus(SearchControl control);
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  void ShowCaptions(TextSource& texts);
+  QListWidget* AddList(ControlId id);
+  void Fill(QListWidget& list, SearchList& shown, const SearchList& wanted);
+  bool KeyPress(QObject* control, int key);
+
+  SearchEvents& events_;
+  QLabel* caption_;
+  QLineEdit* text_;
+  QListWidget* subSearch_;
+  QListWidget* list_;
+  QToolButton* close_;
+  SearchList shownSubSearch_;
+  SearchList shownList_;
+};
+
+}  // namespace orrerix

@@ -1,0 +1,196 @@
+// SPDX-License-Identifier: MIT
+#include "forms/station/price_table_view.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QStyledItemDelegate>
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+#include "forms/controls/control_name.h"
+#include "forms/controls/form_geometry.h"
+#include "picture/form_font.h"
+
+namespace orrerix {
+namespace {
+
+constexpr int kMargin = 4;  // pixels between a text and the ends of its column
+
+int Pixel(double twips) {
+  return static_cast<int>(std::lround(Pixels(twips)));
+}
+
+// Letters that were measured to fill a label edge to edge become narrower, not lower, to leave its
+// margins free.
+void DrawText(QPainter& painter, const QRect& place, int alignment, const QString& text) {
+  const double width = QFontMetricsF(painter.font()).horizontalAdvance(text);
+  const double narrow = width > place.width() ? place.width() / width : 1;
+  painter.save();
+  painter.translate(place.left(), 0);
+  painter.scale(narrow, 1);
+  painter.drawText(QRectF(0, place.top(), place.width() / narrow, place.height()),
+                   alignment | Qt::TextSingleLine | Qt::TextDontClip, text);
+  painter.restore();
+}
+
+class LabelDelegate : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+  void paint(QPainter* painter, const QStyleOptionViewItem& option,
+             const QModelIndex& index) const override {
+    const auto ground = index.data(Qt::BackgroundRole).value<QColor>();
+    painter->fillRect(option.rect, ground);
+    if (index.column() > 0) {
+      // Figures may fill their columns; a line parts them.
+      painter->setPen(ground.darker());
+      painter->drawLine(option.rect.topLeft(), option.rect.bottomLeft());
+    }
+    painter->setFont(index.data(Qt::FontRole).value<QFont>());
+    painter->setPen(index.data(Qt::ForegroundRole).value<QColor>());
+    DrawText(*painter, option.rect.adjusted(kMargin, 0, -kMargin, 0),
+             index.data(Qt::TextAlignmentRole).toInt(), index.data().toString());
+    if (option.state & QStyle::State_Selected) {
+      painter->setPen(Qt::white);
+      painter->drawLine(option.rect.topLeft(), option.rect.topRight());
+      painter->drawLine(option.rect.bottomLeft(), option.rect.bottomRight());
+    }
+  }
+};
+
+}  // namespace
+
+void PriceTableModel::Show(std::vector<PriceTable> tables) {
+  beginResetModel();
+  tables_ = std::move(tables);
+  lines_.clear();
+  for (const PriceTable& table : tables_) {
+    lines_.push_back({&table.Head, nullptr});
+    for (const PriceRow& row : table.Rows) lines_.push_back({nullptr, &row});
+  }
+  endResetModel();
+}
+
+const PriceLabel* PriceTableModel::Line::Label(int column) const {
+  if (Row == nullptr) return column == 0 ? Head : nullptr;
+  return column == 0 ? &Row->Name : column == 1 ? &Row->Price : &Row->Difference;
+}
+
+int PriceTableModel::rowCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : static_cast<int>(lines_.size());
+}
+
+int PriceTableModel::columnCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : kPriceColumns;
+}
+
+QVariant PriceTableModel::data(const QModelIndex& index, int role) const {
+  const Line& line = At(index.row());
+  const PriceLabel* label = line.Label(index.column());
+  if (label == nullptr) return {};
+  switch (role) {
+    case Qt::DisplayRole:
+      return QString::fromStdString(label->Caption);
+    case Qt::FontRole:
+      return FormFont(label->FontSize);
+    case Qt::BackgroundRole:
+      return ToQColor(label->BackColor);
+    case Qt::ForegroundRole:
+      return ToQColor(label->ForeColor);
+    case Qt::TextAlignmentRole: {
+      const bool isFigure = index.column() > 0;
+      return static_cast<int>((isFigure ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
+    }
+    case Qt::ToolTipRole: {
+      // The name of a trade may be cut off in its label.
+      const bool isTradeName = index.column() == 0 && line.Row != nullptr && line.Row->IsTrade;
+      return isTradeName ? QString::fromStdString(label->Caption) : QVariant();
+    }
+    default:
+      return {};
+  }
+}
+
+PriceTableView::PriceTableView(QWidget* parent) : QTableView(parent), model_(this) {
+  setObjectName(NameOf(ControlId::PriceTable));
+  setModel(&model_);
+  setItemDelegate(new LabelDelegate(this));
+  setFrameShape(QFrame::NoFrame);
+  setShowGrid(false);
+  setSelectionBehavior(SelectRows);
+  setTabKeyNavigation(false);
+  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  for (QHeaderView* header : {horizontalHeader(), verticalHeader()}) {
+    header->hide();
+    header->setMinimumSectionSize(0);
+    header->setSectionResizeMode(QHeaderView::Fixed);
+  }
+  QPalette colors = palette();
+  colors.setColor(QPalette::Base, Qt::transparent);
+  setPalette(colors);
+}
+
+void PriceTableView::Show(std::vector<PriceTable> tables) {
+  clearSpans();
+  model_.Show(std::move(tables));
+  if (model_.rowCount() == 0) return;
+  bool hasPrices = false;
+  int bottom = 0;
+  for (int row = 0; row < model_.rowCount(); ++row) {
+    const PriceTableModel::Line& line = model_.At(row);
+    const auto& box = line.Label(0)->Place;
+    bottom = Pixel(box.Bottom());
+    setRowHeight(row, bottom - Pixel(box.Top));
+    if (line.Row == nullptr) {
+      setSpan(row, 0, 1, kPriceColumns);
+      continue;
+    }
+    hasPrices = true;
+    for (int column = 0; column < kPriceColumns; ++column) {
+      const auto& cell = line.Label(column)->Place;
+      setColumnWidth(column, Pixel(cell.Right()) - Pixel(cell.Left));
+    }
+  }
+  const auto& head = model_.At(0).Label(0)->Place;
+  if (!hasPrices) {
+    for (int column = 0; column < kPriceColumns; ++column) {
+      setColumnWidth(column, Pixel(head.Width) / kPriceColumns);
+    }
+  }
+  // The labels reach to the window's outer edge; what its frame hides goes off the last column,
+  // so that figures end before it.
+  const int left = Pixel(head.Left);
+  const int edge = parentWidget() == nullptr ? Pixel(head.Right()) : parentWidget()->width();
+  const int width = std::min(Pixel(head.Right()), edge) - left;
+  const int hidden = Pixel(head.Right()) - left - width;
+  const int last = kPriceColumns - 1;
+  setColumnWidth(last, std::max(0, columnWidth(last) - hidden));
+  setGeometry(left, Pixel(head.Top), width, bottom - Pixel(head.Top));
+}
+
+void PriceTableView::keyPressEvent(QKeyEvent* event) {
+  if (event->matches(QKeySequence::Copy)) return Copy();
+  QTableView::keyPressEvent(event);
+}
+
+void PriceTableView::Copy() const {
+  QModelIndexList selected = selectionModel()->selectedRows();
+  std::sort(selected.begin(), selected.end());
+  QStringList lines;
+  for (const QModelIndex& index : selected) {
+    QStringList cells;
+    for (int column = 0; column < kPriceColumns; ++column) {
+      const PriceLabel* label = model_.At(index.row()).Label(column);
+      if (label != nullptr) cells << QString::fromStdString(label->Caption);
+    }
+    lines << cells.join('\t');
+  }
+  if (!lines.isEmpty()) QGuiApplication::clipboard()->setText(lines.join('\n'));
+}
+
+}  // namespace orrerix

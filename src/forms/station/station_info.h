@@ -1,0 +1,88 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QAbstractButton>
+#include <QGroupBox>
+#include <QListWidget>
+#include <QWidget>
+#include <array>
+#include <functional>
+#include <string>
+
+#include "forms/controls/text_box.h"
+#include "forms/station/price_table_view.h"
+#include "info/station_layout.h"
+#include "info/station_modes.h"
+#include "picture/picture_store.h"
+#include "picture/qt_text_measure.h"
+#include "platform/sound.h"
+#include "shell/routine.h"
+
+namespace orrerix {
+
+// What station windows are built from; all of it outlives them.
+struct StationParts {
+  ErrorLog& Log;
+  PictureStore& Pictures;
+  SoundPlayer& Sound;
+  TextSource& Texts;
+  const CellNames& Names;
+  std::function<Universe(Routine&)> OpenUniverse;
+  std::function<QSize()> Decoration;  // what the desktop adds to a window's size, pixels
+};
+
+// The station window of one object of the map: five views of what the universe knows of it.
+class StationInfo : public QWidget {
+ public:
+  // `picture` is the name of the object's icon picture.
+  StationInfo(const StationParts& parts, std::string nickname, std::string picture);
+
+  const std::string& Nick() const { return nick_; }
+  const std::string& Picture() const { return picture_; }
+  StationMode Mode() const { return modes_.Mode(); }
+
+  // Called when the user closes it, with nothing of it on the stack behind that.
+  std::function<void()> OnClosed;
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+  void closeEvent(QCloseEvent* event) override;
+
+ private:
+  void MakeDecoration();
+  void ShowPicture(ControlId id, const QString& file, const QRect& place);
+  void MakeModes();
+  void Place();
+  void Settle();
+  QSize Decoration() const;
+  void ReadAnew();
+  void ShowView();
+  void ChooseMode(std::size_t button);
+  void ShowForSale(int row);
+  void ShowModeTexts();
+  void ShowModes();
+  void ShowControl(const Control& control);
+  void FillList();
+  const std::vector<ForSale>& ForSaleRows() const;
+  Wording Words() const;
+  QString Caption(TextId id) const;
+
+  const StationParts parts_;
+  std::string nick_;
+  std::string picture_;
+  StationData data_;
+  StationModes modes_;
+  StationTexts texts_;
+  QRect place_;           // outer, pixels of the screen
+  bool settled_ = false;  // it has the size that its place asks for with its real decoration
+  QtTextMeasure formMeasure_;
+  QtTextMeasure fixedMeasure_{FixedFont};
+  std::array<QAbstractButton*, kModeButtons> mode_{};
+  TextBox* infoText_;
+  PriceTableView* prices_;
+  QGroupBox* searchFrame_;
+  QListWidget* searchList_;
+};
+
+}  // namespace orrerix
