@@ -44,20 +44,20 @@ void EndHover(benchmark::State& state, MapWindow& window) {
 
 void Unfold(benchmark::State& state, MapWindow& window) {
   Time(
-      state, window, [](MapWindow& w) { return w.Move(*w.Middle("ShowOptionsLabel", 0)); },
+      state, window, [](MapWindow& w) { return w.Move(*w.Middle(ControlId::OptionsCaption, 0)); },
       [](MapWindow& w) { return w.Move(w.Nowhere()); });
 }
 
 void Switch(benchmark::State& state, MapWindow& window) {
-  window.Move(*window.Middle("ShowOptionsLabel", 0));
+  window.Move(*window.Middle(ControlId::OptionsCaption, 0));
   Time(
-      state, window, [](MapWindow& w) { return w.Click(*w.Middle("SetImage", 4)); },
+      state, window, [](MapWindow& w) { return w.Click(*w.Middle(ControlId::OptionSwitch, 4)); },
       [](MapWindow&) { return 0.0; });
 }
 
 void NextLanguage(benchmark::State& state, MapWindow& window) {
   Time(
-      state, window, [](MapWindow& w) { return w.Click(*w.Middle("SetLabel", 6)); },
+      state, window, [](MapWindow& w) { return w.Click(*w.Middle(ControlId::OptionLabel, 6)); },
       [](MapWindow&) { return 0.0; });
 }
 
@@ -120,13 +120,12 @@ void RegisterMapPlayBenchmarks(const std::vector<BenchGame>& games, const fs::pa
                              Play{"Language", NextLanguage, 60}, Play{"RubberBand", Band, 200},
                              Play{"ZoomAgain", ZoomAgain, 60}, Play{"ZoomFirst", ZoomFirst, 12},
                              Play{"ZoomOut", ZoomOut, 60}}) {
-      benchmark::RegisterBenchmark(
-          (std::string("MapController/") + game.Name + "/" + play.Name).c_str(),
-          [game, work, universe, play](benchmark::State& state) {
-            if (universe->empty()) *universe = ImportInto(game, work);
-            MapWindow window(game, *universe);
-            play.Run(state, window);
-          })
+      benchmark::RegisterBenchmark((std::string("MapPlay/") + game.Name + "/" + play.Name).c_str(),
+                                   [game, work, universe, play](benchmark::State& state) {
+                                     if (universe->empty()) *universe = ImportInto(game, work);
+                                     MapWindow window(game, *universe);
+                                     play.Run(state, window);
+                                   })
           ->UseManualTime()
           ->Iterations(play.Iterations)
           ->Unit(benchmark::kMillisecond);

@@ -26,6 +26,7 @@ class Silent : public MessageBoxes,
  public:
   MessageAnswer Show(const Message&) override { return MessageAnswer::Ok; }
   void Play(const fs::path&) override {}
+  void WaitForEnd() override {}
   void Beep() override {}
   void Open(const std::string&) override {}
   void OpenManual() override {}
@@ -88,10 +89,10 @@ class MapWindow {
 
   QPointF CellMiddle(int x, int y) { return Pixels(Map().Drawing().Cells.CellBox(x, y)).center(); }
   // The middle of a control that the scene shows; nothing if it shows none.
-  std::optional<QPointF> Middle(std::string_view name, int index) {
+  std::optional<QPointF> Middle(ControlId id, int index) {
     for (const QGraphicsItem* item : Map().Scene().items()) {
       const Control& control = ControlItem::Of(*item);
-      if (control.Name != name || control.Index.value_or(0) != index) continue;
+      if (control.Id != id || control.Index.value_or(0) != index) continue;
       return item->mapToScene(QPointF(Pixels(control.Place.Width), Pixels(control.Place.Height)) /
                               2);
     }
@@ -104,7 +105,7 @@ class MapWindow {
                       Pixels(Map().Drawing().PanelBox.Height));
     for (const Control& control : Map().Drawing().Controls) {
       const QPointF middle = Pixels(control.Place).center();
-      if (control.Name == "Image1" && open.contains(middle)) middles.push_back(middle);
+      if (control.Id == ControlId::MapIcon && open.contains(middle)) middles.push_back(middle);
     }
     return middles;
   }
@@ -112,7 +113,8 @@ class MapWindow {
   QPointF Nowhere() {
     for (int y = 20;; y += 7) {
       const ControlHit hit = Map().Scene().HitAt({20, static_cast<double>(y)});
-      if (hit.Shown == nullptr || hit.Shown->Name != "Image1") return {20, static_cast<double>(y)};
+      if (hit.Shown == nullptr || hit.Shown->Id != ControlId::MapIcon)
+        return {20, static_cast<double>(y)};
     }
   }
 

@@ -10,6 +10,7 @@
 
 #include <benchmark/benchmark.h>
 
+#include "forms/controls/control_name.h"
 #include "map_window.h"
 
 namespace orrerix {
@@ -23,12 +24,12 @@ double Seconds(const std::function<void()>& work) {
 }
 
 template <typename Child>
-Child& Part(MapWindow& window, const char* name) {
-  return *window.Map().Frame().findChild<Child*>(name);
+Child& Part(MapWindow& window, ControlId id) {
+  return *window.Map().Frame().findChild<Child*>(NameOf(id));
 }
 
 void OpenSearch(MapWindow& window, int tool) {
-  window.Click(*window.Middle("StationSearch", tool));
+  window.Click(*window.Middle(ControlId::Tool, tool));
   QCoreApplication::processEvents();
 }
 
@@ -40,7 +41,7 @@ void Press(QWidget& control, int key, const QString& text = {}) {
 // One letter into the empty box, which most names hold, and back.
 void Keystroke(benchmark::State& state, MapWindow& window, int tool) {
   OpenSearch(window, tool);
-  auto& text = Part<QLineEdit>(window, "StSearchText");
+  auto& text = Part<QLineEdit>(window, ControlId::SearchText);
   for (auto _ : state) {
     text.clear();
     QCoreApplication::processEvents();
@@ -50,7 +51,7 @@ void Keystroke(benchmark::State& state, MapWindow& window, int tool) {
 
 void SelectedRow(benchmark::State& state, MapWindow& window) {
   OpenSearch(window, 2);
-  auto& list = Part<QListWidget>(window, "SubSearch");
+  auto& list = Part<QListWidget>(window, ControlId::FoundList);
   int row = 0;
   for (auto _ : state) {
     row = (row + 7) % std::max(1, list.count());
@@ -63,7 +64,7 @@ void Station(benchmark::State& state, MapWindow& window) {
   window.Click(window.CellMiddle(8, 9));
   std::vector<int> icons;
   for (const Control& control : window.Map().Drawing().Controls) {
-    if (control.Name != "Image1" || control.Picture->starts_with("Jump")) continue;
+    if (control.Id != ControlId::MapIcon || control.Picture->starts_with("Jump")) continue;
     icons.push_back(control.Index.value_or(0));
   }
   if (icons.empty()) return state.SkipWithError("the cell has no icons");
@@ -82,12 +83,14 @@ void Trades(benchmark::State& state, MapWindow& window) {
   window.Click(window.CellMiddle(8, 9));
   StationInfo* busiest = nullptr;
   for (const Control& control : window.Map().Drawing().Controls) {
-    if (control.Name == "Image1") window.Form().Play().OpenStationOf(control.Index.value_or(0));
+    if (control.Id == ControlId::MapIcon)
+      window.Form().Play().OpenStationOf(control.Index.value_or(0));
   }
   int most = -1;
   for (const auto& station : window.Form().Stations().Windows()) {
     station->findChild<QAbstractButton*>("Mode_0")->click();
-    const int rows = station->findChild<PriceTableView*>("PriceTable")->model()->rowCount();
+    const int rows =
+        station->findChild<PriceTableView*>(NameOf(ControlId::PriceTable))->model()->rowCount();
     if (rows > most) {
       most = rows;
       busiest = station.get();
