@@ -62,7 +62,9 @@ ControlList BorderPieces(BorderSet set, int left, int top, int right, int bottom
 ControlList SetRahmen(ErrorLog& log, BorderSet set, double right, double bottom) {
   ControlList pieces;
   Routine routine(log, "OrrerixMain.SetRahmen", "While calcing a border");
-  routine.Run([&] { pieces = BorderPieces(set, 0, 0, routine.Long(right), routine.Long(bottom)); });
+  routine.Run([&] {
+    pieces = BorderPieces(set, 0, 0, routine.Long(right, 0), routine.Long(bottom, 0));
+  });
   return pieces;
 }
 
