@@ -65,7 +65,8 @@ bool Database::IsOpen() const {
 }
 
 void Database::RequireOpen() const {
-  if (!IsOpen()) throw EngineFailure(3420, "Object invalid or no longer set.");
+  if (!IsOpen())
+    throw EngineFailure(failure_number::kObjectClosed, "Object invalid or no longer set.");
 }
 
 const std::filesystem::path& Database::Path() const {
