@@ -27,7 +27,7 @@ void Grow(Routine& routine, int& size, int grown) {
 ControlList BoxControls(const Box& place, std::string text, std::string tag) {
   Control shape = BoxShape(place, ShapeForm::RoundedRectangle);
   shape.Tag = std::move(tag);
-  const Box inner{static_cast<float>(place.Left + kMargin), static_cast<float>(place.Top + kMargin),
+  const Box inner{KeptAsFloat(place.Left + kMargin), KeptAsFloat(place.Top + kMargin),
                   place.Width - 2 * kMargin, place.Height - 2 * kMargin};
   return {std::move(shape), BoxText(inner, std::move(text))};
 }
@@ -71,7 +71,7 @@ HoverBox MovedHoverBox(const ControlList& box, const Control& icon, const MapDra
 Control RestoredIcon(Control icon, std::string_view shapeTag) {
   const std::size_t comma = shapeTag.find(',');
   if (comma == std::string_view::npos) return icon;
-  const auto size = static_cast<float>(Val(shapeTag.substr(comma + 1)));
+  const double size = KeptAsFloat(Val(shapeTag.substr(comma + 1)));
   icon.Place.Width = icon.Place.Height = size;
   return icon;
 }
@@ -91,9 +91,9 @@ Box HoverBoxPlace(const Box& icon, const TextExtent& text, const MapDrawing& dra
   Box box{icon.Left, 0, static_cast<double>(text.Width + 2 * kMargin),
           static_cast<double>(text.Height + 2 * kMargin)};
   const bool above = icon.Top > drawing.Frame.Height / 2;
-  box.Top = static_cast<float>(above ? icon.Top - kIconGap - box.Height : icon.Bottom() + kIconGap);
+  box.Top = KeptAsFloat(above ? icon.Top - kIconGap - box.Height : icon.Bottom() + kIconGap);
   if (box.Right() > RoomForBox(drawing)) {
-    box.Left = static_cast<float>(MAX(kSmallestLeft, icon.Right() - box.Width));
+    box.Left = KeptAsFloat(MAX(kSmallestLeft, icon.Right() - box.Width));
   }
   return box;
 }

@@ -106,7 +106,7 @@ class TableWriter {
     const Color back = kGroupBacks[static_cast<std::size_t>(item.Group)];
     const double top = Top(item.Group);
     const auto column = [&](double left, double width) {
-      return Box{static_cast<float>(place_.Left + left), top, static_cast<float>(width),
+      return Box{KeptAsFloat(place_.Left + left), top, KeptAsFloat(width),
                  static_cast<double>(rowHeight_)};
     };
     Control& name = AddLabel("PricesField0", row_, column(0, sixth * 4),

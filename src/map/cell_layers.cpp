@@ -3,6 +3,7 @@
 
 #include <cstddef>
 
+#include "map/numeric.h"
 #include "map/system_pictures.h"
 
 namespace orrerix {
@@ -59,8 +60,8 @@ ControlList BackgroundTiles(MapState& state, const Box& frame) {
 }
 
 Control PaintedUniverse(const Box& frame, const std::string& picture) {
-  const auto height = static_cast<float>(frame.Height);
-  const auto width = static_cast<float>(frame.Height / MapMaxY * MapMaxX);
+  const double height = KeptAsFloat(frame.Height);
+  const double width = KeptAsFloat(frame.Height / MapMaxY * MapMaxX);
   return MakePicture("StarMapPic", std::nullopt, {0, 0, width, height}, picture);
 }
 

@@ -75,12 +75,12 @@ void PlaceEnds(Routine& routine, const CellGeometry& cells, Recordset& row, Cont
 Control MakeIcon(Routine& routine, int index, const CellGeometry& cells,
                  const ZoomRectangle& visible, Recordset& row, const PlaceFields& fields,
                  std::string picture) {
-  const auto size = static_cast<float>(MAXI(40.0, 200.0 / visible.Columns()));
+  const double size = KeptAsFloat(MAXI(40.0, 200.0 / visible.Columns()));
   ScreenPoint point;
   routine.Try([&] { point.X = ScreenX(cells, row, fields); });
   routine.Try([&] { point.Y = ScreenY(cells, row, fields); });
   const double half = size / 2.0;
-  const Box box{static_cast<float>(point.X - half), static_cast<float>(point.Y - half), size, size};
+  const Box box{KeptAsFloat(point.X - half), KeptAsFloat(point.Y - half), size, size};
   Control icon = MakePicture("Image1", index, box, std::move(picture));
   icon.Tag = "";
   icon.Bordered = true;
