@@ -6,6 +6,7 @@
 
 #include <fmt/format.h>
 
+#include "db/engine_functions.h"
 #include "db/row_inserter.h"
 #include "db/text.h"
 
@@ -29,7 +30,8 @@ void Connection::Close() {
 }
 
 void Connection::RequireOpen() const {
-  if (!IsOpen()) throw EngineFailure(3420, "Object invalid or no longer set.");
+  if (!IsOpen())
+    throw EngineFailure(failure_number::kObjectClosed, "Object invalid or no longer set.");
 }
 
 sqlite3_stmt* Connection::Prepare(const std::string& sql) {
@@ -274,12 +276,7 @@ Failure Connection::LastFailure() const {
   if (code == SQLITE_CONSTRAINT_UNIQUE || code == SQLITE_CONSTRAINT_PRIMARYKEY) {
     return DuplicateKey();
   }
-  if (message == "Invalid pattern string.") {
-    return {failure_number::kInvalidPattern, message};
-  }
-  if (message == StandardMessage(failure_number::kInvalidProcedureCall)) {
-    return RuntimeFailure(failure_number::kInvalidProcedureCall);
-  }
+  if (const auto number = FailureNumberOf(code)) return {*number, message};
   if (message.starts_with("no such table")) {
     return EngineFailure(failure_number::kNoSuchTable,
                          fmt::format("Cannot find the input table ({}) in '{}'.", message, file));

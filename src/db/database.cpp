@@ -65,7 +65,8 @@ bool Database::IsOpen() const {
 }
 
 void Database::RequireOpen() const {
-  if (!IsOpen()) throw EngineFailure(3420, "Object invalid or no longer set.");
+  if (!IsOpen())
+    throw EngineFailure(failure_number::kObjectClosed, "Object invalid or no longer set.");
 }
 
 const std::filesystem::path& Database::Path() const {
@@ -259,24 +260,22 @@ std::optional<std::int64_t> Database::RowCount(FailureSink& sink, std::string_vi
   return count;
 }
 
-void Database::CreateTables(FailureSink& sink, std::span<const TableDef> tables) {
+void Database::CreateTables(FailureSink& sink, std::span<const TableDef> tables,
+                            const std::function<void(std::size_t)>& fill) {
   constexpr std::size_t many = 256;
-  if (tables.size() < many) {
-    for (const TableDef& table : tables) CreateTable(sink, table);
-    return;
-  }
   std::unordered_set<std::string> names;
   for (const TableDef& table : TableDefs(sink)) names.insert(FoldAscii(table.Name));
   SchemaAside aside;
   for (std::size_t i = 0; i < tables.size(); ++i) {
-    if (i % many == 0) Guard(sink, [&] { aside.Take(*connection_); });
+    if (tables.size() >= many && i % many == 0) Guard(sink, [&] { aside.Take(*connection_); });
     if (names.insert(FoldAscii(tables[i].Name)).second) {
       CreateTable(sink, tables[i]);
+      fill(i);
     } else {
       sink.Fail(TableExists(tables[i]));
     }
   }
-  Guard(sink, [&] { aside.PutBack(*connection_); });
+  if (tables.size() >= many) Guard(sink, [&] { aside.PutBack(*connection_); });
 }
 
 void Database::Attach(FailureSink& sink, const std::filesystem::path& path) {

@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <initializer_list>
 #include <memory>
 #include <optional>
@@ -50,9 +51,12 @@ class Database {
   // Makes a table with its key. Fails with 3010 if one of that name, in whatever case, is there.
   void CreateTable(FailureSink& sink, const TableDef& table);
 
-  // Makes many tables in the time that their number takes. What fails is one failure each. A
-  // transaction must be open; if it is not committed no table stays.
-  void CreateTables(FailureSink& sink, std::span<const TableDef> tables);
+  // Makes many tables, each filled by `fill`, which gets its place in the list, in the time that
+  // their number takes: the engine looks slowly for one table of many, so each is filled while few
+  // are known. What fails is one failure each, and such a table is not filled. A transaction must
+  // be open; if it is not committed no table stays.
+  void CreateTables(FailureSink& sink, std::span<const TableDef> tables,
+                    const std::function<void(std::size_t)>& fill);
 
   // Makes a table whose rows, as recordsets append them, are kept in memory until a statement asks
   // for the table: writing them together costs less. It obeys its key all the same. Fails like

@@ -69,7 +69,8 @@ Database DBEngine::CreateDatabase(FailureSink& sink, const fs::path& path,
   return Guarded(sink, [&] {
     std::error_code ignored;
     if (fs::exists(path, ignored)) {
-      throw EngineFailure(3204, fmt::format("Database '{}' already exists.", path.string()));
+      throw EngineFailure(failure_number::kDatabaseExists,
+                          fmt::format("Database '{}' already exists.", path.string()));
     }
     auto connection = Connect(path, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
     // A file that holds nothing yet has nothing to lose with the power.

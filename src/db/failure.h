@@ -20,6 +20,7 @@ inline constexpr int kInvalidPattern = 93;
 inline constexpr int kInvalidUseOfNull = 94;
 inline constexpr int kInvalidPicture = 481;
 inline constexpr int kTableExists = 3010;
+inline constexpr int kNotBeingEdited = 3020;
 inline constexpr int kNoCurrentRecord = 3021;
 inline constexpr int kDuplicateKey = 3022;
 inline constexpr int kCannotOpenFile = 3024;
@@ -29,12 +30,15 @@ inline constexpr int kFileInUse = 3045;
 inline constexpr int kNullInKey = 3058;
 inline constexpr int kSyntaxError = 3075;
 inline constexpr int kNoSuchTable = 3078;
+inline constexpr int kInvalidName = 3125;
 inline constexpr int kFieldTooSmall = 3163;
 inline constexpr int kTooManyFields = 3190;
 inline constexpr int kFieldDefinedTwice = 3191;
+inline constexpr int kDatabaseExists = 3204;
 inline constexpr int kNoSuchItem = 3265;
 inline constexpr int kZeroLength = 3315;
 inline constexpr int kUnrecognizedFormat = 3343;
+inline constexpr int kObjectClosed = 3420;
 inline constexpr int kEngineError = 3000;
 }  // namespace failure_number
 

@@ -19,6 +19,15 @@ Failure NoCurrentRecord() {
   return EngineFailure(failure_number::kNoCurrentRecord, "No current record.");
 }
 
+Failure NotBeingEdited() {
+  return EngineFailure(failure_number::kNotBeingEdited,
+                       "Update or CancelUpdate without AddNew or Edit.");
+}
+
+Failure NoSuchItem() {
+  return EngineFailure(failure_number::kNoSuchItem, "Item not found in this collection.");
+}
+
 std::optional<Failure> FitText(const Field& field, std::string_view table, Value& value) {
   if (!value.IsText()) value = std::move(value).TakeText();
   const std::string& text = *value.TextContent();
@@ -118,11 +127,13 @@ void Recordset::ReadRows(std::shared_ptr<const TableDef> columns, sqlite3_stmt* 
   }
 }
 
+// A recordset that was never opened has nobody to hand its failures to.
+void Recordset::Fail(const Failure& failure) const {
+  if (sink_ != nullptr) sink_->Fail(failure);
+}
+
 void Recordset::MoveNext() {
-  if (AtEnd()) {
-    if (sink_ != nullptr) sink_->Fail(NoCurrentRecord());
-    return;
-  }
+  if (AtEnd()) return Fail(NoCurrentRecord());
   ++current_;
 }
 
@@ -143,11 +154,11 @@ FieldRef Recordset::operator[](std::size_t field) {
 
 Value Recordset::Read(std::optional<std::size_t> field) const {
   if (editing_ == Editing::None && AtEnd()) {
-    if (sink_ != nullptr) sink_->Fail(NoCurrentRecord());
+    Fail(NoCurrentRecord());
     return {};
   }
   if (!field) {
-    sink_->Fail(EngineFailure(failure_number::kNoSuchItem, "Item not found in this collection."));
+    Fail(NoSuchItem());
     return {};
   }
   if (editing_ != Editing::None) return edited_[*field];
@@ -155,21 +166,15 @@ Value Recordset::Read(std::optional<std::size_t> field) const {
 }
 
 void Recordset::Assign(std::optional<std::size_t> field, Value& value) {
-  if (editing_ == Editing::None) {
-    if (sink_ == nullptr) return;
-    return sink_->Fail(EngineFailure(3020, "Update or CancelUpdate without AddNew or Edit."));
-  }
-  if (!field) {
-    return sink_->Fail(
-        EngineFailure(failure_number::kNoSuchItem, "Item not found in this collection."));
-  }
+  if (editing_ == Editing::None) return Fail(NotBeingEdited());
+  if (!field) return Fail(NoSuchItem());
   std::optional<Failure> refused;
   try {
     refused = FitInto(table_->Fields[*field], table_->Name, value);
   } catch (const std::bad_alloc&) {
     refused = RuntimeFailure(failure_number::kOutOfMemory);
   }
-  if (refused) return sink_->Fail(*refused);
+  if (refused) return Fail(*refused);
   edited_[*field] = std::move(value);
   assigned_[*field] = true;
 }
@@ -195,10 +200,7 @@ void Recordset::GrowField(std::size_t field, std::size_t size) {
 
 void Recordset::AddNew() {
   if (!editable_) {
-    if (sink_ != nullptr) {
-      sink_->Fail(EngineFailure(failure_number::kReadOnly, "The recordset is read-only."));
-    }
-    return;
+    return Fail(EngineFailure(failure_number::kReadOnly, "The recordset is read-only."));
   }
   const std::size_t fields = table_->Fields.size();
   editing_ = Editing::None;
@@ -207,7 +209,7 @@ void Recordset::AddNew() {
     edited_.resize(fields);
     assigned_.assign(fields, false);
   } catch (const std::bad_alloc&) {
-    return sink_->Fail(RuntimeFailure(failure_number::kOutOfMemory));
+    return Fail(RuntimeFailure(failure_number::kOutOfMemory));
   }
   for (std::size_t i = 0; i < fields; ++i) {
     if (table_->Fields[i].Type == FieldType::Boolean) edited_[i] = 0;
@@ -216,13 +218,16 @@ void Recordset::AddNew() {
 }
 
 void Recordset::Edit() {
-  if (AtEnd() || !editable_) {
-    if (sink_ != nullptr) sink_->Fail(NoCurrentRecord());
-    return;
+  if (AtEnd() || !editable_) return Fail(NoCurrentRecord());
+  const std::size_t fields = table_->Fields.size();
+  const auto row = cells_.begin() + static_cast<std::ptrdiff_t>(current_ * fields);
+  editing_ = Editing::None;
+  try {
+    edited_.assign(row, row + static_cast<std::ptrdiff_t>(fields));
+    assigned_.assign(fields, false);
+  } catch (const std::bad_alloc&) {
+    return Fail(RuntimeFailure(failure_number::kOutOfMemory));
   }
-  const auto row = cells_.begin() + static_cast<std::ptrdiff_t>(current_ * table_->Fields.size());
-  edited_.assign(row, row + static_cast<std::ptrdiff_t>(table_->Fields.size()));
-  assigned_.assign(table_->Fields.size(), false);
   editing_ = Editing::Changed;
 }
 
@@ -235,10 +240,7 @@ bool Recordset::KeyHoldsNull() const {
 }
 
 void Recordset::Update() {
-  if (editing_ == Editing::None) {
-    if (sink_ == nullptr) return;
-    return sink_->Fail(EngineFailure(3020, "Update or CancelUpdate without AddNew or Edit."));
-  }
+  if (editing_ == Editing::None) return Fail(NotBeingEdited());
   const Editing editing = std::exchange(editing_, Editing::None);
   std::optional<Failure> failed;
   try {
@@ -248,7 +250,7 @@ void Recordset::Update() {
   } catch (...) {
     failed = CaughtFailure();
   }
-  if (failed) sink_->Fail(*failed);
+  if (failed) Fail(*failed);
 }
 
 void Recordset::Insert() {

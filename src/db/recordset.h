@@ -2,6 +2,7 @@
 // The rows of a query or a table, one of them current, edited field by field.
 #pragma once
 
+#include <concepts>
 #include <cstddef>
 #include <cstdint>
 #include <memory>
@@ -42,7 +43,21 @@ class FieldRef {
   // that takes none), 6 (number outside the type) and 3020 (no row is edited); the field then
   // keeps its content. A real number in an integer field is rounded, ties to even.
   const FieldRef& operator=(Value value) const;
-  FieldRef& operator=(const FieldRef&) = delete;
+
+  // Assigns what a step returns. What the step throws is the assignment's failure.
+  template <std::invocable Step>
+  const FieldRef& operator=(const Step& step) const;
+
+  // The same for what needs memory to be copied: a text, or another field's content.
+  template <typename Text>
+  requires std::convertible_to<Text, std::string_view> &&
+      (!std::same_as<Text, std::string>) const FieldRef&
+      operator=(Text&& text) const {
+    return *this = [&text] { return Value(std::string_view(text)); };
+  }
+  const FieldRef& operator=(const FieldRef& other) const {
+    return *this = [&other] { return other.Get(); };
+  }
   FieldRef(const FieldRef&) = default;
 
  private:
@@ -98,6 +113,7 @@ class Recordset {
   void ReadRows(std::shared_ptr<const TableDef> columns, sqlite3_stmt* statement,
                 RecordsetType type);
   Value Read(std::optional<std::size_t> field) const;
+  void Fail(const Failure& failure) const;
   void Assign(std::optional<std::size_t> field, Value& value);
   void GrowField(std::size_t field, std::size_t size);
   std::optional<std::size_t> FindField(std::string_view name);
@@ -119,5 +135,19 @@ class Recordset {
   std::size_t nextField_ = 0;  // behind the one asked for last: fields are mostly used in order
   sqlite3_stmt* insert_ = nullptr;
 };
+
+template <std::invocable Step>
+const FieldRef& FieldRef::operator=(const Step& step) const {
+  std::optional<Failure> failed;
+  try {
+    Value value = step();
+    recordset_.Assign(field_, value);
+    return *this;
+  } catch (...) {
+    failed = CaughtFailure();
+  }
+  recordset_.Fail(*failed);
+  return *this;
+}
 
 }  // namespace orrerix

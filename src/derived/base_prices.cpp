@@ -27,7 +27,7 @@ constexpr std::string_view kAppendPrices =
 
 class PriceStage {
  public:
-  PriceStage(FailureSink& caller, Import& import)
+  PriceStage(Routine& caller, Import& import)
       : caller_(caller),
         import_(import),
         db_(import.Target.DB),
@@ -45,7 +45,7 @@ class PriceStage {
         import_.ProgressIt(count, done);
         lastTick = import_.Host.TickCount();
       }
-      PriceObject(objects);
+      caller_.Try([&] { PriceObject(objects); });
     }
     import_.ProgressIt(count, count);
   }
@@ -66,19 +66,20 @@ class PriceStage {
     for (Recordset goods = db_.OpenRecordset(
              caller_, "SELECT * from Goods WHERE ucase(category) = 'COMMODITY' ORDER BY realname");
          !goods.AtEnd(); goods.MoveNext()) {
-      PriceGood(object, base, goods);
+      caller_.Try([&] { PriceGood(object, base, goods); });
     }
   }
 
   void PriceGood(Recordset& object, const std::string& base, Recordset& good) {
-    const std::string nickname = good["nickname"].Get().Text();
+    const std::string nickname =
+        caller_.Or(std::string(), [&] { return good["nickname"].Get().Text(); });
     const double price = good["price"].Get().Number();
     Recordset market = db_.OpenRecordset(
         caller_, "SELECT * from BaseGoods WHERE ucase(Base) = '{}' AND ucase(GoodNick) = '{}'",
         {base, Ucase(nickname)});
     prices_.AddNew();
-    prices_["SysNick"] = object["sys_nick"].Get();
-    prices_["BaseNick"] = object["nickname"].Get();
+    prices_["SysNick"] = object["sys_nick"];
+    prices_["BaseNick"] = object["nickname"];
     prices_["GoodNick"] = nickname;
     prices_["Price"] = price;
     prices_["Sell"] = 0;
@@ -89,7 +90,7 @@ class PriceStage {
     prices_.Update();
   }
 
-  FailureSink& caller_;
+  Routine& caller_;
   Import& import_;
   Database& db_;
   Recordset prices_;
@@ -105,7 +106,7 @@ void CalcBasePrices2(Universe& universe) {
   });
 }
 
-void CalcBasePrices(FailureSink& caller, Import& import) {
+void CalcBasePrices(Routine& caller, Import& import) {
   PriceStage(caller, import).Run();
 }
 

@@ -3,6 +3,7 @@
 
 #include "import/import_state.h"
 #include "import/universe.h"
+#include "shell/routine.h"
 
 namespace orrerix {
 
@@ -13,6 +14,6 @@ void CalcBasePrices2(Universe& universe);
 // The same table row by row, with a row for every commodity at every object with a market. `Sell`
 // then means something else: 0 not traded, 1 bought only, 2 sold, and prices are cut, not rounded.
 // No stage of the import calls it. Failures go to the caller.
-void CalcBasePrices(FailureSink& caller, Import& import);
+void CalcBasePrices(Routine& caller, Import& import);
 
 }  // namespace orrerix

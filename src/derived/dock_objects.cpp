@@ -42,15 +42,17 @@ class DockStage {
         PlaceObject(routine_, object["pos"].Get().Text(), scale, place_);
 
     docks_.AddNew();
-    docks_["nickname"] = object["nickname"].Get();
-    docks_["realname"] = object["realname"].Get();
-    docks_["loadout"] = object["loadout"].Get();
-    docks_["owner"] = object["reputation"].Get();
+    docks_["nickname"] = object["nickname"];
+    docks_["realname"] = object["realname"];
+    docks_["loadout"] = object["loadout"];
+    docks_["owner"] = object["reputation"];
     docks_["MapX"] = cell.X;
     docks_["MapY"] = cell.Y;
     docks_["PosX"] = place_.X;
     docks_["PosY"] = place_.Y;
-    if (object["loadout"].Get().Text().starts_with("docking_ring")) NameAfterPlanet(object);
+    routine_.Try([&] {
+      if (object["loadout"].Get().Text().starts_with("docking_ring")) NameAfterPlanet(object);
+    });
     // The file has the height second; here it comes last.
     docks_["abs_x"] = position.A;
     docks_["abs_y"] = position.C;
@@ -63,7 +65,8 @@ class DockStage {
     Recordset planet = ObjectNamed(routine_, universe_, Left(base, kPlanetNickname));
     if (planet.AtEnd()) planet = ObjectNamed(routine_, universe_, base);
     if (planet.AtEnd()) return;
-    const std::string name = "Dockring: " + planet["realname"].Get().Text();
+    const std::string name =
+        routine_.Or(std::string(), [&] { return "Dockring: " + planet["realname"].Get().Text(); });
     ring.Edit();
     ring["realname"] = name;
     ring.Update();

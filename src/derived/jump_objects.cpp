@@ -41,13 +41,13 @@ class JumpStage {
 
  private:
   void Connect(Recordset& object) {
-    const std::string target = object["goto"].Get().Text();
-    from_.Nickname = object["nickname"].Get().Text();
-    Locate(from_, object["sys_nick"].Get().Text());
-    std::string system = target;
-    routine_.Try([&] { system = RequireBeforeComma(target); });
+    const std::string target = TextOf(object, "goto");
+    from_.Nickname = routine_.Or(from_.Nickname, [&] { return object["nickname"].Get().Text(); });
+    Locate(from_, TextOf(object, "sys_nick"));
+    const std::string system =
+        routine_.Or(target, [&] { return std::string(RequireBeforeComma(target)); });
     Locate(to_, system);
-    PlaceObject(routine_, object["pos"].Get().Text(), from_.Scale, from_.Place);
+    PlaceObject(routine_, TextOf(object, "pos"), from_.Scale, from_.Place);
 
     to_.Nickname = TargetNickname(target);
     to_.Place = {};
@@ -56,11 +56,15 @@ class JumpStage {
     PlaceObject(routine_, TargetPosition(found), to_.Scale, to_.Place);
     to_.Nickname = found["nickname"].Get().Text();
     if (IsRecorded(to_.Nickname)) return;
-    Append(object["jump_effect"].Get().Text());
+    Append(TextOf(object, "jump_effect"));
+  }
+
+  std::string TextOf(Recordset& row, std::string_view field) {
+    return routine_.Or(std::string(), [&] { return row[field].Get().Text(); });
   }
 
   void Locate(JumpEnd& end, std::string_view system) {
-    end.Cell = grid_.FindCell(system);
+    end.Cell = routine_.Or(end.Cell, [&] { return grid_.FindCell(system); });
     end.Scale = SystemScale(routine_, universe_, end.Cell);
   }
 
@@ -68,15 +72,15 @@ class JumpStage {
   std::string TargetNickname(std::string_view target) {
     const CommaCut system = CutAtComma(target);
     std::string_view nickname = system.Found ? system.Behind : system.Before;
-    routine_.Try([&] { nickname = RequireBeforeComma(nickname); });
+    nickname = routine_.Or(nickname, [&] { return RequireBeforeComma(nickname); });
     return std::string(Trim(nickname));
   }
 
   std::string TargetPosition(Recordset& target) {
     std::string pos = target["pos"].Get().Text();
     if (Contains(pos, ",")) return pos;
-    universe_.Log.AddErrorLine(fmt::format(
-        "*=== FL-MOD-ERROR: Objekt {} has no POS = x,z,y! ===*", to_.Nickname));
+    universe_.Log.AddErrorLine(
+        fmt::format("*=== FL-MOD-ERROR: Objekt {} has no POS = x,z,y! ===*", to_.Nickname));
     return "0,0,0";
   }
 

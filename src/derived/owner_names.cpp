@@ -31,14 +31,14 @@ std::string LookUp(Universe& universe, std::string_view source, std::string_view
 void CalcOwnerNames(Universe& universe) {
   Routine routine(universe.Log, "OrrerixMain.CalcOwnerNames", "While Calculating OwnerNames");
   routine.Run([&] {
-    for (Recordset groups = universe.DB.OpenRecordset(routine, "SELECT * from Groups", {},
-                                                      RecordsetType::Dynaset);
+    for (Recordset groups =
+             universe.DB.OpenRecordset(routine, "SELECT * from Groups", {}, RecordsetType::Dynaset);
          !groups.AtEnd(); groups.MoveNext()) {
       groups.Edit();
-      routine.Try(
-          [&] { groups["Name"] = GetName(universe, groups["ids_name"].RequireLong(), ""); });
-      routine.Try(
-          [&] { groups["SName"] = GetName(universe, groups["ids_short_name"].RequireLong(), ""); });
+      groups["Name"] = [&] { return GetName(universe, groups["ids_name"].RequireLong(), ""); };
+      groups["SName"] = [&] {
+        return GetName(universe, groups["ids_short_name"].RequireLong(), "");
+      };
       groups.Update();
     }
   });
@@ -50,8 +50,8 @@ std::string GetOwnerName(Universe& universe, std::string_view nickname) {
 }
 
 std::string GetOwnerShortName(Universe& universe, std::string_view nickname) {
-  return LookUp(universe, "OrrerixMain.GetOwnerShortName", "OwnerShortName", "Short-Name-ID: ",
-                "ids_short_name", nickname,
+  return LookUp(universe, "OrrerixMain.GetOwnerShortName", "OwnerShortName",
+                "Short-Name-ID: ", "ids_short_name", nickname,
                 [&](std::int32_t number) { return GetName(universe, number, ""); });
 }
 

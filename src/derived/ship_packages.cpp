@@ -44,18 +44,18 @@ class PackageStage {
     if (hull.AtEnd()) return WarnOf("Shiphull for", nickname);
     const std::string hullNickname = hull["nickname"].Get().Text();
     ship.Edit();
-    ship["price"] = hull["price"].Get();
+    ship["price"] = hull["price"];
     ship.Update();
     Recordset package = Goods("ucase(hull) = '{}' AND ucase(category) = 'SHIP'", hullNickname);
     if (package.AtEnd()) return WarnOf("Packagename for Shiphull", hullNickname);
     ship.Edit();
-    ship["packagename"] = package["nickname"].Get();
+    ship["packagename"] = package["nickname"];
     ship.Update();
   }
 
   void WarnOf(std::string_view missing, std::string_view nickname) {
-    universe_.Log.AddErrorLine(fmt::format(
-        "Warning: NO {} {} this means the ship has no equipment.", missing, nickname));
+    universe_.Log.AddErrorLine(
+        fmt::format("Warning: NO {} {} this means the ship has no equipment.", missing, nickname));
   }
 
   void AddPackage(Recordset& ship) {

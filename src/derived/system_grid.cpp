@@ -86,10 +86,9 @@ double MapFraction(std::int32_t units, double scale) {
 
 ObjectPosition PlaceObject(Routine& routine, std::string_view pos, double scale,
                            CellFraction& place) {
-  ObjectPosition position;
-  routine.Try([&] { position = ParsePosition(pos); });
-  routine.Try([&] { place.X = MapFraction(position.A, scale); });
-  routine.Try([&] { place.Y = MapFraction(position.C, scale); });
+  const ObjectPosition position = routine.Or(ObjectPosition(), [&] { return ParsePosition(pos); });
+  place.X = routine.Or(place.X, [&] { return MapFraction(position.A, scale); });
+  place.Y = routine.Or(place.Y, [&] { return MapFraction(position.C, scale); });
   return position;
 }
 

@@ -62,9 +62,8 @@ class LaneStage {
     while (!target.empty()) {
       ring = ObjectNamed(routine_, universe_, target);
       if (ring.AtEnd()) {
-        universe_.Log.AddErrorLine(
-            fmt::format("FL-MOD-ERROR Searching target Tradelane <{}> for <{}>", target,
-                        first_.Nickname));
+        universe_.Log.AddErrorLine(fmt::format(
+            "FL-MOD-ERROR Searching target Tradelane <{}> for <{}>", target, first_.Nickname));
         break;
       }
       visited.insert(Ucase(target));
@@ -75,10 +74,10 @@ class LaneStage {
   }
 
   void TakeEnd(LaneEnd& end, Recordset& ring) {
-    end.Cell = grid_.FindCell(ring["sys_nick"].Get().Text());
+    end.Cell = routine_.Or(end.Cell, [&] { return grid_.FindCell(ring["sys_nick"].Get().Text()); });
     const double scale = SystemScale(routine_, universe_, end.Cell);
     PlaceObject(routine_, ring["pos"].Get().Text(), scale, end.Place);
-    end.RealName = ring["realspacename"].Get().Text();
+    routine_.Try([&] { end.RealName = ring["realspacename"].Get().Text(); });
     if (end.RealName.empty()) end.RealName = "Unknown";
   }
 

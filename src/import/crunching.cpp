@@ -2,6 +2,7 @@
 #include "import/crunching.h"
 
 #include <algorithm>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -53,33 +54,48 @@ class Cruncher {
       : routine_(routine), to_(to), held_(held) {}
 
   void Copy(const TableDef& table) {
-    const auto held = std::find_if(held_.begin(), held_.end(), [&table](const HeldRows& rows) {
-      return rows.Definition().Name == table.Name;
-    });
-    if (held != held_.end()) return Write(*held);
-    to_.CreateTable(routine_, Crunched(table, to_.LongestAttachedTexts(routine_, table)));
-    to_.CopyFromAttached(routine_, table.Name);
-  }
-
-  void Write(const HeldRows& rows) {
-    const TableDef definition = Crunched(rows.Definition(), rows.LongestTexts());
+    const TableDef definition = DefinitionOf(table);
     to_.CreateTable(routine_, definition);
-    to_.Append(routine_, rows, definition);
+    Fill(definition);
   }
 
-  void Write(const std::vector<std::unique_ptr<SectionTable>>& sections) {
+  // Section tables, and behind them tables of the file.
+  void Write(const std::vector<std::unique_ptr<SectionTable>>& sections,
+             std::span<const TableDef> behind) {
     std::vector<TableDef> definitions;
-    definitions.reserve(sections.size());
+    definitions.reserve(sections.size() + behind.size());
     for (const auto& table : sections) {
       definitions.push_back(Crunched(table->Definition(), table->LongestTexts()));
     }
-    to_.CreateTables(routine_, definitions);
-    for (std::size_t i = 0; i < sections.size(); ++i) {
+    for (const TableDef& table : behind) definitions.push_back(DefinitionOf(table));
+    to_.CreateTables(routine_, definitions, [&](std::size_t i) {
+      if (i >= sections.size()) return Fill(definitions[i]);
       sections[i]->AppendTo(routine_, to_, definitions[i]);
-    }
+    });
   }
 
  private:
+  const HeldRows* Held(const std::string& table) const {
+    const auto held = std::find_if(held_.begin(), held_.end(), [&table](const HeldRows& rows) {
+      return rows.Definition().Name == table;
+    });
+    return held == held_.end() ? nullptr : &*held;
+  }
+
+  TableDef DefinitionOf(const TableDef& table) const {
+    if (const HeldRows* held = Held(table.Name)) {
+      return Crunched(held->Definition(), held->LongestTexts());
+    }
+    return Crunched(table, to_.LongestAttachedTexts(routine_, table));
+  }
+
+  void Fill(const TableDef& definition) {
+    if (const HeldRows* held = Held(definition.Name)) {
+      return to_.Append(routine_, *held, definition);
+    }
+    to_.CopyFromAttached(routine_, definition.Name);
+  }
+
   FailureSink& routine_;
   Database& to_;
   const std::vector<HeldRows>& held_;
@@ -136,8 +152,7 @@ void CrunchTXTFields(ErrorLog& log, const fs::path& source, const fs::path& targ
     // One transaction: a process that dies on the way leaves a file without any table.
     to.Begin(routine);
     std::for_each(tables.begin(), behindFixed, [&](const TableDef& t) { cruncher.Copy(t); });
-    cruncher.Write(kept.Sections);
-    std::for_each(behindFixed, tables.end(), [&](const TableDef& t) { cruncher.Copy(t); });
+    cruncher.Write(kept.Sections, std::span(behindFixed, tables.end()));
     to.Commit(routine);
   });
 }

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "import/generic_section.h"
 
-#include <array>
 #include <algorithm>
+#include <array>
 #include <string>
 
 #include <fmt/format.h>
@@ -23,9 +23,10 @@ constexpr std::array<std::string_view, 3> kWithoutKey = {"mroom", "lightsource",
 
 // Keys that the game's files repeat as a matter of course.
 constexpr std::array<std::string_view, 14> kRepeating = {
-    "locked_gate", "movie_file",     "fixture",            "npc", "voice", "density_restriction",
-    "faction",     "encounter",      "faction_weight",     "shield_hit_effects",
-    "dll",         "log",            "fuse",               "npc_locked_gate"};
+    "locked_gate",    "movie_file",          "fixture", "npc",
+    "voice",          "density_restriction", "faction", "encounter",
+    "faction_weight", "shield_hit_effects",  "dll",     "log",
+    "fuse",           "npc_locked_gate"};
 
 template <std::size_t N>
 bool IsOneOf(const std::array<std::string_view, N>& names, std::string_view name) {
@@ -84,7 +85,10 @@ class RowReader {
       constexpr SectionTable::FieldIndex sourceFileName = 0;
       table_.Set(sourceFileName, file_.substr(import_.Game.Text().size()));
     });
-    while (block.find('=') != std::string_view::npos) ReadLine(TakeLine(block));
+    while (block.find('=') != std::string_view::npos) {
+      const std::string_view line = TakeLine(block);
+      routine_.Try([&] { ReadLine(line); });
+    }
     if (stored_) {
       routine_.Try([this] { table_.Update(); });
     } else {
@@ -116,7 +120,7 @@ class RowReader {
   // The value is two things: the shield's type, which becomes the key, and the figure.
   void SplitShieldMod(std::string_view& key, std::string_view& value) {
     const std::string_view both = value;
-    routine_.Try([&] { key = KeyText(RequireBeforeComma(both)); });
+    key = routine_.Or(key, [&] { return KeyText(RequireBeforeComma(both)); });
     const CommaCut cut = CutAtComma(both);
     value = Trim(cut.Found ? cut.Behind : cut.Before);
   }
@@ -128,7 +132,7 @@ class RowReader {
       if (!field) return;
     }
     nextField_ = *field + 1;
-    WarnOfDoubleData(key, *field);
+    routine_.Try([&] { WarnOfDoubleData(key, *field); });
     routine_.Try([&] { table_.Set(*field, value); });
     stored_ = true;
   }
@@ -136,10 +140,10 @@ class RowReader {
   // The table changes under the open row: the row is written as it stands and taken up again.
   // Nothing if the field could not be added; its value is then dropped.
   std::optional<SectionTable::FieldIndex> AddField(std::string_view key) {
-    std::optional<SectionTable::FieldIndex> field;
     std::int32_t rowID = table_.RowID();
     routine_.Try([this] { table_.Update(); });
-    routine_.Try([&] { field = table_.AddField(key); });
+    const auto field = routine_.Or(std::optional<SectionTable::FieldIndex>(),
+                                   [&] { return table_.AddField(key); });
     if (field && key == "nickname" && !IsOneOf(kWithoutKey, table_.Name())) {
       rowID = MakeKey(rowID, *field);
     }

@@ -93,7 +93,9 @@ class ImportRun {
   void ReadLibrary(const std::string& library, std::int32_t place) {
     constexpr int stepsOfLibrary = 2;
     import_.AddSteps(routine_, stepsOfLibrary);
-    host_.AppendText("\r\n\r\n" + FormatIn(host_.Speech(), TextId::ReadingLibrary, library));
+    routine_.Try([&] {
+      host_.AppendText("\r\n\r\n" + FormatIn(host_.Speech(), TextId::ReadingLibrary, library));
+    });
     host_.Yield();
     ReadHTML_STRData(import_, order_.Game.Text() + "\\exe\\" + library,
                      RequireLong(static_cast<double>(place) * kNumbersPerLibrary));
@@ -105,10 +107,10 @@ class ImportRun {
              database_.OpenRecordset(routine_, "SELECT * from Systems", {}, RecordsetType::Dynaset);
          !systems.AtEnd(); systems.MoveNext()) {
       systems.Edit();
-      routine_.Try([&] {
-        systems["realname"] = GetName(import_.Target, systems["stridname"].RequireLong(),
-                                      systems["nickname"].RequireText());
-      });
+      systems["realname"] = [&] {
+        return GetName(import_.Target, systems["stridname"].RequireLong(),
+                       systems["nickname"].RequireText());
+      };
       systems.Update();
     }
   }
@@ -145,8 +147,10 @@ class ImportRun {
     for (std::int32_t k = 0; k < count; ++k) {
       const DerivedStage& stage = stages[static_cast<std::size_t>(k)];
       import_.ProgressIt(count, k);
-      const std::string text = "\r\n\r\n" + std::string(TextIn(host_.Speech(), stage.Text));
-      k < 2 ? host_.ShowText(text) : host_.AppendText(text);
+      routine_.Try([&] {
+        const std::string text = "\r\n\r\n" + std::string(TextIn(host_.Speech(), stage.Text));
+        k < 2 ? host_.ShowText(text) : host_.AppendText(text);
+      });
       host_.Yield();
       routine_.Try([&] { stage.Calculate(import_.Target, host_); });
       if (k + 1 < count) CleanUp();

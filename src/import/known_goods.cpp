@@ -24,26 +24,26 @@ void KnownSections::ReadCommodity(BlockText block) {
 }
 
 void KnownSections::ReadGood(BlockText block) {
-  const std::string category = TextValue(block, "CATEGORY");
-  const std::string nickname = TextValue(block, "NICKNAME");
-  const std::string hull = TextValue(block, "HULL");
+  const std::string category = TextOr(routine_, block, "CATEGORY");
+  const std::string nickname = TextOr(routine_, block, "NICKNAME");
+  const std::string hull = TextOr(routine_, block, "HULL");
   routine_.AddNew(goods_, RetryState::Goods);
   goods_["category"] = category;
   goods_["nickname"] = nickname;
   AssignTexts(goods_, block, {{"EQUIPMENT", "equipment"}, {"MSG_ID_PREFIX", "msg_id_prefix"}});
   AssignNumbers(goods_, block, {{"PRICE", "price"}});
-  routine_.Try([&] {
-    const auto number = ToLong(Val(block.Value("IDS_NAME")));
-    if (!number) throw RuntimeFailure(failure_number::kOverflow);
-    goods_["realname"] = GetName(import_.Target, *number, nickname);
-  });
+  goods_["realname"] = [&] {
+    return GetName(import_.Target, RequireLong(Val(block.Value("IDS_NAME"))), nickname);
+  };
   AssignNumbers(goods_, block, {{"IDS_INFO", "ids_info"}});
   AssignTexts(goods_, block, {{"SHIP", "ship"}});
   goods_["hull"] = hull;
   AssignTexts(goods_, block, {{"FREE_AMMO", "free_ammo"}});
-  if (Ucase(category) == "COMMODITY") {
-    AssignCommodityName(nickname, TextValue(block, "EQUIPMENT"));
-  }
+  routine_.Try([&] {
+    if (Ucase(category) == "COMMODITY") {
+      AssignCommodityName(nickname, TextValue(block, "EQUIPMENT"));
+    }
+  });
   goods_.Update();
   if (category == "ship" && !hull.empty()) ReadAddons(std::move(block), nickname);
 }
@@ -56,7 +56,7 @@ void KnownSections::AssignCommodityName(const std::string& nickname, const std::
     const std::string_view front = Left(equipment, prefix);
     goods_["realname"] = Trim(std::string_view(equipment).substr(front.size()));
   } else {
-    goods_["realname"] = found["realname"].Get();
+    goods_["realname"] = found["realname"];
   }
 }
 
@@ -71,10 +71,10 @@ void KnownSections::ReadAddons(BlockText block, const std::string& package) {
     block.Cut(block.Find("ADDON").value_or(0));
     packages_["PackageName"] = package;
     const CommaCut name = CutAtComma(value);
-    packages_["NickName"] = Text(Trim(name.Before));
+    packages_["NickName"] = [&] { return Text(Trim(name.Before)); };
     if (name.Found) {
       const CommaCut hardpoint = CutAtComma(name.Behind);
-      packages_["HardPoint"] = Text(Trim(hardpoint.Before));
+      packages_["HardPoint"] = [&] { return Text(Trim(hardpoint.Before)); };
       if (hardpoint.Found) packages_["Val"] = Val(hardpoint.Behind);
     }
     block.Cut(value.size() + keyAndSign);
@@ -85,20 +85,20 @@ void KnownSections::ReadAddons(BlockText block, const std::string& package) {
 void KnownSections::ReadBaseGood(BlockText block) {
   constexpr std::string_view word = "MARKETGOOD";
   constexpr std::size_t keyAndSign = word.size() + 1;
-  const std::string base = TextValue(block, "BASE");
+  const std::string base = TextOr(routine_, block, "BASE");
   while (const auto place = block.Find(word)) {
     const std::string_view value = block.Value(word);
     block.Cut(*place);
     routine_.AddNew(baseGoods_, RetryState::BaseGoods);
     baseGoods_["Base"] = base;
     const CommaCut good = CutAtComma(value);
-    baseGoods_["GoodNick"] = Text(Trim(good.Before));
+    baseGoods_["GoodNick"] = [&] { return Text(Trim(good.Before)); };
     std::string_view rest = good.Behind;
     for (const char* field : {"val1", "val2", "val3", "val4", "val5", "val6"}) {
       baseGoods_[field] = good.Found ? Val(rest) : 0.0;
       if (const CommaCut next = CutAtComma(rest); next.Found) rest = next.Behind;
     }
-    routine_.SetCurrentLine(value);
+    routine_.Try([&] { routine_.SetCurrentLine(value); });
     block.Cut(value.size() + keyAndSign);
     baseGoods_.Update();
   }

@@ -18,6 +18,10 @@ namespace {
 constexpr std::string_view kDataKinds =
     "*EQUIPMENT*SHIPS*GOODS*LOADOUTS*BASES*MARKETS*WEAPONMODDB*GROUPS*";
 
+bool IsReadKind(std::string_view kind) {
+  return Contains(kDataKinds, "*" + Ucase(Text(kind)) + "*");
+}
+
 constexpr std::string_view kLineWhite = " \t\r\n";
 
 std::string WholeText(double number) {
@@ -84,10 +88,9 @@ bool KnownSections::Read(const std::string& block) {
 }
 
 void KnownSections::AssignRealName(Recordset& row, std::string_view numberField) {
-  routine_.Try([&] {
-    row["realname"] =
-        GetName(import_.Target, row[numberField].RequireLong(), row["nickname"].RequireText());
-  });
+  row["realname"] = [&] {
+    return GetName(import_.Target, row[numberField].RequireLong(), row["nickname"].RequireText());
+  };
 }
 
 void KnownSections::ReadSystem(BlockText block) {
@@ -95,7 +98,7 @@ void KnownSections::ReadSystem(BlockText block) {
   routine_.AddNew(systems, RetryState::Systems);
   AssignTexts(systems, block,
               {{"NICKNAME", "nickname"}, {"FILE", "file"}, {"POS", "pos_original"}});
-  routine_.Try([&] { systems["pos"] = MapCellText(block.Value("POS")); });
+  systems["pos"] = [&] { return MapCellText(block.Value("POS")); };
   AssignNumbers(systems, block, {{"STRID_NAME", "stridname"}});
   AssignTexts(systems, block, {{"NAVMAPSCALE", "navmapscale"}});
   AssignRealName(systems, "stridname");
@@ -119,10 +122,9 @@ void KnownSections::ReadObject(BlockText block) {
   AssignRealName(objects_, "ids_name");
   AssignTexts(objects_, block, {{"PREV_RING", "prev_ring"}, {"NEXT_RING", "next_ring"}});
   AssignNumbers(objects_, block, {{"TRADELANE_SPACE_NAME", "tradelane_space_name"}});
-  routine_.Try([&] {
-    objects_["realspacename"] =
-        GetName(import_.Target, objects_["tradelane_space_name"].RequireLong(), "");
-  });
+  objects_["realspacename"] = [&] {
+    return GetName(import_.Target, objects_["tradelane_space_name"].RequireLong(), "");
+  };
   objects_.Update();
 }
 
@@ -133,7 +135,7 @@ void KnownSections::ReadResources(BlockText block) {
     block.Cut(*place);
     const std::string_view value = block.Value("DLL");
     block.Cut(value.size());
-    resources["DLL"] = Text(Trim(value.substr(0, value.find(';'))));
+    resources["DLL"] = [&] { return Text(Trim(value.substr(0, value.find(';')))); };
     resources.Update();
     if (value.empty()) return;  // nothing was cut: the same line would come for ever
   }
@@ -169,23 +171,23 @@ void KnownSections::ReadDataLine(Recordset& dataFiles, std::string_view line) {
       if (value.empty()) throw RuntimeFailure(failure_number::kInvalidProcedureCall);
     });
   }
-  if (!Contains(kDataKinds, "*" + Ucase(Text(key)) + "*")) return;
+  if (!routine_.Or(false, [&] { return IsReadKind(key); })) return;
   routine_.AddNew(dataFiles, RetryState::DataFiles);
-  dataFiles["type"] = Text(key);
-  dataFiles["pathfile"] = Text(value);
+  dataFiles["type"] = [&] { return Text(key); };
+  dataFiles["pathfile"] = [&] { return Text(value); };
   dataFiles.Update();
   import_.AddSteps(routine_, 1);
 }
 
 void KnownSections::ReadMBase(BlockText block) {
-  lastBase_ = TextValue(block, "NICKNAME");
+  routine_.Try([&] { lastBase_ = TextValue(block, "NICKNAME"); });
 }
 
 void KnownSections::ReadNPC(BlockText block) {
   constexpr std::size_t keyAndSign = std::string_view("bribe=  ").size();
-  const std::string nickname = TextValue(block, "NICKNAME");
+  const std::string nickname = TextOr(routine_, block, "NICKNAME");
   const double individualName = Val(block.Value("INDIVIDUAL_NAME"));
-  const std::string affiliation = TextValue(block, "AFFILIATION");
+  const std::string affiliation = TextOr(routine_, block, "AFFILIATION");
   while (const auto place = block.Find("BRIBE")) {
     const std::string_view value = block.Value("BRIBE");
     block.Cut(*place);
@@ -194,7 +196,7 @@ void KnownSections::ReadNPC(BlockText block) {
     npcs_["NickName"] = nickname;
     npcs_["individual_name"] = individualName;
     npcs_["affiliation"] = affiliation;
-    routine_.Try([&] { npcs_["bribe"] = Text(Trim(RequireBeforeComma(value))); });
+    npcs_["bribe"] = [&] { return Text(Trim(RequireBeforeComma(value))); };
     const auto numbers = ThreeNumbers(value);
     npcs_["bribe_2"] = numbers[1];
     npcs_["bribe_3"] = numbers[2];

@@ -41,7 +41,7 @@ void KnownSections::ReadShip(BlockText block) {
                 {{"NUDGE_FORCE", "nudge_force"},
                  {"STRAFE_FORCE", "strafe_force"},
                  {"STRAFE_POWER_USAGE", "strafe_power_usage"}});
-  ReadHardpoints(block, TextValue(block, "NICKNAME"));
+  ReadHardpoints(block, TextOr(routine_, block, "NICKNAME"));
   ships_.Update();
 }
 
@@ -50,12 +50,12 @@ void KnownSections::ReadHardpoints(BlockText block, const std::string& ship) {
   while (const auto place = block.FindExact(key)) {
     block.Cut(*place);
     const std::string_view value = block.Value("HP_TYPE");
-    routine_.SetCurrentLine(value);
+    routine_.Try([&] { routine_.SetCurrentLine(value); });
     routine_.AddNew(hardpoints_, RetryState::Ships_Hardpoints);
     hardpoints_["NickName"] = ship;
-    routine_.Try([&] { hardpoints_["EquipType"] = Text(Trim(RequireBeforeComma(value))); });
+    hardpoints_["EquipType"] = [&] { return Text(Trim(RequireBeforeComma(value))); };
     const CommaCut cut = CutAtComma(value);
-    hardpoints_["HardPoints"] = Text(Trim(cut.Found ? cut.Behind : cut.Before));
+    hardpoints_["HardPoints"] = [&] { return Text(Trim(cut.Found ? cut.Behind : cut.Before)); };
     hardpoints_.Update();
     block.Cut(value.size() + key.size());
   }
@@ -66,14 +66,14 @@ void KnownSections::ReadLoadout(BlockText block) {
   constexpr std::string_view cargoTight = "CARGO=";
   constexpr std::string_view equip = "EQUIP =";
   constexpr std::string_view equipTight = "EQUIP=";
-  const std::string nickname = TextValue(block, "NICKNAME");
+  const std::string nickname = TextOr(routine_, block, "NICKNAME");
   BlockText copy = block;
   for (auto place = block.Find(cargo); place || block.Holds(cargoTight);
        place = block.Find(cargo)) {
     routine_.AddNew(loadoutCargo_, RetryState::Loadout_Cargo_Cargo);
     loadoutCargo_["NickName"] = nickname;
     const CommaCut value = CutAtComma(block.Value("CARGO"));
-    loadoutCargo_["Cargo"] = Text(Trim(value.Before));
+    loadoutCargo_["Cargo"] = [&] { return Text(Trim(value.Before)); };
     if (value.Found) loadoutCargo_["Count"] = Val(value.Behind);
     loadoutCargo_.Update();
     block.Cut(place ? *place + cargo.size() : *block.Find(cargoTight) + cargoTight.size());
@@ -81,7 +81,7 @@ void KnownSections::ReadLoadout(BlockText block) {
   for (auto place = copy.Find(equip); place || copy.Holds(equipTight); place = copy.Find(equip)) {
     routine_.AddNew(loadoutCargo_, RetryState::Loadout_Cargo_Equip);
     loadoutCargo_["NickName"] = nickname;
-    loadoutCargo_["Cargo"] = Text(Trim(CutAtComma(copy.Value("EQUIP")).Before));
+    loadoutCargo_["Cargo"] = [&] { return Text(Trim(CutAtComma(copy.Value("EQUIP")).Before)); };
     loadoutCargo_["Count"] = 1;
     loadoutCargo_.Update();
     // Only the form with the blank is cut away; the other is read until it is used up, character

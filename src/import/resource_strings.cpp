@@ -68,25 +68,25 @@ std::int32_t TextNumber(std::uint32_t number, std::int32_t offset) {
   return static_cast<std::int32_t>(number) + offset;
 }
 
-void ReadCards(Import& import, FailureSink& routine, const ResourceLibrary& library,
+void ReadCards(Import& import, Routine& routine, const ResourceLibrary& library,
                const std::string& name, std::int32_t offset) {
   Recordset infos = import.Target.DB.OpenTable(routine, "ids_info");
   PacedStep step(import);
   for (const auto& [number, data] : library.Cards()) {
     step.At(number);
-    const std::string card = FromUtf16(data);
+    const std::string card = routine.Or(std::string(), [&] { return FromUtf16(data); });
     const std::string_view clean = CleanEnd(card);
     if (clean.empty()) continue;
     infos.AddNew();
     infos["ID"] = TextNumber(number, offset);
-    infos["Info"] = InfoCardToText(clean);
+    infos["Info"] = [&] { return InfoCardToText(clean); };
     infos["DLL"] = name;
     infos.Update();
   }
   step.Finish();
 }
 
-void ReadStrings(Import& import, FailureSink& routine, const ResourceLibrary& library,
+void ReadStrings(Import& import, Routine& routine, const ResourceLibrary& library,
                  const std::string& name, std::int32_t offset) {
   Recordset names = import.Target.DB.OpenTable(routine, "ids_name");
   import.Host.Yield();

@@ -19,7 +19,8 @@ constexpr std::string_view kSourceFileName = "SourceFileName";
 
 void RequireName(std::string_view name) {
   if (name.find('\0') == std::string_view::npos) return;
-  throw EngineFailure(3125, "A name with a character of code 0 is not a valid name.");
+  throw EngineFailure(failure_number::kInvalidName,
+                      "A name with a character of code 0 is not a valid name.");
 }
 
 }  // namespace

@@ -12,6 +12,7 @@
 #include "import/block_text.h"
 #include "import/ini_text.h"
 #include "import/windows1252.h"
+#include "shell/routine.h"
 
 namespace orrerix {
 
@@ -24,16 +25,23 @@ inline std::string TextValue(const BlockText& block, std::string_view upperKey) 
   return Text(block.Value(upperKey));
 }
 
+// The value of a key on its own, or an empty text if that fails.
+inline std::string TextOr(Routine& routine, const BlockText& block, std::string_view upperKey) {
+  return routine.Or(std::string(), [&] { return TextValue(block, upperKey); });
+}
+
 // A key of a block and the field that takes it.
 struct KeyField {
   std::string_view Key;
   std::string_view FieldName;
 };
 
-// Assign the values of keys, in their order, as texts or as numbers; 0 where no number is.
+// Assign the values of keys, in their order, as texts or as numbers; 0 where no number is. Each
+// assignment is a statement of its own.
 inline void AssignTexts(Recordset& row, const BlockText& block,
                         std::initializer_list<KeyField> keys) {
-  for (const auto& [key, field] : keys) row[field] = TextValue(block, key);
+  for (const auto& [key, field] : keys)
+    row[field] = [&, wanted = key] { return TextValue(block, wanted); };
 }
 
 inline void AssignNumbers(Recordset& row, const BlockText& block,

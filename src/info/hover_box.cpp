@@ -26,9 +26,8 @@ void Grow(Routine& routine, int& size, int grown) {
 ControlList BoxControls(const TwipRect& place, std::string text, HoveredIcon icon) {
   Control shape = BoxShape(place, ShapeForm::RoundedRectangle);
   shape.Subject = icon;
-  const TwipRect inner{static_cast<float>(place.Left + kMargin),
-                       static_cast<float>(place.Top + kMargin), place.Width - 2 * kMargin,
-                       place.Height - 2 * kMargin};
+  const TwipRect inner{KeptAsFloat(place.Left + kMargin), KeptAsFloat(place.Top + kMargin),
+                       place.Width - 2 * kMargin, place.Height - 2 * kMargin};
   return {std::move(shape), BoxText(inner, std::move(text))};
 }
 
@@ -88,9 +87,9 @@ TwipRect HoverBoxPlace(const TwipRect& icon, const TextExtent& text, const MapDr
   TwipRect box{icon.Left, 0, static_cast<double>(text.Width + 2 * kMargin),
                static_cast<double>(text.Height + 2 * kMargin)};
   const bool above = icon.Top > drawing.Frame.Height / 2;
-  box.Top = static_cast<float>(above ? icon.Top - kIconGap - box.Height : icon.Bottom() + kIconGap);
+  box.Top = KeptAsFloat(above ? icon.Top - kIconGap - box.Height : icon.Bottom() + kIconGap);
   if (box.Right() > RoomForBox(drawing)) {
-    box.Left = static_cast<float>(std::max(icon.Right() - box.Width, kSmallestLeft));
+    box.Left = KeptAsFloat(std::max(icon.Right() - box.Width, kSmallestLeft));
   }
   return box;
 }

@@ -110,7 +110,7 @@ PriceRow PriceTableWriter::Row(const PriceItem& item) const {
   const Color back = kGroupBacks[static_cast<std::size_t>(item.Group)];
   const double top = Top(item.Group);
   const auto column = [&](double left, double width) {
-    return TwipRect{static_cast<float>(place_.Left + left), top, static_cast<float>(width),
+    return TwipRect{KeptAsFloat(place_.Left + left), top, KeptAsFloat(width),
                     static_cast<double>(rowHeight_)};
   };
   return {rows_,

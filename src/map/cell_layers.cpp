@@ -3,6 +3,7 @@
 
 #include <cstddef>
 
+#include "map/numeric.h"
 #include "map/system_pictures.h"
 
 namespace orrerix {
@@ -58,8 +59,8 @@ ControlList BackgroundTiles(MapState& state, const TwipRect& frame) {
 }
 
 Control PaintedUniverse(const TwipRect& frame, const std::optional<std::string>& file) {
-  const auto height = static_cast<float>(frame.Height);
-  const auto width = static_cast<float>(frame.Height / MapMaxY * MapMaxX);
+  const double height = KeptAsFloat(frame.Height);
+  const double width = KeptAsFloat(frame.Height / MapMaxY * MapMaxX);
   const TwipRect place{0, 0, width, height};
   return file ? MakePicture(ControlId::PaintedUniverse, std::nullopt, place, *file)
               : MakePicture(ControlId::PaintedUniverse, std::nullopt, place);

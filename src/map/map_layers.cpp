@@ -65,13 +65,12 @@ void PlaceEnds(Routine& routine, const CellGeometry& cells, Recordset& row, Cont
 Control MakeIcon(Routine& routine, int index, const CellGeometry& cells,
                  const ZoomRectangle& visible, Recordset& row, const PlaceFields& fields,
                  std::string picture) {
-  const auto size = static_cast<float>(std::max(40.0, 200.0 / visible.Columns()));
+  const double size = KeptAsFloat(std::max(40.0, 200.0 / visible.Columns()));
   ScreenPoint point;
   routine.Try([&] { point.X = ScreenX(cells, row, fields); });
   routine.Try([&] { point.Y = ScreenY(cells, row, fields); });
   const double half = size / 2.0;
-  const TwipRect box{static_cast<float>(point.X - half), static_cast<float>(point.Y - half), size,
-                     size};
+  const TwipRect box{KeptAsFloat(point.X - half), KeptAsFloat(point.Y - half), size, size};
   Control icon = MakePicture(ControlId::MapIcon, index, box, std::move(picture));
   icon.Bordered = true;
   icon.BorderColor = kIconBorder;

@@ -14,6 +14,13 @@ inline double NotBelowZero(double size) {
   return std::max(0.0, size);
 }
 
+// What a 32-bit float keeps of a number. The volatile copy makes the compiler round it: the
+// vectorizer of GCC 12 forgets the way to float and back when it converts numbers in pairs.
+inline double KeptAsFloat(double number) {
+  const volatile float kept = static_cast<float>(number);
+  return kept;
+}
+
 // A place or size as a whole number of twips, rounded to nearest, ties to even, and kept within 32
 // bits.
 inline std::int32_t WholeTwips(double twips) {

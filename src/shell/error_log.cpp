@@ -48,8 +48,8 @@ std::string ErrorLog::EntryText(std::string_view source, const Failure& failure,
   return entry;
 }
 
-void ErrorLog::AddDataError(std::string_view source, const Failure& failure, std::string_view info,
-                            bool& cancelled) {
+ErrorAnswer ErrorLog::AddDataError(std::string_view source, const Failure& failure,
+                                   std::string_view info) {
   OpenWindow();
   const std::string entry = EntryText(source, failure, info);
   failures_.push_back({std::string(source), std::string(info), failure});
@@ -61,7 +61,7 @@ void ErrorLog::AddDataError(std::string_view source, const Failure& failure, std
       entry + "\r\n" + std::string(TextIn(choice_.Current, TextId::FailureQuestion)),
       fmt::format("FL Orrerix v{}.{} ERROR:", version_.Major, version_.Minor),
       MessageButtons::OkCancel, MessageIcon::Critical, questionLines};
-  cancelled = messages_.Show(question) == MessageAnswer::Cancel;
+  return messages_.Show(question) == MessageAnswer::Cancel ? ErrorAnswer::Leave : ErrorAnswer::GoOn;
 }
 
 bool ErrorLog::QueryUnload(bool importing) {

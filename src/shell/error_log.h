@@ -22,6 +22,9 @@ class ErrorLogView {
   virtual void TextsChanged() = 0;  // texts, or which halves are seen; the carets go to the ends
 };
 
+// What the user decides about a failed function: its next statement, or none.
+enum class ErrorAnswer { GoOn, Leave };
+
 // One program error as it was reported.
 struct FailureEntry {
   std::string Source;
@@ -40,10 +43,9 @@ class ErrorLog {
   // Appends one remark on the game's files and shows the window. Always false.
   bool AddErrorLine(std::string_view line);
 
-  // Logs a program error and asks the user whether the function goes on behind the failed
-  // statement. `cancelled` comes back true if it does not.
-  void AddDataError(std::string_view source, const Failure& failure, std::string_view info,
-                    bool& cancelled);
+  // Logs a program error and asks the user whether the function goes on after the failed statement.
+  [[nodiscard]] ErrorAnswer AddDataError(std::string_view source, const Failure& failure,
+                                         std::string_view info);
 
   // The user closes the window. True if it is only hidden, as during an import, false if it is
   // unloaded: then no later call shows it again.

@@ -39,8 +39,11 @@ std::string GameRegistry::GetFLPath() const {
   std::string path;
   Routine routine(log_, "Module1.GetFLPath", "While getting FL-Path from Registry");
   routine.Run([&] {
-    std::string stored = QueryValue(std::string(kGameKey) + "1.0", "AppPath", false);
-    if (stored.empty()) stored = QueryValue(std::string(kGameKey) + "2.0", "AppPath", false);
+    std::string stored;
+    for (const std::string_view version : {"1.0", "2.0"}) {
+      if (stored.empty())
+        stored = QueryValue(fmt::format("{}{}", kGameKey, version), "AppPath", false);
+    }
     if (stored.empty()) stored = kCustomaryPlace;
     path.assign(kPathBuffer, ' ');
     routine.Try([&] {

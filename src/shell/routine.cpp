@@ -33,10 +33,12 @@ std::int16_t Routine::Integer(double number, std::int16_t before) {
   return whole.value_or(before);
 }
 
+ErrorAnswer Routine::Report(const Failure& failure) {
+  return log_.AddDataError(source_, failure, info_ ? info_() : std::string());
+}
+
 void Routine::Fail(const Failure& failure) {
-  bool cancelled = false;
-  log_.AddDataError(source_, failure, info_ ? info_() : std::string(), cancelled);
-  if (cancelled) throw Leave{this};
+  if (Report(failure) == ErrorAnswer::Leave) throw Leave{this};
 }
 
 }  // namespace orrerix

@@ -36,6 +36,11 @@ class Routine : public FailureSink {
   template <typename Step>
   bool Try(Step&& step);
 
+  // What a variable holds after a step's result is assigned to it: `before`, what it held, if the
+  // step fails. As in "x = routine.Or(x, [&] { return F(); })".
+  template <typename T, typename Step>
+  [[nodiscard]] T Or(T before, Step&& step);
+
   // What a variable holds after a number is assigned to it: the number as a 32-bit (16-bit)
   // integer, rounded to nearest, ties to even. Outside the type's range that fails with Overflow,
   // and the variable keeps what it held before.
@@ -53,6 +58,8 @@ class Routine : public FailureSink {
   ErrorLog& Log() { return log_; }
 
  private:
+  ErrorAnswer Report(const Failure& failure);
+
   ErrorLog& log_;
   std::string_view source_;
   InfoText info_;
@@ -73,9 +80,19 @@ bool Routine::Run(Body&& body) {
   } catch (...) {
     escaped = CaughtFailure();
   }
-  bool cancelled = false;
-  log_.AddDataError(source_, *escaped, info_ ? info_() : std::string(), cancelled);
-  return !cancelled;
+  return Report(*escaped) == ErrorAnswer::GoOn;
+}
+
+template <typename T, typename Step>
+T Routine::Or(T before, Step&& step) {
+  std::optional<Failure> failed;
+  try {
+    return step();
+  } catch (...) {
+    failed = CaughtFailure();
+  }
+  Fail(*failed);
+  return before;
 }
 
 template <typename Step>

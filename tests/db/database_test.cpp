@@ -284,5 +284,11 @@ TEST_F(OpenDatabase, AFileCanBeReadWithoutTheProgramsFunctions) {
   }
 }
 
+TEST_F(OpenDatabase, TheRowsOfATableThatIsMissingCannotBeCounted) {
+  EXPECT_FALSE(db.RowCount(failures, "absent").has_value());
+
+  EXPECT_THAT(failures.Numbers(), ElementsAre(failure_number::kNoSuchTable));
+}
+
 }  // namespace
 }  // namespace orrerix

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "db/held_rows.h"
 
+#include <new>
 #include <string>
 #include <vector>
 
@@ -8,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include "db/engine.h"
+#include "support/failing_memory.h"
 #include "support/failure_sinks.h"
 #include "support/temp_folder.h"
 
@@ -269,6 +271,28 @@ TEST_F(HeldTable, CannotBeMadeTwice) {
 
   EXPECT_THAT(failures.Numbers(), ElementsAre(3010));
   EXPECT_EQ(Count(), 1u);
+}
+
+TEST(HeldRows, ARowThatMemoryLacksForLeavesNothingBehindWhereverItFails) {
+  const std::vector<Value> row = {std::string(100, 'b'), std::string(100, 'g'), 7};
+  bool failed = true;
+  for (int before = 0; failed; ++before) {
+    HeldRows rows(Goods());
+    {
+      const FailingAllocation lack(before);
+      try {
+        rows.Add(row);
+      } catch (const std::bad_alloc&) {
+      }
+      failed = lack.Happened();
+    }
+    if (!failed) break;
+
+    EXPECT_EQ(rows.RowCount(), 0u) << before;
+    rows.Add(row);
+    EXPECT_EQ(rows.Content(0, "good"), Value(std::string(100, 'g'))) << before;
+    EXPECT_THROW(rows.Add(row), Failure) << before;
+  }
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 #include "db/recordset.h"
 
 #include <limits>
+#include <new>
 #include <string>
 #include <vector>
 
@@ -9,6 +10,7 @@
 #include <gtest/gtest.h>
 
 #include "db/engine.h"
+#include "support/failing_memory.h"
 #include "support/failure_sinks.h"
 
 namespace orrerix {
@@ -372,6 +374,70 @@ TEST_F(OpenRecordset, TextsMayHoldAnyCharacter) {
   for (const std::string& name : {"it's"s, "a\"b"s, "a\0b"s, "[x]"s, "€"s}) Add(name);
 
   EXPECT_THAT(Names(), ElementsAre("it's", "a\"b", "a\0b"s, "[x]", "€"));
+}
+
+TEST_F(OpenRecordset, AStepThatFailsLeavesItsFieldAndTheNextStatementRuns) {
+  Recordset rows = db.OpenTable(failures, "t");
+  rows.AddNew();
+  rows["name"] = "a";
+  rows["memo"] = "before";
+  rows["memo"] = []() -> Value { throw RuntimeFailure(failure_number::kOverflow); };
+  rows["filled"] = [] { return std::string("next"); };
+  rows.Update();
+
+  EXPECT_THAT(failures.Numbers(), ElementsAre(failure_number::kOverflow));
+  Recordset stored = All(mustWork);
+  EXPECT_EQ(stored["memo"].Get(), Value("before"));
+  EXPECT_EQ(stored["filled"].Get(), Value("next"));
+}
+
+TEST_F(OpenRecordset, ATextWithoutMemoryIsAFailureOfItsAssignmentOnly) {
+  const std::string text(5000, 'x');
+  Recordset rows = db.OpenTable(failures, "t");
+  rows.AddNew();
+  rows["name"] = "a";
+  {
+    const FailingSizes lack(5000, 5100);
+    rows["memo"] = text;
+  }
+  rows["filled"] = "next";
+  rows.Update();
+
+  EXPECT_THAT(failures.Numbers(), ElementsAre(failure_number::kOutOfMemory));
+  Recordset stored = All(mustWork);
+  EXPECT_TRUE(stored["memo"].IsNull());
+  EXPECT_EQ(stored["filled"].Get(), Value("next"));
+}
+
+TEST_F(OpenRecordset, AnotherFieldsTextWithoutMemoryIsAFailureOfItsAssignmentOnly) {
+  Add("from", "memo", std::string(5000, 'x'));
+  Recordset from = All(mustWork);
+  Recordset to = db.OpenTable(failures, "t");
+  to.AddNew();
+  {
+    const FailingSizes lack(5000, 5100);
+    to["memo"] = from["memo"];
+  }
+  to["name"] = "to";
+  to.Update();
+
+  EXPECT_THAT(failures.Numbers(), ElementsAre(failure_number::kOutOfMemory));
+  EXPECT_THAT(Names(), ElementsAre("from", "to"));
+}
+
+TEST_F(OpenRecordset, AnEditWithoutMemoryDoesNotHappen) {
+  Add("a", "memo", std::string(5000, 'x'));
+  Recordset rows = All(failures, RecordsetType::Dynaset);
+  {
+    const FailingSizes lack(5000, 5100);
+    rows.Edit();
+  }
+  rows["filled"] = "lost";
+  rows.Update();
+
+  EXPECT_THAT(failures.Numbers(),
+              ElementsAre(failure_number::kOutOfMemory, failure_number::kNotBeingEdited,
+                          failure_number::kNotBeingEdited));
 }
 
 }  // namespace

@@ -165,7 +165,9 @@ class RowByRowPrices : public BasePrices {
   void Calculate() {
     const GameFolder game("");
     Import import{universe, game, host, {}, {}};
-    CalcBasePrices(mustWork, import);
+    Routine routine(log, "Caller");
+    routine.Run([&] { CalcBasePrices(routine, import); });
+    EXPECT_THAT(log.Failures(), ::testing::IsEmpty());
   }
 };
 

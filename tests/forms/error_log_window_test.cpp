@@ -17,8 +17,8 @@ class ErrorLogWindowTest : public FormFixture {
   }
 
   void Fail() {
-    bool cancelled = false;
-    log.AddDataError("OrrerixMain.GetName", {6, "Overflow", "Orrerix"}, "", cancelled);
+    EXPECT_EQ(log.AddDataError("OrrerixMain.GetName", {6, "Overflow", "Orrerix"}, ""),
+              ErrorAnswer::GoOn);
     PassEvents();
   }
 

@@ -339,6 +339,24 @@ TEST_F(MemoryCleanUp, GivesFileSpaceBack) {
   EXPECT_FALSE(fs::exists(folder.Path() / "Orrerix.ok"));
 }
 
+TEST_F(MemoryCleanUp, AFileSetAsideThatCannotBeDeletedIsAFailure) {
+  for (int i = 0; i < 500; ++i) Add("ids_info", {{"ID", i}, {"Info", std::string(1000, 'x')}});
+  db.Commit(mustWork);
+  db.Begin(mustWork);
+  db.Execute(mustWork, "DELETE FROM ids_info WHERE ID > 0");
+  folder.Write("Orrerix.ok/inside", "x");
+
+  CleanUpMemory(log, host, db, folder.Path());
+
+  // It takes neither the file's place nor its content, nor can it be deleted.
+  ASSERT_THAT(log.Failures(), SizeIs(3));
+  EXPECT_EQ(log.Failures()[2].Source, "OrrerixMain.CleanUpMemory");
+  EXPECT_EQ(log.Failures()[2].What.Number, failure_number::kPathFileAccess);
+  EXPECT_THAT(log.Failures()[2].What.Description, ::testing::HasSubstr("delete"));
+  EXPECT_THAT(log.Failures()[2].What.Description, ::testing::HasSubstr("Orrerix.ok"));
+  EXPECT_THAT(Rows("ids_info"), SizeIs(1));
+}
+
 TEST_F(MemoryCleanUp, AFileThatIsNotThereIsAFailure) {
   db.Close();
   fs::remove(target);

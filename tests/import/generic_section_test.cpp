@@ -6,6 +6,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "support/failing_memory.h"
 #include "support/reader_fixture.h"
 
 namespace orrerix {
@@ -348,6 +349,26 @@ TEST_F(GenericSection, CancelBehindAFailureEndsTheFile) {
   StoreSections();
 
   EXPECT_THAT(TableNames(), SizeIs(FixedTables().size()));
+}
+
+TEST_F(GenericSection, ALineWithoutMemoryIsLeftOutAndTheNextOneIsStored) {
+  host.Answer = MessageAnswer::Ignore;
+  const std::string block = "[gun]\nnickname = laser\nlong = " + std::string(5000, 'x') +
+                            "\xE9\nother = " + std::string(200, 'c') +
+                            "\nlast = l\nfiller = " + std::string(200, 'f') + "\n";
+  {
+    // A text of 5,000 characters; the block and its copies are longer.
+    const FailingSizes lack(5000, 5100);
+    Read(block);
+  }
+  StoreSections();
+
+  const auto rows = Rows("gun");
+  ASSERT_THAT(rows, SizeIs(1));
+  EXPECT_EQ(rows[0].at("nickname"), "laser");
+  EXPECT_EQ(rows[0].at("last"), "l");
+  EXPECT_FALSE(rows[0].contains("long"));
+  EXPECT_THAT(host.Shown, SizeIs(1));
 }
 
 }  // namespace

@@ -7,6 +7,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "support/failing_memory.h"
 #include "support/known_section_fixture.h"
 
 namespace orrerix {
@@ -343,6 +344,36 @@ TEST_F(KnownSection, AGroupHasItsNumbers) {
   EXPECT_EQ(row.at("ids_short_name"), 196900);
   EXPECT_TRUE(row.at("Name").IsNull());
   EXPECT_TRUE(row.at("SName").IsNull());
+}
+
+TEST_F(KnownSection, AValueWithoutMemoryIsNullAndTheNextStatementRuns) {
+  host.Answer = MessageAnswer::Ignore;
+  const std::string block = "[Object]\nnickname = a\narchetype = " + std::string(5000, 'x') +
+                            "\nreputation = r\nother = " + std::string(500, 'c') +
+                            "\nloadout = l\n";
+  {
+    // A text of 5,000 characters; the block and its copies are longer.
+    const FailingSizes lack(5000, 5100);
+    Read(block);
+  }
+
+  const Row row = TheRow("Objects");
+  EXPECT_TRUE(row.at("archetype").IsNull());
+  EXPECT_EQ(row.at("reputation"), "r");
+  EXPECT_EQ(row.at("loadout"), "l");
+  EXPECT_THAT(host.Shown, SizeIs(1));
+}
+
+TEST_F(KnownSection, MoreStepsThanTheirNumberHoldsAreAFailureAndTheNumberStays) {
+  import.Progress.ImportSteps = 32766;
+
+  Read("[Data]\nequipment = a.ini\nequipment = b.ini\n");
+
+  EXPECT_EQ(import.Progress.ImportSteps, 32767);
+  ASSERT_THAT(log.Failures(), SizeIs(1));
+  EXPECT_EQ(log.Failures()[0].Source, "OrrerixMain.ReadINI");
+  EXPECT_EQ(log.Failures()[0].What.Number, failure_number::kOverflow);
+  EXPECT_THAT(Rows("DataFiles"), SizeIs(2));
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "import/section_tables.h"
 
+#include <new>
 #include <string>
 #include <vector>
 
@@ -8,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include "db/engine.h"
+#include "support/failing_memory.h"
 #include "support/universe_fixture.h"
 
 namespace orrerix {
@@ -217,6 +219,84 @@ TEST(SectionTable, KnowsTheLongestTextOfEachField) {
   }
 
   EXPECT_THAT(table.LongestTexts(), ElementsAre(0, 0, 5, 0));
+}
+
+// Runs a step again and again, each time with another of its allocations failing, and looks at what
+// it leaves.
+template <typename Step, typename Look>
+void WithoutMemoryAnywhere(Step step, Look look) {
+  bool failed = true;
+  for (int before = 0; failed; ++before) {
+    SectionTable table("gun");
+    table.AddField("nickname");
+    table.MakeNicknameKey();
+    AddRow(table, "first");
+    {
+      const FailingAllocation lack(before);
+      try {
+        step(table);
+      } catch (const std::bad_alloc&) {
+      }
+      failed = lack.Happened();
+    }
+    if (failed) look(table);
+  }
+}
+
+TEST(SectionTable, AFieldThatMemoryLacksForCanBeAddedLater) {
+  const std::string name(100, 'k');
+  WithoutMemoryAnywhere([&](SectionTable& table) { table.AddField(name); },
+                        [&](SectionTable& table) {
+                          EXPECT_FALSE(table.FindField(name));
+                          EXPECT_EQ(table.AddField(name), 2u);
+                          EXPECT_EQ(table.FindField(name), 2u);
+                        });
+}
+
+TEST(SectionTable, ARowThatMemoryLacksForLeavesNeitherRowNorKey) {
+  const std::string nickname(100, 'n');
+  WithoutMemoryAnywhere([&](SectionTable& table) { AddRow(table, nickname); },
+                        [&](SectionTable& table) {
+                          EXPECT_EQ(table.RowCount(), 1u);
+                          AddRow(table, nickname);
+                          EXPECT_EQ(table.RowCount(), 2u);
+                        });
+}
+
+TEST(SectionTable, ATextThatMemoryLacksForLeavesTheFieldAsItWas) {
+  const std::string text(100, 't');
+  WithoutMemoryAnywhere(
+      [&](SectionTable& table) {
+        table.Edit(1);
+        table.Set(1, text);
+      },
+      [&](SectionTable& table) {
+        if (!table.IsEditing()) return;
+        ASSERT_NE(table.Get(1), nullptr);
+        EXPECT_EQ(*table.Get(1), "first");
+      });
+}
+
+TEST(SectionTables, ATableThatMemoryLacksForCanBeOpenedLater) {
+  const std::string name(100, 's');
+  bool failed = true;
+  for (int before = 0; failed; ++before) {
+    SectionTables tables;
+    {
+      const FailingAllocation lack(before);
+      try {
+        tables.Open(name);
+      } catch (const std::bad_alloc&) {
+      }
+      failed = lack.Happened();
+    }
+    if (!failed) break;
+
+    EXPECT_EQ(tables.Find(name), nullptr) << before;
+    const SectionTable& opened = tables.Open(name);
+    EXPECT_EQ(tables.Find(name), &opened) << before;
+    EXPECT_EQ(tables.Tables().size(), 1u) << before;
+  }
 }
 
 }  // namespace

@@ -9,6 +9,7 @@
 #include <chrono>
 #include <stdexcept>
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include <fmt/format.h>
@@ -300,9 +301,8 @@ void Tour::TakeFailure() {
     question->close();
   });
   timer.start(50);
-  bool cancelled = false;
-  log_.AddDataError("OrrerixMain.Form_Resize", {3021, "No current record.", "Orrerix"},
-                    "While calcing a border", cancelled);
+  std::ignore = log_.AddDataError(
+      "OrrerixMain.Form_Resize", {3021, "No current record.", "Orrerix"}, "While calcing a border");
   PassEvents();
   album_.Take("error-log-failures", run_.LogWindow());
 }

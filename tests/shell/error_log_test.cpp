@@ -27,10 +27,8 @@ class Log : public ::testing::Test {
  protected:
   Log() { log.SetView(&view); }
 
-  bool Report(const Failure& failure, std::string_view info = {}) {
-    bool cancelled = true;
-    log.AddDataError("Settings.TXT", failure, info, cancelled);
-    return cancelled;
+  ErrorAnswer Report(const Failure& failure, std::string_view info = {}) {
+    return log.AddDataError("Settings.TXT", failure, info);
   }
 
   FakeMessageBoxes messages;
@@ -77,7 +75,7 @@ TEST_F(Log, AFailureWithInfoHasFourLines) {
 }
 
 TEST_F(Log, AFailureAsksWhetherToGoOn) {
-  EXPECT_FALSE(Report({6, "Overflow", "Orrerix"}));
+  EXPECT_EQ(Report({6, "Overflow", "Orrerix"}), ErrorAnswer::GoOn);
 
   ASSERT_THAT(messages.Shown, SizeIs(1));
   EXPECT_EQ(messages.Shown[0].Text,
@@ -90,11 +88,11 @@ TEST_F(Log, AFailureAsksWhetherToGoOn) {
 
 TEST_F(Log, OnlyCancelCancels) {
   messages.Answer = MessageAnswer::Cancel;
-  EXPECT_TRUE(Report({6, "Overflow", "Orrerix"}));
+  EXPECT_EQ(Report({6, "Overflow", "Orrerix"}), ErrorAnswer::Leave);
 
   for (const auto answer : {MessageAnswer::Ok, MessageAnswer::Retry, MessageAnswer::Ignore}) {
     messages.Answer = answer;
-    EXPECT_FALSE(Report({6, "Overflow", "Orrerix"}));
+    EXPECT_EQ(Report({6, "Overflow", "Orrerix"}), ErrorAnswer::GoOn);
   }
 }
 

@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "shell/language.h"
 
+#include <csignal>
 #include <filesystem>
 #include <string>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 #include "shell/language_texts.h"
 #include "support/failure_sinks.h"
@@ -161,6 +164,28 @@ TEST_F(LanguageFileTest, AKillDuringItsFirstFillingLeavesNothingThatStays) {
 
   EXPECT_THAT(log.Failures(), IsEmpty());
   EXPECT_FALSE(std::filesystem::exists(folder.Path() / "FLOX-Language.mdb.new"));
+}
+
+TEST_F(LanguageFileTest,
+       AProgramKilledAtAnyMomentOfTheFirstFillingLeavesAFileThatTheNextStartRepairs) {
+  const std::filesystem::path file = folder.Path() / "FLOX-Language.mdb";
+  for (int round = 0; round < 10; ++round) {
+    std::filesystem::remove(file);
+    const pid_t child = fork();
+    if (child == 0) {
+      language.InitLanguages();
+      _exit(0);
+    }
+    // Whatever moment this hits, what follows must hold.
+    usleep(static_cast<useconds_t>(1000 * round));
+    kill(child, SIGKILL);
+    waitpid(child, nullptr, 0);
+
+    language.InitLanguages();
+
+    EXPECT_EQ(language.Text(TextId::JumpGateLines), "Jumpgate Lines") << round;
+    EXPECT_THAT(log.Failures(), IsEmpty()) << round;
+  }
 }
 
 TEST_F(LanguageFileTest, CancelInAFailureGivesAnEmptyText) {

@@ -162,5 +162,30 @@ TEST_F(RoutineFrame, InfoIsMadeOnlyIfSomethingFails) {
   EXPECT_EQ(made, 1);
 }
 
+TEST_F(RoutineFrame, AValueStaysAsItWasIfTheStepThatWouldReplaceItFails) {
+  struct Place {
+    int X = 0;
+    int Y = 0;
+  };
+  const auto fails = [](int x) -> Place {
+    if (x > 0) throw RuntimeFailure(failure_number::kOverflow);
+    return {x, x};
+  };
+  Place place{3, 4};
+  std::string_view text = "before";
+
+  routine.Run([&] {
+    place = routine.Or(place, [&] { return fails(1); });
+    text = routine.Or(text, []() -> std::string_view { throw RuntimeFailure(5); });
+  });
+
+  EXPECT_EQ(place.X, 3);
+  EXPECT_EQ(place.Y, 4);
+  EXPECT_EQ(text, "before");
+  EXPECT_THAT(log.Failures(), SizeIs(2));
+  place = routine.Or(place, [&] { return fails(-1); });
+  EXPECT_EQ(place.X, -1);
+}
+
 }  // namespace
 }  // namespace orrerix

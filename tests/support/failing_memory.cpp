@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: MIT
+#include "support/failing_memory.h"
+
+#include <cstdlib>
+#include <new>
+
+namespace orrerix {
+namespace {
+
+struct Lack {
+  bool Counts = false;
+  int Left = 0;
+  bool Happened = false;
+  std::size_t From = 0;
+  std::size_t To = 0;
+
+  bool Refuses(std::size_t size) {
+    if (size >= From && size < To) return true;
+    if (!Counts || Left-- > 0) return false;
+    Counts = false;
+    Happened = true;
+    return true;
+  }
+};
+
+thread_local Lack lack;
+
+}  // namespace
+
+FailingAllocation::FailingAllocation(int allocationsBefore) {
+  lack = {};
+  lack.Left = allocationsBefore;
+  lack.Counts = true;
+}
+
+FailingAllocation::~FailingAllocation() {
+  lack = {};
+}
+
+bool FailingAllocation::Happened() const {
+  return lack.Happened;
+}
+
+FailingSizes::FailingSizes(std::size_t from, std::size_t to) {
+  lack = {};
+  lack.From = from;
+  lack.To = to;
+}
+
+FailingSizes::~FailingSizes() {
+  lack = {};
+}
+
+}  // namespace orrerix
+
+void* operator new(std::size_t size) {
+  if (orrerix::lack.Refuses(size)) throw std::bad_alloc();
+  void* memory = std::malloc(size > 0 ? size : 1);
+  if (memory == nullptr) throw std::bad_alloc();
+  return memory;
+}
+
+void operator delete(void* memory) noexcept {
+  std::free(memory);
+}
+
+void operator delete(void* memory, std::size_t) noexcept {
+  std::free(memory);
+}
