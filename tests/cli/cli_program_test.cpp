@@ -9,9 +9,11 @@
 #include <gmock/gmock.h>
 #include <nlohmann/json.hpp>
 
+#include "db/engine.h"
 #include "demo/demo_game.h"
 #include "map/control_id.h"
 #include "platform/folder_lock.h"
+#include "support/failure_sinks.h"
 #include "support/temp_folder.h"
 
 namespace orrerix {
@@ -548,6 +550,22 @@ TEST_F(CommandLine, AnImportThatRunsIsNotDisturbed) {
   EXPECT_EQ(answer.ExitCode, 1);
   EXPECT_THAT(answer.Errors, HasSubstr("u.fl' is being imported by another process"));
   EXPECT_TRUE(fs::exists(work / "build.mdb"));
+}
+
+TEST_F(CommandLine, AUniverseFileUnderALockIsToldByNameAndLeft) {
+  Import();
+  const std::string before = Content(folder.Path() / "u.fl");
+  FailTest mustWork;
+  orrerix::Database other = DBEngine::OpenDatabase(mustWork, folder.Path() / "u.fl");
+  other.ExecuteNative(mustWork, "BEGIN EXCLUSIVE");
+
+  const Answer answer = Import();
+
+  EXPECT_EQ(answer.ExitCode, 1);
+  EXPECT_THAT(answer.Errors, HasSubstr("u.fl' is being used by another process"));
+  EXPECT_THAT(answer.Output, IsEmpty());
+  other.Close();
+  EXPECT_EQ(Content(folder.Path() / "u.fl"), before);
 }
 
 }  // namespace

@@ -12,6 +12,7 @@
 
 #include "demo/demo_game.h"
 #include "form_fixture.h"
+#include "support/failing_memory.h"
 
 namespace orrerix {
 namespace {
@@ -104,6 +105,22 @@ TEST_F(OrrerixMainTest, AMapPictureThatCannotBeReadIsAFailureOfTheStart) {
   EXPECT_EQ(log.Failures()[0].What.Number, 481);
 }
 
+TEST_F(OrrerixMainTest, CancelInTheStartSkipsTheRestOfItCaptionsAndMaximisingIncluded) {
+  std::filesystem::create_directories(paths.ApplicationFolder);
+  std::ofstream(paths.ApplicationFolder / "SysMap.jpg") << "no picture";
+  settings.WriteSettingValue("LANG", "1");
+  const Language before = language.Current();
+  messages.Answer = MessageAnswer::Cancel;
+  form.emplace(parts, settings, language, startMemory, JetVersionOption::Version30);
+
+  EXPECT_TRUE(form->FormLoad());
+  form->ShowLoaded();
+
+  EXPECT_EQ(language.Current(), before);
+  EXPECT_FALSE(form->isMaximized());
+  EXPECT_TRUE(form->isVisible());
+}
+
 TEST_F(OrrerixMainTest, EachFurtherResizeComplainsAgain) {
   Load();
   ASSERT_TRUE(WaitUntil([&] { return !messages.Shown.empty(); }));
@@ -162,6 +179,26 @@ TEST_F(OrrerixMainTest, WhileItImportsThePercentStandsInTheTitleAndAResizeDoesNo
 
   EXPECT_GT(seen, 0);
   EXPECT_TRUE(messages.Shown.empty());
+}
+
+TEST_F(OrrerixMainTest, WhileItImportsItIsAsWideAsTheScreenAndHalfAsHighWithRoomForTheMemory) {
+  WriteGame();
+  Load();
+  QSize outer;
+  QTimer timer;
+  QObject::connect(&timer, &QTimer::timeout, [&] {
+    if (form->Importing() && form->windowState() == Qt::WindowNoState) {
+      outer = form->frameGeometry().size();
+    }
+  });
+  timer.start(10);
+
+  ASSERT_TRUE(WaitUntil([&] { return ShowsMap(); }));
+
+  // Half the screen's width, 300 twips, and the frame of the memory; 15 twips are one pixel.
+  const int width = form->screen()->geometry().width();
+  EXPECT_EQ(outer.width(), width);
+  EXPECT_NEAR(outer.height(), (width * 15 / 2.0 + 300 + MemFrame::DesignHeight) / 15, 1);
 }
 
 TEST_F(OrrerixMainTest, APathWithoutTheGameIsComplainedOfDuringAnImportToo) {
@@ -224,8 +261,31 @@ TEST_F(OrrerixMainTest, AnImportThatIsGivenUpLeavesItsScreenStanding) {
   EXPECT_TRUE(form->Importing());
   EXPECT_FALSE(ShowsMap());
   EXPECT_FALSE(Find(*form, "Command1").isVisible());
+  for (const char* shape : {"Progress0", "Progress1", "Progress2"}) {
+    EXPECT_TRUE(Find(*form, shape).isVisible()) << shape;
+  }
   form->close();
   EXPECT_EQ(unloads, 1);
+}
+
+TEST_F(OrrerixMainTest, AbortForLackOfMemoryEndsTheImportAndClosesTheForm) {
+  WriteGame();
+  const std::size_t length = 1234567;
+  std::ofstream(folder.Path() / "game" / "DATA" / "EQUIPMENT" / "misc_equip.ini", std::ios::binary)
+      << "[Commodity]\r\nnickname = " << std::string(length, 'x')
+      << "\r\nother = " << std::string(500, 'y') << "\r\n";
+  messages.Answer = MessageAnswer::Abort;
+  {
+    const FailingSizes lack(length, 4 * length);
+    Load();
+    ASSERT_TRUE(WaitUntil([&] { return unloads > 0; }));
+  }
+
+  ASSERT_EQ(messages.Shown.size(), 1u);
+  EXPECT_TRUE(messages.Shown[0].Text.starts_with("Out of Memory Error"));
+  EXPECT_FALSE(form->Importing());
+  EXPECT_FALSE(form->isVisible());
+  EXPECT_FALSE(HasTableVersion());
 }
 
 TEST_F(OrrerixMainTest, ClosingTheMapAsksToUnload) {
