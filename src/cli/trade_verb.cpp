@@ -306,6 +306,7 @@ class TradeVerb {
 };
 
 int RunTrade(const CommonOptions& options, const TradeArguments& arguments) {
+  RequireWellFormed(arguments.Travel);
   ParseQuestion(arguments);
   OpenedUniverse universe(options);
   Routine routine(universe.Data.Log, "orrerix-cli.trade");

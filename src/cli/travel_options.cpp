@@ -103,6 +103,12 @@ void AddTravelOptions(CLI::App& verb, TravelArguments& arguments) {
                 "Take no jump that the story keeps locked");
 }
 
+void RequireWellFormed(const TravelArguments& arguments) {
+  for (std::size_t i = 0; i < kConstants.size(); ++i) {
+    if (const auto& text = arguments.Constants[i].Text) ParseConstant(kConstants[i], *text);
+  }
+}
+
 Travel ReadTravel(Routine& routine, OpenedUniverse& universe, const TravelArguments& arguments) {
   Travel travel;
   std::optional<GameFolder> game;

@@ -34,6 +34,10 @@ struct TravelArguments {
 
 void AddTravelOptions(CLI::App& verb, TravelArguments& arguments);
 
+// Throws WrongUsage for a speed that is not above 0 or a time below 0. To be asked before a
+// universe is opened.
+void RequireWellFormed(const TravelArguments& arguments);
+
 // The travel graph of a universe under the arguments.
 struct Travel {
   TravelGraph Graph;
@@ -44,8 +48,7 @@ struct Travel {
   std::optional<double> ShipHold;  // of --ship
 };
 
-// Throws WrongUsage for a speed that is not above 0 or a time below 0, and CouldNot for a ship,
-// a place or a faction that is not there.
+// Throws CouldNot for a ship, a place or a faction that is not there.
 Travel ReadTravel(Routine& routine, OpenedUniverse& universe, const TravelArguments& arguments);
 
 // The parts of a list with commas, trimmed of blanks.

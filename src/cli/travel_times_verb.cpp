@@ -59,6 +59,7 @@ void PrintTimes(const Travel& travel, const TravelTimes& times) {
 }
 
 int RunTravelTimes(const CommonOptions& options, const TravelArguments& arguments) {
+  RequireWellFormed(arguments);
   OpenedUniverse universe(options);
   Routine routine(universe.Data.Log, "orrerix-cli.travel-times");
   int exitCode = kCouldNot;

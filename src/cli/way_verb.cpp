@@ -156,6 +156,7 @@ int AnswerNoWay(const CommonOptions& options, const WayArguments& arguments, con
 }
 
 int RunWay(const CommonOptions& options, const WayArguments& arguments) {
+  RequireWellFormed(arguments.Travel);
   OpenedUniverse universe(options);
   Routine routine(universe.Data.Log, "orrerix-cli.way");
   int exitCode = kCouldNot;

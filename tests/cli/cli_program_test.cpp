@@ -552,6 +552,65 @@ TEST_F(CommandLine, AnImportThatRunsIsNotDisturbed) {
   EXPECT_TRUE(fs::exists(work / "build.mdb"));
 }
 
+TEST_F(CommandLine, OptionsOfTravelOutOfRangeAreWrongUsage) {
+  for (const char* arguments :
+       {"way a b --cruise-speed 0", "way a b --lane-seconds -1", "way a b --gate-seconds x",
+        "way a", "travel-times --impulse-speed ''", "trade --hops 7", "trade --hold 0",
+        "trade --loop --hops 1", "trade --via x", "trade --from a --via b --to c",
+        "trade --carry gold", "trade --from a --carry gold --loop", "trade --sort best",
+        "trade --width 101", "trade --credits -1", "trade --max-minutes x"}) {
+    const Answer answer = Run(std::string(arguments) + " --database nowhere");
+    EXPECT_EQ(answer.ExitCode, 2) << arguments;
+    EXPECT_THAT(answer.Output, IsEmpty()) << arguments;
+  }
+}
+
+TEST_F(CommandLine, TravelTimesAreThoseOfTheWays) {
+  Import();
+
+  const nlohmann::json times = Run("travel-times --json " + Database()).Json();
+
+  const std::size_t docks = times["docks"].size();
+  ASSERT_GT(docks, 2u);
+  ASSERT_EQ(times["seconds"].size(), docks);
+  for (std::size_t i = 0; i < docks; ++i) EXPECT_EQ(times["seconds"][i][i], 0);
+  const std::string from = times["docks"][0]["nickname"];
+  const std::string to = times["docks"][docks - 1]["nickname"];
+  const nlohmann::json way = Run("way --json " + from + " " + to + " " + Database()).Json();
+  ASSERT_EQ(way["found"], true);
+  EXPECT_EQ(way["seconds"], times["seconds"][0][docks - 1]);
+  EXPECT_EQ(way["legs"].front()["kind"], "launch");
+  EXPECT_EQ(way["legs"].back()["kind"], "dock");
+}
+
+TEST_F(CommandLine, WithoutAWayTheAnswerSaysWhy) {
+  Import();
+  const nlohmann::json docks = Run("travel-times --json " + Database()).Json()["docks"];
+  const std::string from = docks[0]["nickname"];
+  const std::string to = docks[docks.size() - 1]["nickname"];
+
+  const Answer answer = Run("way --json " + from + " " + to + " --avoid " + to + " " + Database());
+
+  EXPECT_EQ(answer.ExitCode, 1);
+  EXPECT_EQ(answer.Errors, "orrerix-cli: there is no way from '" + from + "' to '" + to + "'\n");
+  const nlohmann::json json = answer.Json();
+  EXPECT_EQ(json["found"], false);
+  EXPECT_EQ(json["why"]["items"][0]["option"], "avoid");
+  EXPECT_EQ(json["why"]["items"][0]["value"], to);
+  EXPECT_EQ(Run("way x_nowhere " + to + " " + Database()).ExitCode, 1);
+}
+
+TEST_F(CommandLine, TradesAreShownUpToTheNumberAskedForAndAllAreCounted) {
+  Import();
+
+  const nlohmann::json json = Run("trade --json --top 2 " + Database()).Json();
+
+  ASSERT_EQ(json["plans"].size(), 2u);
+  EXPECT_GT(json["count"], 2);
+  EXPECT_GE(json["plans"][0]["minute"], json["plans"][1]["minute"]);
+  EXPECT_EQ(Run("trade --goods no_such_good " + Database()).ExitCode, 1);
+}
+
 TEST_F(CommandLine, AUniverseFileUnderALockIsToldByNameAndLeft) {
   Import();
   const std::string before = Content(folder.Path() / "u.fl");
