@@ -10,7 +10,7 @@
 
 namespace orrerix {
 
-// What a way costs: equal times are told apart by their number of legs.
+// What a way costs: of equal times the one with fewer legs is less.
 struct WayCost {
   std::int64_t Time = 0;
   int Legs = 0;

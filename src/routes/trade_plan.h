@@ -56,7 +56,7 @@ class BestPlans {
   // Counts a plan that is known to have a key of its own.
   void AddUnique(TradePlan plan);
 
-  // Counts such a plan of one leg, and tells whether it may be among the best: building it is
+  // Counts such a plan of one leg. True if it may be among the best: building it is
   // worth while only then. For sortings without a way back.
   bool CountUnique(const TradeLeg& leg);
 

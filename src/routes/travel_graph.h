@@ -47,7 +47,7 @@ struct TravelObject {
   std::string Name;  // what people call it
   SystemIndex System = 0;
   SpacePoint Point;
-  std::string Base;   // of a dock: the base behind it
+  std::string Base;   // of a dock: the base that it belongs to
   std::string Owner;  // of a dock
   bool IsDock = false;
   std::string GotoText;          // of an object that has a `goto`: its field as written

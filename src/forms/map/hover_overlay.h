@@ -9,7 +9,7 @@
 namespace orrerix {
 
 // Shows the hover box of the map in front of the widgets that stand on the map, such as the search
-// panel: the scene alone would paint it behind them. The mouse goes through it.
+// panel: the scene alone would paint it below them. Mouse events pass through it.
 class HoverOverlay : public QWidget {
  public:
   // `scene` must outlive this; it is what `map` shows.
