@@ -100,7 +100,7 @@ ControlList Tools(const TwipRect& panel, int iconSize, const PanelView& view) {
   ControlList tools;
   for (int i = 0; i < kTools; ++i) {
     Control tool = MakePicture(ControlId::Tool, i,
-                               {static_cast<double>(i * iconSize + 50), 50,
+                               {static_cast<double>(i) * iconSize + 50, 50,
                                 static_cast<double>(iconSize), static_cast<double>(iconSize)},
                                kToolPictures[static_cast<std::size_t>(i)]);
     tool.ToolTip = view.Content.ToolTips[static_cast<std::size_t>(i)];
