@@ -96,12 +96,10 @@ Control Logo(const PanelContent& content, TwipRect place) {
 }
 
 // The row of tool icons with its border.
-ControlList Tools(const TwipRect& panel, int iconSize, const PanelView& view) {
+ControlList Tools(const TwipRect& panel, double iconSize, const PanelView& view) {
   ControlList tools;
   for (int i = 0; i < kTools; ++i) {
-    Control tool = MakePicture(ControlId::Tool, i,
-                               {static_cast<double>(i) * iconSize + 50, 50,
-                                static_cast<double>(iconSize), static_cast<double>(iconSize)},
+    Control tool = MakePicture(ControlId::Tool, i, {i * iconSize + 50, 50, iconSize, iconSize},
                                kToolPictures[static_cast<std::size_t>(i)]);
     tool.ToolTip = view.Content.ToolTips[static_cast<std::size_t>(i)];
     tool.BackColor = kBack;
@@ -236,7 +234,7 @@ int IconSize(const TwipRect& panel) {
 // The tools with the options below them, which come last.
 ControlList ToolsAndOptions(double width, const PanelView& view) {
   const TwipRect panel{0, 0, width, 0};
-  const int iconSize = IconSize(panel);
+  const double iconSize = IconSize(panel);
   ControlList controls = Tools(panel, iconSize, view);
   controls.push_back(OptionsFrame(panel, iconSize + kToolsMargin, view));
   return controls;
