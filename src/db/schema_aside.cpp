@@ -14,7 +14,7 @@ void SchemaAside::Take(Connection& connection) {
                         sqlite3_column_int64(rows.get(), 4), Column(rows.get(), 5)});
   }
   sqlite3_reset(rows.get());
-  // The last row stays: new ones are numbered behind it.
+  // The last row stays: new ones are numbered after it.
   if (taken > 1) {
     entries_.pop_back();
     connection.RunAll("DELETE FROM main.sqlite_master WHERE rowid < " +

@@ -59,7 +59,7 @@ class Cruncher {
     Fill(definition);
   }
 
-  // Section tables, and behind them tables of the file.
+  // Section tables, followed by tables of the file.
   void Write(const std::vector<std::unique_ptr<SectionTable>>& sections,
              std::span<const TableDef> behind) {
     std::vector<TableDef> definitions;
