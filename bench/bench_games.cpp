@@ -56,8 +56,8 @@ fs::path ImportInto(const BenchGame& game, const fs::path& work) {
   Database database;
   const GameFolder source(game.Folder.string());
   if (!ImportGame(log, host, database,
-                  {source, folder, JetVersionOption::Version30, CurrentVersion()},
-                  DerivedStages())) {
+                  {source, folder, JetVersionOption::Version30, CurrentVersion()}, DerivedStages())
+           .Finished) {
     throw std::runtime_error("the import of " + game.Name + " was given up");
   }
   return folder / "Orrerix.fl";

@@ -27,11 +27,6 @@ struct ImportOptions {
   bool Quiet = false;
 };
 
-struct TableCount {
-  std::string Name;
-  std::int64_t Rows;
-};
-
 // A folder beside a universe file that an import works in; it goes with everything in it.
 class WorkFolder {
  public:
@@ -138,33 +133,20 @@ class ImportVerb {
     const WorkFolder work(target);
     const GameFolder game(GameText());
     CliHost host(messages_, import_.Quiet);
-    bool finished = false;
+    ImportResult result;
     try {
-      finished = ImportGame(log_, host, database_,
-                            {game, work.Path(), JetVersionOption::Version30, CurrentVersion()},
-                            DerivedStages());
+      result = ImportGame(log_, host, database_,
+                          {game, work.Path(), JetVersionOption::Version30, CurrentVersion()},
+                          DerivedStages());
     } catch (const ImportEnded&) {
       // The answer to the question about memory was to abort.
     }
-    CountTables();
+    counts_ = std::move(result.Tables);
     database_.Close();
-    if (!finished || !IsStamped()) return false;
+    if (!result.Finished || !IsStamped()) return false;
     std::error_code error;
     fs::rename(work.Path() / "Orrerix.fl", target, error);
     return !error;
-  }
-
-  void CountTables() {
-    if (!database_.IsOpen()) return;
-    class Ignore : public FailureSink {
-      void Fail(const Failure&) override {}
-    } ignore;
-    for (Recordset tables = database_.OpenRecordset(
-             ignore, "SELECT name FROM sqlite_master WHERE type = 'table' ORDER BY rowid");
-         !tables.AtEnd(); tables.MoveNext()) {
-      const std::string name = tables["name"].Get().Text();
-      counts_.push_back({name, database_.RowCount(ignore, name).value_or(0)});
-    }
   }
 
   // A failure that was passed over may have kept the last table from being written.
@@ -199,8 +181,13 @@ class ImportVerb {
   void PrintJson(const fs::path& target) const {
     nlohmann::ordered_json answer;
     answer["database"] = target.string();
-    answer["tables"] = nlohmann::ordered_json::object();
-    for (const TableCount& count : counts_) answer["tables"][count.Name] = count.Rows;
+    // By index an ordered object looks through all its keys, of which there may be thousands.
+    nlohmann::ordered_json::object_t tables;
+    for (const TableCount& count : counts_) {
+      tables.std::vector<nlohmann::ordered_json::object_t::value_type>::emplace_back(count.Name,
+                                                                                     count.Rows);
+    }
+    answer["tables"] = std::move(tables);
     answer["log_lines"] = log_.DataLines().size();
     answer["failures"] = nlohmann::ordered_json::array();
     for (const FailureEntry& entry : log_.Failures()) {

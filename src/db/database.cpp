@@ -15,9 +15,9 @@
 namespace orrerix {
 namespace {
 
-// Runs a step that throws its failure, and hands that to the sink.
+// Runs a step that throws its failure, and hands that to the sink. False if it failed.
 template <typename Step>
-void Guard(FailureSink& sink, Step&& step) {
+bool Guard(FailureSink& sink, Step&& step) {
   std::optional<Failure> failed;
   try {
     step();
@@ -25,6 +25,7 @@ void Guard(FailureSink& sink, Step&& step) {
     failed = CaughtFailure();
   }
   if (failed) sink.Fail(*failed);
+  return !failed;
 }
 
 Failure TableExists(const TableDef& table) {
@@ -297,8 +298,8 @@ void Database::CopyFromAttached(FailureSink& sink, std::string_view table) {
   });
 }
 
-void Database::ExecuteNative(FailureSink& sink, const std::string& statement) {
-  Guard(sink, [&] {
+bool Database::ExecuteNative(FailureSink& sink, const std::string& statement) {
+  return Guard(sink, [&] {
     RequireOpen();
     connection_->RunAll(statement);
   });
@@ -324,8 +325,12 @@ void Database::Begin(FailureSink& sink) {
   ExecuteNative(sink, "BEGIN");
 }
 
-void Database::Commit(FailureSink& sink) {
-  ExecuteNative(sink, "COMMIT");
+bool Database::Commit(FailureSink& sink) {
+  return ExecuteNative(sink, "COMMIT");
+}
+
+std::int64_t Database::ChangedRows() const {
+  return IsOpen() ? sqlite3_total_changes64(Native()) : 0;
 }
 
 std::int64_t Database::FreePages(FailureSink& sink) const {

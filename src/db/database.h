@@ -104,8 +104,9 @@ class Database {
   // for all other fields.
   std::vector<std::size_t> LongestAttachedTexts(FailureSink& sink, const TableDef& table) const;
 
-  // Runs the engine's native statement, as it stands: indexes, pragmas and the like.
-  void ExecuteNative(FailureSink& sink, const std::string& statement);
+  // Runs the engine's native statement, as it stands: indexes, pragmas and the like. False if it
+  // failed.
+  bool ExecuteNative(FailureSink& sink, const std::string& statement);
 
   // For the only one who has this file open, to fill it with values that were tested before: much
   // of it is kept in memory, and the checks of its fields are not repeated.
@@ -119,7 +120,11 @@ class Database {
   void DrawUniqueIDsFrom(UniqueNumbers::Source source);
 
   void Begin(FailureSink& sink);
-  void Commit(FailureSink& sink);
+  // False if it failed: the rows since Begin are then not in the file.
+  bool Commit(FailureSink& sink);
+
+  // Rows that were inserted, changed or deleted since the file was opened.
+  std::int64_t ChangedRows() const;
 
   // Pages that hold nothing and could be given back.
   std::int64_t FreePages(FailureSink& sink) const;

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <initializer_list>
+#include <set>
 #include <string>
 
 #include "db/text.h"
@@ -198,11 +199,18 @@ TableDef GenericTable(std::string_view sectionName) {
 }
 
 bool IsOwnTable(std::string_view name) {
-  const auto is = [name](const TableDef& table) { return EqualIgnoringCase(table.Name, name); };
-  const auto fixed = FixedTables();
-  return std::any_of(fixed.begin(), fixed.end(), is) || is(JumpNodesTable()) ||
-         is(TradeLanesTable()) || is(DockObjectsTable()) || is(VersionTable()) ||
-         FoldAscii(name).starts_with("sqlite_");
+  // Asked once for each section name, of which a file may hold tens of thousands.
+  static const std::set<std::string> kOwn = [] {
+    std::set<std::string> names;
+    for (const TableDef& table : FixedTables()) names.insert(FoldAscii(table.Name));
+    for (const TableDef& table :
+         {JumpNodesTable(), TradeLanesTable(), DockObjectsTable(), VersionTable()}) {
+      names.insert(FoldAscii(table.Name));
+    }
+    return names;
+  }();
+  const std::string folded = FoldAscii(name);
+  return kOwn.contains(folded) || folded.starts_with("sqlite_");
 }
 
 }  // namespace orrerix

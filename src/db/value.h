@@ -17,10 +17,16 @@ struct Null {
 class Value {
  public:
   Value() = default;
+  // By assignment, which leaves a whole value where memory for the text is lacking; the variant's
+  // own copy constructor destroys content that was never built.
+  Value(const Value& other) { content_ = other.content_; }
+  Value(Value&&) noexcept = default;
+  Value& operator=(const Value&) = default;
+  Value& operator=(Value&&) noexcept = default;
   Value(Null) {}
   template <typename Number>
-    requires std::is_integral_v<Number>
-  Value(Number number) : content_(static_cast<std::int64_t>(number)) {}
+  requires std::is_integral_v<Number> Value(Number number)
+      : content_(static_cast<std::int64_t>(number)) {}
   Value(double number) : content_(number) {}
   Value(std::string text) : content_(std::move(text)) {}
   Value(std::string_view text) : content_(std::string(text)) {}

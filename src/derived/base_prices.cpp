@@ -52,7 +52,8 @@ class PriceStage {
 
  private:
   void PriceObject(Recordset& object) {
-    const std::string base = Ucase(object["dock_with"].Get().Text());
+    const std::string base =
+        caller_.Or(std::string(), [&] { return Ucase(object["dock_with"].Get().Text()); });
     if (db_.OpenRecordset(caller_,
                           "SELECT * from BaseGoods WHERE ucase(Base) = '{}' AND ucase(GoodNick) "
                           "like 'COMMODITY_*'",

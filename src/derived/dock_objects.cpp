@@ -36,18 +36,19 @@ class DockStage {
 
  private:
   void Append(Recordset& object) {
-    const MapCell cell = grid_.FindCell(object["sys_nick"].Get().Text());
-    const double scale = SystemScale(routine_, universe_, cell);
-    const ObjectPosition position =
-        PlaceObject(routine_, object["pos"].Get().Text(), scale, place_);
+    cell_ = routine_.Or(cell_, [&] { return grid_.FindCell(object["sys_nick"].Get().Text()); });
+    const double scale = SystemScale(routine_, universe_, cell_);
+    const ObjectPosition position = routine_.Or(ObjectPosition(), [&] {
+      return PlaceObject(routine_, object["pos"].Get().Text(), scale, place_);
+    });
 
     docks_.AddNew();
     docks_["nickname"] = object["nickname"];
     docks_["realname"] = object["realname"];
     docks_["loadout"] = object["loadout"];
     docks_["owner"] = object["reputation"];
-    docks_["MapX"] = cell.X;
-    docks_["MapY"] = cell.Y;
+    docks_["MapX"] = cell_.X;
+    docks_["MapY"] = cell_.Y;
     docks_["PosX"] = place_.X;
     docks_["PosY"] = place_.Y;
     routine_.Try([&] {
@@ -61,7 +62,8 @@ class DockStage {
   }
 
   void NameAfterPlanet(Recordset& ring) {
-    const std::string base = ring["dock_with"].Get().Text();
+    const std::string base =
+        routine_.Or(std::string(), [&] { return ring["dock_with"].Get().Text(); });
     Recordset planet = ObjectNamed(routine_, universe_, Left(base, kPlanetNickname));
     if (planet.AtEnd()) planet = ObjectNamed(routine_, universe_, base);
     if (planet.AtEnd()) return;
@@ -78,6 +80,8 @@ class DockStage {
   ImportHost& host_;
   SystemGrid grid_;
   Recordset docks_;
+  // What a failed step leaves unset keeps its last content.
+  MapCell cell_;
   CellFraction place_;
 };
 

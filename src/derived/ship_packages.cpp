@@ -39,10 +39,10 @@ class PackageStage {
   }
 
   void TakeHull(Recordset& ship) {
-    const std::string nickname = ship["NickName"].Get().Text();
+    const std::string nickname = TextOf(ship, "NickName");
     Recordset hull = Goods("ucase(ship) = '{}' AND ucase(category) = 'SHIPHULL'", nickname);
     if (hull.AtEnd()) return WarnOf("Shiphull for", nickname);
-    const std::string hullNickname = hull["nickname"].Get().Text();
+    const std::string hullNickname = TextOf(hull, "nickname");
     ship.Edit();
     ship["price"] = hull["price"];
     ship.Update();
@@ -53,27 +53,33 @@ class PackageStage {
     ship.Update();
   }
 
+  std::string TextOf(Recordset& row, std::string_view field) {
+    return routine_.Or(std::string(), [&] { return row[field].Get().Text(); });
+  }
+
   void WarnOf(std::string_view missing, std::string_view nickname) {
-    universe_.Log.AddErrorLine(
-        fmt::format("Warning: NO {} {} this means the ship has no equipment.", missing, nickname));
+    routine_.Try([&] {
+      universe_.Log.AddErrorLine(fmt::format(
+          "Warning: NO {} {} this means the ship has no equipment.", missing, nickname));
+    });
   }
 
   void AddPackage(Recordset& ship) {
     for (Recordset items = universe_.DB.OpenRecordset(
              routine_, "SELECT * from Packages WHERE ucase(PackageName) = '{}'",
-             {Ucase(ship["packagename"].Get().Text())}, RecordsetType::Dynaset);
+             {Ucase(TextOf(ship, "packagename"))}, RecordsetType::Dynaset);
          !items.AtEnd(); items.MoveNext()) {
       Recordset prices = universe_.DB.OpenRecordset(
           routine_,
           "SELECT sum(Price) as summe from Goods WHERE ucase(nickname) = '{}' and NOT "
           "ISNULL(Price)",
-          {Ucase(items["NickName"].Get().Text())});
+          {Ucase(TextOf(items, "NickName"))});
       if (prices.AtEnd() || prices["summe"].IsNull()) continue;
       ship.Edit();
-      ship["price"] = Sum(ship["price"].Get(), prices["summe"].Get());
+      ship["price"] = [&] { return Sum(ship["price"].Get(), prices["summe"].Get()); };
       ship.Update();
       items.Edit();
-      items["Val"] = Sum(items["Val"].Get(), 1);
+      items["Val"] = [&] { return Sum(items["Val"].Get(), 1); };
       items.Update();
     }
   }

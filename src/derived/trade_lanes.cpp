@@ -43,13 +43,15 @@ class LaneStage {
  private:
   void Walk(Recordset& start) {
     TakeEnd(first_, start);
-    first_.Nickname = start["nickname"].Get().Text();
-    Recordset end = LastRing(start["next_ring"].Get().Text());
+    first_.Nickname = routine_.Or(first_.Nickname, [&] { return start["nickname"].Get().Text(); });
+    Recordset end =
+        LastRing(routine_.Or(std::string(), [&] { return start["next_ring"].Get().Text(); }));
     last_.Place = {};
     last_.Nickname.clear();
     if (!end.AtEnd()) {
       TakeEnd(last_, end);
-      last_.Nickname = Trim(end["nickname"].Get().Text());
+      last_.Nickname = routine_.Or(last_.Nickname,
+                                   [&] { return std::string(Trim(end["nickname"].Get().Text())); });
     }
     if (!last_.Nickname.empty() && !IsRecorded(last_.Nickname)) Append();
   }
@@ -62,8 +64,10 @@ class LaneStage {
     while (!target.empty()) {
       ring = ObjectNamed(routine_, universe_, target);
       if (ring.AtEnd()) {
-        universe_.Log.AddErrorLine(fmt::format(
-            "FL-MOD-ERROR Searching target Tradelane <{}> for <{}>", target, first_.Nickname));
+        routine_.Try([&] {
+          universe_.Log.AddErrorLine(fmt::format(
+              "FL-MOD-ERROR Searching target Tradelane <{}> for <{}>", target, first_.Nickname));
+        });
         break;
       }
       visited.insert(Ucase(target));
@@ -76,7 +80,7 @@ class LaneStage {
   void TakeEnd(LaneEnd& end, Recordset& ring) {
     end.Cell = routine_.Or(end.Cell, [&] { return grid_.FindCell(ring["sys_nick"].Get().Text()); });
     const double scale = SystemScale(routine_, universe_, end.Cell);
-    PlaceObject(routine_, ring["pos"].Get().Text(), scale, end.Place);
+    routine_.Try([&] { PlaceObject(routine_, ring["pos"].Get().Text(), scale, end.Place); });
     routine_.Try([&] { end.RealName = ring["realspacename"].Get().Text(); });
     if (end.RealName.empty()) end.RealName = "Unknown";
   }

@@ -282,7 +282,8 @@ void OrrerixMain::RunImport() {
   const GameFolder game(GameFolderText());
   try {
     importing_ = !ImportGame(parts_.Log, host_, database,
-                             {game, saveFolder_, format_, parts_.Version}, DerivedStages());
+                             {game, saveFolder_, format_, parts_.Version}, DerivedStages())
+                      .Finished;
   } catch (const ImportEnded&) {
     // Whoever closes the form or aborts for lack of memory wants the program to end; Command1Click
     // goes on with that.

@@ -29,7 +29,7 @@ TableDef Crunched(TableDef table, const std::vector<std::size_t>& longest) {
   return table;
 }
 
-// The place behind the fixed tables, which are made first.
+// The place after the fixed tables, which are made first.
 std::vector<TableDef>::const_iterator EndOfFixedTables(const std::vector<TableDef>& tables) {
   const std::vector<TableDef> fixed = FixedTables();
   return std::find_if(tables.begin(), tables.end(), [&fixed](const TableDef& table) {
@@ -56,8 +56,10 @@ class Cruncher {
   void Copy(const TableDef& table) {
     const TableDef definition = DefinitionOf(table);
     to_.CreateTable(routine_, definition);
-    Fill(definition);
+    CountRows(definition, [&] { Fill(definition); });
   }
+
+  std::vector<TableCount> TakeCounts() { return std::move(counts_); }
 
   // Section tables, followed by tables of the file.
   void Write(const std::vector<std::unique_ptr<SectionTable>>& sections,
@@ -69,12 +71,22 @@ class Cruncher {
     }
     for (const TableDef& table : behind) definitions.push_back(DefinitionOf(table));
     to_.CreateTables(routine_, definitions, [&](std::size_t i) {
-      if (i >= sections.size()) return Fill(definitions[i]);
-      sections[i]->AppendTo(routine_, to_, definitions[i]);
+      CountRows(definitions[i], [&] {
+        if (i >= sections.size()) return Fill(definitions[i]);
+        sections[i]->AppendTo(routine_, to_, definitions[i]);
+      });
     });
   }
 
  private:
+  // Asking the file afterwards would cost the engine a search among all its tables for each.
+  template <typename Step>
+  void CountRows(const TableDef& table, const Step& fill) {
+    const std::int64_t before = to_.ChangedRows();
+    fill();
+    counts_.push_back({table.Name, to_.ChangedRows() - before});
+  }
+
   const HeldRows* Held(const std::string& table) const {
     const auto held = std::find_if(held_.begin(), held_.end(), [&table](const HeldRows& rows) {
       return rows.Definition().Name == table;
@@ -99,6 +111,7 @@ class Cruncher {
   FailureSink& routine_;
   Database& to_;
   const std::vector<HeldRows>& held_;
+  std::vector<TableCount> counts_;
 };
 
 std::string InfoOf(const fs::path& source, const fs::path& target) {
@@ -138,9 +151,11 @@ void CleanUpMemory(ErrorLog& log, ImportHost& host, Database& database,
   });
 }
 
-void CrunchTXTFields(ErrorLog& log, const fs::path& source, const fs::path& target,
-                     JetVersionOption option, const KeptInMemory& kept) {
+std::vector<TableCount> CrunchTXTFields(ErrorLog& log, const fs::path& source,
+                                        const fs::path& target, JetVersionOption option,
+                                        const KeptInMemory& kept) {
   Routine routine(log, "DB_Work.CrunchTXTFields", InfoOf(source, target));
+  std::vector<TableCount> counts;
   routine.Run([&] {
     const std::vector<TableDef> tables = TablesOf(routine, source);
     DeleteFile(routine, target);
@@ -153,8 +168,9 @@ void CrunchTXTFields(ErrorLog& log, const fs::path& source, const fs::path& targ
     to.Begin(routine);
     std::for_each(tables.begin(), behindFixed, [&](const TableDef& t) { cruncher.Copy(t); });
     cruncher.Write(kept.Sections, std::span(behindFixed, tables.end()));
-    to.Commit(routine);
+    if (to.Commit(routine)) counts = cruncher.TakeCounts();
   });
+  return counts;
 }
 
 }  // namespace orrerix

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
-// Care of the database file between and behind the stages of an import.
+// Care of the database file between and after the stages of an import.
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
 #include <memory>
+#include <string>
 #include <vector>
 
 #include "db/engine.h"
@@ -28,12 +30,19 @@ struct KeptInMemory {
   const std::vector<HeldRows>& Rows;
 };
 
+// A table and the number of its rows.
+struct TableCount {
+  std::string Name;
+  std::int64_t Rows = 0;
+};
+
 // Copies all tables of a file into a new one, with every Text field cut down to what its longest
 // text needs (254 where there is none). Fields and rows are carried over, keys are not; tables
 // whose names begin with "MSYS" are the engine's own and stay behind. The section tables are
-// written behind the fixed tables. The target is replaced.
-void CrunchTXTFields(ErrorLog& log, const std::filesystem::path& source,
-                     const std::filesystem::path& target, JetVersionOption option,
-                     const KeptInMemory& kept);
+// written after the fixed tables. The target is replaced. Gives the tables of the target in the
+// order of their making; none if the user gave it up or the target could not be completed.
+std::vector<TableCount> CrunchTXTFields(ErrorLog& log, const std::filesystem::path& source,
+                                        const std::filesystem::path& target,
+                                        JetVersionOption option, const KeptInMemory& kept);
 
 }  // namespace orrerix

@@ -18,7 +18,7 @@ namespace orrerix {
 namespace fs = std::filesystem;
 namespace {
 
-constexpr int kPauseBehindTexts = 500;
+constexpr int kPauseAfterTexts = 500;
 
 // The stages, each a function that reads like the list of its steps.
 class ImportRun {
@@ -33,7 +33,7 @@ class ImportRun {
         import_{{log, database}, order.Game, host, {}, {}} {}
 
   // A stage whose own statements do not stop a failure is one step: the next stage follows it.
-  void Run(const std::vector<DerivedStage>& stages) {
+  std::vector<TableCount> Run(const std::vector<DerivedStage>& stages) {
     using Stage = void (ImportRun::*)();
     constexpr std::array<Stage, 7> readers = {
         &ImportRun::OpenFile,      &ImportRun::CreateFixedTables, &ImportRun::ReadConfiguration,
@@ -41,7 +41,7 @@ class ImportRun {
         &ImportRun::ReadCharacters};
     for (const Stage stage : readers) routine_.Try([&] { (this->*stage)(); });
     Derive(stages);
-    routine_.Try([this] { Crunch(); });
+    return routine_.Or(std::vector<TableCount>(), [this] { return Crunch(); });
   }
 
  private:
@@ -75,7 +75,8 @@ class ImportRun {
   }
 
   void Read(std::string_view path, std::string_view section, const std::string& system = {}) {
-    ReadINI(import_, order_.Game.Text() + std::string(path), section, system);
+    routine_.Try(
+        [&] { ReadINI(import_, order_.Game.Text() + std::string(path), section, system); });
   }
 
   void CleanUp() { CleanUpMemory(log_, host_, database_, order_.SaveFolder); }
@@ -86,7 +87,7 @@ class ImportRun {
          !libraries.AtEnd(); libraries.MoveNext(), ++place) {
       routine_.Try([&] { ReadLibrary(libraries["DLL"].Get().Text(), place); });
     }
-    host_.Pause(kPauseBehindTexts);
+    host_.Pause(kPauseAfterTexts);
     CleanUp();
   }
 
@@ -173,16 +174,18 @@ class ImportRun {
     file.Close();
   }
 
-  void Crunch() {
+  std::vector<TableCount> Crunch() {
     const fs::path build = order_.SaveFolder / "build.mdb";
     const std::vector<HeldRows> held = database_.TakeHeldRows();
     CloseDB(database_, File());
     DeleteFile(routine_, build);
     RenameFile(routine_, File(), build);
     StampVersion(build);
-    CrunchTXTFields(log_, build, File(), order_.Format, {import_.Sections.Tables(), held});
+    std::vector<TableCount> tables =
+        CrunchTXTFields(log_, build, File(), order_.Format, {import_.Sections.Tables(), held});
     DeleteFile(routine_, build);
     database_ = DBEngine::OpenDatabase(routine_, File());
+    return tables;
   }
 
   ErrorLog& log_;
@@ -195,10 +198,13 @@ class ImportRun {
 
 }  // namespace
 
-bool ImportGame(ErrorLog& log, ImportHost& host, Database& database, const ImportOrder& order,
-                const std::vector<DerivedStage>& stages) {
+ImportResult ImportGame(ErrorLog& log, ImportHost& host, Database& database,
+                        const ImportOrder& order, const std::vector<DerivedStage>& stages) {
   Routine routine(log, "OrrerixMain.Command1_Click", "While getting Data from FreeLancer");
-  return routine.Run([&] { ImportRun(log, host, database, order, routine).Run(stages); });
+  ImportResult result;
+  result.Finished = routine.Run(
+      [&] { result.Tables = ImportRun(log, host, database, order, routine).Run(stages); });
+  return result;
 }
 
 }  // namespace orrerix

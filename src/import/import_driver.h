@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "db/engine.h"
+#include "import/crunching.h"
 #include "import/import_state.h"
 #include "shell/version.h"
 
@@ -27,10 +28,17 @@ struct ImportOrder {
   AppVersion Version;
 };
 
+struct ImportResult {
+  // False if the user gave the import up; the file then has no table `Version`, and the next start
+  // throws it away.
+  bool Finished = false;
+  // Those of the finished file, in the order of their making; none without one.
+  std::vector<TableCount> Tables;
+};
+
 // Runs all stages in their order on `database`, which is open on the finished file at the end. A
-// universe file that is there already is not replaced: its tables then clash. False if the user
-// gave the import up; the file then has no table `Version`, and the next start throws it away.
-bool ImportGame(ErrorLog& log, ImportHost& host, Database& database, const ImportOrder& order,
-                const std::vector<DerivedStage>& stages);
+// universe file that is there already is not replaced: its tables then clash.
+ImportResult ImportGame(ErrorLog& log, ImportHost& host, Database& database,
+                        const ImportOrder& order, const std::vector<DerivedStage>& stages);
 
 }  // namespace orrerix

@@ -131,15 +131,23 @@ class Redraw {
   }
 
   void LayOutPanel() {
-    const PanelView view{universe_.Log,      view_.Panel,      view_.Options,
-                         state_.OptionsOpen, state_.PrintMode, view_.Measure};
+    const PanelView view{universe_.Log,
+                         view_.Panel,
+                         view_.Options,
+                         state_.OptionsOpen,
+                         state_.PrintMode,
+                         view_.Measure,
+                         state_.InfoBackgroundHeight};
     Control panel = MakeFrame(ControlId::PanelFrame, 0, drawing_.PanelBox, kPanelBack);
     panel.ForeColor = kPanelText;
     SidePanel content;
     if (drawing_.Panel == PanelPlace::Right) {
       content = LayOutPanelRight(drawing_.PanelBox, view);
       // A print has a form of its own; the screen's panel does not move because of it.
-      if (!state_.PrintMode) state_.PanelAtRight = drawing_.PanelBox;
+      if (!state_.PrintMode) {
+        state_.PanelAtRight = drawing_.PanelBox;
+        state_.InfoBackgroundHeight = content.BackgroundHeight;
+      }
     } else if (drawing_.Panel == PanelPlace::Below) {
       content = LayOutPanelBelow(
           drawing_.PanelBox, state_.PanelAtRight.value_or(FirstPanelPlace(drawing_.Frame)), view);

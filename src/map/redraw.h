@@ -37,8 +37,10 @@ struct MapState {
   std::vector<MapTile> Tiles;
   MapObjects Objects;        // as the last redraw left them
   bool BorderShown = false;  // the map's border, by the last redraw that got that far
-  std::optional<TwipRect>
-      PanelAtRight;  // where the panel stood on the screen when it was last at the right
+  // Of the panel on the screen when it was last at the right: its place, and the height of the
+  // info box's background, twips.
+  std::optional<TwipRect> PanelAtRight;
+  std::optional<double> InfoBackgroundHeight;
   bool PrintMode = false;
   bool OptionsOpen = false;
 };

@@ -192,6 +192,7 @@ InfoBoxFoot FootOf(const TwipRect& box, const PanelContent& content, const TextM
 struct InfoBox {
   Control Frame;
   bool NewsScrolls = false;
+  double BackgroundHeight = 0;
 };
 
 Control InfoFrame(const TwipRect& box) {
@@ -211,9 +212,11 @@ InfoBox MakeInfoBox(const TwipRect& panel, double top, const PanelView& view) {
   const double sloganTop = foot.Slogan.Place.Top;
 
   const double bandHeight = box.Width / kHeadBandWidth * kHeadBandHeight;
-  const TwipRect background =
+  TwipRect background =
       WithSize(kBorderThickness, kBorderThickness, box.Width - 2 * kBorderThickness,
                sloganTop - kBorderThickness - kBorderThickness);
+  if (view.PrintMode) background.Height = view.BackgroundHeight.value_or(background.Height);
+  info.BackgroundHeight = background.Height;
   ControlList& children = info.Frame.Children;
   children.push_back(MakePicture(ControlId::InfoBoxPicture, 1, background, "itac_background.jpg"));
   children.push_back(MakePicture(ControlId::InfoBoxPicture, 0,
@@ -287,6 +290,7 @@ SidePanel LayOutPanelRight(const TwipRect& panel, const PanelView& view) {
   laidOut.Controls.pop_back();
   InfoBox info = MakeInfoBox(panel, optionsFrame.Place.Bottom(), view);
   laidOut.NewsScrolls = info.NewsScrolls;
+  laidOut.BackgroundHeight = info.BackgroundHeight;
   laidOut.Controls.push_back(std::move(info.Frame));
   laidOut.Controls.push_back(std::move(optionsFrame));
   return laidOut;

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -46,12 +47,15 @@ struct PanelView {
   bool OptionsOpen = false;
   bool PrintMode = false;  // no border is visible
   const TextMeasure& Measure;
+  // Of the info box's background as the screen last showed it, twips; a print keeps it.
+  std::optional<double> BackgroundHeight = std::nullopt;
 };
 
 struct SidePanel {
   ControlList Controls;      // children of the panel's frame, back to front
   bool NewsScrolls = false;  // the news does not fit
   bool Overhangs = false;    // tools and options reach over the panel's upper edge
+  std::optional<double> BackgroundHeight = std::nullopt;  // of the info box, where it has one
 };
 
 // Lays out the panel at the map's right. `panel` is the place of its frame on the map frame. No

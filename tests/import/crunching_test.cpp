@@ -281,6 +281,41 @@ TEST_F(Crunching, CancelLeavesTheRoutine) {
   EXPECT_THAT(log.Failures(), SizeIs(1));
 }
 
+TEST_F(Crunching, TellsTheRowsOfEachTableInTheOrderOfTheirMaking) {
+  db.CreateTable(mustWork, {"fixed", {TextField("x")}, {}});
+  db.Execute(mustWork, "INSERT INTO fixed (x) VALUES ('a')");
+  db.Execute(mustWork, "INSERT INTO fixed (x) VALUES ('b')");
+  SectionTable& gun = sections.Open("gun");
+  const auto nickname = gun.AddField("nickname");
+  for (const char* name : {"laser", "plasma", "ion"}) {
+    gun.AddNew();
+    gun.Set(nickname, name);
+    gun.Update();
+  }
+  sections.Open("empty");
+  db.Close();
+
+  const std::vector<TableCount> tables =
+      CrunchTXTFields(log, source, target, JetVersionOption::Version30, {sections.Tables(), held});
+
+  ASSERT_THAT(tables, SizeIs(3));
+  EXPECT_EQ(tables[0].Name, "gun");
+  EXPECT_EQ(tables[0].Rows, 3);
+  EXPECT_EQ(tables[1].Name, "empty");
+  EXPECT_EQ(tables[1].Rows, 0);
+  EXPECT_EQ(tables[2].Name, "fixed");
+  EXPECT_EQ(tables[2].Rows, 2);
+}
+
+TEST_F(Crunching, TellsNoTablesWithoutATarget) {
+  db.Close();
+  messages.Answer = MessageAnswer::Cancel;
+
+  EXPECT_THAT(CrunchTXTFields(log, folder.Path() / "none.mdb", target, JetVersionOption::Version30,
+                              {sections.Tables(), held}),
+              IsEmpty());
+}
+
 TEST_F(Crunching, ASourceThatIsNotThereIsAFailure) {
   db.Close();
   messages.Answer = MessageAnswer::Cancel;

@@ -103,7 +103,7 @@ mass = 22
             {TextId::CalculatingDocks, [](Universe&, ImportHost&) {}}};
   }
 
-  bool Run() { return ImportGame(log, host, db, Order(), Stages()); }
+  bool Run() { return ImportGame(log, host, db, Order(), Stages()).Finished; }
 
   TableDef Definition(std::string_view table) {
     for (TableDef& definition : db.TableDefs(mustWork)) {
@@ -295,7 +295,7 @@ TEST_F(GameImport, AnEmptyGameFolderGivesEmptyTables) {
   const GameFolder nothing(empty.Path().string());
   const ImportOrder order{nothing, Saves(), JetVersionOption::Version30, version};
 
-  EXPECT_TRUE(ImportGame(log, host, db, order, {}));
+  EXPECT_TRUE(ImportGame(log, host, db, order, {}).Finished);
 
   EXPECT_THAT(log.Failures(), IsEmpty());
   EXPECT_THAT(DataLog(), SizeIs(3));
@@ -431,7 +431,7 @@ TEST_P(ImportIntoTrouble, ASaveFolderWithAnApostropheBlanksAndOtherLettersIsNoTr
   fs::create_directories(folder);
   const ImportOrder order{gameFolder, folder, JetVersionOption::Version30, version};
 
-  EXPECT_TRUE(ImportGame(log, host, db, order, Stages()));
+  EXPECT_TRUE(ImportGame(log, host, db, order, Stages()).Finished);
 
   EXPECT_THAT(log.Failures(), IsEmpty());
   EXPECT_TRUE(db.HasTable("Version"));

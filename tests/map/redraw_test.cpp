@@ -414,6 +414,22 @@ TEST_F(Print, ThePanelOfTheScreenIsNotMovedByAPrint) {
   EXPECT_FALSE(state.PanelAtRight);
 }
 
+TEST_F(Print, TheInfoBoxKeepsTheBackgroundOfTheScreen) {
+  const auto background = [this] {
+    return PlaceOf(Draw().Controls, ControlId::InfoBoxPicture)->Height;
+  };
+  state.PrintMode = false;
+  const double onScreen = background();
+
+  formHeight -= 2000;
+  const double onLowScreen = background();
+  ASSERT_LT(onLowScreen, onScreen);
+  state.PrintMode = true;
+  formHeight += 2000;
+
+  EXPECT_EQ(background(), onLowScreen);
+}
+
 TEST_F(Print, ThereIsNoPanelBelow) {
   Zoom(kTwoCells);
   formWidth = 12000;

@@ -36,7 +36,8 @@ class RealData : public ::testing::Test {
     result->Finished =
         ImportGame(result->Log, result->Host, result->DB,
                    {game, result->Save.Path(), JetVersionOption::Version30, CurrentVersion()},
-                   DerivedStages());
+                   DerivedStages())
+            .Finished;
   }
   static void TearDownTestSuite() { delete result; }
 
