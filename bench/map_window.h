@@ -52,7 +52,7 @@ class MapWindow {
     paths_.SaveFolder = universeFile.parent_path();
     paths_.ApplicationFolder = universeFile.parent_path();
     paths_.Game = game.Folder.string();
-    form_.FormLoad();
+    form_.Load();
     form_.setGeometry(0, 0, 1920, 1080);
     form_.show();
     // The pictures that are read while nothing else happens are read before anything is measured.

@@ -24,10 +24,6 @@ constexpr int kHeadingFont = 8;
 constexpr int kLogFont = 9;
 constexpr const char* kAuthorsMail = "authors@orrerix.invalid";
 
-QRect RectOf(const ControlPlace& place) {
-  return PixelRect(place.Left, place.Top, place.Width, place.Height);
-}
-
 void SetColors(QWidget& widget, QColor ground, QColor letters) {
   QPalette palette = widget.palette();
   palette.setColor(widget.backgroundRole(), ground);
@@ -43,9 +39,9 @@ ErrorLogWindow::ErrorLogWindow(ErrorLog& log, std::function<bool()> importing,
       importing_(std::move(importing)),
       choice_(choice),
       dataHeading_(AddHeading(0, QColor(255, 255, 0))),
-      dataLog_(AddLog("Text1", QColor(255, 255, 128), QPlainTextEdit::WidgetWidth)),
+      dataLog_(AddLog("DataLog", QColor(255, 255, 128), QPlainTextEdit::WidgetWidth)),
       programHeading_(AddHeading(1, QColor(255, 0, 0))),
-      programLog_(AddLog("Text2", QColor(255, 128, 0), QPlainTextEdit::NoWrap)) {
+      programLog_(AddLog("ProgramLog", QColor(255, 128, 0), QPlainTextEdit::NoWrap)) {
   setObjectName("ErrorLog");
   ShowCaptions();
   // It comes up beside the work, not in its place.
@@ -131,7 +127,7 @@ void ErrorLogWindow::ShowTexts() {
   }
   ShowText(dataLog_, log_.DataLog());
   ShowText(programLog_, log_.ProgramLog());
-  FormResize();
+  LayOut();
 }
 
 void ErrorLogWindow::TextsChanged() {
@@ -149,20 +145,20 @@ void ErrorLogWindow::PlaceLog(Log& log, const QRect& place) {
   if (endSeen) bar.setValue(bar.maximum());
 }
 
-void ErrorLogWindow::FormResize() {
+void ErrorLogWindow::LayOut() {
   const ErrorLogLayout layout =
       LayOutErrorLog(OuterWidth(*this), OuterHeight(*this), log_.HasProgramError());
-  dataHeading_->setGeometry(RectOf(layout.DataHeading));
-  PlaceLog(dataLog_, RectOf(layout.DataLog));
-  programHeading_->setGeometry(RectOf(layout.ProgramHeading));
-  PlaceLog(programLog_, RectOf(layout.ProgramLog));
+  dataHeading_->setGeometry(PixelRect(layout.DataHeading));
+  PlaceLog(dataLog_, PixelRect(layout.DataLog));
+  programHeading_->setGeometry(PixelRect(layout.ProgramHeading));
+  PlaceLog(programLog_, PixelRect(layout.ProgramLog));
   programHeading_->setVisible(layout.LowerHalfVisible);
   programLog_.Box->setVisible(layout.LowerHalfVisible);
 }
 
 void ErrorLogWindow::resizeEvent(QResizeEvent* event) {
   QWidget::resizeEvent(event);
-  FormResize();
+  LayOut();
 }
 
 void ErrorLogWindow::closeEvent(QCloseEvent* event) {

@@ -40,7 +40,7 @@ class ErrorLogWindow : public QWidget, public ErrorLogView {
   void ShowTexts();
   static void ShowText(Log& log, const std::string& text);
   static void PlaceLog(Log& log, const QRect& place);
-  void FormResize();
+  void LayOut();
 
   ErrorLog& log_;
   std::function<bool()> importing_;

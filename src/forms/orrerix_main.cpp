@@ -4,19 +4,15 @@
 #include <QCloseEvent>
 #include <QGuiApplication>
 #include <QImage>
-#include <QScopedValueRollback>
 #include <QScreen>
-#include <QTimer>
-#include <new>
 #include <utility>
 
 #include <fmt/format.h>
 
 #include "db/number_text.h"
-#include "derived/stages.h"
 #include "forms/controls/form_geometry.h"
 #include "forms/print_form.h"
-#include "import/import_driver.h"
+#include "forms/start/import_screen_layout.h"
 #include "map/game_sounds.h"
 #include "online/web_pages.h"
 #include "platform/game_path.h"
@@ -48,29 +44,31 @@ OrrerixMain::OrrerixMain(const FormParts& parts, Settings& settings, LanguageFil
       language_(language),
       startMemory_(startMemory),
       format_(format),
+      gameMissing_(parts.Messages),
       importScreen_(new ImportScreen(parts.Pictures, parts.Speech, this)),
       map_(parts.Pictures, settings, language, this),
-      play_(map_, *this, parts.Log, settings, language, parts.Sound),
-      search_(map_, *this, play_, parts.Log, language),
-      newsPlay_(map_, parts.Log),
+      mapController_(map_, *this, parts.Log, settings, language, parts.Sound),
+      search_(map_, *this, mapController_, parts.Log, language),
+      newsController_(map_, parts.Log),
       stations_({parts.Log, parts.Pictures, parts.Sound, language, map_.State().Names,
                  [this](Routine& routine) { return OpenUniverse(routine); },
-                 [this] { return frameGeometry().size() - size(); }}),
-      host_(*this, *importScreen_, parts.Messages, parts.Log, startMemory, parts.Paths.Debugging,
-            parts.Speech) {
+                 [this] { return frameGeometry().size() - size(); }}) {
   setObjectName("OrrerixMain");
   setMinimumSize(kSmallestForm);
   QPalette colors = palette();
   colors.setColor(QPalette::Window, QColor(kGround));
   setPalette(colors);
-  newsPlay_.OnMoved = [this] { play_.NewsMoved(); };
-  QObject::connect(&importScreen_->Command1(), &QPushButton::clicked, this,
-                   [this] { Command1Click(); });
+  newsController_.OnMoved = [this] { mapController_.NewsMoved(); };
+  QObject::connect(&importScreen_->StartButton(), &QPushButton::clicked, this, [this] {
+    if (!gameMissing_.IsOpen()) StartImport();
+  });
+  lookForGame_.setSingleShot(true);
+  QObject::connect(&lookForGame_, &QTimer::timeout, this, [this] { LookForGame(); });
 }
 
 OrrerixMain::~OrrerixMain() = default;
 
-bool OrrerixMain::FormLoad() {
+bool OrrerixMain::Load() {
   bool leaves = false;
   Routine routine(parts_.Log, "OrrerixMain.Form_Load",
                   "While opening Database and checking for version.");
@@ -82,15 +80,15 @@ bool OrrerixMain::FormLoad() {
     });
     MakeShortcuts(parts_.Log, routine, parts_.Registry, paths.ApplicationFolder, paths.Executable,
                   parts_.Version);
-    importScreen_->Text2().setText(QString::fromStdString(parts_.GamePath()));
+    importScreen_->GameFolderEdit().setText(QString::fromStdString(parts_.GamePath()));
     setWindowTitle(QString::fromStdString(StartCaption(parts_.Version)));
     ReplaceStarMap(routine, paths.ApplicationFolder / "SysMap.jpg");
     leaves = !ExamineUniverseFile(routine);
     if (leaves) return;
-    LoadFormTXT();
-    isMaximised_ = true;
+    ReadCaptions();
+    setWindowState(windowState() | Qt::WindowMaximized);
   });
-  loaded_ = true;
+  phase_ = Phase::FirstRun;
   return !leaves;
 }
 
@@ -123,17 +121,17 @@ bool OrrerixMain::AsksAgain() {
                                                     parts_.Version)) == MessageAnswer::Retry;
 }
 
-void OrrerixMain::LoadFormTXT() {
+void OrrerixMain::ReadCaptions() {
   Routine routine(parts_.Log, "OrrerixMain.LoadFormTXT", "While reading language-text.");
   routine.Run([&] {
     language_.SetCurrent(static_cast<Language>(routine.Integer(
         Val(settings_.ReadSetting("LANG")), static_cast<std::int16_t>(language_.Current()))));
-    map_.LoadFormTXT();
+    map_.ReadCaptions();
   });
 }
 
 void OrrerixMain::ShowLoaded() {
-  isMaximised_ ? ShowMaximised() : show();
+  isMaximized() ? ShowMaximised() : show();
 }
 
 void OrrerixMain::ShowMaximised() {
@@ -144,7 +142,7 @@ void OrrerixMain::ShowMaximised() {
 
 // What a desktop remembers as the form's own size may leave no room for the decoration.
 void OrrerixMain::KeepOnScreen() {
-  if (windowState() != Qt::WindowNoState || printSide_ > 0) return;
+  if (windowState() != Qt::WindowNoState || phase_ == Phase::Printing) return;
   const QRect inside = geometry();
   const QRect outer = frameGeometry();
   const QMargins decoration(inside.left() - outer.left(), inside.top() - outer.top(),
@@ -155,32 +153,28 @@ void OrrerixMain::KeepOnScreen() {
 
 void OrrerixMain::resizeEvent(QResizeEvent* event) {
   QWidget::resizeEvent(event);
-  FormResize();
+  Redraw();
 }
 
 void OrrerixMain::changeEvent(QEvent* event) {
   QWidget::changeEvent(event);
   if (event->type() == QEvent::WindowStateChange) {
-    FormResize();
+    Redraw();
     // The desktop tells the decoration of a form that is no longer maximised a moment later.
     QTimer::singleShot(kDecorationDelay, this, [this] { KeepOnScreen(); });
   }
   if (event->type() == QEvent::ActivationChange && isActiveWindow()) QueueFocus();
 }
 
-void OrrerixMain::FormResize() {
-  if (!loaded_ || warning_ || isMinimized()) return;
-  // The question about a failure lets events through. A redraw that they ask for waits for this
-  // one.
-  redrawWanted_ = true;
-  if (redrawing_) return;
-  const QScopedValueRollback<bool> running(redrawing_, true);
-  while (std::exchange(redrawWanted_, false)) ShowScreen();
+void OrrerixMain::Redraw() {
+  if (phase_ == Phase::Loading || phase_ == Phase::Warning || isMinimized()) return;
+  // The question about a failure lets events through, which may ask for a redraw.
+  redraw_.Run([this] { ShowScreen(); });
 }
 
 void OrrerixMain::ShowScreen() {
   std::error_code ignored;
-  if (importing_ || !fs::exists(UniverseFile(), ignored)) {
+  if (Importing() || !fs::exists(UniverseFile(), ignored)) {
     ShowImportScreen();
   } else {
     ShowMap();
@@ -188,42 +182,37 @@ void OrrerixMain::ShowScreen() {
 }
 
 void OrrerixMain::ShowImportScreen() {
+  if (phase_ == Phase::Map) phase_ = Phase::FirstRun;
   map_.Hide();
   importScreen_->setGeometry(rect());
-  importScreen_->LayOut(OuterWidth(*this), OuterHeight(*this), importing_);
+  importScreen_->LayOut(OuterWidth(*this), OuterHeight(*this), Importing());
   importScreen_->show();
-  if (importing_) {
+  if (Importing()) {
     importScreen_->Memory().MemoryUpdate(parts_.Log, startMemory_, OuterWidth(*this),
                                          isMinimized());
   }
   // Long work and questions have no place inside a resize: both wait for the event loop.
-  if (std::exchange(lookQueued_, true)) return;
-  QTimer::singleShot(0, this, [this] {
-    lookQueued_ = false;
-    LookForGame();
-  });
+  lookForGame_.start(0);
 }
 
 std::string OrrerixMain::GameFolderText() const {
-  return FolderText(importScreen_->Text2().text());
+  return FolderText(importScreen_->GameFolderEdit().text());
 }
 
 void OrrerixMain::LookForGame() {
-  if (complaining_ || !isVisible() || importScreen_->isHidden()) return;
-  const GameFolder game(GameFolderText());
-  if (game.FindFile(game.Text() + "\\exe\\Freelancer.exe")) {
-    if (!importing_) Command1Click();
+  if (phase_ == Phase::Preparing || gameMissing_.IsOpen() || !isVisible() ||
+      importScreen_->isHidden()) {
     return;
   }
-  complaining_ = true;
-  parts_.Messages.Show({FormatIn(parts_.Speech.Current, TextId::GameMissing, parts_.GamePath()),
-                        windowTitle().toStdString(), MessageButtons::Ok, MessageIcon::Exclamation});
-  complaining_ = false;
+  const GameFolder game(GameFolderText());
+  if (game.FindFile(game.Text() + "\\exe\\Freelancer.exe")) return StartImport();
+  gameMissing_.Show({FormatIn(parts_.Speech.Current, TextId::GameMissing, parts_.GamePath()),
+                     windowTitle().toStdString(), MessageButtons::Ok, MessageIcon::Exclamation});
 }
 
 void OrrerixMain::PlaceForImport() {
   const QRect screenRect = screen()->geometry();
-  const FormPlace place =
+  const WholeTwipRect place =
       ImportWindowPlace(static_cast<int>(Twips(screenRect.width())),
                         static_cast<int>(Twips(screenRect.height())), MemFrame::DesignHeight);
   const QRect outer = PixelRect(place).translated(screenRect.topLeft());
@@ -231,7 +220,7 @@ void OrrerixMain::PlaceForImport() {
   SetOuterGeometry(outer);
   // A normal window's decoration is not that of a maximised one, and is known a little later.
   QTimer::singleShot(kDecorationDelay, this, [this, outer] {
-    if (importing_ && windowState() == Qt::WindowNoState) SetOuterGeometry(outer);
+    if (Importing() && windowState() == Qt::WindowNoState) SetOuterGeometry(outer);
   });
 }
 
@@ -241,58 +230,51 @@ void OrrerixMain::SetOuterGeometry(const QRect& outer) {
   resize(outer.size() - decoration);
 }
 
-void OrrerixMain::Command1Click() {
-  if (importRuns_ || complaining_ || !PrepareSaveFolder()) return;
-  importRuns_ = true;
-  importing_ = true;
-  FormResize();
-  RunImport();
-  importRuns_ = false;
-  lock_.reset();
-  if (host_.Ended()) {
-    importing_ = false;
+void OrrerixMain::StartImport() {
+  if (phase_ != Phase::FirstRun) return;
+  phase_ = Phase::Preparing;
+  std::optional<FolderLock> lock = LockSaveFolder();
+  phase_ = Phase::FirstRun;
+  if (lock) RunImport(std::move(*lock));
+}
+
+// Makes the folder of the universe file and holds it for the import. Nothing if there is none: the
+// user has been told.
+std::optional<FolderLock> OrrerixMain::LockSaveFolder() {
+  std::error_code ignored;
+  fs::create_directories(saveFolder_, ignored);
+  if (!fs::is_directory(saveFolder_, ignored)) {
+    parts_.Messages.Show(FolderMissingMessage(parts_.Speech.Current, saveFolder_, parts_.Version));
+    return std::nullopt;
+  }
+  std::optional<FolderLock> lock;
+  while (!(lock = FolderLock::TryHold(saveFolder_))) {
+    if (AsksAgain()) continue;
+    close();
+    return std::nullopt;
+  }
+  return lock;
+}
+
+void OrrerixMain::RunImport(FolderLock lock) {
+  phase_ = Phase::Importing;
+  Redraw();
+  PlaceForImport();
+  const GameFolder game(GameFolderText());
+  import_.emplace(parts_, *this, *importScreen_, startMemory_, std::move(lock));
+  const ImportSession::Result result = import_->Run({game, saveFolder_, format_, parts_.Version});
+  import_.reset();
+  if (result == ImportSession::Result::GivenUp) {
+    phase_ = Phase::GivenUp;
+    return;
+  }
+  phase_ = Phase::FirstRun;
+  if (result == ImportSession::Result::Ended) {
     close();
     return;
   }
-  if (importing_) return;  // given up: the screen stays until the program is closed
   ShowMaximised();
-  FormResize();
-}
-
-// Makes the folder of the universe file and holds it for the import. False if there is none: the
-// user has been told.
-bool OrrerixMain::PrepareSaveFolder() {
-  complaining_ = true;
-  std::error_code ignored;
-  fs::create_directories(saveFolder_, ignored);
-  bool isReady = fs::is_directory(saveFolder_, ignored);
-  if (!isReady) {
-    parts_.Messages.Show(FolderMissingMessage(parts_.Speech.Current, saveFolder_, parts_.Version));
-  }
-  while (isReady && !(lock_ = FolderLock::TryHold(saveFolder_))) isReady = AsksAgain();
-  const bool leaves = !isReady && fs::is_directory(saveFolder_, ignored);
-  complaining_ = false;
-  if (leaves) close();
-  return isReady;
-}
-
-void OrrerixMain::RunImport() {
-  PlaceForImport();
-  Database database;
-  const GameFolder game(GameFolderText());
-  try {
-    importing_ = !ImportGame(parts_.Log, host_, database,
-                             {game, saveFolder_, format_, parts_.Version}, DerivedStages())
-                      .Finished;
-  } catch (const ImportEnded&) {
-    // Whoever closes the form or aborts for lack of memory wants the program to end; Command1Click
-    // goes on with that.
-    host_.End();
-  } catch (const std::bad_alloc&) {
-    // There was not even memory for the question.
-    host_.End();
-  }
-  database.Close();
+  Redraw();
 }
 
 void OrrerixMain::ShowMap() {
@@ -301,31 +283,43 @@ void OrrerixMain::ShowMap() {
   importScreen_->hide();
   Routine routine(parts_.Log, "OrrerixMain.Form_Resize");
   routine.Run([&] {
-    const bool isFirstMap = !std::exchange(mapShown_, true);
-    const bool warns = isFirstMap && IsWarningWanted(routine, UniverseFile());
+    const bool isNew = phase_ != Phase::Map && phase_ != Phase::Printing;
+    if (isNew) phase_ = Phase::Map;
+    const bool warns = isNew && OnFirstMap && IsWarningWanted(routine, UniverseFile());
     Universe universe = OpenUniverse(routine);
     map_.InitDataUsage(universe);
-    if (warns && OnFirstMap) {
-      warning_ = true;
-      setEnabled(false);
-      const bool goesOn = OnFirstMap();
-      setEnabled(true);
-      if (!goesOn) {
-        // The form is just being shown: it goes when that is done.
-        QTimer::singleShot(0, this, [this] { hide(); });
-        return;
-      }
-      warning_ = false;
-    }
-    const bool prints = printSide_ > 0;
-    map_.Redraw(universe, prints ? printSide_ : OuterWidth(*this),
-                prints ? printSide_ : OuterHeight(*this));
-    play_.MapRedrawn();
-    newsPlay_.MapRedrawn();
+    if (warns && !AskBeforeFirstMap()) return;
+    OnFirstMap = nullptr;
+    const QSize drawn = DrawnSize();
+    map_.Redraw(universe, drawn.width(), drawn.height());
+    mapController_.MapRedrawn();
+    newsController_.MapRedrawn();
     // Not every desktop gives the focus to a form that is just shown.
-    if (isFirstMap) QueueFocus();
-    if (isFirstMap) map_.Frame().setFocus();
+    if (isNew) QueueFocus();
+    if (isNew) map_.Frame().setFocus();
   });
+}
+
+// False if the user would rather leave the program.
+bool OrrerixMain::AskBeforeFirstMap() {
+  phase_ = Phase::Warning;
+  setEnabled(false);
+  const bool goesOn = std::exchange(OnFirstMap, nullptr)();
+  setEnabled(true);
+  if (goesOn) {
+    phase_ = Phase::Map;
+  } else {
+    // The form is just being shown: it goes when that is done.
+    QTimer::singleShot(0, this, [this] { hide(); });
+  }
+  return goesOn;
+}
+
+// Outer size of the form that the map is drawn for, twips.
+QSize OrrerixMain::DrawnSize() const {
+  if (phase_ != Phase::Printing) return {OuterWidth(*this), OuterHeight(*this)};
+  const int side = static_cast<int>(Twips(screen()->geometry().height()));
+  return {side, side};
 }
 
 Universe OrrerixMain::OpenUniverse(Routine& routine) {
@@ -352,10 +346,10 @@ void OrrerixMain::UseTool(int index) {
   });
 }
 
-void OrrerixMain::InfoBoxLabelFillup(const std::string& text) {
+void OrrerixMain::ShowNews(const std::string& text) {
   Routine routine(parts_.Log, "OrrerixMain.InfoBoxLabelFillup", "While building up News-Table.");
   routine.Run([&] {
-    news_ = orrerix::InfoBoxLabelFillup(text);
+    news_ = ReadNews(text);
     std::vector<NewsItem> items;
     for (NewsEntry& entry : news_.Entries) {
       items.push_back({entry.Caption, entry.ToolTip, entry.Address});
@@ -381,21 +375,20 @@ void OrrerixMain::OpenLogoPage(bool firstHalf) {
 // and the warning.
 void OrrerixMain::QueueFocus() {
   QTimer::singleShot(0, this, [this] {
-    if (isVisible() && !warning_ && !importRuns_) FormGotFocus();
+    if (isVisible() && phase_ != Phase::Warning && !import_) GotFocus();
   });
 }
 
-void OrrerixMain::FormGotFocus() {
+void OrrerixMain::GotFocus() {
   Routine routine(parts_.Log, "OrrerixMain.Form_GotFocus");
   routine.Run([&] {
-    if (!IsUpdateDue(parts_.Version, news_.LatestVersion, updateNoticeShown_)) return;
-    updateNoticeShown_ = true;
-    if (OnUpdate) OnUpdate(news_);
+    if (!OnUpdate || !IsUpdateDue(parts_.Version, news_.LatestVersion)) return;
+    std::exchange(OnUpdate, nullptr)(news_);
   });
 }
 
 void OrrerixMain::PrintTheMap() {
-  if (printSide_ > 0) return;
+  if (phase_ != Phase::Map) return;
   const auto yield = [] { QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents); };
   Routine routine(parts_.Log, "OrrerixMain.PrintTheMap");
   routine.Run([&] {
@@ -404,33 +397,33 @@ void OrrerixMain::PrintTheMap() {
     setWindowState(Qt::WindowNoState);
     map_.State().PrintMode = true;
     const QRect screenRect = screen()->geometry();
-    printSide_ = static_cast<int>(Twips(screenRect.height()));
+    phase_ = Phase::Printing;
     SetOuterGeometry({screenRect.topLeft(), QSize(screenRect.height(), screenRect.height())});
-    FormResize();
+    Redraw();
     yield();
     routine.Try([&] {
       PrintForm(*this, map_.Frame(), parts_.Printing.DefaultPrinter(), parts_.Speech.Current);
     });
     yield();
     map_.State().PrintMode = false;
-    printSide_ = 0;
+    phase_ = Phase::Map;
     setGeometry(place);
     setWindowState(state);
-    FormResize();
+    Redraw();
   });
-  printSide_ = 0;
+  phase_ = Phase::Map;
 }
 
 void OrrerixMain::closeEvent(QCloseEvent* event) {
-  if (importRuns_) {
+  if (import_) {
     // The import is on the stack below this event: it has to end first.
-    host_.End();
+    import_->End();
     event->ignore();
     return;
   }
   event->accept();
   stations_.CloseAll();
-  if (OnQueryUnload) OnQueryUnload();
+  if (OnClosed) OnClosed();
 }
 
 }  // namespace orrerix

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QTimer>
 #include <QWidget>
 #include <filesystem>
 #include <functional>
@@ -9,21 +10,21 @@
 #include "db/engine.h"
 #include "db/working_copy.h"
 #include "forms/form_parts.h"
+#include "forms/import_session.h"
 #include "forms/map/map_controller.h"
 #include "forms/map/map_host.h"
 #include "forms/map/map_screen.h"
 #include "forms/map/news_controller.h"
 #include "forms/map/search_controller.h"
+#include "forms/reentry.h"
 #include "forms/start/import_screen.h"
-#include "forms/start/window_host.h"
 #include "forms/station/station_windows.h"
 #include "online/news.h"
-#include "platform/folder_lock.h"
 
 namespace orrerix {
 
-// The main form. It shows one of three screens, decided anew in every Form_Resize: first run,
-// importing, or the map.
+// The main form. It shows one of three screens, decided anew by every redraw: first run, importing,
+// or the map.
 class OrrerixMain : public QWidget, private MapHost {
  public:
   OrrerixMain(const FormParts& parts, Settings& settings, LanguageFile& language,
@@ -31,37 +32,38 @@ class OrrerixMain : public QWidget, private MapHost {
   ~OrrerixMain() override;
 
   // Finds the folders, tests the universe file, and asks for captions and the maximised state,
-  // unless the user cancels a failed step. False if the universe file is in use and the user would
-  // rather leave the program.
-  bool FormLoad();
+  // unless the user cancels a failed step. Nothing is laid out before. False if the universe file
+  // is in use and the user would rather leave the program.
+  bool Load();
 
-  // Shows the form as FormLoad left it: over the whole screen unless it was cancelled.
+  // Shows the form as Load left it: over the whole screen unless it was cancelled.
   void ShowLoaded();
 
   // Shows it over the whole screen.
   void ShowMaximised();
 
   // The one redraw of the form; whoever changes what the map shows calls it.
-  void FormResize() override;
+  void Redraw() override;
 
   // Prints the map as it is shown, on white paper: the form is a square of the screen's height
-  // meanwhile. Behind a failure that the user cancels it stays one, drawn for print.
+  // meanwhile. After a failure that the user cancels it stays one, drawn for print.
   void PrintTheMap();
 
-  bool Importing() const { return importing_; }
+  // Also true after an import that was given up.
+  bool Importing() const { return phase_ == Phase::Importing || phase_ == Phase::GivenUp; }
 
   // Called when the user closes the form and no import is running any more.
-  std::function<void()> OnQueryUnload;
+  std::function<void()> OnClosed;
 
   // Asked once before the first map, unless the universe's warning is off. If it answers false the
   // program is over and no map is drawn.
-  std::function<bool()> OnFirstMap;
+  std::function<bool()> OnFirstMap = [] { return true; };
 
   // A later version is there; called once, when the form has the focus.
   std::function<void(const News&)> OnUpdate;
 
   // Takes a news file over: labels in the panel, and the version that is the latest.
-  void InfoBoxLabelFillup(const std::string& text);
+  void ShowNews(const std::string& text);
 
   // Opens the link of a news label with the game's sound for that.
   void OpenNewsLink(int index) override;
@@ -69,7 +71,7 @@ class OrrerixMain : public QWidget, private MapHost {
   std::filesystem::path UniverseFile() const { return saveFolder_ / "Orrerix.fl"; }
   GameFolder Game() const override;
   MapScreen& Map() { return map_; }
-  MapController& Play() { return play_; }
+  MapController& Controller() { return mapController_; }
   const StationWindows& Stations() const { return stations_; }
 
  protected:
@@ -78,7 +80,19 @@ class OrrerixMain : public QWidget, private MapHost {
   void closeEvent(QCloseEvent* event) override;
 
  private:
-  void LoadFormTXT() override;
+  // What the form is about. Phase and universe file together decide which screen it shows.
+  enum class Phase {
+    Loading,    // before Load has done its work: nothing is laid out
+    FirstRun,   // a game folder is looked for
+    Preparing,  // of an import: questions about the save folder may be open
+    Importing,
+    GivenUp,  // an import that the user cancelled: its screen stays until the program is closed
+    Warning,  // the question before the first map is open, or was answered by an end
+    Map,
+    Printing  // the form is a square of the screen's height
+  };
+
+  void ReadCaptions() override;
   Universe OpenUniverse(Routine& routine) override;
   bool SearchPanelOpen() const override { return search_.Visible(); }
   void ShowStation(const std::string& nickname, const std::string& picture) override;
@@ -87,19 +101,21 @@ class OrrerixMain : public QWidget, private MapHost {
   void OpenLogoPage(bool firstHalf) override;
 
   void QueueFocus();
-  void FormGotFocus();
+  void GotFocus();
   std::string GameFolderText() const;
   void LookForGame();
   void ReplaceStarMap(Routine& routine, const std::filesystem::path& picture);
   bool ExamineUniverseFile(Routine& routine);
   bool AsksAgain();
-  bool PrepareSaveFolder();
-  void Command1Click();
-  void RunImport();
+  std::optional<FolderLock> LockSaveFolder();
+  void StartImport();
+  void RunImport(FolderLock lock);
   void PlaceForImport();
   void ShowImportScreen();
   void ShowScreen();
   void ShowMap();
+  bool AskBeforeFirstMap();
+  QSize DrawnSize() const;
   void KeepOnScreen();
   void SetOuterGeometry(const QRect& outer);
 
@@ -111,28 +127,19 @@ class OrrerixMain : public QWidget, private MapHost {
   std::filesystem::path saveFolder_;
   WorkingCopy copy_;
 
-  bool loaded_ = false;
-  bool isMaximised_ = false;  // as FormLoad wants it
-  bool importing_ = false;
-  bool importRuns_ = false;         // its routine is on the stack
-  std::optional<FolderLock> lock_;  // of the save folder, while it runs
-  bool lookQueued_ = false;         // for the game, from the event loop
-  bool complaining_ = false;        // that the game is missing
-  bool mapShown_ = false;
-  bool warning_ = false;  // the question before the first map is open, or was answered by an end
-  bool redrawing_ = false;
-  bool redrawWanted_ = false;  // while another one was running
-  bool updateNoticeShown_ = false;
+  Phase phase_ = Phase::Loading;
+  RepeatableStep redraw_;
+  QTimer lookForGame_;  // from the event loop
+  SingleMessage gameMissing_;
+  std::optional<ImportSession> import_;  // while it is on the stack
   News news_;
-  int printSide_ = 0;  // twips of the form's sides while it prints; else 0
 
   ImportScreen* importScreen_;
   MapScreen map_;
-  MapController play_;
+  MapController mapController_;
   SearchController search_;
-  NewsController newsPlay_;
+  NewsController newsController_;
   StationWindows stations_;
-  WindowHost host_;
 };
 
 }  // namespace orrerix

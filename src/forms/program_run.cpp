@@ -28,7 +28,7 @@ ProgramRun::ProgramRun(const FormParts& parts)
       loading_(parts.Pictures, parts.Speech),
       errorLog_(
           parts.Log, [this] { return main_ && main_->Importing(); }, parts.Speech) {
-  loading_.OnGotFocus = [this] { FormGotFocus(); };
+  loading_.OnGotFocus = [this] { GotFocus(); };
 }
 
 ProgramRun::~ProgramRun() = default;
@@ -37,7 +37,7 @@ void ProgramRun::Start() {
   loading_.show();
 }
 
-void ProgramRun::FormGotFocus() {
+void ProgramRun::GotFocus() {
   memStart_ = GlobalMemoryStatus();
   Yield();
   Routine routine(parts_.Log, "loading.Form_GotFocus",
@@ -57,7 +57,7 @@ void ProgramRun::FormGotFocus() {
     bool goesOn = true;
     routine.Try([&] { goesOn = LoadMain(); });
     if (!goesOn) next = Next::Leave;
-    if (goesOn && IsNewsFile(news)) main_->InfoBoxLabelFillup(news);
+    if (goesOn && IsNewsFile(news)) main_->ShowNews(news);
   });
   if (next == Next::Leave) return EndAtOnce();
   loading_.hide();
@@ -94,10 +94,10 @@ bool ProgramRun::LoadMain() {
   const auto& folder = parts_.Paths.ApplicationFolder;
   language_.emplace(parts_.Log, folder, *format_, parts_.Speech);
   main_ = std::make_unique<OrrerixMain>(parts_, *settings_, *language_, memStart_, *format_);
-  main_->OnQueryUnload = [this] { UnloadApp(); };
+  main_->OnClosed = [this] { CloseProgram(); };
   main_->OnFirstMap = [this] { return ShowSpoiler(); };
   main_->OnUpdate = [this](const News& news) { ShowUpdate(news); };
-  return main_->FormLoad();
+  return main_->Load();
 }
 
 // The warning before the first map. False if the user would rather leave.
@@ -105,7 +105,7 @@ bool ProgramRun::ShowSpoiler() {
   loading_.hide();
   Spoiler spoiler(ReadSpoilerTexts(main_->Game(), parts_.Speech.Current), parts_.Pictures,
                   parts_.Speech.Current);
-  spoiler.OnCheck1 = [this](bool checked) { SetWarningOff(main_->UniverseFile(), checked); };
+  spoiler.OnWarningOff = [this](bool checked) { SetWarningOff(main_->UniverseFile(), checked); };
   spoiler.OnTextClick = [this] {
     PlaySoundfile(parts_.Log, parts_.Sound, main_->Game(), kLinkSound);
     OpenLink(parts_.Links, PageAddress(parts_.Paths.NewsAddress, WebPage::WarningHelp));
@@ -120,8 +120,8 @@ bool ProgramRun::ShowSpoiler() {
 
 void ProgramRun::ShowUpdate(const News& news) {
   update_ = std::make_unique<Update>(news.UpdateToolTip, parts_.Pictures, parts_.Speech.Current);
-  update_->OnQueryUnload = [this] { main_->ShowMaximised(); };
-  update_->OnLabel1Click = [this] {
+  update_->OnClosed = [this] { main_->ShowMaximised(); };
+  update_->OnNoticeClicked = [this] {
     main_->OpenNewsLink(0);
     EndAtOnce();
   };
@@ -143,7 +143,7 @@ void ProgramRun::UnloadStartForms() {
 }
 
 // All other forms go first, with the start form on screen as the notice of it.
-void ProgramRun::UnloadApp() {
+void ProgramRun::CloseProgram() {
   loading_.ShowClosing(Yield);
   const QWidgetList forms = QApplication::topLevelWidgets();
   for (QWidget* form : forms) {

@@ -30,7 +30,7 @@ class ProgramRun {
   std::function<void()> OnEnd;
 
  private:
-  void FormGotFocus();
+  void GotFocus();
   bool CheckEngine();
   void ReadLanguage();
   std::string LoadNews();
@@ -39,7 +39,7 @@ class ProgramRun {
   void ShowUpdate(const News& news);
   void EndAtOnce();
   void UnloadStartForms();
-  void UnloadApp();
+  void CloseProgram();
 
   const FormParts& parts_;
   MemoryStatus memStart_;

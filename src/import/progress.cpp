@@ -20,18 +20,19 @@ struct Shares {
 };
 
 Shares SharesOf(std::int32_t maximum, std::int32_t value, const ImportProgress& progress) {
-  return {progress.ImportSteps == 0 ? 0.0
-                                    : progress.ImportDone / static_cast<double>(progress.ImportSteps),
+  return {progress.ImportSteps == 0
+              ? 0.0
+              : progress.ImportDone / static_cast<double>(progress.ImportSteps),
           maximum == 0 ? 0.0 : value / static_cast<double>(maximum)};
 }
 
-ProgressBox Centred(int x, int y, int halfWidth, int halfHeight) {
+WholeTwipRect Centred(int x, int y, int halfWidth, int halfHeight) {
   return {x - halfWidth, y - halfHeight, 2 * halfWidth, 2 * halfHeight};
 }
 
 }  // namespace
 
-ProgressPicture LayOutProgress(const ProgressBox& frame, std::int32_t maximum, std::int32_t value,
+ProgressPicture LayOutProgress(const WholeTwipRect& frame, std::int32_t maximum, std::int32_t value,
                                const ImportProgress& progress) {
   const auto [steps, part] = SharesOf(maximum, value, progress);
   const int y = Rounded(frame.Top + frame.Height / 2.0);
@@ -39,7 +40,8 @@ ProgressPicture LayOutProgress(const ProgressBox& frame, std::int32_t maximum, s
   const int x = Rounded(frame.Left + frame.Width / 2.0);
   const int halfWidth = Rounded(frame.Width / 2.0);
   const auto overall = [&, share = steps, within = part](int half) {
-    const double oneStep = progress.ImportSteps == 0 ? 0.0 : half / static_cast<double>(progress.ImportSteps);
+    const double oneStep =
+        progress.ImportSteps == 0 ? 0.0 : half / static_cast<double>(progress.ImportSteps);
     return Rounded(share * half + oneStep * within);
   };
   const int overallWidth = overall(halfWidth);

@@ -60,7 +60,7 @@ ControlList BorderPieces(BorderSet set, int left, int top, int right, int bottom
   return pieces;
 }
 
-ControlList SetRahmen(ErrorLog& log, BorderSet set, double right, double bottom) {
+ControlList LayOutBorder(ErrorLog& log, BorderSet set, double right, double bottom) {
   ControlList pieces;
   Routine routine(log, "OrrerixMain.SetRahmen", "While calcing a border");
   routine.Run(

@@ -22,6 +22,6 @@ ControlList BorderPieces(BorderSet set, int left, int top, int right, int bottom
 // The pieces from the top left corner of their parent to these sides (twips), which are rounded to
 // 32-bit integers. A side outside that range is a failure of this routine; on OK it counts as 0, on
 // Cancel there are no pieces.
-ControlList SetRahmen(ErrorLog& log, BorderSet set, double right, double bottom);
+ControlList LayOutBorder(ErrorLog& log, BorderSet set, double right, double bottom);
 
 }  // namespace orrerix

@@ -64,7 +64,7 @@ SwitchAnswer OptionSwitches::NextLanguage() {
   language_.SetCurrent(static_cast<Language>(below < 0 ? static_cast<int>(kLanguages) - 1 : below));
   settings_.WriteSettingValue("LANG", NumberText(static_cast<std::int64_t>(language_.Current())));
   SwitchAnswer answer;
-  answer.LoadFormTXT = true;
+  answer.ReadCaptions = true;
   answer.Redraw = true;
   return answer;
 }

@@ -17,7 +17,7 @@ MapOptions ReadMapOptions(Settings& settings, bool zoomed);
 
 // What a click on the panel asks of the window, in this order.
 struct SwitchAnswer {
-  bool LoadFormTXT = false;  // the captions are to be read in the new language
+  bool ReadCaptions = false;  // the captions are to be read in the new language
   bool Redraw = false;
 };
 

@@ -102,14 +102,14 @@ class Redraw {
   void ShowPaintedUniverse() {
     painted_ = {PaintedUniverse(drawing_.Frame, view_.StarMapFile)};
     const TwipRect& universe = painted_.front().Place;
-    border_ =
-        SetRahmen(universe_.Log, BorderSet::Map, universe.Width + kUniverseMargin, universe.Height);
+    border_ = LayOutBorder(universe_.Log, BorderSet::Map, universe.Width + kUniverseMargin,
+                           universe.Height);
   }
 
   void SurroundCells() {
     const double cell = drawing_.Cells.CellSize();
-    border_ = SetRahmen(universe_.Log, BorderSet::Map, Visible().Columns() * cell + kBorderMargin,
-                        Visible().Rows() * cell);
+    border_ = LayOutBorder(universe_.Log, BorderSet::Map,
+                           Visible().Columns() * cell + kBorderMargin, Visible().Rows() * cell);
   }
 
   void PlacePanel() {

@@ -61,7 +61,7 @@ Control Label(ControlId id, std::optional<int> index, TwipRect place, std::strin
 
 ControlList Border(const PanelView& view, BorderSet set, double right, double bottom) {
   if (view.PrintMode) return {};
-  return SetRahmen(view.Log, set, right, bottom);
+  return LayOutBorder(view.Log, set, right, bottom);
 }
 
 // Fits a picture of the logo's proportions into a room, as wide as it can be.

@@ -25,7 +25,7 @@ bool IsNewsFile(std::string_view text) {
   return Val(text) > 0;
 }
 
-News InfoBoxLabelFillup(std::string_view text) {
+News ReadNews(std::string_view text) {
   std::string whole(text);
   if (!text.ends_with(kLineEnd)) whole += kLineEnd;
   std::string_view rest = whole;
@@ -44,9 +44,9 @@ News InfoBoxLabelFillup(std::string_view text) {
   return news;
 }
 
-bool IsUpdateDue(const AppVersion& running, std::string_view latestVersion, bool shownBefore) {
+bool IsUpdateDue(const AppVersion& running, std::string_view latestVersion) {
   const std::string text = fmt::format("{}.{}", running.Major, running.Minor);
-  return Val(text) < Val(latestVersion) && text != latestVersion && !shownBefore;
+  return Val(text) < Val(latestVersion) && text != latestVersion;
 }
 
 }  // namespace orrerix

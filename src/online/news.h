@@ -32,10 +32,10 @@ bool IsNewsFile(std::string_view text);
 // Reads a news file, lines ending in CR LF: version, tool tip and address of the update notice,
 // then three lines for each entry. An entry with an empty line is dropped; one that the file's end
 // cuts short takes its missing lines from the entry before it.
-News InfoBoxLabelFillup(std::string_view text);
+News ReadNews(std::string_view text);
 
 // Whether a later version than the running one is to be announced. Versions compare as plain
 // decimals, so 1.10 is below 1.9.
-bool IsUpdateDue(const AppVersion& running, std::string_view latestVersion, bool shownBefore);
+bool IsUpdateDue(const AppVersion& running, std::string_view latestVersion);
 
 }  // namespace orrerix

@@ -2,23 +2,17 @@
 // Places of the log window's controls.
 #pragma once
 
-namespace orrerix {
+#include "shell/whole_twip_rect.h"
 
-struct ControlPlace {
-  int Left = 0;
-  int Top = 0;
-  int Width = 0;
-  int Height = 0;
-  bool operator==(const ControlPlace&) const = default;
-};
+namespace orrerix {
 
 // All in twips. The lower half has places only while it is seen.
 struct ErrorLogLayout {
-  ControlPlace DataHeading;     // Label1(0)
-  ControlPlace DataLog;         // Text1
+  WholeTwipRect DataHeading;
+  WholeTwipRect DataLog;
   bool LowerHalfVisible = false;
-  ControlPlace ProgramHeading;  // Label1(1)
-  ControlPlace ProgramLog;      // Text2
+  WholeTwipRect ProgramHeading;
+  WholeTwipRect ProgramLog;
 };
 
 // `width` and `height` are the window's outer size. As long as no program error occurred the data

@@ -27,16 +27,16 @@ TEST(Captions, OfTheImportScreenFollowTheLanguage) {
   QWidget form;
   const ImportScreen screen(pictures, choice, &form);
 
-  EXPECT_EQ(Find<QPushButton>(screen, "Command1").text(), "Lire les données");
+  EXPECT_EQ(Find<QPushButton>(screen, "StartButton").text(), "Lire les données");
 }
 
 TEST(Captions, OfTheWarningFollowTheLanguage) {
   PictureStore pictures;
   const Spoiler spoiler(DefaultSpoilerTexts(Language::German), pictures, Language::German);
 
-  EXPECT_EQ(Find<QPushButton>(spoiler, "Command1_1").text(),
+  EXPECT_EQ(Find<QPushButton>(spoiler, "Cancel").text(),
             "Abbrechen - Beenden und selbst suchen");
-  EXPECT_EQ(Find<QPushButton>(spoiler, "Command1_1").toolTip(), "Abbrechen - Programm beenden");
+  EXPECT_EQ(Find<QPushButton>(spoiler, "Cancel").toolTip(), "Abbrechen - Programm beenden");
 }
 
 TEST(Captions, OfTheStartFormFollowTheLanguage) {

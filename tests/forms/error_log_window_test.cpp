@@ -34,9 +34,9 @@ TEST_F(ErrorLogWindowTest, ItComesWithTheFirstLine) {
 
   EXPECT_TRUE(window.isVisible());
   EXPECT_EQ(window.windowTitle(), "FL-Orrerix Error Logfile.");
-  EXPECT_EQ(TextOf("Text1"),
+  EXPECT_EQ(TextOf("DataLog"),
             "FreeLancer-Files Error Logfile\n=======================\n\nCant find file: [x]");
-  EXPECT_FALSE(Find(window, "Text2").isVisible());
+  EXPECT_FALSE(Find(window, "ProgramLog").isVisible());
   EXPECT_FALSE(Find(window, "Label1_1").isVisible());
 }
 
@@ -44,12 +44,12 @@ TEST_F(ErrorLogWindowTest, TheCaretStandsAtTheEnd) {
   for (int i = 0; i < 100; ++i) log.AddErrorLine("line");
   PassEvents();
 
-  EXPECT_TRUE(Find<QPlainTextEdit>(window, "Text1").textCursor().atEnd());
+  EXPECT_TRUE(Find<QPlainTextEdit>(window, "DataLog").textCursor().atEnd());
 }
 
 TEST_F(ErrorLogWindowTest, LinesThatComeTogetherAreShownTogether) {
   log.AddErrorLine("first");
-  const auto& box = Find<QPlainTextEdit>(window, "Text1");
+  const auto& box = Find<QPlainTextEdit>(window, "DataLog");
   int changes = 0;
   QObject::connect(&box, &QPlainTextEdit::textChanged, [&changes] { ++changes; });
 
@@ -68,18 +68,18 @@ TEST_F(ErrorLogWindowTest, InItsHalfTheDataLogStillShowsItsEnd) {
 
   Fail();
 
-  const QScrollBar& bar = *Find<QPlainTextEdit>(window, "Text1").verticalScrollBar();
+  const QScrollBar& bar = *Find<QPlainTextEdit>(window, "DataLog").verticalScrollBar();
   EXPECT_EQ(bar.value(), bar.maximum());
 }
 
 TEST_F(ErrorLogWindowTest, AProgramErrorBringsTheLowerHalf) {
   Fail();
 
-  EXPECT_TRUE(Find(window, "Text2").isVisible());
+  EXPECT_TRUE(Find(window, "ProgramLog").isVisible());
   EXPECT_TRUE(Find(window, "Label1_1").isVisible());
-  EXPECT_TRUE(TextOf("Text2").contains("\n--> 6 in OrrerixMain.GetName Line 0\n"));
+  EXPECT_TRUE(TextOf("ProgramLog").contains("\n--> 6 in OrrerixMain.GetName Line 0\n"));
   EXPECT_EQ(Find(window, "Label1_1").geometry().bottom() + 1,
-            Find(window, "Text2").geometry().top());
+            Find(window, "ProgramLog").geometry().top());
 }
 
 TEST_F(ErrorLogWindowTest, TheDataLogFillsTheWindowUntilThen) {
@@ -88,7 +88,7 @@ TEST_F(ErrorLogWindowTest, TheDataLogFillsTheWindowUntilThen) {
   PassEvents();
 
   // 2 x 120 twips less than the outer width, 2 x 240 + 300 less than the outer height
-  EXPECT_EQ(Find(window, "Text1").size(), window.frameGeometry().size() - QSize(16, 52));
+  EXPECT_EQ(Find(window, "DataLog").size(), window.frameGeometry().size() - QSize(16, 52));
 }
 
 TEST_F(ErrorLogWindowTest, DuringAnImportClosingHidesItWithItsText) {
@@ -100,7 +100,7 @@ TEST_F(ErrorLogWindowTest, DuringAnImportClosingHidesItWithItsText) {
   log.AddErrorLine("two");
 
   EXPECT_TRUE(window.isVisible());
-  EXPECT_TRUE(TextOf("Text1").endsWith("\none\ntwo"));
+  EXPECT_TRUE(TextOf("DataLog").endsWith("\none\ntwo"));
 }
 
 TEST_F(ErrorLogWindowTest, OutsideAnImportClosingIsForGood) {
@@ -110,7 +110,7 @@ TEST_F(ErrorLogWindowTest, OutsideAnImportClosingIsForGood) {
   log.AddErrorLine("two");
 
   EXPECT_FALSE(window.isVisible());
-  EXPECT_FALSE(TextOf("Text1").contains("one"));
+  EXPECT_FALSE(TextOf("DataLog").contains("one"));
 }
 
 TEST_F(ErrorLogWindowTest, ItTakesNoFocus) {

@@ -23,8 +23,8 @@ class OrrerixMainTest : public FormFixture {
 
   void Load() {
     form.emplace(parts, settings, language, startMemory, JetVersionOption::Version30);
-    form->OnQueryUnload = [this] { ++unloads; };
-    form->FormLoad();
+    form->OnClosed = [this] { ++unloads; };
+    form->Load();
     form->ShowMaximised();
   }
 
@@ -51,8 +51,8 @@ TEST_F(OrrerixMainTest, WithoutAGameItAsksForThePath) {
   EXPECT_TRUE(messages.Shown[0].Text.starts_with("Problem finding [\\exe\\Freelancer.exe]"));
   EXPECT_NE(messages.Shown[0].Text.find("[" + *paths.Game + "]"), std::string::npos);
   EXPECT_EQ(form->windowTitle(), "FreeLancer Orrerix v1.0 Revision 0");
-  EXPECT_EQ(Find<QLineEdit>(*form, "Text2").text().toStdString(), *paths.Game);
-  EXPECT_TRUE(Find(*form, "Command1").isVisible());
+  EXPECT_EQ(Find<QLineEdit>(*form, "GameFolderEdit").text().toStdString(), *paths.Game);
+  EXPECT_TRUE(Find(*form, "StartButton").isVisible());
   EXPECT_FALSE(ShowsMap());
 }
 
@@ -87,7 +87,7 @@ TEST_F(OrrerixMainTest, AUniverseFileInUseIsLeftAlone) {
   messages.Answer = MessageAnswer::Leave;
   form.emplace(parts, settings, language, startMemory, JetVersionOption::Version30);
 
-  EXPECT_FALSE(form->FormLoad());
+  EXPECT_FALSE(form->Load());
 
   ASSERT_EQ(messages.Shown.size(), 1u);
   EXPECT_NE(messages.Shown[0].Text.find("Orrerix.fl"), std::string::npos);
@@ -113,7 +113,7 @@ TEST_F(OrrerixMainTest, CancelInTheStartSkipsTheRestOfItCaptionsAndMaximisingInc
   messages.Answer = MessageAnswer::Cancel;
   form.emplace(parts, settings, language, startMemory, JetVersionOption::Version30);
 
-  EXPECT_TRUE(form->FormLoad());
+  EXPECT_TRUE(form->Load());
   form->ShowLoaded();
 
   EXPECT_EQ(language.Current(), before);
@@ -139,10 +139,10 @@ TEST_F(OrrerixMainTest, APathTypedInStartsTheImportByTheButton) {
   Load();
   ASSERT_TRUE(WaitUntil([&] { return !messages.Shown.empty(); }));
 
-  auto& path = Find<QLineEdit>(*form, "Text2");
+  auto& path = Find<QLineEdit>(*form, "GameFolderEdit");
   path.clear();
   QTest::keyClicks(&path, QString::fromStdString(real));
-  QTest::mouseClick(&Find(*form, "Command1"), Qt::LeftButton);
+  QTest::mouseClick(&Find(*form, "StartButton"), Qt::LeftButton);
 
   EXPECT_TRUE(WaitUntil([&] { return ShowsMap(); }));
   EXPECT_TRUE(HasTableVersion());
@@ -207,7 +207,7 @@ TEST_F(OrrerixMainTest, APathWithoutTheGameIsComplainedOfDuringAnImportToo) {
   QTimer timer;
   QObject::connect(&timer, &QTimer::timeout, [&] {
     if (!form->Importing()) return;
-    Find<QLineEdit>(*form, "Text2").setText("/nowhere");
+    Find<QLineEdit>(*form, "GameFolderEdit").setText("/nowhere");
     form->resize(form->width() == 900 ? 901 : 900, 700);
   });
   timer.start(10);
@@ -260,7 +260,7 @@ TEST_F(OrrerixMainTest, AnImportThatIsGivenUpLeavesItsScreenStanding) {
 
   EXPECT_TRUE(form->Importing());
   EXPECT_FALSE(ShowsMap());
-  EXPECT_FALSE(Find(*form, "Command1").isVisible());
+  EXPECT_FALSE(Find(*form, "StartButton").isVisible());
   for (const char* shape : {"Progress0", "Progress1", "Progress2"}) {
     EXPECT_TRUE(Find(*form, shape).isVisible()) << shape;
   }
@@ -338,8 +338,8 @@ class OrrerixMainMapTest : public OrrerixMainTest {
       if (control.Id != ControlId::SystemLabel) continue;
       const auto x = static_cast<float>(control.Place.Left + 30);
       const auto y = static_cast<float>(control.Place.Top + 30);
-      form->Play().PressOnMap(x, y);
-      form->Play().ReleaseOnMap(PointerButton::Left, x, y);
+      form->Controller().PressOnMap(x, y);
+      form->Controller().ReleaseOnMap(PointerButton::Left, x, y);
       return;
     }
   }
@@ -366,8 +366,8 @@ TEST_F(OrrerixMainMapTest, AClickOnAnIconOpensAStationWindowAndTheyCloseWithTheF
   const int index = StationIcon();
   ASSERT_GT(index, 0);
 
-  form->Play().OpenStationOf(index);
-  form->Play().OpenStationOf(index);
+  form->Controller().OpenStationOf(index);
+  form->Controller().OpenStationOf(index);
 
   ASSERT_EQ(form->Stations().Windows().size(), 2U);
   EXPECT_EQ(form->Stations().Windows()[0]->Picture(), "Planet1");

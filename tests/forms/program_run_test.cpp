@@ -30,8 +30,8 @@ class ProgramRunTest : public FormFixture {
       ++warnings;
       headLine = Find<QLabel>(*form, "HeadLine").text();
       if (OnWarning) OnWarning(*form);
-      if (wantsNoMoreWarnings) Find<QCheckBox>(*form, "Check1").click();
-      Find<QPushButton>(*form, cancelsWarning ? "Command1_1" : "Command1_0").click();
+      if (wantsNoMoreWarnings) Find<QCheckBox>(*form, "WarningOff").click();
+      Find<QPushButton>(*form, cancelsWarning ? "Cancel" : "Ok").click();
     }
   }
 
@@ -139,7 +139,7 @@ TEST_F(ProgramRunTest, TheWarningStandsBeforeTheFirstMapAndOnce) {
   OnWarning = [this](QWidget&) { EXPECT_FALSE(ShowsMap()); };
 
   Show();
-  run.Main()->FormResize();
+  run.Main()->Redraw();
 
   EXPECT_EQ(warnings, 1);
   EXPECT_EQ(headLine, "Default SPOILER-WARNING");
@@ -229,7 +229,7 @@ TEST_F(NewsRunTest, NewsOutliveAChangeOfLanguage) {
   network.Page = NewsOf("1.0", 1);
   Show();
 
-  run.Main()->Play().ActivateOptionLabel(6);
+  run.Main()->Controller().ActivateOptionLabel(6);
   PassEvents();
 
   EXPECT_NE(PanelControl(ControlId::NewsLabel, 1), nullptr);
@@ -274,7 +274,7 @@ TEST_F(NewsRunTest, ALaterVersionIsAnnouncedOnceInThePlaceOfTheMap) {
   run.Main()->activateWindow();
   ASSERT_TRUE(WaitUntil([] { return UpdateForm() != nullptr; }));
   EXPECT_FALSE(run.Main()->isVisible());
-  EXPECT_TRUE(Find(*UpdateForm(), "Label1").toolTip().contains("A tip"));
+  EXPECT_TRUE(Find(*UpdateForm(), "UpdateNotice").toolTip().contains("A tip"));
 
   UpdateForm()->close();
 
@@ -290,7 +290,7 @@ TEST_F(NewsRunTest, AClickOnTheNoticeOpensTheMainPageAndEndsTheProgram) {
   run.Main()->activateWindow();
   ASSERT_TRUE(WaitUntil([] { return UpdateForm() != nullptr; }));
 
-  QTest::mouseClick(&Find(*UpdateForm(), "Label1"), Qt::LeftButton);
+  QTest::mouseClick(&Find(*UpdateForm(), "UpdateNotice"), Qt::LeftButton);
 
   EXPECT_EQ(links.Opened, (std::vector<std::string>{"http://x.example/OX"}));
   EXPECT_EQ(ends, 1);
@@ -304,7 +304,7 @@ TEST_F(NewsRunTest, TheTipOfTheNoticeIsPlainText) {
   run.Main()->activateWindow();
   ASSERT_TRUE(WaitUntil([] { return UpdateForm() != nullptr; }));
 
-  EXPECT_EQ(Find(*UpdateForm(), "Label1").toolTip(),
+  EXPECT_EQ(Find(*UpdateForm(), "UpdateNotice").toolTip(),
             "<span>Fixes &amp; &quot;more&quot;</span>");  // markup that shows the text as it is
 }
 

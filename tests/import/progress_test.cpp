@@ -11,8 +11,8 @@ TEST(LayOutProgress, GrowsFromTheMiddleOfTheFrame) {
   // 0.2 * 500 + 500 / 5 * 0.5 = 150 and 0.2 * 300 + 300 / 5 * 0.5 = 90; the inner one half of it.
   const ProgressPicture picture = LayOutProgress({100, 50, 1000, 600}, 100, 50, {5, 1});
 
-  EXPECT_EQ(picture.Overall, (ProgressBox{450, 260, 300, 180}));
-  EXPECT_EQ(picture.Inner, (ProgressBox{525, 305, 150, 90}));
+  EXPECT_EQ(picture.Overall, (WholeTwipRect{450, 260, 300, 180}));
+  EXPECT_EQ(picture.Inner, (WholeTwipRect{525, 305, 150, 90}));
 }
 
 TEST(LayOutProgress, RoundsHalvesToTheEvenNumber) {
@@ -20,19 +20,19 @@ TEST(LayOutProgress, RoundsHalvesToTheEvenNumber) {
   const ProgressPicture picture = LayOutProgress({50, 50, 603, 601}, 1, 1, {1, 0});
 
   // Half width 302 about 50 + 301.5 = 351.5, which is 352.
-  EXPECT_EQ(picture.Overall, (ProgressBox{50, 50, 604, 600}));
+  EXPECT_EQ(picture.Overall, (WholeTwipRect{50, 50, 604, 600}));
   EXPECT_EQ(picture.Inner, picture.Overall);
 }
 
 TEST(LayOutProgress, StartsAsAPointInTheMiddle) {
   const ProgressPicture picture = LayOutProgress({100, 50, 1000, 600}, 6, 0, {5, 0});
 
-  EXPECT_EQ(picture.Overall, (ProgressBox{600, 350, 0, 0}));
-  EXPECT_EQ(picture.Inner, (ProgressBox{600, 350, 0, 0}));
+  EXPECT_EQ(picture.Overall, (WholeTwipRect{600, 350, 0, 0}));
+  EXPECT_EQ(picture.Inner, (WholeTwipRect{600, 350, 0, 0}));
 }
 
 TEST(LayOutProgress, BearsAStepOfNothing) {
-  EXPECT_EQ(LayOutProgress({0, 0, 100, 100}, 0, 0, {0, 0}).Overall, (ProgressBox{50, 50, 0, 0}));
+  EXPECT_EQ(LayOutProgress({0, 0, 100, 100}, 0, 0, {0, 0}).Overall, (WholeTwipRect{50, 50, 0, 0}));
 }
 
 struct TextCase {

@@ -45,14 +45,14 @@ class SetRahmenTest : public ::testing::Test {
 };
 
 TEST_F(SetRahmenTest, SidesAreRoundedToTheEvenTwip) {
-  const ControlList pieces = SetRahmen(log, BorderSet::Map, 1000.5, 2001.5);
+  const ControlList pieces = LayOutBorder(log, BorderSet::Map, 1000.5, 2001.5);
 
   EXPECT_EQ(pieces.at(7).Place.Right(), 1000);
   EXPECT_EQ(pieces.at(7).Place.Bottom(), 2002);
 }
 
 TEST_F(SetRahmenTest, ASideThatNoIntegerHoldsIsAFailureOfTheBorder) {
-  const ControlList pieces = SetRahmen(log, BorderSet::Map, 1e10, 2000);
+  const ControlList pieces = LayOutBorder(log, BorderSet::Map, 1e10, 2000);
 
   ASSERT_EQ(log.Failures().size(), 1u);
   EXPECT_EQ(log.Failures()[0].Source, "OrrerixMain.SetRahmen");
@@ -64,7 +64,7 @@ TEST_F(SetRahmenTest, ASideThatNoIntegerHoldsIsAFailureOfTheBorder) {
 TEST_F(SetRahmenTest, OnCancelThereIsNoBorder) {
   messages.Answer = MessageAnswer::Cancel;
 
-  EXPECT_TRUE(SetRahmen(log, BorderSet::Map, 1e10, 2000).empty());
+  EXPECT_TRUE(LayOutBorder(log, BorderSet::Map, 1e10, 2000).empty());
 }
 
 }  // namespace

@@ -77,7 +77,7 @@ TEST_F(Switches, AClickTurnsOneOverAndStoresIt) {
   EXPECT_EQ(settings.ReadSetting("SET1-4"), "0");
   EXPECT_TRUE(Unloaded());
   EXPECT_TRUE(answer.Redraw);
-  EXPECT_FALSE(answer.LoadFormTXT);
+  EXPECT_FALSE(answer.ReadCaptions);
 
   Click(kTradeLanes);
 
@@ -128,7 +128,7 @@ TEST_F(Switches, TheLanguagesAreGoneThroughDownwards) {
 
   EXPECT_EQ(language.Current(), Language::French);
   EXPECT_EQ(settings.ReadSetting("LANG"), "2");
-  EXPECT_TRUE(answer.LoadFormTXT);
+  EXPECT_TRUE(answer.ReadCaptions);
   EXPECT_TRUE(answer.Redraw);
   EXPECT_FALSE(Unloaded());
   EXPECT_THAT(stored, IsEmpty());

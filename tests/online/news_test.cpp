@@ -20,7 +20,7 @@ TEST(NewsFile, ItBeginsWithANumberAboveZero) {
 }
 
 TEST(NewsFile, TheFirstThreeLinesAreAboutTheLatestVersion) {
-  const News news = InfoBoxLabelFillup(kHead);
+  const News news = ReadNews(kHead);
 
   EXPECT_EQ(news.LatestVersion, "1.5");
   EXPECT_EQ(news.UpdateToolTip, "Newer!");
@@ -29,54 +29,49 @@ TEST(NewsFile, TheFirstThreeLinesAreAboutTheLatestVersion) {
 }
 
 TEST(NewsFile, ThreeLinesEachMakeAnEntry) {
-  const News news = InfoBoxLabelFillup(std::string(kHead) +
-                                       "One\r\nFirst\r\nhttp://1\r\nTwo\r\nSecond\r\nhttp://2");
+  const News news =
+      ReadNews(std::string(kHead) + "One\r\nFirst\r\nhttp://1\r\nTwo\r\nSecond\r\nhttp://2");
 
   EXPECT_THAT(news.Entries, ElementsAre(NewsEntry{"One", "First", "http://1"},
                                         NewsEntry{"Two", "Second", "http://2"}));
 }
 
 TEST(NewsFile, AnEntryWithAnEmptyLineIsDropped) {
-  const News news = InfoBoxLabelFillup(std::string(kHead) +
-                                       "One\r\n\r\nhttp://1\r\nTwo\r\nSecond\r\nhttp://2\r\n");
+  const News news =
+      ReadNews(std::string(kHead) + "One\r\n\r\nhttp://1\r\nTwo\r\nSecond\r\nhttp://2\r\n");
 
   EXPECT_THAT(news.Entries, ElementsAre(NewsEntry{"Two", "Second", "http://2"}));
 }
 
 TEST(NewsFile, ALastEntryWithTwoLinesRepeatsTheAddressBeforeIt) {
-  const News news =
-      InfoBoxLabelFillup(std::string(kHead) + "One\r\nFirst\r\nhttp://1\r\nTwo\r\nSecond\r\n");
+  const News news = ReadNews(std::string(kHead) + "One\r\nFirst\r\nhttp://1\r\nTwo\r\nSecond\r\n");
 
   EXPECT_THAT(news.Entries, ElementsAre(NewsEntry{"One", "First", "http://1"},
                                         NewsEntry{"Two", "Second", "http://1"}));
 }
 
 TEST(NewsFile, AShortFileLeavesTheRestEmpty) {
-  const News news = InfoBoxLabelFillup("1.5");
+  const News news = ReadNews("1.5");
 
   EXPECT_EQ(news.LatestVersion, "1.5");
   EXPECT_EQ(news.UpdateToolTip, "");
-  EXPECT_EQ(InfoBoxLabelFillup("").LatestVersion, "");
+  EXPECT_EQ(ReadNews("").LatestVersion, "");
 }
 
 TEST(NewsFile, LinesWithoutCarriageReturnsAreOneLine) {
-  EXPECT_THAT(InfoBoxLabelFillup("1.5\nNewer!\nhttp://x\nOne\nTwo\nThree\n").Entries, IsEmpty());
+  EXPECT_THAT(ReadNews("1.5\nNewer!\nhttp://x\nOne\nTwo\nThree\n").Entries, IsEmpty());
 }
 
 TEST(UpdateNotice, ALaterVersionIsAnnounced) {
-  EXPECT_TRUE(IsUpdateDue({1, 0, 0}, "1.1", false));
-  EXPECT_TRUE(IsUpdateDue({1, 10, 0}, "1.9", false));  // as decimals
+  EXPECT_TRUE(IsUpdateDue({1, 0, 0}, "1.1"));
+  EXPECT_TRUE(IsUpdateDue({1, 10, 0}, "1.9"));  // as decimals
 }
 
 TEST(UpdateNotice, NoNewsTheSameAndAnEarlierVersionAreNot) {
-  EXPECT_FALSE(IsUpdateDue({1, 0, 0}, "", false));
-  EXPECT_FALSE(IsUpdateDue({1, 1, 0}, "1.1", false));
-  EXPECT_FALSE(IsUpdateDue({1, 1, 0}, "1.10", false));
-  EXPECT_FALSE(IsUpdateDue({2, 0, 0}, "1.9", false));
-}
-
-TEST(UpdateNotice, ItComesOnceARun) {
-  EXPECT_FALSE(IsUpdateDue({1, 0, 0}, "1.1", true));
+  EXPECT_FALSE(IsUpdateDue({1, 0, 0}, ""));
+  EXPECT_FALSE(IsUpdateDue({1, 1, 0}, "1.1"));
+  EXPECT_FALSE(IsUpdateDue({1, 1, 0}, "1.10"));
+  EXPECT_FALSE(IsUpdateDue({2, 0, 0}, "1.9"));
 }
 
 }  // namespace

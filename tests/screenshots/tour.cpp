@@ -170,17 +170,17 @@ void Tour::TakeUpdate() {
 
 void Tour::TakeMap() {
   TakeMain("map");
-  for (const int pictures : {0, 1}) Play().ToggleSwitch(pictures);
+  for (const int pictures : {0, 1}) Controller().ToggleSwitch(pictures);
   PassEvents();
   TakeMain("map-pictures");
-  for (const int pictures : {0, 1}) Play().ToggleSwitch(pictures);
+  for (const int pictures : {0, 1}) Controller().ToggleSwitch(pictures);
 }
 
 void Tour::TakeOptions() {
-  Play().UnfoldOptions();
+  Controller().UnfoldOptions();
   PassEvents();
   TakeMain("map-options");
-  Play().MoveOverMap(PointerButton::None, 0, 0);
+  Controller().MoveOverMap(PointerButton::None, 0, 0);
 }
 
 // Around the system in the middle, `cells` to each side.
@@ -194,8 +194,8 @@ void Tour::ZoomInto(int cells) {
   const auto to = [&](double corner) {
     return static_cast<float>(corner + place.Width / 2 + reach);
   };
-  Play().PressOnMap(from(place.Left), from(place.Top));
-  Play().ReleaseOnMap(PointerButton::Left, to(place.Left), to(place.Top));
+  Controller().PressOnMap(from(place.Left), from(place.Top));
+  Controller().ReleaseOnMap(PointerButton::Left, to(place.Left), to(place.Top));
   PassEvents();
 }
 
@@ -207,8 +207,8 @@ void Tour::TakeMain(const QString& name) {
 }
 
 void Tour::ZoomOut() {
-  Play().PressOnMap(10, 10);
-  Play().ReleaseOnMap(PointerButton::Right, 10, 10);
+  Controller().PressOnMap(10, 10);
+  Controller().ReleaseOnMap(PointerButton::Right, 10, 10);
   PassEvents();
 }
 
@@ -223,10 +223,10 @@ void Tour::TakeZoomed() {
 void Tour::TakeHover() {
   const std::vector<int> stations = Stations(Drawing());
   if (stations.empty()) throw std::runtime_error("the system in the middle has no station");
-  Play().HoverIcon(stations.front());
+  Controller().HoverIcon(stations.front());
   PassEvents();
   TakeMain("hover");
-  Play().MoveOverMap(PointerButton::None, 0, 0);
+  Controller().MoveOverMap(PointerButton::None, 0, 0);
 }
 
 void Tour::ClickPanel(ControlId id, int index) {
@@ -255,7 +255,7 @@ void Tour::TakeSearch() {
 // The first station of the map at which ships and equipment are sold; null if there is none.
 StationInfo* Tour::OpenRichStation() {
   for (const int icon : Stations(Drawing())) {
-    Play().OpenStationOf(icon);
+    Controller().OpenStationOf(icon);
     PassEvents();
     const auto& windows = run_.Main()->Stations().Windows();
     if (windows.empty()) continue;

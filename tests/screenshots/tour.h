@@ -32,7 +32,7 @@ class Tour {
   void TakeErrorLog();
   void TakeFailure();
 
-  MapController& Play() { return run_.Main()->Play(); }
+  MapController& Controller() { return run_.Main()->Controller(); }
   const MapDrawing& Drawing() { return run_.Main()->Map().Drawing(); }
   void Wait(const char* what, const std::function<bool()>& isSo);
   void TakeMain(const QString& name);

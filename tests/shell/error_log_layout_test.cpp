@@ -11,8 +11,8 @@ TEST(ErrorLogLayout, TheDataLogFillsTheWindowAtFirst) {
   const ErrorLogLayout layout = LayOutErrorLog(7455, 6060, false);
 
   EXPECT_FALSE(layout.LowerHalfVisible);
-  EXPECT_EQ(layout.DataLog, (ControlPlace{120, 240, 7215, 5280}));
-  EXPECT_EQ(layout.DataHeading, (ControlPlace{120, 0, 7095, 255}));
+  EXPECT_EQ(layout.DataLog, (WholeTwipRect{120, 240, 7215, 5280}));
+  EXPECT_EQ(layout.DataHeading, (WholeTwipRect{120, 0, 7095, 255}));
 }
 
 TEST(ErrorLogLayout, BothLogsShareTheWindowFromTheFirstErrorOn) {
@@ -20,9 +20,9 @@ TEST(ErrorLogLayout, BothLogsShareTheWindowFromTheFirstErrorOn) {
   const ErrorLogLayout layout = LayOutErrorLog(7455, 6060, true);
 
   EXPECT_TRUE(layout.LowerHalfVisible);
-  EXPECT_EQ(layout.DataLog, (ControlPlace{120, 240, 7215, 2790}));
-  EXPECT_EQ(layout.ProgramHeading, (ControlPlace{120, 3030, 7095, 255}));
-  EXPECT_EQ(layout.ProgramLog, (ControlPlace{120, 3285, 7215, 2475}));
+  EXPECT_EQ(layout.DataLog, (WholeTwipRect{120, 240, 7215, 2790}));
+  EXPECT_EQ(layout.ProgramHeading, (WholeTwipRect{120, 3030, 7095, 255}));
+  EXPECT_EQ(layout.ProgramLog, (WholeTwipRect{120, 3285, 7215, 2475}));
 }
 
 TEST(ErrorLogLayout, NoSizeGoesBelowZero) {

@@ -7,8 +7,8 @@
 #include <algorithm>
 #include <cmath>
 
-#include "forms/start/import_screen_layout.h"
 #include "picture/twips.h"
+#include "shell/whole_twip_rect.h"
 
 namespace orrerix {
 
@@ -18,7 +18,7 @@ inline QRect PixelRect(int left, int top, int width, int height) {
   return {QPoint(pixel(left), pixel(top)),
           QSize(pixel(left + width) - pixel(left), pixel(top + height) - pixel(top))};
 }
-inline QRect PixelRect(const FormPlace& place) {
+inline QRect PixelRect(const WholeTwipRect& place) {
   return PixelRect(place.Left, place.Top, place.Width, place.Height);
 }
 

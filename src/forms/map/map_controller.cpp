@@ -54,7 +54,7 @@ void MapController::MoveOverMap(PointerButton held, float x, float y) {
   Routine routine(log_, "OrrerixMain.SysmapFrame_MouseMove");
   routine.Run([&] {
     MoveAnswer answer = gestures_.MouseMove(held, x, y, box_.IsHoverBox());
-    if (answer.Redraw) form_.FormResize();
+    if (answer.Redraw) form_.Redraw();
     if (answer.EndHover) box_.EndHover();
     if (!answer.RubberBand.empty()) {
       screen_.Scene().ShowInFront(FrontLayer::RubberBand, std::move(answer.RubberBand));
@@ -69,7 +69,7 @@ void MapController::ReleaseOnMap(PointerButton released, float x, float y) {
     const ReleaseAnswer answer = gestures_.MouseUp(released, screen_.Drawing().Cells, x, y);
     if (answer.Beep) sound_.Beep();
     Play(answer.Sound);
-    if (answer.Redraw) form_.FormResize();
+    if (answer.Redraw) form_.Redraw();
   });
 }
 
@@ -115,7 +115,7 @@ void MapController::OpenStationOf(int index) {
 // The panel.
 
 void MapController::UnfoldOptions() {
-  if (switches_.UnfoldOptions(form_.SearchPanelOpen())) form_.FormResize();
+  if (switches_.UnfoldOptions(form_.SearchPanelOpen())) form_.Redraw();
 }
 
 void MapController::ToggleSwitch(int index) {
@@ -127,8 +127,8 @@ void MapController::ActivateOptionLabel(int index) {
 }
 
 void MapController::Follow(const SwitchAnswer& answer) {
-  if (answer.LoadFormTXT) form_.LoadFormTXT();
-  if (answer.Redraw) form_.FormResize();
+  if (answer.ReadCaptions) form_.ReadCaptions();
+  if (answer.Redraw) form_.Redraw();
 }
 
 void MapController::PanelClick(ControlId id, int index) {
@@ -166,7 +166,7 @@ void MapController::PanelKeyClick(ControlId id, int index) {
 
 void MapController::FoldOrUnfold() {
   if (!std::exchange(screen_.State().OptionsOpen, false)) return UnfoldOptions();
-  form_.FormResize();
+  form_.Redraw();
 }
 
 // The mouse.

@@ -15,10 +15,10 @@ class MapHost {
   virtual ~MapHost() = default;
 
   // The one redraw.
-  virtual void FormResize() = 0;
+  virtual void Redraw() = 0;
 
   // Reads all captions in the language in use.
-  virtual void LoadFormTXT() = 0;
+  virtual void ReadCaptions() = 0;
 
   // The universe file, open. One that cannot be read is a failure of `routine`.
   virtual Universe OpenUniverse(Routine& routine) = 0;

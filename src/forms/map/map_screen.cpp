@@ -30,7 +30,7 @@ MapScreen::~MapScreen() {
   pictures_.OnWanted = nullptr;
 }
 
-void MapScreen::LoadFormTXT() {
+void MapScreen::ReadCaptions() {
   panel_ = PanelTexts(texts_);
   frame_->setAccessibleName(QString::fromStdString(texts_.Text(TextId::StarMap)));
   panel_.News.front().Link = ownLink_;
@@ -45,7 +45,7 @@ void MapScreen::LoadFormTXT() {
 void MapScreen::SetNews(std::string ownLink, std::vector<NewsItem> news) {
   ownLink_ = std::move(ownLink);
   news_ = std::move(news);
-  LoadFormTXT();
+  ReadCaptions();
 }
 
 void MapScreen::InitDataUsage(Universe& universe) {

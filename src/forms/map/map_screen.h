@@ -28,7 +28,7 @@ class MapScreen {
   void ReplaceStarMap(std::string file) { starMap_ = std::move(file); }
 
   // Takes the captions over from the language in use.
-  void LoadFormTXT();
+  void ReadCaptions();
 
   // Shows these news below the program's own line, from the next redraw on. `ownLink` is that
   // line's.

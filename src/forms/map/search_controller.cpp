@@ -12,11 +12,11 @@
 namespace orrerix {
 namespace {}  // namespace
 
-SearchController::SearchController(MapScreen& screen, MapHost& form, MapController& play,
+SearchController::SearchController(MapScreen& screen, MapHost& form, MapController& controller,
                                    ErrorLog& log, LanguageFile& language)
     : screen_(screen),
       form_(form),
-      play_(play),
+      controller_(controller),
       log_(log),
       language_(language),
       view_(new SearchPanelView(*this, &screen.Frame())),
@@ -96,8 +96,8 @@ void SearchController::Follow(SearchAnswer answer) {
 
 void SearchController::ShowInfo(ControlList box) {
   infoBox_->Show(box);
-  if (box.empty()) return play_.Box().Hide();
-  play_.Box().ShowElsewhere(std::move(box));
+  if (box.empty()) return controller_.Box().Hide();
+  controller_.Box().ShowElsewhere(std::move(box));
 }
 
 void SearchController::Jump(const std::string& nickname) {
@@ -110,7 +110,7 @@ void SearchController::Jump(const std::string& nickname) {
     const ZoomRectangle square{cell.X, cell.Y, cell.X, cell.Y};
     if (!square.IsValid())
       return routine.Fail(RuntimeFailure(failure_number::kSubscriptOutOfRange));
-    if (play_.PushZoomStack(square)) form_.FormResize();
+    if (controller_.PushZoomStack(square)) form_.Redraw();
     const ControlList& controls = screen_.Drawing().Controls;
     const auto icon = std::find_if(controls.begin(), controls.end(), [&](const Control& control) {
       return control.Id == ControlId::MapIcon && IconText(control) == target->Nickname;
@@ -118,10 +118,10 @@ void SearchController::Jump(const std::string& nickname) {
     // The move may fold the options, which redraws the map.
     const bool found = icon != controls.end();
     const int index = found ? icon->Index.value_or(0) : 0;
-    play_.MoveOverMap(PointerButton::None, 0, 0);
+    controller_.MoveOverMap(PointerButton::None, 0, 0);
     if (!found) return routine.Fail(RuntimeFailure(failure_number::kSubscriptOutOfRange));
-    play_.HoverIcon(index);
-    play_.OpenStationOf(index);
+    controller_.HoverIcon(index);
+    controller_.OpenStationOf(index);
     screen_.Frame().setFocus();
   });
 }

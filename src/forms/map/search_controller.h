@@ -15,7 +15,7 @@ namespace orrerix {
 class SearchController : private SearchEvents {
  public:
   // All of these must outlive this; the widgets belong to the map's frame.
-  SearchController(MapScreen& screen, MapHost& form, MapController& play, ErrorLog& log,
+  SearchController(MapScreen& screen, MapHost& form, MapController& controller, ErrorLog& log,
                    LanguageFile& language);
   ~SearchController() override;
   SearchController(const SearchController&) = delete;
@@ -44,7 +44,7 @@ class SearchController : private SearchEvents {
 
   MapScreen& screen_;
   MapHost& form_;
-  MapController& play_;
+  MapController& controller_;
   ErrorLog& log_;
   LanguageFile& language_;
   QtTextMeasure measure_{FixedFont};

@@ -6,6 +6,7 @@
 #include "forms/controls/captions.h"
 #include "forms/controls/form_geometry.h"
 #include "forms/controls/tiled_ground.h"
+#include "forms/start/import_screen_layout.h"
 #include "picture/form_font.h"
 
 namespace orrerix {
@@ -34,12 +35,12 @@ ImportScreen::ImportScreen(PictureStore& pictures, const LanguageChoice& choice,
     : QWidget(parent),
       pictures_(pictures),
       choice_(choice),
-      text1_(new QPlainTextEdit(this)),
-      text2_(new QLineEdit(this)),
-      command1_(new QPushButton(this)),
+      importText_(new QPlainTextEdit(this)),
+      gameFolderEdit_(new QLineEdit(this)),
+      startButton_(new QPushButton(this)),
       memFrame_(new MemFrame(choice, this)) {
   setObjectName("ImportScreen");
-  MakeText1();
+  MakeImportText();
   MakePathRow();
   ShowCaptions();
   for (std::size_t i = 0; i < progress_.size(); ++i) {
@@ -52,56 +53,55 @@ ImportScreen::ImportScreen(PictureStore& pictures, const LanguageChoice& choice,
 
 void ImportScreen::ShowCaptions() {
   const Language language = choice_.Current;
-  text1_->setAccessibleName(CaptionIn(language, TextId::ImportProgressName));
-  text1_->setPlainText(CaptionIn(language, TextId::ImportBegins) + "\n");
-  text2_->setAccessibleName(CaptionIn(language, TextId::GameFolderName));
-  command1_->setText(CaptionIn(language, TextId::StartImport));
+  importText_->setAccessibleName(CaptionIn(language, TextId::ImportProgressName));
+  importText_->setPlainText(CaptionIn(language, TextId::ImportBegins) + "\n");
+  gameFolderEdit_->setAccessibleName(CaptionIn(language, TextId::GameFolderName));
+  startButton_->setText(CaptionIn(language, TextId::StartImport));
 }
 
-void ImportScreen::MakeText1() {
-  text1_->setObjectName("Text1");
-  text1_->setReadOnly(true);
-  text1_->setFont(FixedFont(kTextFont));
-  text1_->setStyleSheet(kTextStyle);
+void ImportScreen::MakeImportText() {
+  importText_->setObjectName("ImportText");
+  importText_->setReadOnly(true);
+  importText_->setFont(FixedFont(kTextFont));
+  importText_->setStyleSheet(kTextStyle);
 }
 
 void ImportScreen::MakePathRow() {
-  text2_->setObjectName("Text2");
-  text2_->setText("C:\\Programme\\Microsoft Games\\Freelancer");
-  text2_->setFont(FormFont(kTextFont));
-  text2_->setStyleSheet(kPathStyle);
-  command1_->setObjectName("Command1");
-  command1_->setFont(FormFont(kTextFont));
-  command1_->setStyleSheet(kButtonStyle);
+  gameFolderEdit_->setObjectName("GameFolderEdit");
+  gameFolderEdit_->setText("C:\\Programme\\Microsoft Games\\Freelancer");
+  gameFolderEdit_->setFont(FormFont(kTextFont));
+  gameFolderEdit_->setStyleSheet(kPathStyle);
+  startButton_->setObjectName("StartButton");
+  startButton_->setFont(FormFont(kTextFont));
+  startButton_->setStyleSheet(kButtonStyle);
 }
 
 void ImportScreen::LayOut(int formWidth, int formHeight, bool importing) {
-  FormPlace row{0, 0, 0, kRowHeight};
+  WholeTwipRect row{0, 0, 0, kRowHeight};
   const ImportScreenLayout layout =
       LayOutImportScreen({formWidth, formHeight, kButtonWidth, MemFrame::DesignHeight, importing});
-  text1_->setGeometry(PixelRect(layout.Text1));
-  row = layout.Text2;
+  importText_->setGeometry(PixelRect(layout.Text));
+  row = layout.GameFolder;
   row.Height = kRowHeight;
-  text2_->setGeometry(PixelRect(row));
-  row = layout.Command1;
+  gameFolderEdit_->setGeometry(PixelRect(row));
+  row = layout.StartButton;
   row.Height = kRowHeight;
-  command1_->setGeometry(PixelRect(row));
-  text2_->setVisible(!importing);
-  command1_->setVisible(!importing);
+  startButton_->setGeometry(PixelRect(row));
+  gameFolderEdit_->setVisible(!importing);
+  startButton_->setVisible(!importing);
   memFrame_->setVisible(importing);
   progress_[0]->setVisible(importing);
   if (!importing) return;
   memFrame_->setGeometry(PixelRect(layout.MemFrame));
   progress_[0]->setGeometry(PixelRect(layout.Progress));
-  const FormPlace& place = layout.Progress;
-  progressPlace_ = {place.Left, place.Top, place.Width, place.Height};
+  progressPlace_ = layout.Progress;
 }
 
 void ImportScreen::ShowProgress(std::int32_t maximum, std::int32_t value,
                                 const ImportProgress& progress) {
   const ProgressPicture picture = LayOutProgress(progressPlace_, maximum, value, progress);
-  const auto place = [](ProgressShape& shape, const ProgressBox& box) {
-    shape.setGeometry(PixelRect(box.Left, box.Top, box.Width, box.Height));
+  const auto place = [](ProgressShape& shape, const WholeTwipRect& box) {
+    shape.setGeometry(PixelRect(box));
     shape.show();
   };
   place(*progress_[1], picture.Overall);

@@ -27,9 +27,9 @@ class ImportScreen : public QWidget {
   void ShowProgress(std::int32_t maximum, std::int32_t value, const ImportProgress& progress);
   void HideProgress();
 
-  QPlainTextEdit& Text1() { return *text1_; }
-  QLineEdit& Text2() { return *text2_; }
-  QPushButton& Command1() { return *command1_; }
+  QPlainTextEdit& ImportText() { return *importText_; }
+  QLineEdit& GameFolderEdit() { return *gameFolderEdit_; }
+  QPushButton& StartButton() { return *startButton_; }
   MemFrame& Memory() { return *memFrame_; }
 
  protected:
@@ -37,17 +37,17 @@ class ImportScreen : public QWidget {
 
  private:
   void ShowCaptions();
-  void MakeText1();
+  void MakeImportText();
   void MakePathRow();
 
   PictureStore& pictures_;
   const LanguageChoice& choice_;
-  QPlainTextEdit* text1_;
-  QLineEdit* text2_;
-  QPushButton* command1_;
+  QPlainTextEdit* importText_;
+  QLineEdit* gameFolderEdit_;
+  QPushButton* startButton_;
   std::array<ProgressShape*, 3> progress_;
   MemFrame* memFrame_;
-  ProgressBox progressPlace_;  // Progress(0)
+  WholeTwipRect progressPlace_;  // Progress(0)
 };
 
 }  // namespace orrerix

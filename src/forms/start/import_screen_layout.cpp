@@ -9,11 +9,11 @@ namespace orrerix {
 
 ImportScreenLayout LayOutImportScreen(const ImportScreenInput& input) {
   ImportScreenLayout layout;
-  FormPlace& text = layout.Text1;
+  WholeTwipRect& text = layout.Text;
   text.Left = 100;
   text.Top = 50;
   if (input.Importing) {
-    FormPlace& memory = layout.MemFrame;
+    WholeTwipRect& memory = layout.MemFrame;
     memory.Top = std::max(0, input.FormHeight - 500 - input.MemFrameHeight);
     memory.Width = std::max(0, input.FormWidth - 50);
     memory.Height = input.MemFrameHeight;
@@ -25,14 +25,14 @@ ImportScreenLayout LayOutImportScreen(const ImportScreenInput& input) {
     text.Height = std::max(0, input.FormHeight - 1000);
   }
   const int below = text.Top + text.Height + 100;
-  layout.Command1 = {std::max(0, input.FormWidth - 300 - input.ButtonWidth), below,
-                     input.ButtonWidth, 0};
-  layout.Text2 = {text.Left, below, std::max(0, layout.Command1.Left - text.Left - 200), 0};
+  layout.StartButton = {std::max(0, input.FormWidth - 300 - input.ButtonWidth), below,
+                        input.ButtonWidth, 0};
+  layout.GameFolder = {text.Left, below, std::max(0, layout.StartButton.Left - text.Left - 200), 0};
   return layout;
 }
 
-FormPlace ImportWindowPlace(int screenWidth, int screenHeight, int memFrameHeight) {
-  FormPlace place;
+WholeTwipRect ImportWindowPlace(int screenWidth, int screenHeight, int memFrameHeight) {
+  WholeTwipRect place;
   place.Width = screenWidth;
   place.Height = WholeTwips(screenWidth / 2.0 + 300 + memFrameHeight);
   place.Top = std::max(0, WholeTwips(screenHeight / 2.0 - place.Height / 2.0));

@@ -30,10 +30,11 @@ constexpr QRgb kBandEdge = 0xFF5AB4DC;
 constexpr const char* kStyle =
     "#HeadLine { color: #ffd060; }"
     "#Text { background: rgba(6, 10, 34, 225); color: #d8e4ff; border: none; }"
-    "#Check1 { color: #d8e4ff; }"
-    "#Check1::indicator { width: 15px; height: 15px; image: url(:/pictures/tools/check_off.svg); }"
-    "#Check1::indicator:checked { image: url(:/pictures/tools/check_on.svg); }"
-    "#Check1:focus { color: #ffffff; text-decoration: underline; }"
+    "#WarningOff { color: #d8e4ff; }"
+    "#WarningOff::indicator { width: 15px; height: 15px; image: "
+    "url(:/pictures/tools/check_off.svg); }"
+    "#WarningOff::indicator:checked { image: url(:/pictures/tools/check_on.svg); }"
+    "#WarningOff:focus { color: #ffffff; text-decoration: underline; }"
     "QPushButton { background: #1c3478; color: #f0f4ff; border: 1px solid #5a7cd0;"
     "  border-radius: 4px; }"
     "QPushButton:hover, QPushButton:focus { background: #2a4a9c; border-color: #7ac8f0; }"
@@ -60,14 +61,14 @@ Spoiler::Spoiler(const SpoilerTexts& texts, PictureStore& pictures, Language lan
   text_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   text_->setTabChangesFocus(true);
   text_->viewport()->installEventFilter(this);
-  check1_ = new QCheckBox(caption(TextId::SpoilerOff), this);
-  check1_->setObjectName("Check1");
-  check1_->setFont(FormFont(kCheckFont));
-  QObject::connect(check1_, &QCheckBox::toggled, this, [this](bool checked) {
-    if (OnCheck1) OnCheck1(checked);
+  warningOff_ = new QCheckBox(caption(TextId::SpoilerOff), this);
+  warningOff_->setObjectName("WarningOff");
+  warningOff_->setFont(FormFont(kCheckFont));
+  QObject::connect(warningOff_, &QCheckBox::toggled, this, [this](bool checked) {
+    if (OnWarningOff) OnWarningOff(checked);
   });
-  ok_ = AddButton("Command1_0", texts.Ok, caption(TextId::SpoilerOkTip));
-  cancel_ = AddButton("Command1_1", texts.Cancel, caption(TextId::SpoilerCancelTip));
+  ok_ = AddButton("Ok", texts.Ok, caption(TextId::SpoilerOkTip));
+  cancel_ = AddButton("Cancel", texts.Cancel, caption(TextId::SpoilerCancelTip));
   QObject::connect(ok_, &QPushButton::clicked, this, &QDialog::accept);
   QObject::connect(cancel_, &QPushButton::clicked, this, &QDialog::reject);
   ok_->setFocus();
@@ -91,11 +92,11 @@ int Spoiler::FittingFont(const QString& text, int width) const {
   return size;
 }
 
-void Spoiler::FormResize() {
+void Spoiler::LayOut() {
   const SpoilerPlaces places = LayOutSpoiler(OuterWidth(*this), OuterHeight(*this));
   headLine_->setGeometry(PixelRect(places.HeadLine));
   text_->setGeometry(PixelRect(places.Text));
-  check1_->setGeometry(PixelRect(places.Check1));
+  warningOff_->setGeometry(PixelRect(places.WarningOff));
   ok_->setGeometry(PixelRect(places.Ok));
   cancel_->setGeometry(PixelRect(places.Cancel));
   for (QPushButton* button : {ok_, cancel_}) {
@@ -137,7 +138,7 @@ void Spoiler::paintEvent(QPaintEvent*) {
 
 void Spoiler::resizeEvent(QResizeEvent* event) {
   QDialog::resizeEvent(event);
-  FormResize();
+  LayOut();
 }
 
 // Escape neither spoils the game nor ends the program.

@@ -21,7 +21,7 @@ class Spoiler : public QDialog {
   Spoiler(const SpoilerTexts& texts, PictureStore& pictures, Language language);
 
   // The check box was set or cleared.
-  std::function<void(bool)> OnCheck1;
+  std::function<void(bool)> OnWarningOff;
 
   // A click anywhere in the text.
   std::function<void()> OnTextClick;
@@ -35,7 +35,7 @@ class Spoiler : public QDialog {
 
  private:
   QPushButton* AddButton(const char* name, const std::string& caption, const QString& toolTip);
-  void FormResize();
+  void LayOut();
   int FittingFont(const QString& text, int width) const;
   void FitText(int width);
 
@@ -44,7 +44,7 @@ class Spoiler : public QDialog {
   QtTextMeasure courierMeasure_{CourierFont};
   QLabel* headLine_;
   QPlainTextEdit* text_;
-  QCheckBox* check1_;
+  QCheckBox* warningOff_;
   QPushButton* ok_;
   QPushButton* cancel_;
 };

@@ -26,9 +26,10 @@ SpoilerPlaces LayOutSpoiler(int width, int height) {
   places.Ok = {kSide, buttonTop, buttonWidth, kButtonHeight};
   places.Cancel = {std::max(0, width / 2), buttonTop, buttonWidth, kButtonHeight};
   places.HeadLine = {0, 0, std::max(0, width), kHeadHeight};
-  places.Check1 = {kSide, std::max(0, buttonTop - kCheckHeight - kGap), kCheckWidth, kCheckHeight};
+  places.WarningOff = {kSide, std::max(0, buttonTop - kCheckHeight - kGap), kCheckWidth,
+                       kCheckHeight};
   places.Text = {kSide, kTextTop, std::max(0, width - 3 * kSide),
-                 std::max(0, places.Check1.Top - kTextTop - kGap)};
+                 std::max(0, places.WarningOff.Top - kTextTop - kGap)};
   return places;
 }
 

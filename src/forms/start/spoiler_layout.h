@@ -7,11 +7,11 @@ namespace orrerix {
 
 // Places on the warning's form, twips.
 struct SpoilerPlaces {
-  FormPlace HeadLine;
-  FormPlace Text;
-  FormPlace Check1;
-  FormPlace Ok;      // Command1(0)
-  FormPlace Cancel;  // Command1(1)
+  WholeTwipRect HeadLine;
+  WholeTwipRect Text;
+  WholeTwipRect WarningOff;
+  WholeTwipRect Ok;
+  WholeTwipRect Cancel;
 };
 
 // Lays the warning out on a form of this outer size. No width, height or place goes below 0.

@@ -33,15 +33,15 @@ Update::Update(const std::string& toolTip, PictureStore& pictures, Language lang
   setWindowTitle(CaptionIn(language, TextId::UpdateTitle));
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
-  label1_ = new QPushButton(CaptionIn(language, TextId::UpdateNotice), this);
-  label1_->setObjectName("Label1");
-  label1_->setFont(FormFont(kFont));
-  label1_->setStyleSheet(kStyle);
-  label1_->setCursor(Qt::PointingHandCursor);
-  label1_->setToolTip(PlainToolTip(toolTip));
-  layout->addWidget(label1_);
-  QObject::connect(label1_, &QPushButton::clicked, this, [this] {
-    if (OnLabel1Click) OnLabel1Click();
+  notice_ = new QPushButton(CaptionIn(language, TextId::UpdateNotice), this);
+  notice_->setObjectName("UpdateNotice");
+  notice_->setFont(FormFont(kFont));
+  notice_->setStyleSheet(kStyle);
+  notice_->setCursor(Qt::PointingHandCursor);
+  notice_->setToolTip(PlainToolTip(toolTip));
+  layout->addWidget(notice_);
+  QObject::connect(notice_, &QPushButton::clicked, this, [this] {
+    if (OnNoticeClicked) OnNoticeClicked();
   });
   adjustSize();
   move(QGuiApplication::primaryScreen()->availableGeometry().center() - rect().center());
@@ -55,7 +55,7 @@ void Update::paintEvent(QPaintEvent*) {
 
 void Update::closeEvent(QCloseEvent* event) {
   event->accept();
-  if (OnQueryUnload) OnQueryUnload();
+  if (OnClosed) OnClosed();
 }
 
 }  // namespace orrerix

@@ -17,8 +17,8 @@ class Update : public QWidget {
   Update(const std::string& toolTip, PictureStore& pictures, Language language);
 
   // A click on its label; the window was closed by the user.
-  std::function<void()> OnLabel1Click;
-  std::function<void()> OnQueryUnload;
+  std::function<void()> OnNoticeClicked;
+  std::function<void()> OnClosed;
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -26,7 +26,7 @@ class Update : public QWidget {
 
  private:
   PictureStore& pictures_;
-  QPushButton* label1_;
+  QPushButton* notice_;
 };
 
 }  // namespace orrerix

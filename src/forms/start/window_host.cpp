@@ -28,12 +28,12 @@ WindowHost::WindowHost(QWidget& form, ImportScreen& screen, MessageBoxes& messag
       choice_(choice) {}
 
 void WindowHost::ShowText(std::string_view text) {
-  screen_.Text1().setPlainText(Text(text));
+  screen_.ImportText().setPlainText(Text(text));
 }
 
 void WindowHost::AppendText(std::string_view text) {
-  screen_.Text1().moveCursor(QTextCursor::End);
-  screen_.Text1().insertPlainText(Text(text));
+  screen_.ImportText().moveCursor(QTextCursor::End);
+  screen_.ImportText().insertPlainText(Text(text));
 }
 
 void WindowHost::ProgressIt(std::int32_t maximum, std::int32_t value,

@@ -39,11 +39,11 @@ class MapControllerFixture : public UniverseFixture, private MapHost {
     }
     settings.ReadSetting("LANG");
     language.InitLanguages();
-    map.LoadFormTXT();
+    map.ReadCaptions();
     map.InitDataUsage(universe);
     form.resize(1000, 650);
     form.show();
-    Redraw();
+    DrawMap();
   }
 
   void Dock(std::string_view nickname, double x, double y) {
@@ -58,7 +58,7 @@ class MapControllerFixture : public UniverseFixture, private MapHost {
 
   MapHost& Form() { return *this; }
 
-  void Redraw() {
+  void DrawMap() {
     map.Redraw(universe, 14200, 9100);
     play.MapRedrawn();
   }
@@ -66,7 +66,7 @@ class MapControllerFixture : public UniverseFixture, private MapHost {
   // Shows just this rectangle, with the whole grid behind it.
   void Zoom(const ZoomRectangle& rectangle) {
     map.State().Zoom.PushZoomStack(log, rectangle);
-    Redraw();
+    DrawMap();
     redraws = 0;
   }
 
@@ -161,11 +161,11 @@ class MapControllerFixture : public UniverseFixture, private MapHost {
  private:
   Qt::MouseButton held_ = Qt::NoButton;
 
-  void FormResize() override {
+  void Redraw() override {
     ++redraws;
-    Redraw();
+    DrawMap();
   }
-  void LoadFormTXT() override { map.LoadFormTXT(); }
+  void ReadCaptions() override { map.ReadCaptions(); }
   Universe OpenUniverse(Routine&) override { return universe; }
   GameFolder Game() const override { return GameFolder(folder.Path().string()); }
   bool SearchPanelOpen() const override { return searchPanelOpen; }

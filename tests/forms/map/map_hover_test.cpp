@@ -135,7 +135,7 @@ TEST_F(MapHoverTest, ItsBoxStaysWhenTheIconIsNoLongerThereUntilTheMouseMoves) {
 TEST_F(MapHoverTest, ARedrawWhileAQuestionIsOpenLeavesNoIconBehind) {
   const QPoint at = At("li01_nw_base");
   db.Execute(mustWork, "DROP TABLE Objects");
-  messages.WhileShown = [this] { Redraw(); };
+  messages.WhileShown = [this] { DrawMap(); };
 
   Move(at);
 
@@ -149,7 +149,7 @@ TEST_F(MapHoverTest, AnotherBoxStaysThroughMovesAndRedrawsAndKeepsHoversAway) {
   play.Box().Show({shape});
 
   Move({100, 300});
-  Redraw();
+  DrawMap();
   Move(At("li01_nw_base"));
 
   EXPECT_THAT(Shown(ControlId::BoxShape), SizeIs(1));

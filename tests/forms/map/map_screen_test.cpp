@@ -14,7 +14,7 @@ class MapScreenTest : public UniverseFixture {
     Add("Systems", {{"nickname", "Li01"}, {"realname", "New York"}, {"pos", "8, 10"}});
     form.resize(800, 600);
     form.show();
-    map.LoadFormTXT();
+    map.ReadCaptions();
     map.InitDataUsage(universe);
   }
 

@@ -19,7 +19,7 @@ class NewsControllerTest : public MapControllerFixture {
     }
     map.SetNews("http://x.example/OX", items);
     news.OnMoved = [this] { play.NewsMoved(); };
-    Redraw();
+    DrawMap();
     news.MapRedrawn();
   }
 
@@ -69,7 +69,7 @@ TEST_F(NewsControllerTest, ARedrawPutsThemBack) {
   const auto before = Labels();
   news.ScrollNews();
 
-  Redraw();
+  DrawMap();
   news.MapRedrawn();
 
   EXPECT_EQ(Labels(), before);

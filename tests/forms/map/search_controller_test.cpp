@@ -31,7 +31,7 @@ class SearchControllerTest : public MapControllerFixture {
                     {"ids_info", 0}});
     }
     Add("BaseGoods", {{"Base", "quay"}, {"GoodNick", "lamp"}});
-    Redraw();
+    DrawMap();
   }
 
   template <typename Child = QWidget>

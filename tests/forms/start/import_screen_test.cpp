@@ -22,21 +22,21 @@ class ImportScreenTest : public FormFixture {
 TEST_F(ImportScreenTest, BeforeAnImportThereAreTextPathAndButton) {
   screen.LayOut(12000, 9000, false);
 
-  EXPECT_TRUE(Find(form, "Text1").isVisible());
-  EXPECT_TRUE(Find(form, "Text2").isVisible());
-  EXPECT_TRUE(Find(form, "Command1").isVisible());
+  EXPECT_TRUE(Find(form, "ImportText").isVisible());
+  EXPECT_TRUE(Find(form, "GameFolderEdit").isVisible());
+  EXPECT_TRUE(Find(form, "StartButton").isVisible());
   EXPECT_FALSE(Find(form, "MemFrame").isVisible());
   EXPECT_FALSE(Find(form, "Progress0").isVisible());
-  EXPECT_EQ(screen.Command1().text(), "Start getting Data");
-  EXPECT_EQ(screen.Text1().toPlainText(), "Analyzing Database.....\n");
+  EXPECT_EQ(screen.StartButton().text(), "Start getting Data");
+  EXPECT_EQ(screen.ImportText().toPlainText(), "Analyzing Database.....\n");
 }
 
 TEST_F(ImportScreenTest, DuringAnImportThereAreTextProgressAndMemory) {
   screen.LayOut(12000, 9000, true);
 
-  EXPECT_TRUE(Find(form, "Text1").isVisible());
-  EXPECT_FALSE(Find(form, "Text2").isVisible());
-  EXPECT_FALSE(Find(form, "Command1").isVisible());
+  EXPECT_TRUE(Find(form, "ImportText").isVisible());
+  EXPECT_FALSE(Find(form, "GameFolderEdit").isVisible());
+  EXPECT_FALSE(Find(form, "StartButton").isVisible());
   EXPECT_TRUE(Find(form, "MemFrame").isVisible());
   EXPECT_TRUE(Find(form, "Progress0").isVisible());
 }
@@ -85,7 +85,7 @@ TEST_F(ImportScreenTest, AMinimisedFormGetsItsCaptionsAllTheSame) {
 TEST_F(ImportScreenTest, WhatTakesTheKeyboardHasANameForScreenReaders) {
   for (const QWidget* child : screen.findChildren<QWidget*>()) {
     if (child->focusPolicy() == Qt::NoFocus || child->objectName().isEmpty()) continue;
-    if (child->objectName() == "Command1") continue;  // named by its caption
+    if (child->objectName() == "StartButton") continue;  // named by its caption
     EXPECT_FALSE(child->accessibleName().isEmpty()) << child->objectName().toStdString();
   }
 }

@@ -16,9 +16,9 @@ TEST(SpoilerLayout, ButtonsShareTheWidthAtTheBottom) {
   const SpoilerPlaces places = LayOutSpoiler(20000, 12000);
 
   // (20000 - 5 x 240) / 2; 12000 - 735 - 240 - 400
-  EXPECT_EQ(places.Ok, (FormPlace{240, 10625, 9400, 735}));
-  EXPECT_EQ(places.Cancel, (FormPlace{10000, 10625, 9400, 735}));
-  EXPECT_EQ(places.Check1.Top, 10200);  // 10625 - 375 - 50
+  EXPECT_EQ(places.Ok, (WholeTwipRect{240, 10625, 9400, 735}));
+  EXPECT_EQ(places.Cancel, (WholeTwipRect{10000, 10625, 9400, 735}));
+  EXPECT_EQ(places.WarningOff.Top, 10200);  // 10625 - 375 - 50
   EXPECT_EQ(places.HeadLine.Width, 20000);
   EXPECT_EQ(places.Text.Width, 19280);  // 20000 - 3 x 240
   EXPECT_EQ(places.Text.Top + places.Text.Height, 10150);
@@ -29,7 +29,7 @@ TEST(SpoilerLayout, NothingGoesBelowZero) {
 
   EXPECT_EQ(places.Ok.Width, 0);
   EXPECT_EQ(places.Ok.Top, 0);
-  EXPECT_EQ(places.Check1.Top, 0);
+  EXPECT_EQ(places.WarningOff.Top, 0);
   EXPECT_EQ(places.Text.Width, 0);
   EXPECT_EQ(places.Text.Height, 0);
 }
@@ -49,7 +49,7 @@ class SpoilerTest : public ::testing::Test {
 
 TEST_F(SpoilerTest, ItShowsItsTexts) {
   EXPECT_EQ(Find<QLabel>(form, "HeadLine").text(), "Default SPOILER-WARNING");
-  EXPECT_EQ(Find<QPushButton>(form, "Command1_0").text(), "OK - View MAP and spoil it");
+  EXPECT_EQ(Find<QPushButton>(form, "Ok").text(), "OK - View MAP and spoil it");
   EXPECT_TRUE(Find<QPlainTextEdit>(form, "Text").toPlainText().endsWith("OX - Vantor."));
   EXPECT_EQ(Find<QPlainTextEdit>(form, "Text").toPlainText().count('\n'), 11);
 }
@@ -64,12 +64,12 @@ TEST_F(SpoilerTest, AModsTextIsNoMarkup) {
 }
 
 TEST_F(SpoilerTest, OkAcceptsAndCancelRejects) {
-  QTest::mouseClick(&Find(form, "Command1_0"), Qt::LeftButton);
+  QTest::mouseClick(&Find(form, "Ok"), Qt::LeftButton);
   EXPECT_EQ(form.result(), QDialog::Accepted);
 
   Spoiler other(texts, pictures, Language::English);
   other.show();
-  QTest::mouseClick(&Find(other, "Command1_1"), Qt::LeftButton);
+  QTest::mouseClick(&Find(other, "Cancel"), Qt::LeftButton);
   EXPECT_EQ(other.result(), QDialog::Rejected);
   EXPECT_FALSE(other.isVisible());
 }
@@ -89,11 +89,11 @@ TEST_F(SpoilerTest, EscapeDoesNothing) {
 TEST_F(SpoilerTest, TheCheckBoxAndTheTextTellOfClicks) {
   std::vector<bool> checks;
   int clicks = 0;
-  form.OnCheck1 = [&](bool checked) { checks.push_back(checked); };
+  form.OnWarningOff = [&](bool checked) { checks.push_back(checked); };
   form.OnTextClick = [&] { ++clicks; };
 
-  Find<QCheckBox>(form, "Check1").click();
-  Find<QCheckBox>(form, "Check1").click();
+  Find<QCheckBox>(form, "WarningOff").click();
+  Find<QCheckBox>(form, "WarningOff").click();
   QTest::mouseClick(Find<QPlainTextEdit>(form, "Text").viewport(), Qt::LeftButton);
 
   EXPECT_EQ(checks, (std::vector{true, false}));
@@ -142,7 +142,7 @@ TEST_F(SpoilerTest, AButtonsSizeDependsOnItsWidthAlone) {
   PassEvents();
 
   // Two letters in half of the window: far higher than the button.
-  const auto& button = Find<QPushButton>(mods, "Command1_0");
+  const auto& button = Find<QPushButton>(mods, "Ok");
   EXPECT_GT(QFontMetrics(button.font()).height(), button.height());
 }
 
