@@ -15,7 +15,7 @@ namespace {
 
 using Step = std::function<double(MapWindow&)>;
 
-// Times one step again and again, each behind `back`, which is not measured.
+// Times one step again and again, each after `back`, which is not measured.
 void Time(benchmark::State& state, MapWindow& window, const Step& step, const Step& back) {
   for (auto _ : state) {
     back(window);

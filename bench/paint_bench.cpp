@@ -81,10 +81,10 @@ class PaintBench {
   }
 
   void Show(MapScene& scene, QSize window) {
-    scene.Show(DrawMap(
-        universe_, map_,
-        {static_cast<int>(Twips(window.width())), static_cast<int>(Twips(window.height())),
-         MapOptions::Defaults(redraw_.Rectangle.IsZoomed()), measure_, panel_}));
+    scene.Show(
+        DrawMap(universe_, map_,
+                {static_cast<int>(Twips(window.width())), static_cast<int>(Twips(window.height())),
+                 MapOptions::Defaults(redraw_.Rectangle.IsZoomed()), measure_, panel_}));
     view_.setScene(&scene);
     view_.resize(window);
     view_.viewport()->render(&canvas_);
@@ -101,7 +101,7 @@ class PaintBench {
   QtTextMeasure measure_;
   MapState map_;
   QImage canvas_;
-  QGraphicsView view_;  // a window: pictures get finer behind the redraw, which is not measured
+  QGraphicsView view_;  // a window: pictures get finer after the redraw, which is not measured
 };
 
 }  // namespace

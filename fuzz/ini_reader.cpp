@@ -36,11 +36,6 @@ class QuietHost : public ImportHost {
   bool IsDebugging() const override { return false; }
 };
 
-class Ignore : public FailureSink {
- public:
-  void Fail(const Failure&) override {}
-};
-
 // A game folder of this process's own, made once.
 const fs::path& Game() {
   static const fs::path game = [] {
@@ -58,7 +53,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
       .write(reinterpret_cast<const char*>(data), static_cast<std::streamsize>(size));
   AlwaysOk messages;
   QuietHost host;
-  Ignore ignore;
+  IgnoreFailures ignore;
   ErrorLog log(messages, AppVersion{1, 0, 0});
   Database database = DBEngine::CreateInMemory(ignore);
   database.Begin(ignore);

@@ -23,7 +23,7 @@ class Nebula {
   // The light of the gas at a place in the colours of `palette`.
   Rgb Light(GridPoint place, const Palette& palette, const GasView& view) const;
 
-  // The share of light from behind that the dust lanes let through, 0 to 1.
+  // The share of light from after that the dust lanes let through, 0 to 1.
   double Clear(GridPoint place, const GasView& view) const;
 
  private:

@@ -80,7 +80,7 @@ void DrawGlobePixel(Rgb& pixel, const Planet& planet, const Ground& ground, Spot
   pixel = pixel + ground.Air * (0.16 * air * lit);
 }
 
-// A flat ring, seen from above at a slant; the half behind the globe is hidden by it.
+// A flat ring, seen from above at a slant; the half after the globe is hidden by it.
 double RingAt(const Planet& planet, Spot at) {
   const double dx = (at.X - planet.Middle.X) / planet.Radius;
   const double dy = (at.Y - planet.Middle.Y) / planet.Radius;

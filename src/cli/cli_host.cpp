@@ -34,7 +34,7 @@ CliHost::~CliHost() {
 }
 
 void CliHost::ShowText(std::string_view text) {
-  // A file being read comes with the block that is looked at behind it.
+  // A file being read comes with the block that is looked at after it.
   doing_ = text.starts_with("reading file") ? std::string(text.substr(0, text.find('\r')))
                                             : LastLine(text);
 }

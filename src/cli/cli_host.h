@@ -9,7 +9,7 @@
 namespace orrerix {
 
 // Runs an import without a window. On a terminal it shows a bar with the percent text and the file
-// being read; elsewhere, or if it is told to be quiet, nothing.
+// being read; elsewhere, or with --quiet, nothing.
 class CliHost : public ImportHost {
  public:
   CliHost(MessageBoxes& messages, bool quiet);

@@ -15,6 +15,7 @@
 #include "derived/stages.h"
 #include "import/import_driver.h"
 #include "platform/folder_lock.h"
+#include "shell/startup.h"
 
 namespace orrerix {
 namespace fs = std::filesystem;
@@ -102,7 +103,7 @@ class ImportVerb {
           fmt::format("the universe file '{}' is being used by another process", target.string()));
     };
     FolderLock unlocked;
-    if (target.filename() == "Orrerix.fl") {
+    if (target == UniverseFileIn(target.parent_path())) {
       auto lock = FolderLock::TryHold(target.parent_path());
       if (!lock) throw inUse();
       unlocked = std::move(*lock);
@@ -145,7 +146,7 @@ class ImportVerb {
     database_.Close();
     if (!result.Finished || !IsStamped()) return false;
     std::error_code error;
-    fs::rename(work.Path() / "Orrerix.fl", target, error);
+    fs::rename(UniverseFileIn(work.Path()), target, error);
     return !error;
   }
 

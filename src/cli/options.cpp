@@ -22,15 +22,9 @@ class Stop : public FailureSink {
   void Fail(const Failure& failure) override { throw CouldNot(failure.Description); }
 };
 
-// What fails is looked at by its outcome.
-class Quiet : public FailureSink {
- public:
-  void Fail(const Failure&) override {}
-};
-
 // The stamp of a universe, the last thing that an import writes; nothing if it is not there.
 std::optional<std::string> StampOf(Database& universe) {
-  Quiet quiet;
+  IgnoreFailures quiet;
   Recordset version = universe.OpenRecordset(quiet, "SELECT * from Version");
   if (version.AtEnd()) return std::nullopt;
   return version["Version"].Get().Text();
@@ -59,7 +53,7 @@ fs::path CommonOptions::DatabasePath() const {
   PolicyMessageBoxes messages(*this);
   ErrorLog log(messages, CurrentVersion());
   const auto registry = NativeRegistry();
-  return SaveFolderBelow(GameRegistry(log, *registry).GetPersonalFolder()) / "Orrerix.fl";
+  return UniverseFileIn(SaveFolderBelow(GameRegistry(log, *registry).GetPersonalFolder()));
 }
 
 orrerix::Language CommonOptions::CaptionLanguage() const {

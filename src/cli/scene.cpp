@@ -24,7 +24,7 @@ std::vector<int> ParseNumbers(const std::string& text, char separator, std::size
     if (error != std::errc() || (next != end && *next != separator)) break;
     numbers.push_back(number);
     at = next == end ? end : next + 1;
-    if (next != end && at == end) break;  // a separator with nothing behind it
+    if (next != end && at == end) break;  // a separator with nothing after it
     if (at == end && numbers.size() == count) return numbers;
   }
   throw WrongUsage("'" + text + "' is not " + std::to_string(count) +

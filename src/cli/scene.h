@@ -14,7 +14,8 @@
 
 namespace orrerix {
 
-// The mouse on the map before it is told: a drag with the left button, or a right click.
+// A gesture on the map, played before the list is made: a drag with the left button, or a right
+// click.
 struct Drag {
   float X1;
   float Y1;

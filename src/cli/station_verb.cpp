@@ -21,7 +21,7 @@ struct StationWords {
   std::optional<std::string> Layout;  // "WxH"
 };
 
-// Everything that is told of a place.
+// The whole answer for one place.
 struct StationAnswer {
   StationData Data;
   std::vector<std::string> Names;  // of the rows of the price table

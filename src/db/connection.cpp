@@ -139,7 +139,7 @@ void Connection::Forget(std::string_view table) {
 }
 
 void Connection::Hold(const TableDef& table) {
-  // A statement tells what it asks for when it is prepared.
+  // Preparing a statement reports the tables that it uses.
   if (held_.empty()) sqlite3_set_authorizer(handle_, NoteTable, this);
   held_.emplace_back(table);
   tables_[FoldAscii(table.Name)] = held_.back().SharedDefinition();

@@ -71,8 +71,8 @@ class Database {
   // Appends rows that were kept in memory to a table with the same fields.
   void Append(FailureSink& sink, const HeldRows& rows, const TableDef& table);
 
-  // Opens the rows of a query text (query_text.h tells what may stand in it). A failed query gives
-  // a recordset without rows.
+  // Opens the rows of a query text (see query_text.h for what may stand in it). A failed query
+  // gives a recordset without rows.
   Recordset OpenRecordset(FailureSink& sink, std::string_view text,
                           std::initializer_list<Value> values = {},
                           RecordsetType type = RecordsetType::Snapshot);

@@ -84,7 +84,7 @@ Database DBEngine::CreateDatabase(FailureSink& sink, const fs::path& path,
 Database DBEngine::OpenDatabase(FailureSink& sink, const fs::path& path) {
   return Guarded(sink, [&] {
     auto connection = Connect(path, SQLITE_OPEN_READWRITE);
-    // SQLite opens anything; reading the head of the file tells whether it is a database, and takes
+    // SQLite opens anything; reading the head of the file shows whether it is a database, and takes
     // the same time for any number of tables.
     Run(*connection, "PRAGMA schema_version");
     return connection;

@@ -60,7 +60,7 @@ void LenFunction(sqlite3_context* context, sqlite3_value** arguments) {
   sqlite3_result_int64(context, static_cast<sqlite3_int64>(Len(TextOf(arguments[0]))));
 }
 
-// Left or Right, told apart by the function that cuts.
+// Left or Right, distinguished by the function that cuts.
 template <auto Cut>
 void CutFunction(sqlite3_context* context, sqlite3_value** arguments) {
   if (IsNull(arguments[0])) return sqlite3_result_null(context);

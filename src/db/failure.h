@@ -7,7 +7,7 @@
 
 namespace orrerix {
 
-// Numbers of the failures that the program itself raises or tells apart.
+// Numbers of the failures that the program itself raises or distinguishes.
 namespace failure_number {
 inline constexpr int kInvalidProcedureCall = 5;
 inline constexpr int kOverflow = 6;
@@ -75,6 +75,12 @@ class FailureSink {
   // Returns if the work is to go on as if the operation had not been there; otherwise it leaves by
   // an exception that only the routine's own frame catches.
   virtual void Fail(const Failure& failure) = 0;
+};
+
+// For operations whose outcome is answer enough: what fails counts as not done, unreported.
+class IgnoreFailures : public FailureSink {
+ public:
+  void Fail(const Failure&) override {}
 };
 
 }  // namespace orrerix

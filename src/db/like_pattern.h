@@ -8,11 +8,11 @@
 
 namespace orrerix {
 
-// A pattern made ready for many texts: "*" any run, "?" one character, "#" one digit, "[a-z]" one of
-// a set, "[!a-z]" one outside it. The case of ASCII letters does not count.
+// A pattern made ready for many texts: "*" any run, "?" one character, "#" one digit, "[a-z]" one
+// of a set, "[!a-z]" one outside it. The case of ASCII letters does not count.
 class LikePattern {
  public:
-  // Nothing for an invalid pattern: a "[" with no "]" behind it, or a range from high to low.
+  // Nothing for an invalid pattern: a "[" with no "]" after it, or a range from high to low.
   static std::optional<LikePattern> Compile(std::string_view pattern);
 
   bool Matches(std::string_view text) const;

@@ -45,7 +45,7 @@ std::string WholeDigits(const Decimal& decimal) {
   return whole;
 }
 
-// Digits behind the decimal sign.
+// Digits after the decimal sign.
 std::string FractionDigits(const Decimal& decimal) {
   if (decimal.Digits.empty()) return {};
   if (decimal.Exponent < 0) {

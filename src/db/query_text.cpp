@@ -79,18 +79,23 @@ class Translator {
   Translator(std::vector<Token> tokens, bool hasPlaces, bool withRowid)
       : tokens_(std::move(tokens)), hasPlaces_(hasPlaces), withRowid_(withRowid) {}
 
-  // False if there is text behind the statement.
+  // False if there is text after the statement.
   bool Run() {
     for (at_ = 0; at_ < tokens_.size(); ++at_) {
       const Token& token = tokens_[at_];
       switch (token.Kind) {
-        case Token::Kind::Literal: WriteLiteral(token.Text); break;
-        case Token::Kind::Word: WriteWord(token.Text); break;
+        case Token::Kind::Literal:
+          WriteLiteral(token.Text);
+          break;
+        case Token::Kind::Word:
+          WriteWord(token.Text);
+          break;
         case Token::Kind::Symbol:
           if (token.Text == ";") return NothingFollows();
           WriteSymbol(token.Text);
           break;
-        default: result_.Sql += token.Text;
+        default:
+          result_.Sql += token.Text;
       }
     }
     return true;
@@ -193,8 +198,7 @@ class Translator {
   bool ordered_ = false;
 };
 
-std::variant<Statement, Failure> Translate(std::string_view text, bool hasPlaces,
-                                           bool withRowid) {
+std::variant<Statement, Failure> Translate(std::string_view text, bool hasPlaces, bool withRowid) {
   auto tokens = Tokenize(text);
   if (tokens) {
     Translator translator(std::move(*tokens), hasPlaces, withRowid);
@@ -239,10 +243,10 @@ std::vector<Value> BoundValues(const Statement& statement, std::initializer_list
     const Value& value = *next++;
     if (!parameter.IsText) {
       bound.push_back(value);
-    } else if (parameter.Before.empty() && parameter.Behind.empty()) {
+    } else if (parameter.Before.empty() && parameter.After.empty()) {
       bound.emplace_back(value.Text());
     } else {
-      bound.emplace_back(parameter.Before + value.Text() + parameter.Behind);
+      bound.emplace_back(parameter.Before + value.Text() + parameter.After);
     }
   }
   return bound;

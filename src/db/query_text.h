@@ -17,7 +17,7 @@ namespace orrerix {
 struct Parameter {
   bool IsText = false;
   std::string Before;
-  std::string Behind;
+  std::string After;
 };
 
 // A statement ready to be prepared.
@@ -32,10 +32,10 @@ struct Statement {
 //
 // What changes: texts compare without regard to the case of ASCII letters, "ORDER BY ucase(x)"
 // orders like "ORDER BY x", rows that tie, and those of a query without an order, come in the order
-// of insertion, and the functions "left", "right" and "isnull" get names that the engine takes. With `withRowid` a "SELECT *" gets a last
-// column with the number of the row.
+// of insertion, and the functions "left", "right" and "isnull" get names that the engine takes.
+// With `withRowid` a "SELECT *" gets a last column with the number of the row.
 //
-// A quote that is not closed, text behind the statement, comments and NULs are syntax errors.
+// A quote that is not closed, text after the statement, comments and NULs are syntax errors.
 std::variant<Statement, Failure> TranslateTemplate(std::string_view text, bool withRowid = false);
 
 // Translates a text without such places: a "{}" in it is just that.

@@ -69,7 +69,7 @@ class FieldRef {
   std::optional<std::size_t> field_;
 };
 
-// Makes a value what a field of this definition keeps of it, or tells why the field takes none;
+// Makes a value what a field of this definition keeps of it, or says why the field takes none;
 // the value is then of no use.
 std::optional<Failure> FitInto(const Field& field, std::string_view table, Value& value);
 
@@ -132,7 +132,7 @@ class Recordset {
   Editing editing_ = Editing::None;
   std::vector<Value> edited_;
   std::vector<bool> assigned_;
-  std::size_t nextField_ = 0;  // behind the one asked for last: fields are mostly used in order
+  std::size_t nextField_ = 0;  // after the one asked for last: fields are mostly used in order
   sqlite3_stmt* insert_ = nullptr;
 };
 

@@ -36,7 +36,7 @@ struct Field {
 struct Index {
   std::string Name;
   std::vector<std::string> Fields;
-  // Whether nothing is ever looked up by it: behind rows that were held it is not made before
+  // Whether nothing is ever looked up by it: after rows that were held it is not made before
   // another row comes, or one of the key's fields changes.
   bool IsLate = false;
 };

@@ -48,7 +48,7 @@ bool Contains(std::string_view text, std::string_view part);
 // Appends a code point as UTF-8. A number that is no code point becomes "?".
 void AppendUtf8(std::string& text, char32_t codePoint);
 
-// Decodes the code point that starts at `at` and moves `at` behind it. A byte that starts no valid
+// Decodes the code point that starts at `at` and moves `at` past it. A byte that starts no valid
 // sequence comes back as itself, so that every text can be walked to its end.
 char32_t NextCodePoint(std::string_view text, std::size_t& at);
 

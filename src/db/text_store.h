@@ -11,7 +11,7 @@
 
 namespace orrerix {
 
-// Keeps copies of texts until it ends itself, one behind the other: that takes no time for each of
+// Keeps copies of texts until it ends itself, one after the other: that takes no time for each of
 // them to be made and given back.
 class TextStore {
  public:

@@ -13,8 +13,8 @@ namespace orrerix {
 // queries look up; the copy is made anew when the file has changed.
 class WorkingCopy {
  public:
-  // The copy of the file as it is now, told by path, size and time of change. If the file cannot
-  // be read the failure goes to the sink and the copy is closed.
+  // The copy of the file as it is now, recognised by path, size and time of change. If the file
+  // cannot be read the failure goes to the sink and the copy is closed.
   Database& Of(FailureSink& sink, const std::filesystem::path& path);
 
   // Forgets the copy, so that the next reader makes a new one.

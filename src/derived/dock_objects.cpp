@@ -38,9 +38,10 @@ class DockStage {
   void Append(Recordset& object) {
     cell_ = routine_.Or(cell_, [&] { return grid_.FindCell(object["sys_nick"].Get().Text()); });
     const double scale = SystemScale(routine_, universe_, cell_);
-    const ObjectPosition position = routine_.Or(ObjectPosition(), [&] {
+    const auto [position, place] = routine_.Or(PlacedObject{{}, place_}, [&] {
       return PlaceObject(routine_, object["pos"].Get().Text(), scale, place_);
     });
+    place_ = place;
 
     docks_.AddNew();
     docks_["nickname"] = object["nickname"];
@@ -55,9 +56,9 @@ class DockStage {
       if (object["loadout"].Get().Text().starts_with("docking_ring")) NameAfterPlanet(object);
     });
     // The file has the height second; here it comes last.
-    docks_["abs_x"] = position.A;
-    docks_["abs_y"] = position.C;
-    docks_["abs_z"] = position.B;
+    docks_["abs_x"] = position.X;
+    docks_["abs_y"] = position.Z;
+    docks_["abs_z"] = position.Height;
     docks_.Update();
   }
 

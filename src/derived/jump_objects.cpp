@@ -47,13 +47,13 @@ class JumpStage {
     const std::string system =
         routine_.Or(target, [&] { return std::string(RequireBeforeComma(target)); });
     Locate(to_, system);
-    PlaceObject(routine_, TextOf(object, "pos"), from_.Scale, from_.Place);
+    from_.Place = PlaceObject(routine_, TextOf(object, "pos"), from_.Scale, from_.Place).Place;
 
     to_.Nickname = TargetNickname(target);
     to_.Place = {};
     Recordset found = ObjectNamed(routine_, universe_, to_.Nickname);
     if (found.AtEnd()) return;
-    PlaceObject(routine_, TargetPosition(found), to_.Scale, to_.Place);
+    to_.Place = PlaceObject(routine_, TargetPosition(found), to_.Scale, to_.Place).Place;
     to_.Nickname = found["nickname"].Get().Text();
     if (IsRecorded(to_.Nickname)) return;
     Append(TextOf(object, "jump_effect"));
@@ -71,7 +71,7 @@ class JumpStage {
   // The second of the parts of `GoTo`.
   std::string TargetNickname(std::string_view target) {
     const CommaCut system = CutAtComma(target);
-    std::string_view nickname = system.Found ? system.Behind : system.Before;
+    std::string_view nickname = system.Found ? system.After : system.Before;
     nickname = routine_.Or(nickname, [&] { return RequireBeforeComma(nickname); });
     return std::string(Trim(nickname));
   }
@@ -86,10 +86,7 @@ class JumpStage {
 
   // The connection is recorded if its other end was visited before.
   bool IsRecorded(const std::string& nickname) {
-    return !universe_.DB
-                .OpenRecordset(routine_, "SELECT * FROM JumpNodes WHERE ucase(nickname) = '{}'",
-                               {Ucase(nickname)})
-                .AtEnd();
+    return !RowNamed(routine_, universe_, "JumpNodes", nickname).AtEnd();
   }
 
   void Append(const std::string& jumpEffect) {

@@ -14,9 +14,22 @@ void LookUpBy(FailureSink& routine, Universe& universe, std::string_view table,
                            table, expression, table, expression));
 }
 
+Recordset RowNamed(FailureSink& routine, Universe& universe, std::string_view table,
+                   std::string_view nickname) {
+  return universe.DB.OpenRecordset(
+      routine, "SELECT * from " + std::string(table) + " WHERE ucase(nickname) = '{}'",
+      {Ucase(nickname)});
+}
+
 Recordset ObjectNamed(FailureSink& routine, Universe& universe, std::string_view nickname) {
-  return universe.DB.OpenRecordset(routine, "SELECT * from Objects WHERE ucase(nickname) = '{}'",
-                                   {Ucase(nickname)});
+  return RowNamed(routine, universe, "Objects", nickname);
+}
+
+std::string WithoutBaseEnd(std::string_view base) {
+  constexpr std::size_t baseEnd = 5;  // "_Base"
+  const std::size_t length = Len(base);
+  if (length < baseEnd) throw RuntimeFailure(failure_number::kInvalidProcedureCall);
+  return std::string(Left(base, length - baseEnd));
 }
 
 }  // namespace orrerix

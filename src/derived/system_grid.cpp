@@ -73,9 +73,9 @@ double SystemScale(FailureSink& routine, Universe& universe, MapCell cell) {
 
 ObjectPosition ParsePosition(std::string_view pos) {
   const std::string_view a = RequireBeforeComma(pos);
-  const std::string_view rest = RequireBehindComma(pos);
+  const std::string_view rest = RequireAfterComma(pos);
   const std::string_view b = RequireBeforeComma(rest);
-  return {WholeNumber(a), WholeNumber(b), WholeNumber(RequireBehindComma(rest))};
+  return {WholeNumber(a), WholeNumber(b), WholeNumber(RequireAfterComma(rest))};
 }
 
 double MapFraction(std::int32_t units, double scale) {
@@ -84,12 +84,12 @@ double MapFraction(std::int32_t units, double scale) {
   return ((*threefold / 4.0) * scale + 100000) / 200000;
 }
 
-ObjectPosition PlaceObject(Routine& routine, std::string_view pos, double scale,
-                           CellFraction& place) {
+PlacedObject PlaceObject(Routine& routine, std::string_view pos, double scale,
+                         CellFraction before) {
   const ObjectPosition position = routine.Or(ObjectPosition(), [&] { return ParsePosition(pos); });
-  place.X = routine.Or(place.X, [&] { return MapFraction(position.A, scale); });
-  place.Y = routine.Or(place.Y, [&] { return MapFraction(position.C, scale); });
-  return position;
+  return {position,
+          {routine.Or(before.X, [&] { return MapFraction(position.X, scale); }),
+           routine.Or(before.Y, [&] { return MapFraction(position.Z, scale); })}};
 }
 
 }  // namespace orrerix

@@ -30,11 +30,16 @@ struct CellFraction {
   double Y = 0.5;
 };
 
-// The three numbers of a position in game units; the second is the height.
+// A position in game units, in the order of a file's numbers: east, height, south.
 struct ObjectPosition {
-  std::int32_t A = 0;
-  std::int32_t B = 0;
-  std::int32_t C = 0;
+  std::int32_t X = 0;
+  std::int32_t Height = 0;
+  std::int32_t Z = 0;
+};
+
+struct PlacedObject {
+  ObjectPosition Position;
+  CellFraction Place;
 };
 
 // The text of a cell as `Systems.pos` holds it: "7, 4".
@@ -72,9 +77,8 @@ ObjectPosition ParsePosition(std::string_view pos);
 // throws 6 outside 32 bits.
 double MapFraction(std::int32_t units, double scale);
 
-// Takes an object's place over from the text of its `pos`, step by step: a part that fails stays as
-// it was in `place`. Gives the numbers of the position, all 0 where it cannot be read.
-ObjectPosition PlaceObject(Routine& routine, std::string_view pos, double scale,
-                           CellFraction& place);
+// Where an object lies, from the text of its `pos`. A coordinate of the place that fails is that of
+// `before`; the numbers of the position are all 0 where it cannot be read.
+PlacedObject PlaceObject(Routine& routine, std::string_view pos, double scale, CellFraction before);
 
 }  // namespace orrerix

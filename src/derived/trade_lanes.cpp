@@ -80,16 +80,15 @@ class LaneStage {
   void TakeEnd(LaneEnd& end, Recordset& ring) {
     end.Cell = routine_.Or(end.Cell, [&] { return grid_.FindCell(ring["sys_nick"].Get().Text()); });
     const double scale = SystemScale(routine_, universe_, end.Cell);
-    routine_.Try([&] { PlaceObject(routine_, ring["pos"].Get().Text(), scale, end.Place); });
+    end.Place = routine_.Or(end.Place, [&] {
+      return PlaceObject(routine_, ring["pos"].Get().Text(), scale, end.Place).Place;
+    });
     routine_.Try([&] { end.RealName = ring["realspacename"].Get().Text(); });
     if (end.RealName.empty()) end.RealName = "Unknown";
   }
 
   bool IsRecorded(const std::string& nickname) {
-    return !universe_.DB
-                .OpenRecordset(routine_, "SELECT * FROM Tradelanes WHERE ucase(nickname) = '{}'",
-                               {Ucase(nickname)})
-                .AtEnd();
+    return !RowNamed(routine_, universe_, "TradeLanes", nickname).AtEnd();
   }
 
   void Append() {

@@ -16,7 +16,7 @@ namespace orrerix {
 // longer the more there are.
 class ErrorLogWindow : public QWidget, public ErrorLogView {
  public:
-  // `importing` tells whether an import runs: closing then only hides the window.
+  // `importing` says whether an import runs: closing then only hides the window.
   ErrorLogWindow(ErrorLog& log, std::function<bool()> importing, const LanguageChoice& choice);
   ~ErrorLogWindow() override;
 

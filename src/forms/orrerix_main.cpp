@@ -28,7 +28,7 @@ constexpr QSize kSmallestForm{640, 480};
 constexpr int kDecorationDelay = 100;  // milliseconds
 constexpr QRgb kGround = 0xFF04081C;
 
-// A game folder as it is typed in, without what stands behind it by accident.
+// A game folder as it is typed in, without what stands after it by accident.
 std::string FolderText(const QString& text) {
   QString folder = text.trimmed();
   while (folder.size() > 1 && (folder.endsWith('\\') || folder.endsWith('/'))) folder.chop(1);
@@ -160,7 +160,7 @@ void OrrerixMain::changeEvent(QEvent* event) {
   QWidget::changeEvent(event);
   if (event->type() == QEvent::WindowStateChange) {
     Redraw();
-    // The desktop tells the decoration of a form that is no longer maximised a moment later.
+    // The desktop reports the decoration of a form that is no longer maximised a moment later.
     QTimer::singleShot(kDecorationDelay, this, [this] { KeepOnScreen(); });
   }
   if (event->type() == QEvent::ActivationChange && isActiveWindow()) QueueFocus();

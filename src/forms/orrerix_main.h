@@ -20,6 +20,7 @@
 #include "forms/start/import_screen.h"
 #include "forms/station/station_windows.h"
 #include "online/news.h"
+#include "shell/startup.h"
 
 namespace orrerix {
 
@@ -68,7 +69,7 @@ class OrrerixMain : public QWidget, private MapHost {
   // Opens the link of a news label with the game's sound for that.
   void OpenNewsLink(int index) override;
 
-  std::filesystem::path UniverseFile() const { return saveFolder_ / "Orrerix.fl"; }
+  std::filesystem::path UniverseFile() const { return UniverseFileIn(saveFolder_); }
   GameFolder Game() const override;
   MapScreen& Map() { return map_; }
   MapController& Controller() { return mapController_; }

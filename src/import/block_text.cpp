@@ -54,8 +54,8 @@ std::string_view RequireBeforeComma(std::string_view text) {
   return Require(text).Before;
 }
 
-std::string_view RequireBehindComma(std::string_view text) {
-  return Require(text).Behind;
+std::string_view RequireAfterComma(std::string_view text) {
+  return Require(text).After;
 }
 
 }  // namespace orrerix

@@ -26,7 +26,7 @@ class BlockText {
   bool Holds(std::string_view upperPart) const { return Find(upperPart).has_value(); }
   bool StartsWith(std::string_view upperPart) const;
 
-  // The value of a key, given in upper case (ini_text.h tells how it is found).
+  // The value of a key, given in upper case (see ini_text.h for how it is found).
   std::string_view Value(std::string_view upperKey) const;
 
   // Removes characters from the front, at most all.
@@ -40,16 +40,16 @@ class BlockText {
   std::size_t begin_ = 0;
 };
 
-// The two sides of the first comma. `Found` tells whether there is one; without it all is in front.
+// The two sides of the first comma. `Found` says whether there is one; without it all is in front.
 struct CommaCut {
   std::string_view Before;
-  std::string_view Behind;
+  std::string_view After;
   bool Found = false;
 };
 CommaCut CutAtComma(std::string_view text);
 
-// The part before (behind) the first comma; without a comma the failure 5 is thrown.
+// The part before (after) the first comma; without a comma the failure 5 is thrown.
 std::string_view RequireBeforeComma(std::string_view text);
-std::string_view RequireBehindComma(std::string_view text);
+std::string_view RequireAfterComma(std::string_view text);
 
 }  // namespace orrerix

@@ -12,6 +12,7 @@
 #include "db/text.h"
 #include "shell/files.h"
 #include "shell/routine.h"
+#include "shell/startup.h"
 
 namespace orrerix {
 namespace fs = std::filesystem;
@@ -129,7 +130,7 @@ void CleanUpMemory(ErrorLog& log, ImportHost& host, Database& database,
                    const fs::path& saveFolder) {
   Routine routine(log, "OrrerixMain.CleanUpMemory", "While cleaning up Memory");
   routine.Run([&] {
-    const fs::path file = saveFolder / "Orrerix.fl";
+    const fs::path file = UniverseFileIn(saveFolder);
     const fs::path aside = saveFolder / "Orrerix.ok";
     host.Yield();
     if (database.IsOpen() && database.FreePages(routine) == 0) {

@@ -122,7 +122,7 @@ class RowReader {
     const std::string_view both = value;
     key = routine_.Or(key, [&] { return KeyText(RequireBeforeComma(both)); });
     const CommaCut cut = CutAtComma(both);
-    value = Trim(cut.Found ? cut.Behind : cut.Before);
+    value = Trim(cut.Found ? cut.After : cut.Before);
   }
 
   void Store(std::string_view key, std::string_view value) {

@@ -13,6 +13,7 @@
 #include "shell/files.h"
 #include "shell/language_texts.h"
 #include "shell/routine.h"
+#include "shell/startup.h"
 
 namespace orrerix {
 namespace fs = std::filesystem;
@@ -56,7 +57,7 @@ class ImportRun {
     CleanUp();
   }
 
-  fs::path File() const { return order_.SaveFolder / "Orrerix.fl"; }
+  fs::path File() const { return UniverseFileIn(order_.SaveFolder); }
 
   void OpenFile() {
     database_ = FileExists(routine_, File())

@@ -24,7 +24,7 @@ class ImportHost {
  public:
   virtual ~ImportHost() = default;
 
-  // Replaces or extends the text that tells what is being done.
+  // Replaces or extends the text that describes the current step.
   virtual void ShowText(std::string_view text) = 0;
   virtual void AppendText(std::string_view text) = 0;
 

@@ -23,7 +23,7 @@ std::string ReplaceAll(std::string_view text, std::string_view from, std::string
   }
 }
 
-// Deletes from each `open` to the `close` behind it, up to the first `close` that comes too early.
+// Deletes from each `open` to the `close` after it, up to the first `close` that comes too early.
 std::string Strip(std::string_view text, char open, char close) {
   std::string stripped;
   stripped.reserve(text.size());

@@ -95,7 +95,7 @@ class Reader {
     if (const std::size_t header = text.find('['); header != std::string::npos) {
       text.erase(0, header);
     }
-    FixCrLf(text);
+    text = FixCrLf(std::move(text));
     if (known_.Read(text)) return;
     routine_.SetInGeneric(true);
     ReadGenericSection(import_, routine_, file_, text);

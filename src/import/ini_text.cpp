@@ -110,9 +110,10 @@ std::string RemoveComments(std::string_view text) {
   }
 }
 
-void FixCrLf(std::string& text) {
+std::string FixCrLf(std::string text) {
   if (text.size() > 2 && !LineEndsAreWhole(text)) text = WithLineEnds(text);
   if (HasBlanksBeforeSigns(text)) ShrinkBlanksBeforeSigns(text);
+  return text;
 }
 
 }  // namespace orrerix

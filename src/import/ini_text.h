@@ -7,9 +7,9 @@
 
 namespace orrerix {
 
-// The value of a key: what stands behind the first place where the text ends in the key and "=",
+// The value of a key: what stands after the first place where the text ends in the key and "=",
 // up to the next CR, trimmed of blanks; empty if there is none. "key =" is looked for before
-// "key=", without regard to case, and one character behind its sign is skipped. The search is not
+// "key=", without regard to case, and one character after its sign is skipped. The search is not
 // bound to the start of a line: asking for "type" finds a line of "hp_type", too.
 std::string_view GetINIValue(std::string_view text, std::string_view key);
 
@@ -28,6 +28,6 @@ std::string RemoveComments(std::string_view text);
 
 // Makes all line ends CR LF and shrinks each run of blanks before "=" to one blank. The first and
 // the last character are not examined, so a lone LF or CR stays there.
-void FixCrLf(std::string& text);
+std::string FixCrLf(std::string text);
 
 }  // namespace orrerix

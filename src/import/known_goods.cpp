@@ -60,7 +60,7 @@ void KnownSections::AssignCommodityName(const std::string& nickname, const std::
   }
 }
 
-// The cut behind an add-on counts two characters less than its usual line has, so that the end of
+// The cut after an add-on counts two characters less than its usual line has, so that the end of
 // the block may give one more row, without a nickname.
 void KnownSections::ReadAddons(BlockText block, const std::string& package) {
   constexpr std::size_t shortestRest = 3;
@@ -73,9 +73,9 @@ void KnownSections::ReadAddons(BlockText block, const std::string& package) {
     const CommaCut name = CutAtComma(value);
     packages_["NickName"] = [&] { return Text(Trim(name.Before)); };
     if (name.Found) {
-      const CommaCut hardpoint = CutAtComma(name.Behind);
+      const CommaCut hardpoint = CutAtComma(name.After);
       packages_["HardPoint"] = [&] { return Text(Trim(hardpoint.Before)); };
-      if (hardpoint.Found) packages_["Val"] = Val(hardpoint.Behind);
+      if (hardpoint.Found) packages_["Val"] = Val(hardpoint.After);
     }
     block.Cut(value.size() + keyAndSign);
     packages_.Update();
@@ -93,10 +93,10 @@ void KnownSections::ReadBaseGood(BlockText block) {
     baseGoods_["Base"] = base;
     const CommaCut good = CutAtComma(value);
     baseGoods_["GoodNick"] = [&] { return Text(Trim(good.Before)); };
-    std::string_view rest = good.Behind;
+    std::string_view rest = good.After;
     for (const char* field : {"val1", "val2", "val3", "val4", "val5", "val6"}) {
       baseGoods_[field] = good.Found ? Val(rest) : 0.0;
-      if (const CommaCut next = CutAtComma(rest); next.Found) rest = next.Behind;
+      if (const CommaCut next = CutAtComma(rest); next.Found) rest = next.After;
     }
     routine_.Try([&] { routine_.SetCurrentLine(value); });
     block.Cut(value.size() + keyAndSign);

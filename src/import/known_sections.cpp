@@ -32,7 +32,7 @@ std::string WholeText(double number) {
 // The map cell of a system: its column plus 1 and its row plus 2.
 std::string MapCellText(std::string_view pos) {
   return WholeText(Val(RequireBeforeComma(pos)) + 1) + ", " +
-         WholeText(Val(RequireBehindComma(pos)) + 2);
+         WholeText(Val(RequireAfterComma(pos)) + 2);
 }
 
 std::string_view TrimBlanksAndTabs(std::string_view text) {

@@ -55,7 +55,7 @@ void KnownSections::ReadHardpoints(BlockText block, const std::string& ship) {
     hardpoints_["NickName"] = ship;
     hardpoints_["EquipType"] = [&] { return Text(Trim(RequireBeforeComma(value))); };
     const CommaCut cut = CutAtComma(value);
-    hardpoints_["HardPoints"] = [&] { return Text(Trim(cut.Found ? cut.Behind : cut.Before)); };
+    hardpoints_["HardPoints"] = [&] { return Text(Trim(cut.Found ? cut.After : cut.Before)); };
     hardpoints_.Update();
     block.Cut(value.size() + key.size());
   }
@@ -74,7 +74,7 @@ void KnownSections::ReadLoadout(BlockText block) {
     loadoutCargo_["NickName"] = nickname;
     const CommaCut value = CutAtComma(block.Value("CARGO"));
     loadoutCargo_["Cargo"] = [&] { return Text(Trim(value.Before)); };
-    if (value.Found) loadoutCargo_["Count"] = Val(value.Behind);
+    if (value.Found) loadoutCargo_["Count"] = Val(value.After);
     loadoutCargo_.Update();
     block.Cut(place ? *place + cargo.size() : *block.Find(cargoTight) + cargoTight.size());
   }

@@ -58,7 +58,7 @@ std::string RealText(float real) {
   const std::size_t e = scientific.find('e');
   std::string digits(scientific.substr(0, e));
   std::erase(digits, '.');
-  // The point stands behind `whole` digits.
+  // The point stands after `whole` digits.
   const int whole = std::stoi(std::string(scientific.substr(e + 1))) + 1;
   if (whole <= 0) {
     digits.insert(0, "0." + std::string(static_cast<std::size_t>(-whole), '0'));
@@ -72,10 +72,14 @@ std::string RealText(float real) {
 
 std::string ValueText(std::uint32_t type, std::uint32_t data, std::string_view table) {
   switch (type) {
-    case 1: return std::to_string(static_cast<std::int32_t>(data));
-    case 2: return RealText(std::bit_cast<float>(data));
-    case 3: return std::string(TextAt(table, data));
-    default: throw Damaged{};
+    case 1:
+      return std::to_string(static_cast<std::int32_t>(data));
+    case 2:
+      return RealText(std::bit_cast<float>(data));
+    case 3:
+      return std::string(TextAt(table, data));
+    default:
+      throw Damaged{};
   }
 }
 

@@ -48,14 +48,14 @@ class ReaderRoutine : public Routine {
   void BeginRecord(RetryState state, const std::function<void()>& addNew);
   void AddNew(Recordset& recordset, RetryState state);
 
-  // What messages tell of the place: the untouched block and the last line taken from it.
+  // What messages quote of the place: the untouched block and the last line taken from it.
   void BeginBlock(std::string_view block);
   std::string_view BlockCopy() const { return blockCopy_; }
   void SetCurrentLine(std::string_view line) { currentLine_ = line; }
 
   void SetInGeneric(bool inGeneric) { inGeneric_ = inGeneric; }
   // The key (as the table has it) and the value (as the file has it) being stored in a generic
-  // table; empty behind that. Both must live until they are cleared.
+  // table; empty after that. Both must live until they are cleared.
   void SetPair(std::string_view key, std::string_view value);
   void ClearPair() { key_ = {}; }
 

@@ -58,7 +58,7 @@ struct Section {
   std::uint32_t RawOffset;
 };
 
-// What the headers tell.
+// What the headers say.
 struct Headers {
   std::vector<Section> Sections;
   std::uint32_t ResourceAddress = 0;  // RVA, 0 if there are no resources

@@ -34,7 +34,7 @@ class SectionTable {
   // The field of this name, looked for at the place `guess` first.
   std::optional<FieldIndex> FindField(std::string_view name, FieldIndex guess = 0) const;
 
-  // Adds a Text field behind the others. Throws 3191 for a field that every row has, whatever its
+  // Adds a Text field after the others. Throws 3191 for a field that every row has, whatever its
   // case, 3190 if the table is full, and 3125 for a name with a NUL.
   FieldIndex AddField(std::string_view name);
 
@@ -83,7 +83,7 @@ class SectionTable {
   void CheckKey(const Row& row);
 
   std::string name_;
-  std::vector<std::string> fields_;  // behind OX_ID: SourceFileName and the keys
+  std::vector<std::string> fields_;  // after OX_ID: SourceFileName and the keys
   std::unordered_map<std::string, FieldIndex, TextHash, std::equal_to<>> places_;
   std::optional<FieldIndex> keyField_;
   TextStore texts_;

@@ -49,12 +49,12 @@ inline void AssignNumbers(Recordset& row, const BlockText& block,
   for (const auto& [key, field] : keys) row[field] = Val(block.Value(key));
 }
 
-// Numbers at the start of a text and behind each further comma; 0 where none is left.
+// Numbers at the start of a text and after each further comma; 0 where none is left.
 inline std::array<double, 3> ThreeNumbers(std::string_view text) {
   std::array<double, 3> numbers{};
   for (double& number : numbers) {
     number = Val(text);
-    text = CutAtComma(text).Behind;
+    text = CutAtComma(text).After;
   }
   return numbers;
 }

@@ -26,7 +26,7 @@ struct TextBlock {
   std::size_t End() const { return Offset + Size; }
 };
 
-// A file's bytes at positions that count from 1; what lies behind the end reads as 0.
+// A file's bytes at positions that count from 1; what lies past the end reads as 0.
 class FileBytes {
  public:
   explicit FileBytes(std::string bytes) : bytes_(std::move(bytes)) {}
@@ -53,7 +53,7 @@ std::vector<TextBlock> ReadBlocks(const FileBytes& file) {
   return blocks;
 }
 
-// The string at a position, which moves behind it.
+// The string at a position, which moves past it.
 std::string ReadString(const FileBytes& file, const TextBlock& block, std::size_t length,
                        std::size_t& position) {
   std::string text;

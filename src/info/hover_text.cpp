@@ -15,13 +15,6 @@ constexpr std::string_view kLineEnd = "\r\n";
 constexpr std::string_view kCommodityStart = "COMMODITY_";
 constexpr std::string_view kAmmoEnd = "_AMMO";
 
-Recordset Named(FailureSink& routine, Universe& universe, std::string_view table,
-                std::string_view nickname) {
-  return universe.DB.OpenRecordset(
-      routine, "SELECT * from " + std::string(table) + " WHERE ucase(nickname) = '{}'",
-      {Ucase(nickname)});
-}
-
 // Ammunition is traded with its gun, whose nickname it carries with an ending.
 bool IsAmmo(std::string_view upperCargo) {
   return Right(upperCargo, kAmmoEnd.size()) == kAmmoEnd;
@@ -40,7 +33,7 @@ class HoverWriter {
       : routine_(routine), universe_(universe), names_(names), texts_(texts), text_(text) {}
 
   void Run() {
-    Recordset dock = Named(routine_, universe_, "DockObjects", text_);
+    Recordset dock = RowNamed(routine_, universe_, "DockObjects", text_);
     Recordset object = ObjectNamed(routine_, universe_, text_);
     if (dock.AtEnd() || object.AtEnd()) return;
     const std::string reputation = object["reputation"].Get().Text();
@@ -77,7 +70,7 @@ class HoverWriter {
   }
 
   std::string CargoLine(const std::string& cargo, const Value& amount) {
-    Recordset good = Named(routine_, universe_, "Goods", cargo);
+    Recordset good = RowNamed(routine_, universe_, "Goods", cargo);
     if (good.AtEnd()) return " NOT FOUND: " + cargo;
     const Value price = good["price"].Get();
     return " " + amount.Text() + " x " + CargoName(cargo, good) + " á " + price.Text() + " = " +
@@ -89,7 +82,7 @@ class HoverWriter {
     if (upper.starts_with(kCommodityStart)) return RealComName(universe_, cargo);
     if (!IsAmmo(upper)) return good["realname"].Get().Text();
     Recordset gun =
-        Named(routine_, universe_, "Goods", upper.substr(0, upper.size() - kAmmoEnd.size()));
+        RowNamed(routine_, universe_, "Goods", upper.substr(0, upper.size() - kAmmoEnd.size()));
     return gun.AtEnd() ? "" : gun["realname"].Get().Text() + "-" + texts_.Text(TextId::Ammunition);
   }
 
@@ -119,7 +112,7 @@ std::string IconTag(Universe& universe, std::string_view nickname) {
   std::string tag(nickname);
   Routine routine(universe.Log, kSource);
   routine.Run([&] {
-    Recordset dock = Named(routine, universe, "DockObjects", nickname);
+    Recordset dock = RowNamed(routine, universe, "DockObjects", nickname);
     if (!dock.AtEnd()) tag = dock["nickname"].Get().Text();
   });
   return tag;
@@ -128,7 +121,7 @@ std::string IconTag(Universe& universe, std::string_view nickname) {
 bool OpensStation(Universe& universe, std::string_view tag) {
   bool opens = false;
   Routine routine(universe.Log, "OrrerixMain.Image1_Click");
-  routine.Run([&] { opens = !Named(routine, universe, "DockObjects", tag).AtEnd(); });
+  routine.Run([&] { opens = !RowNamed(routine, universe, "DockObjects", tag).AtEnd(); });
   return opens;
 }
 

@@ -2,11 +2,10 @@
 #include "info/search.h"
 
 #include "db/text.h"
+#include "derived/lookup.h"
 
 namespace orrerix {
 namespace {
-
-constexpr std::size_t kBaseEndLength = 5;  // "_base" behind an object's nickname
 
 struct SearchQuery {
   std::string_view Text;
@@ -82,23 +81,13 @@ class SellerSearch {
   // The place on the map with a nickname, or else the one whose nickname lacks the ending of a
   // base.
   std::optional<SearchRow> PlaceOnMap(const std::string& nickname) {
-    Recordset dock = OnMap(Ucase(nickname));
+    Recordset dock = RowNamed(routine_, universe_, "DockObjects", nickname);
     if (dock.AtEnd()) {
-      routine_.Try([&] { dock = OnMap(WithoutEnd(Ucase(nickname))); });
+      routine_.Try(
+          [&] { dock = RowNamed(routine_, universe_, "DockObjects", WithoutBaseEnd(nickname)); });
     }
     if (dock.AtEnd()) return std::nullopt;
     return SearchRow{dock["nickname"].Get().Text(), dock["realname"].Get().Text(), ""};
-  }
-
-  Recordset OnMap(const std::string& nickname) {
-    return universe_.DB.OpenRecordset(
-        routine_, "SELECT * FROM DockObjects WHERE ucase(nickname) = '{}'", {nickname});
-  }
-
-  static std::string WithoutEnd(const std::string& base) {
-    const std::size_t length = Len(base);
-    if (length < kBaseEndLength) throw RuntimeFailure(failure_number::kInvalidProcedureCall);
-    return std::string(Left(base, length - kBaseEndLength));
   }
 
   Routine& routine_;
@@ -146,8 +135,7 @@ std::vector<SearchRow> SellersOf(Universe& universe, SearchType type, const Sear
 
 std::optional<JumpTarget> JumpTargetOf(Routine& routine, Universe& universe,
                                        std::string_view nickname) {
-  Recordset dock = universe.DB.OpenRecordset(
-      routine, "SELECT * from DockObjects WHERE ucase(nickname) = '{}'", {Ucase(nickname)});
+  Recordset dock = RowNamed(routine, universe, "DockObjects", nickname);
   if (dock.AtEnd()) return std::nullopt;
   return JumpTarget{dock["nickname"].Get().Text(),
                     {static_cast<int>(dock["mapx"].Get().Number()),

@@ -37,7 +37,7 @@ std::vector<SearchRow> Search(Universe& universe, SearchType type, std::string_v
 // not on the map are left out. Nothing for a place.
 std::vector<SearchRow> SellersOf(Universe& universe, SearchType type, const SearchRow& row);
 
-// What the info box tells of a row; places have none.
+// What the info box shows for a row; places have none.
 std::optional<InfoType> InfoTypeOf(SearchType type);
 
 // A place as the map has it, whatever the case of `nickname`.

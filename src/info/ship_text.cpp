@@ -8,7 +8,7 @@
 namespace orrerix {
 namespace {
 
-// The three parts of a figure, each behind a TAB.
+// The three parts of a figure, each after a TAB.
 std::string ThreeParts(TableRow& ship, const std::string& field) {
   return "\t" + ship.Text(field + "1") + "\t" + ship.Text(field + "2") + "\t" +
          ship.Text(field + "3");

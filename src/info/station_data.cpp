@@ -14,7 +14,6 @@ namespace {
 constexpr std::string_view kLineEnd = "\r\n";
 constexpr std::string_view kTwoLineEnds = "\r\n\r\n";
 constexpr std::string_view kDockringStart = "Dockring:";
-constexpr std::size_t kBaseEndLength = 5;  // "_Base" behind a planet's nickname
 
 class StationReader {
  public:
@@ -43,10 +42,7 @@ class StationReader {
   }
 
  private:
-  Recordset RowOnMap() {
-    return universe_.DB.OpenRecordset(
-        routine_, "SELECT * from DockObjects WHERE ucase(nickname) = '{}'", {Ucase(nickname_)});
-  }
+  Recordset RowOnMap() { return RowNamed(routine_, universe_, "DockObjects", nickname_); }
 
   void WriteTexts(Recordset& dock, Recordset& object) {
     const std::string realname = dock["realname"].Get().Text();
@@ -81,22 +77,17 @@ class StationReader {
     });
   }
 
-  // A docking ring tells of its planet, too, and has the planet's market.
+  // A docking ring shows its planet's text too, and has the planet's market.
   void AddPlanet(Recordset& ring) {
     std::string planetName;
-    const bool named = routine_.Try([&] { planetName = PlanetOf(ring["dock_with"].Get().Text()); });
+    const bool named =
+        routine_.Try([&] { planetName = WithoutBaseEnd(ring["dock_with"].Get().Text()); });
     if (!named) return;
     Recordset planet = ObjectNamed(routine_, universe_, planetName);
     if (planet.AtEnd()) return;
     data_.Base = planetName;
     AddInfo(planet);
     if (Contains(Ucase(data_.Info), "DIAMETER")) AddSecondHalf(planet);
-  }
-
-  static std::string PlanetOf(const std::string& base) {
-    const std::size_t length = Len(base);
-    if (length < kBaseEndLength) throw RuntimeFailure(failure_number::kInvalidProcedureCall);
-    return std::string(Left(base, length - kBaseEndLength));
   }
 
   void AddOwner(const std::string& reputation) {

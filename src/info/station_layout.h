@@ -39,7 +39,7 @@ struct StationPicture {
 StationPicture LayOutStation(Universe& universe, const Wording& wording, const TextMeasure& measure,
                              const StationView& view);
 
-// What the window tells of a row of its list: a ship by its package, equipment by its nickname.
+// What the window shows for a row of its list: a ship by its package, equipment by its nickname.
 std::string ForSaleText(Universe& universe, const Wording& wording, StationMode mode,
                         const ForSale& item);
 

@@ -8,6 +8,7 @@
 
 #include "db/number_text.h"
 #include "db/text.h"
+#include "derived/lookup.h"
 
 namespace orrerix {
 namespace {
@@ -20,8 +21,7 @@ constexpr std::string_view kBaseEnd = "_BASE";
 std::string Surcharge(Routine& routine, Universe& universe, const std::string& good,
                       const Value& price) {
   std::string surcharge;
-  Recordset listed = universe.DB.OpenRecordset(
-      routine, "SELECT * from Goods WHERE ucase(nickname) = '{}'", {Ucase(good)});
+  Recordset listed = RowNamed(routine, universe, "Goods", good);
   if (listed.AtEnd()) return surcharge;
   routine.Try([&] {
     const Value listPrice = listed["price"].Get();

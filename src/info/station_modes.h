@@ -25,8 +25,8 @@ struct StationTexts {
   std::string PriceTip;                         // tool tip of the price button
 };
 
-// The texts once the data for a mode is read. The views without prices leave those of the price view
-// that was read before, but for the head of what the place sells.
+// The texts once the data for a mode is read. The views without prices leave those of the price
+// view that was read before, but for the head of what the place sells.
 StationTexts ReadStationTexts(StationTexts before, StationMode mode, TextSource& texts);
 
 // What a click on a button asks of the window.
@@ -46,10 +46,11 @@ class StationModes {
 
   StationMode Mode() const { return mode_; }
 
-  // Buttons 0 to 3. `data` tells whether there are ships and equipment to list.
+  // Buttons 0 to 3. `data` says whether there are ships and equipment to list.
   ModeAnswer Click(std::size_t button, const StationData& data);
 
-  std::array<ModeButton, kModeButtons> Buttons(const StationData& data, const StationTexts& texts) const;
+  std::array<ModeButton, kModeButtons> Buttons(const StationData& data,
+                                               const StationTexts& texts) const;
 
  private:
   void Enter(StationMode mode);

@@ -6,7 +6,7 @@ namespace {
 
 constexpr std::string_view kLineEnd = "\r\n";
 
-// Cuts the first word off a line, with the blank behind it.
+// Cuts the first word off a line, with the blank after it.
 std::string_view TakeWord(std::string_view& line) {
   const std::size_t blank = line.find(' ');
   const std::string_view word = line.substr(0, blank);

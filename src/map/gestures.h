@@ -35,7 +35,7 @@ class MapGestures {
   // Any button begins a drag.
   void MouseDown(float x, float y);
 
-  // Folds the options. `held` is the one button that is down; `hovering` tells that the box of an
+  // Folds the options. `held` is the one button that is down; `hovering` says that the box of an
   // icon is up. The rubber band needs more than 50 twips both ways.
   MoveAnswer MouseMove(PointerButton held, float x, float y, bool hovering);
 

@@ -29,7 +29,7 @@ class CellNames {
 CellNames GetSystemNames(Universe& universe, TextSource& texts);
 
 // A point in the game's notation of eight by eight sectors, "Name [X=D.6/Y=4.5]". Points beyond
-// the sectors get the characters that follow or come before. Empty behind a failure.
+// the sectors get the characters that follow or come before. Empty after a failure.
 std::string CoordsToMapCoords(ErrorLog& log, const CellNames& names, MapCell cell,
                               CellFraction point);
 

@@ -52,7 +52,7 @@ float ScreenY(const CellGeometry& cells, Recordset& row, const PlaceFields& fiel
   return RequireFinite(cells.ScreenY(RequireCell(row, fields), row[fields.PosY].RequireNumber()));
 }
 
-// A place that the row does not tell, or one beyond the grid, is a failure of each statement that
+// A place that is missing in the row, or one beyond the grid, is a failure of each statement that
 // uses it.
 void PlaceEnds(Routine& routine, const CellGeometry& cells, Recordset& row, Control& line) {
   routine.Try([&] { line.Ends.X1 = ScreenX(cells, row, kFrom); });
@@ -110,56 +110,57 @@ bool IsLineOn(int type, const MapOptions& options) {
 
 }  // namespace
 
-void AddJumpConnections(Routine& routine, Universe& universe, const MapState& state,
-                        const MapOptions& options, const CellGeometry& cells,
-                        ElementCounters& counters, JumpLayers& layers) {
-  const ZoomRectangle& visible = state.Zoom.Current();
+void MapLayers::AddJumpConnections(const MapOptions& options) {
   for (Recordset nodes =
-           universe.DB.OpenRecordset(routine, "SELECT * from JumpNodes ORDER BY Type");
+           universe_.DB.OpenRecordset(routine_, "SELECT * from JumpNodes ORDER BY Type");
        !nodes.AtEnd(); nodes.MoveNext()) {
     const auto type = static_cast<int>(nodes["Type"].Get().Number());
-    if (IsLineOn(type, options)) {
-      Control line = MakeJumpLine(counters.Line++, type, state.PrintMode);
-      routine.Try([&] { line.Subject = SystemsOf(nodes, state.Names); });
-      PlaceEnds(routine, cells, nodes, line);
-      layers.Lines.push_back(std::move(line));
-    }
-    if (!visible.IsZoomed()) continue;
-    const std::string picture = type == kJumpHole ? "JumpHole" : "Jumpgate";
-    for (const PlaceFields* here : {&kFrom, &kTo}) {
-      const PlaceFields& there = here == &kFrom ? kTo : kFrom;
-      Control icon = MakeIcon(routine, counters.Image++, cells, visible, nodes, *here, picture);
-      icon.Subject = JumpEnd{};
-      routine.Try([&] { icon.Subject = DescribeEnd(universe, state.Names, nodes, *here, there); });
-      layers.Icons.push_back(std::move(icon));
-    }
+    if (IsLineOn(type, options)) AddJumpLine(nodes, type);
+    if (state_.Zoom.Current().IsZoomed()) AddJumpIcons(nodes, type);
   }
 }
 
-void AddTradeLaneLines(Routine& routine, Universe& universe, const CellGeometry& cells,
-                       ElementCounters& counters, ControlList& lines) {
-  for (Recordset lanes = universe.DB.OpenRecordset(routine, "SELECT * from TradeLanes");
+void MapLayers::AddJumpLine(Recordset& node, int type) {
+  Control line = MakeJumpLine(nextLine_++, type, state_.PrintMode);
+  routine_.Try([&] { line.Subject = SystemsOf(node, state_.Names); });
+  PlaceEnds(routine_, cells_, node, line);
+  objects_.Lines.push_back(std::move(line));
+}
+
+void MapLayers::AddJumpIcons(Recordset& node, int type) {
+  const std::string picture = type == kJumpHole ? "JumpHole" : "Jumpgate";
+  for (const PlaceFields* here : {&kFrom, &kTo}) {
+    const PlaceFields& there = here == &kFrom ? kTo : kFrom;
+    Control icon =
+        MakeIcon(routine_, nextIcon_++, cells_, state_.Zoom.Current(), node, *here, picture);
+    icon.Subject = JumpEnd{};
+    routine_.Try([&] { icon.Subject = DescribeEnd(universe_, state_.Names, node, *here, there); });
+    objects_.Icons.push_back(std::move(icon));
+  }
+}
+
+void MapLayers::AddTradeLanes() {
+  for (Recordset lanes = universe_.DB.OpenRecordset(routine_, "SELECT * from TradeLanes");
        !lanes.AtEnd(); lanes.MoveNext()) {
-    Control line = MakeLine(ControlId::MapLine, counters.Line++, LineKind::TradeLane, kLaneLine);
+    Control line = MakeLine(ControlId::MapLine, nextLine_++, LineKind::TradeLane, kLaneLine);
     line.Subject = ConnectedPlaces{lanes["realname"].Get().Text(), lanes["realname2"].Get().Text()};
-    PlaceEnds(routine, cells, lanes, line);
-    lines.push_back(std::move(line));
+    PlaceEnds(routine_, cells_, lanes, line);
+    objects_.Lines.push_back(std::move(line));
   }
 }
 
-void AddObjectIcons(Routine& routine, Universe& universe, const MapState& state,
-                    const CellGeometry& cells, ElementCounters& counters, ControlList& icons) {
-  const ZoomRectangle& visible = state.Zoom.Current();
-  for (Recordset objects = universe.DB.OpenRecordset(
-           routine,
+void MapLayers::AddObjects() {
+  const ZoomRectangle& visible = state_.Zoom.Current();
+  for (Recordset objects = universe_.DB.OpenRecordset(
+           routine_,
            "SELECT * from DockObjects WHERE mapx >= {} AND mapx <= {} AND mapy >= {} AND "
            "mapy <= {}",
            {visible.X1, visible.X2, visible.Y1, visible.Y2});
        !objects.AtEnd(); objects.MoveNext()) {
     const std::string picture(ObjectPicture(objects["loadout"].Get().Text()));
-    Control icon = MakeIcon(routine, counters.Image++, cells, visible, objects, kPlace, picture);
+    Control icon = MakeIcon(routine_, nextIcon_++, cells_, visible, objects, kPlace, picture);
     icon.Subject = DockableObject{objects["nickname"].Get().Text()};
-    icons.push_back(std::move(icon));
+    objects_.Icons.push_back(std::move(icon));
   }
 }
 

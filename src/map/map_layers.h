@@ -2,36 +2,44 @@
 // The layers of the map that come from the derived tables: lines and icons.
 #pragma once
 
+#include <utility>
+
 #include "map/redraw.h"
 #include "shell/routine.h"
 
 namespace orrerix {
 
-struct JumpLayers {
-  ControlList Lines;
-  ControlList Icons;
+// Makes the lines and icons of one redraw, layer by layer. Where the user cancels a layer, what it
+// had added stays.
+class MapLayers {
+ public:
+  MapLayers(Routine& routine, Universe& universe, const MapState& state, const CellGeometry& cells)
+      : routine_(routine), universe_(universe), state_(state), cells_(cells) {}
+
+  // Jump connections: a line for each whose kind is switched on, and, if the map is zoomed, an icon
+  // at each end of every one.
+  void AddJumpConnections(const MapOptions& options);
+
+  // Trade lanes, one line each.
+  void AddTradeLanes();
+
+  // Icons of the dockable objects in the visible rectangle.
+  void AddObjects();
+
+  // All that was added, which is then gone from here.
+  MapObjects Take() { return std::exchange(objects_, {}); }
+
+ private:
+  void AddJumpLine(Recordset& node, int type);
+  void AddJumpIcons(Recordset& node, int type);
+
+  Routine& routine_;
+  Universe& universe_;
+  const MapState& state_;
+  const CellGeometry& cells_;
+  int nextLine_ = 1;
+  int nextIcon_ = 1;
+  MapObjects objects_;
 };
-
-// Counts the elements of the two arrays through one redraw.
-struct ElementCounters {
-  int Line = 1;
-  int Image = 1;
-};
-
-// The three add to their last argument; cancelled, they leave what they have so far.
-
-// Jump connections: a line for each whose kind is switched on, and, if the map is zoomed, an icon
-// at each end of every one.
-void AddJumpConnections(Routine& routine, Universe& universe, const MapState& state,
-                        const MapOptions& options, const CellGeometry& cells,
-                        ElementCounters& counters, JumpLayers& layers);
-
-// Trade lanes, one line each.
-void AddTradeLaneLines(Routine& routine, Universe& universe, const CellGeometry& cells,
-                       ElementCounters& counters, ControlList& lines);
-
-// Icons of the dockable objects in the visible rectangle.
-void AddObjectIcons(Routine& routine, Universe& universe, const MapState& state,
-                    const CellGeometry& cells, ElementCounters& counters, ControlList& icons);
 
 }  // namespace orrerix

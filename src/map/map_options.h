@@ -20,7 +20,7 @@ enum class MapSwitch {
 
 inline constexpr int kMapSwitches = 6;
 
-// Index of the label behind those of the switches: it names the language in use.
+// Index of the label after those of the switches: it names the language in use.
 inline constexpr int kLanguageLabel = 6;
 
 struct MapOptions {

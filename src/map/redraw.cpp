@@ -34,7 +34,12 @@ class Redraw {
  public:
   Redraw(Routine& routine, Universe& universe, MapState& state, const MapView& view,
          MapDrawing& drawing)
-      : routine_(routine), universe_(universe), state_(state), view_(view), drawing_(drawing) {}
+      : routine_(routine),
+        universe_(universe),
+        state_(state),
+        view_(view),
+        drawing_(drawing),
+        layers_(routine, universe, state, drawing.Cells) {}
 
   void Run() {
     ZoomCalc();
@@ -48,9 +53,7 @@ class Redraw {
 
   // Stacks all layers. Objects of the last redraw that a cancelled one has not reached stay.
   void Stack() {
-    MapObjects placed{std::move(jumps_.Lines), std::move(jumps_.Icons)};
-    Append(placed.Lines, std::move(lanes_));
-    Append(placed.Icons, std::move(objects_));
+    MapObjects placed = layers_.Take();
     state_.Objects = {Over(std::move(state_.Objects.Lines), std::move(placed.Lines)),
                       Over(std::move(state_.Objects.Icons), std::move(placed.Icons))};
     if (state_.PrintMode) Append(drawing_.Controls, std::move(panel_));
@@ -159,14 +162,12 @@ class Redraw {
   }
 
   void DrawObjects() {
-    ElementCounters counters;
-    AddJumpConnections(routine_, universe_, state_, view_.Options, drawing_.Cells, counters,
-                       jumps_);
+    layers_.AddJumpConnections(view_.Options);
     if (view_.Options[MapSwitch::TradelaneLines]) {
-      AddTradeLaneLines(routine_, universe_, drawing_.Cells, counters, lanes_);
+      layers_.AddTradeLanes();
     }
     if (drawing_.Zoomed) {
-      AddObjectIcons(routine_, universe_, state_, drawing_.Cells, counters, objects_);
+      layers_.AddObjects();
     }
   }
 
@@ -180,9 +181,7 @@ class Redraw {
   ControlList pictures_;
   ControlList fillers_;
   ControlList labels_;
-  JumpLayers jumps_;
-  ControlList lanes_;
-  ControlList objects_;
+  MapLayers layers_;
   ControlList border_;
   ControlList panel_;
 };

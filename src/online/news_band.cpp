@@ -11,7 +11,7 @@ constexpr int kStep = 21;
 
 }  // namespace
 
-void NewsTimer(std::vector<BandLabel>& labels, int bottom) {
+std::vector<BandLabel> ScrolledNews(std::vector<BandLabel> labels, int bottom) {
   BandLabel* gone = nullptr;
   int lowest = 0;
   for (std::size_t n = 1; n < labels.size(); ++n) {
@@ -22,6 +22,7 @@ void NewsTimer(std::vector<BandLabel>& labels, int bottom) {
     lowest = std::max(lowest, label.Top);
   }
   if (gone != nullptr) gone->Top = lowest + gone->Height;
+  return labels;
 }
 
 }  // namespace orrerix

@@ -18,6 +18,6 @@ struct BandLabel {
 // One step of the band of news, which goes round without an end: all labels but the first, which
 // stands still, move up by 21 twips; one that has left the box at its top comes back below the
 // last. Labels that have not reached `bottom`, where the box ends, are hidden.
-void NewsTimer(std::vector<BandLabel>& labels, int bottom);
+std::vector<BandLabel> ScrolledNews(std::vector<BandLabel> labels, int bottom);
 
 }  // namespace orrerix

@@ -43,7 +43,7 @@ class NewsLoader {
   Language language_;
 };
 
-// What stands behind the last "\" or "/" of a path or an address; all of it if there is none.
+// What stands after the last "\" or "/" of a path or an address; all of it if there is none.
 std::string StripPathHelper(const std::string& path);
 
 }  // namespace orrerix

@@ -22,12 +22,6 @@ void Replace(std::string& text, std::string_view prefix, std::string_view keys,
   if (!value.empty()) text = std::string(prefix) + FromWindows1252(value);
 }
 
-// What fails is passed over, as if it had not been asked for.
-class PassOver : public FailureSink {
- public:
-  void Fail(const Failure&) override {}
-};
-
 }  // namespace
 
 SpoilerTexts DefaultSpoilerTexts(Language language) {
@@ -59,7 +53,7 @@ SpoilerTexts ReadSpoilerTexts(const GameFolder& game, Language language) {
 }
 
 void SetWarningOff(const std::filesystem::path& universeFile, bool off) {
-  PassOver silent;
+  IgnoreFailures silent;
   Database universe = DBEngine::OpenDatabase(silent, universeFile);
   Recordset warning =
       universe.OpenRecordset(silent, "SELECT * FROM OXWarning", {}, RecordsetType::Dynaset);

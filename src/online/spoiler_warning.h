@@ -22,7 +22,7 @@ struct SpoilerTexts {
 SpoilerTexts DefaultSpoilerTexts(Language language);
 
 // The texts of a mod's file in the place of the program's own: the keys "ok", "cancel" and
-// "headline", whatever their case, and behind "Text =", case and all, and one further character,
+// "headline", whatever their case, and after "Text =", case and all, and one further character,
 // the text over any number of lines. What the file lacks or leaves empty stays.
 SpoilerTexts WithModTexts(SpoilerTexts texts, std::string_view file);
 

@@ -158,7 +158,8 @@ class LineItem : public ControlItem {
   }
 
   // Pure blue is hardly seen on a dark sky. Between two light edges it is, and whoever sees no
-  // blue tells a lane from a gate's line by them. Grey dots want a dark ground on bright gas.
+  // blue can tell a lane from a gate's line by them. Grey dots need a dark background on bright
+  // gas.
   static void DrawUnder(QPainter& painter, const QLineF& part, const QColor& color, double ratio) {
     QPen pen(color, 3 * ratio);
     pen.setCosmetic(true);
@@ -297,7 +298,7 @@ class FrameItem : public ControlItem {
   QRectF boundingRect() const override { return BoxOf(Shown()); }
   void paint(QPainter* painter, const QStyleOptionGraphicsItem*, QWidget*) override {
     if (!Shown().BackColor) return;
-    // A ground ends with a whole pixel: half of one would let the map shine through.
+    // A background ends on a whole pixel: half of one would let the map shine through.
     const bool smooth = painter->testRenderHint(QPainter::Antialiasing);
     painter->setRenderHint(QPainter::Antialiasing, false);
     painter->fillRect(BoxOf(Shown()), ToQColor(*Shown().BackColor));

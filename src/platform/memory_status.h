@@ -5,7 +5,7 @@
 
 namespace orrerix {
 
-// The system's memory as its 32-bit call tells it, in bytes. A figure of 2 GiB or more does not
+// The system's memory as its 32-bit call reports it, in bytes. A figure of 2 GiB or more does not
 // fit: what is in use is then counted against a total of 2 GiB.
 struct MemoryStatus {
   std::uint32_t dwLength = 0;

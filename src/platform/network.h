@@ -11,12 +11,12 @@ struct NetworkError : std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
-// Fetches what lies behind http and https addresses.
+// Fetches what is at http and https addresses.
 class Network {
  public:
   virtual ~Network() = default;
 
-  // The bytes behind an address, whatever the server's status; returns when they are there. Throws
+  // The bytes at an address, whatever the server's status; returns when they are there. Throws
   // NetworkError if no answer comes in time, if it breaks off or is too large, or if it leads to
   // another kind of address.
   virtual std::string Get(const std::string& address) = 0;

@@ -18,7 +18,7 @@ class Printers {
  public:
   virtual ~Printers() = default;
 
-  // The printer that the system prints on unless it is told otherwise; nothing if there is none.
+  // The system's default printer; nothing if there is none.
   virtual std::optional<PrintTarget> DefaultPrinter() = 0;
 };
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The user's own folders where no registry tells them.
+// The user's own folders where no registry names them.
 #pragma once
 
 #include <string>

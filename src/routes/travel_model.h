@@ -18,7 +18,7 @@ struct TravelModel {
   double ChargeSeconds = 5;  // cruise_charge_time of the engines
   double LaneSpeed = 2250;   // fixed in the game
   double LaneSeconds = 10;   // lining up, entering, splash, leaving
-  double GateSeconds = 20;   // estimates: what a jump or a dock takes is not told by the files
+  double GateSeconds = 20;   // estimates: the files do not say what a jump or a dock takes
   double HoleSeconds = 15;
   double DockSeconds = 10;
   double LaunchSeconds = 5;

@@ -87,7 +87,7 @@ class Explanation {
 
   // The system that an object's `goto` leads into: that of its target, or the one that is written
   // where there is no such target.
-  std::optional<SystemIndex> SystemBehind(const GotoText& text) const {
+  std::optional<SystemIndex> SystemAfter(const GotoText& text) const {
     if (const auto target = graph_.FindObject(text.Target)) return graph_.Objects[*target].System;
     return graph_.FindSystem(text.System);
   }
@@ -99,7 +99,7 @@ class Explanation {
       if (object.GotoText.empty() || !reached_.contains(object.System)) continue;
       const auto obstacle = ObstacleOf(graph_, limits_, i);
       const GotoText text = PartsOf(object.GotoText);
-      const auto behind = SystemBehind(text);
+      const auto behind = SystemAfter(text);
       if (!obstacle || (behind && reached_.contains(*behind))) continue;
       blocked.push_back({i, std::string(text.Target), *obstacle});
     }

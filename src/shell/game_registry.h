@@ -15,7 +15,7 @@ class GameRegistry {
   GameRegistry(ErrorLog& log, const Registry& registry) : log_(log), registry_(registry) {}
 
   // The game's folder as its installer noted it: "AppPath" of version 1.0, then of 2.0, then the
-  // customary place. A folder that is not there is a failure, behind which the result is blank.
+  // customary place. A folder that is not there is a failure, after which the result is blank.
   std::string GetFLPath() const;
 
   // The user's folders, from the registry or, where it is silent, from the system.

@@ -20,7 +20,7 @@ std::int32_t NotNegative(std::int64_t figure) {
   return static_cast<std::int32_t>(std::clamp<std::int64_t>(figure, 0, kMost));
 }
 
-std::int16_t MIN_MAX_Int_helper(double number) {
+std::int16_t ClampToInteger(double number) {
   return static_cast<std::int16_t>(std::clamp(RoundToEven(number), -32768.0, 32767.0));
 }
 
@@ -54,7 +54,7 @@ std::string MemoryHeadline(Language language, const MemoryStatus& start, const M
 std::array<MemorySegment, 9> LayOutMemoryBars(const std::array<std::int32_t, 9>& figures,
                                               int formWidth, int left) {
   std::array<MemorySegment, 9> segments;
-  const std::int16_t width = MIN_MAX_Int_helper(formWidth - left - kRightMargin);
+  const std::int16_t width = ClampToInteger(formWidth - left - kRightMargin);
   for (std::size_t first = 0; first < figures.size(); first += 3) {
     const std::int64_t sum =
         static_cast<std::int64_t>(figures[first]) + figures[first + 1] + figures[first + 2];
@@ -62,12 +62,12 @@ std::array<MemorySegment, 9> LayOutMemoryBars(const std::array<std::int32_t, 9>&
     MemorySegment& used = segments[first];
     MemorySegment& added = segments[first + 1];
     MemorySegment& free = segments[first + 2];
-    used.Width = MIN_MAX_Int_helper(width / whole * figures[first]);
-    added.Width = MIN_MAX_Int_helper(width / whole * figures[first + 1]);
-    free.Width = MIN_MAX_Int_helper(width - used.Width - added.Width);
-    used.Left = MIN_MAX_Int_helper(left);
-    added.Left = MIN_MAX_Int_helper(used.Left + used.Width);
-    free.Left = MIN_MAX_Int_helper(added.Left + added.Width);
+    used.Width = ClampToInteger(width / whole * figures[first]);
+    added.Width = ClampToInteger(width / whole * figures[first + 1]);
+    free.Width = ClampToInteger(width - used.Width - added.Width);
+    used.Left = ClampToInteger(left);
+    added.Left = ClampToInteger(used.Left + used.Width);
+    free.Left = ClampToInteger(added.Left + added.Width);
   }
   return segments;
 }

@@ -28,7 +28,7 @@ class Routine : public FailureSink {
   Routine& operator=(const Routine&) = delete;
 
   // Runs the body. False if the user cancelled it. What fails outside a step of its own ends the
-  // body, since nothing tells where its next statement is.
+  // body, since there is no telling where its next statement is.
   template <typename Body>
   bool Run(Body&& body);
 

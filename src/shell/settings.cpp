@@ -67,7 +67,7 @@ void Settings::WriteSettingValue(const std::string& key, const std::string& valu
   Routine routine(log_, "Settings.WriteSettingValue", "While saveing settings");
   routine.Run([&] {
     Database settings = DBEngine::OpenDatabase(routine, path_);
-    // The map is drawn behind this: it need not wait for the disk.
+    // The map is drawn after this: it need not wait for the disk.
     settings.ExecuteNative(routine, "PRAGMA synchronous = OFF");
     Recordset row = settings.OpenRecordset(routine, kFind, {key}, RecordsetType::Dynaset);
     if (row.AtEnd()) {

@@ -60,7 +60,7 @@ std::optional<JetVersionOption> CheckJetDatabase(const fs::path& applicationFold
 
 UniverseState ExamineUniverse(FailureSink& routine, const fs::path& saveFolder,
                               const AppVersion& version) {
-  const fs::path file = saveFolder / "Orrerix.fl";
+  const fs::path file = UniverseFileIn(saveFolder);
   const auto lock = FolderLock::TryHold(saveFolder);
   if (!lock) return UniverseState::InUse;
   if (!FileExists(routine, file)) return UniverseState::Absent;
@@ -84,6 +84,10 @@ bool IsWarningWanted(FailureSink& routine, const fs::path& universeFile) {
   }
   Recordset warning = universe.OpenRecordset(routine, rows);
   return warning.AtEnd() || warning["off"].Get().Number() == 0;
+}
+
+fs::path UniverseFileIn(const fs::path& saveFolder) {
+  return saveFolder / "Orrerix.fl";
 }
 
 fs::path SaveFolderBelow(const fs::path& personalFolder) {

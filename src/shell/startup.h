@@ -41,6 +41,9 @@ bool IsWarningWanted(FailureSink& routine, const std::filesystem::path& universe
 // a real path. The game makes this folder; with a folder of another case on disk that one counts.
 std::filesystem::path SaveFolderBelow(const std::filesystem::path& personalFolder);
 
+// The universe file of a save folder.
+std::filesystem::path UniverseFileIn(const std::filesystem::path& saveFolder);
+
 // If the setup program left the marker "CopyLnk" in the application folder: makes the shortcuts on
 // the desktop and in the programs folder, and deletes the marker.
 void MakeShortcuts(ErrorLog& log, FailureSink& routine, const GameRegistry& registry,

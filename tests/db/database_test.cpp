@@ -91,7 +91,7 @@ TEST_F(OpenDatabase, OrdersWithoutRegardToCaseAndTiesByInsertion) {
   Add("b", 7);
   const auto numbers = ElementsAre("4", "3", "1", "2", "7", "6", "5");
 
-  // "_" comes before "a" since letters count as lower case ones; "ä" behind all of ASCII.
+  // "_" comes before "a" since letters count as lower case ones; "ä" after all of ASCII.
   EXPECT_THAT(Names("SELECT number FROM t ORDER BY name"), numbers);
   EXPECT_THAT(Names("SELECT number FROM t ORDER BY ucase(name)"), numbers);
   EXPECT_THAT(Names("SELECT number FROM t order by ucase(name);"), numbers);

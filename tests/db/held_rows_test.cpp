@@ -137,7 +137,7 @@ TEST_F(HeldTable, ShowsItsRowsToWhoeverAsks) {
   EXPECT_EQ(Count(), 3u);
 }
 
-TEST_F(HeldTable, ObeysItsKeyBeforeAndBehindTheFirstQuestion) {
+TEST_F(HeldTable, ObeysItsKeyBeforeAndAfterTheFirstQuestion) {
   for (const bool isLate : {false, true}) {
     db = DBEngine::CreateInMemory(mustWork);
     db.CreateHeldTable(mustWork, Goods(isLate));
@@ -210,7 +210,7 @@ TEST_F(HeldTable, IsWrittenWhenARowIsLookedUpByAnotherField) {
   EXPECT_THAT(db.TakeHeldRows(), IsEmpty());
 }
 
-TEST_F(HeldTable, ALookUpTellsNullFromNoRowBeforeAndBehindItsWriting) {
+TEST_F(HeldTable, ALookUpTellsNullFromNoRowBeforeAndAfterItsWriting) {
   TableDef table = Goods();
   table.PrimaryKey = Index{"k", {"price"}, false};
   db.CreateHeldTable(mustWork, table);

@@ -7,7 +7,7 @@
 
 namespace orrerix::demo {
 
-// Little-endian numbers out of a file's bytes; a place behind the end throws std::out_of_range.
+// Little-endian numbers out of a file's bytes; a place past the end throws std::out_of_range.
 inline std::uint32_t U8At(const std::string& bytes, std::size_t offset) {
   return static_cast<unsigned char>(bytes.at(offset));
 }

@@ -92,9 +92,9 @@ TEST_F(SystemGridTest, AScaleThatIsMissingNegativeOrNoNumberLeavesOne) {
 TEST(ParsePosition, NumbersAreRoundedTiesToEven) {
   const ObjectPosition position = ParsePosition(" 2.5, -3.5 high, 1e3");
 
-  EXPECT_EQ(position.A, 2);
-  EXPECT_EQ(position.B, -4);
-  EXPECT_EQ(position.C, 1000);
+  EXPECT_EQ(position.X, 2);
+  EXPECT_EQ(position.Height, -4);
+  EXPECT_EQ(position.Z, 1000);
 }
 
 TEST(ParsePosition, AMissingCommaIsAFailure) {

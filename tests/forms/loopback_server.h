@@ -25,7 +25,7 @@ class LoopbackServer {
     return "http://127.0.0.1:" + std::to_string(server_.serverPort()) + path;
   }
 
-  // What a path gets: raw bytes behind which the connection closes, or whatever is done to it.
+  // What a path gets: raw bytes after which the connection closes, or whatever is done to it.
   void On(const std::string& path, const QByteArray& bytes) {
     replies_[path] = [bytes](QTcpSocket& socket) {
       socket.write(bytes);

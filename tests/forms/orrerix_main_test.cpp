@@ -30,9 +30,7 @@ class OrrerixMainTest : public FormFixture {
 
   bool ShowsMap() { return form->Map().Frame().isVisible(); }
   bool HasTableVersion() {
-    class Ignore : public FailureSink {
-      void Fail(const Failure&) override {}
-    } ignore;
+    IgnoreFailures ignore;
     return DBEngine::OpenDatabase(ignore, UniverseFile()).HasTable("Version");
   }
 
@@ -394,9 +392,7 @@ TEST_F(OrrerixMainMapTest, FourToolsOpenTheSearchPanelAndTheLastOnePrints) {
 }
 
 TEST_F(OrrerixMainMapTest, ARedrawAskedForDuringAQuestionRunsAfterTheOneThatAsks) {
-  class Ignore : public FailureSink {
-    void Fail(const Failure&) override {}
-  } ignore;
+  IgnoreFailures ignore;
   DBEngine::OpenDatabase(ignore, UniverseFile()).Execute(ignore, "DROP TABLE TradeLanes");
   form->showNormal();
   PassEvents();
@@ -443,7 +439,7 @@ TEST_F(OrrerixMainMapTest, AZoomedMapIsPrintedWithItsIconsAndWithoutFillers) {
   EXPECT_FALSE(Prints(ControlId::BackgroundTile));
 }
 
-TEST_F(OrrerixMainMapTest, BehindAPrintTheFormIsMaximisedAgainWithTheSameMap) {
+TEST_F(OrrerixMainMapTest, AfterAPrintTheFormIsMaximisedAgainWithTheSameMap) {
   ZoomIn();
   const ZoomRectangle visible = form->Map().State().Zoom.Current();
   ASSERT_TRUE(form->isMaximized());
@@ -458,7 +454,7 @@ TEST_F(OrrerixMainMapTest, BehindAPrintTheFormIsMaximisedAgainWithTheSameMap) {
   EXPECT_EQ(form->Map().Drawing().FrameColor, Color{});
 }
 
-TEST_F(OrrerixMainMapTest, BehindAPrintAFormOfItsOwnSizeHasItAgain) {
+TEST_F(OrrerixMainMapTest, AfterAPrintAFormOfItsOwnSizeHasItAgain) {
   form->showNormal();
   form->setGeometry(40, 50, 700, 500);
   PassEvents();
@@ -482,7 +478,7 @@ TEST_F(OrrerixMainMapTest, WithoutAPrinterTheUserIsToldAndTheFormIsRestored) {
   EXPECT_TRUE(form->isMaximized());
 }
 
-TEST_F(OrrerixMainMapTest, GivenUpBehindAFailureTheFormStaysSquareAndInPrint) {
+TEST_F(OrrerixMainMapTest, GivenUpAfterAFailureTheFormStaysSquareAndInPrint) {
   printers.File.clear();
   messages.Answer = MessageAnswer::Cancel;
 

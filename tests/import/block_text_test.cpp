@@ -48,7 +48,7 @@ TEST(CutAtComma, GivesBothSidesOfTheFirst) {
 
   EXPECT_TRUE(cut.Found);
   EXPECT_EQ(cut.Before, "a");
-  EXPECT_EQ(cut.Behind, " b, c");
+  EXPECT_EQ(cut.After, " b, c");
 }
 
 TEST(CutAtComma, LeavesATextWithoutOneInFront) {
@@ -56,13 +56,13 @@ TEST(CutAtComma, LeavesATextWithoutOneInFront) {
 
   EXPECT_FALSE(cut.Found);
   EXPECT_EQ(cut.Before, "abc");
-  EXPECT_EQ(cut.Behind, "");
+  EXPECT_EQ(cut.After, "");
 }
 
 TEST(RequireBeforeComma, FailsWithFiveWithoutAComma) {
   EXPECT_EQ(RequireBeforeComma("a,b"), "a");
-  EXPECT_EQ(RequireBehindComma("a,b"), "b");
-  for (const auto require : {RequireBeforeComma, RequireBehindComma}) {
+  EXPECT_EQ(RequireAfterComma("a,b"), "b");
+  for (const auto require : {RequireBeforeComma, RequireAfterComma}) {
     try {
       require("ab");
       ADD_FAILURE() << "no failure";

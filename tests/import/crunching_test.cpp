@@ -158,7 +158,7 @@ TEST_F(Crunching, TablesKeepTheirOrderAndOddNames) {
   EXPECT_THAT(Column("a b", "c \"d\""), ElementsAre("one"));
 }
 
-TEST_F(Crunching, SectionTablesStandBehindTheFixedTables) {
+TEST_F(Crunching, SectionTablesStandAfterTheFixedTables) {
   for (const TableDef& table : FixedTables()) db.CreateTable(mustWork, table);
   db.CreateTable(mustWork, JumpNodesTable());
   SectionTable& gun = sections.Open("gun");

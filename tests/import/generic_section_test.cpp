@@ -69,7 +69,7 @@ TEST_F(GenericSection, ABlockWithoutANicknameInAKeyedTableIsAFailure) {
   Read("[gun]\nnickname = a\n[gun]\nmass = 1\n[gun]\nnickname = c\n");
   StoreSections();
 
-  // The new field writes the row as it stands: without its key it goes. Behind that there is no
+  // The new field writes the row as it stands: without its key it goes. After that there is no
   // row to take up again, which is a fault of the file's data.
   EXPECT_THAT(Column("gun", "nickname"), ElementsAre("a", "c"));
   EXPECT_THAT(FailureNumbers(), ElementsAre(3058));
@@ -195,7 +195,7 @@ TEST_F(GenericSection, NamesWithASignLeaveNoTable) {
   EXPECT_THAT(TableNames(), SizeIs(FixedTables().size()));
 }
 
-TEST_F(GenericSection, ABlockWithoutABracketBehindItsNameLeavesNoTable) {
+TEST_F(GenericSection, ABlockWithoutABracketAfterItsNameLeavesNoTable) {
   Read("[gun\nnickname = a\n");
   StoreSections();
 
@@ -211,7 +211,7 @@ TEST_F(GenericSection, ARowWithoutKeysLeavesNothingButItsTable) {
   EXPECT_THAT(FieldNames("gun"), ElementsAre("OX_ID", "SourceFileName", "nickname"));
 }
 
-TEST_F(GenericSection, TextBehindTheHeaderIsALineOfTheBlock) {
+TEST_F(GenericSection, TextAfterTheHeaderIsALineOfTheBlock) {
   Read("[gun] nickname = a\nmass = 2\n");
   StoreSections();
 
@@ -342,7 +342,7 @@ TEST_F(GenericSection, TablesStandInOrderOfAppearance) {
   EXPECT_EQ(names.back(), "b");
 }
 
-TEST_F(GenericSection, CancelBehindAFailureEndsTheFile) {
+TEST_F(GenericSection, CancelAfterAFailureEndsTheFile) {
   messages.Answer = MessageAnswer::Cancel;
 
   Read("[ships]\nx = 1\n[gun]\nnickname = a\n");

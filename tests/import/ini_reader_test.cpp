@@ -123,7 +123,7 @@ TEST_F(IniReader, LinesMayEndInALoneLineFeed) {
   EXPECT_THAT(Column("gun", "mass"), ElementsAre("2"));
 }
 
-TEST_F(IniReader, ACommentBehindAValueIsDropped) {
+TEST_F(IniReader, ACommentAfterAValueIsDropped) {
   Read("[Good]\nnickname = a ; the first\nprice = 300;a remark\ncategory = x\n");
 
   EXPECT_THAT(Column("Goods", "nickname"), ElementsAre("a"));

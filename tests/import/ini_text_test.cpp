@@ -26,7 +26,7 @@ INSTANTIATE_TEST_SUITE_P(
     ::testing::Values(
         ValueCase{"[x]\r\nprice = 300\r\n", "price", "300"},
         ValueCase{"price=300\r\n", "price", "300"},
-        // Without a blank behind the sign a letter goes, but only where one stands before it.
+        // Without a blank after the sign a letter goes, but only where one stands before it.
         ValueCase{"name =Fox\r\n", "name", "ox"}, ValueCase{"name=Fox\r\n", "name", "Fox"},
         ValueCase{"name =   Fox Hole  \r\n", "name", "Fox Hole"},
         ValueCase{"PRICE = 300\r\n", "price", "300"}, ValueCase{"price = 300\r\n", "PRICE", "300"},
@@ -40,7 +40,7 @@ INSTANTIATE_TEST_SUITE_P(
         ValueCase{"cost = 3", "price", ""}, ValueCase{"", "price", ""},
         // Tabs are no blanks, and a lone LF ends no value.
         ValueCase{"a = \t1\r\n", "a", "\t1"}, ValueCase{"a = 1\nb = 2\r\n", "a", "1\nb = 2"},
-        // Behind "key =" one character is skipped, whatever it is: here the CR.
+        // After "key =" one character is skipped, whatever it is: here the CR.
         ValueCase{"a =\r\nb = 2\r\n", "a", "\nb = 2"}));
 
 TEST(RemoveComments, GoUpToTheNextCarriageReturn) {
@@ -69,7 +69,7 @@ class FixCrLfOf : public ::testing::TestWithParam<LineEndCase> {};
 TEST_P(FixCrLfOf, AText) {
   std::string text(GetParam().Text);
 
-  FixCrLf(text);
+  text = FixCrLf(std::move(text));
 
   EXPECT_EQ(text, GetParam().Fixed);
 }
@@ -99,7 +99,7 @@ TEST(FixCrLf, FindsOneFaultAtEveryPlaceOfALongText) {
     for (const auto& [fault, fixed] : {LineEndCase{"\n", "\r\n"}, LineEndCase{"\r", "\r\n"},
                                        LineEndCase{"  =", " ="}, LineEndCase{"\r\n", "\r\n"}}) {
       std::string text = before + std::string(fault) + behind;
-      FixCrLf(text);
+      text = FixCrLf(std::move(text));
       EXPECT_EQ(text, before + std::string(fixed) + behind) << at;
     }
   }

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "import/known_sections.h"
-
 #include <gmock/gmock.h>
 
+#include "import/known_sections.h"
 #include "support/known_section_fixture.h"
 
 namespace orrerix {
@@ -85,7 +84,7 @@ equipment = short
 TEST_F(KnownSection, ANicknameWithAQuoteBreaksTheLookupOfItsCommodity) {
   Read("[Good]\nnickname = bob's\ncategory = commodity\nequipment = commodity_bob\n");
 
-  // The query of the name's lookup is no statement; behind that the commodity is not found.
+  // The query of the name's lookup is no statement; after that the commodity is not found.
   EXPECT_EQ(TheRow("Goods").at("realname"), "bob");
   EXPECT_THAT(FailureNumbers(), ElementsAre(3075));
 }
@@ -133,7 +132,7 @@ addon = two ,  hp
 }
 
 TEST_F(KnownSection, WhatFollowsTheLastAddonGivesNamelessRowsOfSixCharacters) {
-  // Behind the last value two characters of it are left, then CR LF, "price = 5", CR LF: 15. The
+  // After the last value two characters of it are left, then CR LF, "price = 5", CR LF: 15. The
   // rounds begin at 15, 9 and end at 3, which is not more than 3.
   Read(R"([Good]
 nickname = p

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "import/known_sections.h"
-
 #include <gmock/gmock.h>
 
+#include "import/known_sections.h"
 #include "support/known_section_fixture.h"
 
 namespace orrerix {
@@ -158,7 +157,7 @@ TEST_F(KnownSection, CargoWithoutABlankBeforeItsSignIsReadToo) {
 }
 
 TEST_F(KnownSection, EquipmentWithoutABlankBeforeItsSignIsReadAgainAndAgain) {
-  // "[Loadout]" CR LF is 11 characters, "nickname = a" CR LF 14: the line begins behind 25. Cuts
+  // "[Loadout]" CR LF is 11 characters, "nickname = a" CR LF 14: the line begins after 25. Cuts
   // of 7 leave 18, 11, 4 characters before it; then it loses its front. That is four rows.
   Read("[Loadout]\nnickname = a\nequip=gun\n");
 

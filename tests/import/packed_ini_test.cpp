@@ -37,7 +37,7 @@ TEST(PackedIni, IsToldByItsFirstFourBytes) {
   EXPECT_FALSE(IsPackedIni(""));
 }
 
-TEST(UnpackIni, WritesSectionsEntriesAndAnEmptyLineBehindEach) {
+TEST(UnpackIni, WritesSectionsEntriesAndAnEmptyLineAfterEach) {
   const std::string packed = PackSections({
       {"Ship", {{"nickname", {"fox"s}}, {"pos", {-10, 2.5f, "deep space"s}}, {"empty", {}}}},
       {"gun", {}},

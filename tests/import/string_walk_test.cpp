@@ -26,7 +26,7 @@ std::string Stored(std::string_view text) {
   return bytes;
 }
 
-// A library that holds blocks of strings behind its table.
+// A library that holds blocks of strings after its table.
 std::string Library(const std::vector<std::string>& blocks) {
   std::string file(kTable, '\0');
   std::size_t offset = kTable + 16 * blocks.size();
@@ -72,7 +72,7 @@ TEST_F(StringWalk, KeepsEmptyStrings) {
 }
 
 TEST_F(StringWalk, StopsAStringAtTheEndOfItsBlock) {
-  // The block ends behind "Fo"; the string claims 9 characters and runs on into the next block. It
+  // The block ends after "Fo"; the string claims 9 characters and runs on into the next block. It
   // ends when the position is 2 beyond the block, and loses the last character it took.
   std::string cut = Stored("Fo");
   cut[0] = 9;
@@ -81,7 +81,7 @@ TEST_F(StringWalk, StopsAStringAtTheEndOfItsBlock) {
   EXPECT_THAT(Column("Names", "name"), ElementsAre("Fo", "Cat"));
 }
 
-TEST_F(StringWalk, ShowsTheFirstStringAndEveryHundredthBehindIt) {
+TEST_F(StringWalk, ShowsTheFirstStringAndEveryHundredthAfterIt) {
   std::string block;
   for (int i = 0; i < 150; ++i) block += Stored("s" + std::to_string(i));
   Walk(Library({block, Stored("last")}));
@@ -112,7 +112,7 @@ TEST_F(StringWalk, BearsAnotherLibrary) {
   EXPECT_THAT(Rows("Names"), IsEmpty());
 }
 
-TEST_F(StringWalk, BearsALibraryThatIsCutAnywhereBehindItsTable) {
+TEST_F(StringWalk, BearsALibraryThatIsCutAnywhereAfterItsTable) {
   const std::string whole = Library({Stored("Fox") + Stored("Ox"), Stored("Cat")});
 
   for (std::size_t length = kTable; length < whole.size(); ++length) {

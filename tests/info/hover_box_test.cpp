@@ -124,7 +124,7 @@ TEST_F(HoverBoxTest, TheLongestLineGivesTheWidthAndAllLinesTheHeight) {
   EXPECT_EQ(hover.Box[1].Place.Height, 864);
 }
 
-TEST_F(HoverBoxTest, GivenUpBehindAFailureTheBoxStaysAway) {
+TEST_F(HoverBoxTest, GivenUpAfterAFailureTheBoxStaysAway) {
   messages.Answer = MessageAnswer::Cancel;
 
   const HoverBox hover = Open(Icon("a'b", 40));

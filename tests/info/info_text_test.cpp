@@ -215,7 +215,7 @@ TEST_F(InfoText, AGoodThatIsAGunHasBothParts) {
   EXPECT_THAT(Equipment("lamp_gun"), HasSubstr("Refire-Rate"));
 }
 
-TEST_F(InfoText, AGunWithoutMunitionStopsBehindItsHardpoint) {
+TEST_F(InfoText, AGunWithoutMunitionStopsAfterItsHardpoint) {
   Guns();
   Gun();
 

@@ -86,7 +86,7 @@ class Planet : public Station {
   }
 };
 
-TEST_F(Planet, ARingShowsThePlanetsInfoBehindItsOwn) {
+TEST_F(Planet, ARingShowsThePlanetsInfoAfterItsOwn) {
   EXPECT_EQ(Read("ring_2").Info,
             "\r\nDockring: Whisper  Lantern [X=D.6/Y=4.5]\r\n\r\nA ring.\r\n\r\n"
             "Diameter: 9 km\r\n\r\nA quiet planet.\r\n\r\n");

@@ -23,7 +23,7 @@ TEST(WrapText, LineEndsStay) {
   EXPECT_EQ(Wrap("\r\nab\r\n\r\ncd", 20), "\r\nab \r\n\r\ncd\r\n");
 }
 
-TEST(WrapText, BehindALineEndThatStandsAloneTheNextLineIsTakenAsItIs) {
+TEST(WrapText, AfterALineEndThatStandsAloneTheNextLineIsTakenAsItIs) {
   EXPECT_EQ(Wrap("\r\n\r\nab", 20), "\r\n \r\nab\r\n");
 }
 

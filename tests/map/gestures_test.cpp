@@ -113,7 +113,7 @@ TEST_F(Gestures, WhollyOutsideTheFrameADragEndsInTheCellsBeside) {
 TEST_F(Gestures, ADragThatBeginsRightOfTheLastColumnShownTakesThatColumnsNeighbours) {
   state.Zoom.Reset({5, 5, 8, 8});
 
-  // 20000 lies in the fifth column of 4750, the one behind the last shown.
+  // 20000 lies in the fifth column of 4750, the one after the last shown.
   Drag(20000, 100, 21000, 100);
 
   EXPECT_EQ(state.Zoom.Current(), (ZoomRectangle{9, 5, 9, 5}));

@@ -155,7 +155,7 @@ TEST_F(Switches, AFailureNamesTheIndex) {
   EXPECT_TRUE(answer.Redraw);
 }
 
-TEST_F(Switches, CancelBehindAFailureLeavesTheMapAsItIs) {
+TEST_F(Switches, CancelAfterAFailureLeavesTheMapAsItIs) {
   messages.Answer = MessageAnswer::Cancel;
 
   const SwitchAnswer answer = switches.ToggleSwitch(6, {});

@@ -50,7 +50,7 @@ class NewsLoaderTest : public ::testing::Test {
   ErrorLog log{messages, {1, 0, 0}};
 };
 
-TEST_F(NewsLoaderTest, TheTextBehindTheAddressIsKept) {
+TEST_F(NewsLoaderTest, TheTextAfterTheAddressIsKept) {
   network.Answer = "1.5\r\n";
 
   EXPECT_EQ(Loader().Fetch(), "1.5\r\n");
@@ -127,7 +127,7 @@ TEST_F(NewsLoaderTest, AFileWithoutANameCannotBeSaved) {
   EXPECT_THAT(messages.Shown, SizeIs(1));
 }
 
-TEST(StripPathHelper, WhatStandsBehindTheLastSeparatorIsTheName) {
+TEST(StripPathHelper, WhatStandsAfterTheLastSeparatorIsTheName) {
   EXPECT_EQ(StripPathHelper("http://x/y/z.gif"), "z.gif");
   EXPECT_EQ(StripPathHelper("c:\\x\\y.gif"), "y.gif");
   EXPECT_EQ(StripPathHelper("y.gif"), "y.gif");

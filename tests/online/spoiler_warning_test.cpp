@@ -49,7 +49,7 @@ TEST(SpoilerTexts, WithoutTheMarkerTheTextStays) {
   EXPECT_EQ(texts.Text, DefaultSpoilerTexts(Language::English).Text);
 }
 
-TEST(SpoilerTexts, TheCharacterBehindTheMarkerIsSkippedWhateverItIs) {
+TEST(SpoilerTexts, TheCharacterAfterTheMarkerIsSkippedWhateverItIs) {
   EXPECT_EQ(With("Text =xDragons").Text, "Dragons");
 }
 

@@ -6,7 +6,7 @@
 namespace orrerix {
 namespace {
 
-TEST(IsDue, BehindMoreThan750Milliseconds) {
+TEST(IsDue, AfterMoreThan750Milliseconds) {
   EXPECT_FALSE(IsDue(1000, 1000));
   EXPECT_FALSE(IsDue(1750, 1000));
   EXPECT_TRUE(IsDue(1751, 1000));

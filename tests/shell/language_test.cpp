@@ -91,7 +91,7 @@ TEST_F(LanguageFileTest, ATextIsWrittenOverTheOneThatStands) {
   EXPECT_EQ(file.OpenRecordset(mustWork, "SELECT * FROM Lang0").RecordCount(), 29u);
 }
 
-TEST_F(LanguageFileTest, EditsAreGoneBehindTheNextStart) {
+TEST_F(LanguageFileTest, EditsAreGoneAfterTheNextStart) {
   language.InitLanguages();
   language.SetLanguage(3, {"a", "b", "c"});
   language.SetLanguage(100, {"x", "y", "z"});

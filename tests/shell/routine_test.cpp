@@ -27,7 +27,7 @@ class RoutineFrame : public ::testing::Test {
   Routine routine{log, "Module.Name", "While testing"};
 };
 
-TEST_F(RoutineFrame, OkGoesOnBehindTheFailedStep) {
+TEST_F(RoutineFrame, OkGoesOnAfterTheFailedStep) {
   std::vector<std::string> steps;
 
   const bool finished = routine.Run([&] {
@@ -93,7 +93,7 @@ TEST_F(RoutineFrame, AnOuterRoutinesCancelPassesTheInnerOne) {
   EXPECT_FALSE(wentOn);
 }
 
-TEST_F(RoutineFrame, AFailureOutsideAStepIsAskedAboutAndCancelsOnlyBehindCancel) {
+TEST_F(RoutineFrame, AFailureOutsideAStepIsAskedAboutAndCancelsOnlyAfterCancel) {
   EXPECT_TRUE(routine.Run([] { throw RuntimeFailure(5); }));
   messages.Answer = MessageAnswer::Cancel;
   EXPECT_FALSE(routine.Run([] { throw RuntimeFailure(5); }));

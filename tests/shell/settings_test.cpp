@@ -123,7 +123,7 @@ TEST_F(SettingsFile, AKeyWithAQuoteIsAFailure) {
   EXPECT_EQ(log.Failures()[0].Info, "While reading setting: it's");
 }
 
-TEST_F(SettingsFile, ADamagedFileIsMadeAnewBehindOk) {
+TEST_F(SettingsFile, ADamagedFileIsMadeAnewAfterOk) {
   folder.Write("FLOX-Settings.mdb", std::string(5000, 'x'));
 
   EXPECT_EQ(settings.ReadSetting("LANG"), "0");
@@ -132,7 +132,7 @@ TEST_F(SettingsFile, ADamagedFileIsMadeAnewBehindOk) {
   EXPECT_EQ(settings.ReadSetting("SET1-2"), "1");
 }
 
-TEST_F(SettingsFile, ADamagedFileGivesNothingBehindCancel) {
+TEST_F(SettingsFile, ADamagedFileGivesNothingAfterCancel) {
   folder.Write("FLOX-Settings.mdb", std::string(5000, 'x'));
   messages.Answer = MessageAnswer::Cancel;
 
@@ -151,7 +151,7 @@ TEST_F(SettingsFile, WritingDoesNotMakeTheFile) {
   EXPECT_EQ(log.Failures()[0].Info, "While saveing settings");
 }
 
-TEST_F(SettingsFile, AFileThatCannotBeLookedAtIsAFailureAndIsMadeAnewBehindOk) {
+TEST_F(SettingsFile, AFileThatCannotBeLookedAtIsAFailureAndIsMadeAnewAfterOk) {
   fs::create_symlink("FLOX-Settings.mdb", settings.Path());  // a link to itself
 
   EXPECT_EQ(settings.ReadSetting("LANG"), "0");
@@ -168,7 +168,8 @@ TEST_F(SettingsFile, AFileThatCannotBeDeletedIsAFailure) {
 
   const auto& failures = log.Failures();
   EXPECT_TRUE(std::any_of(failures.begin(), failures.end(), [](const FailureEntry& entry) {
-    return entry.What.Number == 75 && entry.What.Description.find("cannot delete") != std::string::npos;
+    return entry.What.Number == 75 &&
+           entry.What.Description.find("cannot delete") != std::string::npos;
   }));
 }
 

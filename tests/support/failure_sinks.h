@@ -17,7 +17,7 @@ class FailTest : public FailureSink {
   }
 };
 
-// Remembers failures; the work goes on, as behind OK.
+// Remembers failures; the work goes on, as after OK.
 class RecordFailures : public FailureSink {
  public:
   std::vector<Failure> Failures;

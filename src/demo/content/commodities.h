@@ -6,7 +6,7 @@
 
 namespace orrerix::demo {
 
-// What a place makes or wants is told by these groups, so that prices make sense together.
+// These groups decide what a place makes or wants, so that prices make sense together.
 enum class GoodsGroup { Raw, Metal, Food, Fuel, Machine, Tech, Luxury, Medical, Illicit, Waste };
 
 struct Commodity {

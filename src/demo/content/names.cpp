@@ -19,7 +19,7 @@ std::string Names::Place(const Nation& nation, Random& random) {
     name = random.Pick(nation.Heads) + nation.Joint + random.Pick(nation.Tails);
     if (used_.insert(name).second) return name;
   }
-  // The halves are used up: the name comes again with a number behind it.
+  // The halves are used up: the name comes again with a number after it.
   int number = 2;
   while (!used_.insert(fmt::format("{} {}", name, number)).second) ++number;
   return fmt::format("{} {}", name, number);

@@ -20,7 +20,7 @@ enum class Library : std::size_t { Names, Cards, Equipment, Misc, People };
 struct LibraryFile {
   Library Place;
   std::string_view Name;     // file name in the folder of the program
-  std::string_view Purpose;  // comment behind the name in the configuration
+  std::string_view Purpose;  // comment after the name in the configuration
 };
 
 const std::vector<LibraryFile>& LibraryFiles();

@@ -28,7 +28,7 @@ class ResourceLibraryWriter {
   // empty text is stored as an absent one, as the format has no other way.
   void AddString(std::uint16_t number, std::string_view utf8, std::uint32_t language = EnglishUs);
 
-  // An info card, given as UTF-8 and stored as UTF-16 behind a byte order mark.
+  // An info card, given as UTF-8 and stored as UTF-16 after a byte order mark.
   void AddCard(std::uint16_t number, std::string_view utf8, std::uint32_t language = EnglishUs);
 
   // Raw bytes under any key, for instance a card with an odd length or without a mark. Raw bytes

@@ -12,7 +12,7 @@ namespace orrerix::demo {
 
 // A place to land: a settled planet (Planet is set) or a station (Station is set).
 struct PlannedBase {
-  std::string Nickname;  // of the object; the base is called the same with "_base" behind
+  std::string Nickname;  // of the object; the base is called the same with "_base" after
   std::string Name;
   const PlanetKind* Planet = nullptr;
   const StationKind* Station = nullptr;

@@ -30,7 +30,7 @@ class MapController : private MapMouse, private MapKeys {
   MapController(const MapController&) = delete;
   MapController& operator=(const MapController&) = delete;
 
-  // To be called behind each redraw.
+  // To be called after each redraw.
   void MapRedrawn();
 
   // To be called when the news have moved in the panel.

@@ -65,7 +65,7 @@ void MapScreen::ReadAhead() {
   timer->start(0);
 }
 
-// Reading a finer picture takes longer than a redraw, so it is done behind one.
+// Reading a finer picture takes longer than a redraw, so it is done after one.
 void MapScreen::Sharpen() {
   pictures_.ReadWanted();
   scene_.update();

@@ -56,7 +56,7 @@ void NewsController::MapRedrawn() {
 void NewsController::ScrollNews() {
   Routine routine(log_, "OrrerixMain.NewsTimer_Timer");
   routine.Run([&] {
-    NewsTimer(band_, bottom_);
+    band_ = ScrolledNews(std::move(band_), bottom_);
     ShowBand();
   });
 }

@@ -16,7 +16,7 @@ class NewsController {
   // Both must outlive this.
   NewsController(MapScreen& screen, ErrorLog& log);
 
-  // To be called behind each redraw: the labels begin at their own places again.
+  // To be called after each redraw: the labels begin at their own places again.
   void MapRedrawn();
 
   // The labels have moved in the scene.

@@ -27,7 +27,7 @@ class SearchEvents {
   virtual void EnterKey(SearchControl in) = 0;
 };
 
-// The search panel's controls on the map: they show a SearchPanel and tell what is done to them.
+// The search panel's controls on the map: they show a SearchPanel and report what the user does.
 class SearchPanelView : public QFrame {
  public:
   // `events` must outlive this. While the panel is seen the Escape key closes it, wherever on its

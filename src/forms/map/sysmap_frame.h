@@ -9,8 +9,8 @@
 
 namespace orrerix {
 
-// The map's clipping frame on the main form: shows a scene pixel for pixel and tells the mouse's
-// doings in twips. While a button is down the mouse is told of wherever it goes.
+// The map's clipping frame on the main form: shows a scene pixel for pixel and reports
+// mouse events in twips. While a button is down the mouse is followed wherever it goes.
 class SysmapFrame : public QGraphicsView {
  public:
   SysmapFrame(MapScene& scene, QWidget* parent);

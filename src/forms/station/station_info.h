@@ -41,7 +41,7 @@ class StationInfo : public QWidget {
   const std::string& Picture() const { return picture_; }
   StationMode Mode() const { return modes_.Mode(); }
 
-  // Called when the user closes it, with nothing of it on the stack behind that.
+  // Called when the user closes it, with nothing of it on the stack after that.
   std::function<void()> OnClosed;
 
  protected:

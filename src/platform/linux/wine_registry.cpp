@@ -33,7 +33,7 @@ void AppendUnit(std::string& text, unsigned unit) {
   }
 }
 
-// Reads a text with the file's escapes up to `end`, and moves `line` behind that.
+// Reads a text with the file's escapes up to `end`, and moves `line` past it.
 std::string ReadEscaped(std::string_view& line, char end) {
   std::string text;
   while (!line.empty() && line.front() != end) {
@@ -47,7 +47,9 @@ std::string ReadEscaped(std::string_view& line, char end) {
     line.remove_prefix(1);
     if (c == 'x') {
       std::size_t digits = 0;
-      while (digits < 4 && digits < line.size() && std::isxdigit(static_cast<unsigned char>(line[digits]))) ++digits;
+      while (digits < 4 && digits < line.size() &&
+             std::isxdigit(static_cast<unsigned char>(line[digits])))
+        ++digits;
       const std::string number(line.substr(0, digits));
       if (digits > 0) AppendUnit(text, static_cast<unsigned>(std::stoul(number, nullptr, 16)));
       line.remove_prefix(digits);
@@ -122,8 +124,7 @@ std::optional<RegistryValue> WineRegistry::Query(RegistryHive hive, std::string_
   // A 32-bit installer on a 64-bit prefix writes below Wow6432Node.
   constexpr std::string_view software = "software\\";
   if (!path.starts_with(software)) return std::nullopt;
-  const auto found =
-      values.find("software\\wow6432node\\" + path.substr(software.size()));
+  const auto found = values.find("software\\wow6432node\\" + path.substr(software.size()));
   return found == values.end() ? std::nullopt : std::optional(found->second);
 }
 

@@ -77,7 +77,7 @@ TEST(BiniWriter, NamesComeBeforeValuesInTheTableSoThatTheirOffsetsFit) {
 
   const std::string packed = PackSections({first, second});
 
-  // The second section stands behind 12 + 4 + 3 + 5 bytes; "a" and "k" take 4 bytes of the table.
+  // The second section stands after 12 + 4 + 3 + 5 bytes; "a" and "k" take 4 bytes of the table.
   EXPECT_EQ(U16At(packed, 24), 4u);
 }
 

@@ -65,7 +65,7 @@ TEST(PeWriter, AStringLiesInTheBlockOfItsNumber) {
   EXPECT_EQ(image.substr(Section + 88, 8), "\0\0\x01\0\xD6\0\0\0"sv);
 }
 
-TEST(PeWriter, ACardIsUtf16BehindAByteOrderMark) {
+TEST(PeWriter, ACardIsUtf16AfterAByteOrderMark) {
   ResourceLibraryWriter library;
   library.AddCard(5, "Aé");
 
