@@ -63,6 +63,8 @@ int Run(int argc, char** argv) {
   app.require_subcommand(1);
   app.fallthrough();
   AddImportVerb(app, options, run);
+  AddTableVerbs(app, options, run);
+  AddDiffVerb(app, options, run);
   AddSceneVerb(app, options, run);
   AddTextVerbs(app, options, run);
   AddHoverVerb(app, options, run);
