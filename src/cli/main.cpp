@@ -65,6 +65,7 @@ int Run(int argc, char** argv) {
   AddImportVerb(app, options, run);
   AddTableVerbs(app, options, run);
   AddDiffVerb(app, options, run);
+  AddWatchVerb(app, options, run);
   AddSceneVerb(app, options, run);
   AddTextVerbs(app, options, run);
   AddHoverVerb(app, options, run);

@@ -26,6 +26,7 @@ using Verb = std::function<int()>;
 void AddImportVerb(CLI::App& app, const CommonOptions& options, Verb& run);
 void AddTableVerbs(CLI::App& app, const CommonOptions& options, Verb& run);
 void AddDiffVerb(CLI::App& app, const CommonOptions& options, Verb& run);
+void AddWatchVerb(CLI::App& app, const CommonOptions& options, Verb& run);
 void AddSceneVerb(CLI::App& app, const CommonOptions& options, Verb& run);
 void AddTextVerbs(CLI::App& app, const CommonOptions& options, Verb& run);
 void AddHoverVerb(CLI::App& app, const CommonOptions& options, Verb& run);
