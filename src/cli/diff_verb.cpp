@@ -108,6 +108,8 @@ void AddDiffVerb(CLI::App& app, const CommonOptions& options, Verb& run) {
   verb->add_flag("--html", arguments->Html, "Answer as an HTML document");
   verb->add_flag("--fail-on-difference", arguments->FailOnDifference,
                  "Exit code 3 if there is any difference");
+  verb->footer(
+      "Only one of --json, --markdown and --html can be given; without them the answer is text.");
   verb->callback([&options, &run, arguments] {
     run = [&options, arguments] { return RunDiff(options, *arguments); };
   });

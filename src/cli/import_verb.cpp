@@ -85,6 +85,7 @@ void AddImportVerb(CLI::App& app, const CommonOptions& options, Verb& run) {
   verb->add_flag("--strict", import->Strict, "Exit code 3 if there is a log entry or a failure");
   verb->add_flag("--quiet", import->Quiet,
                  "Print nothing but failures, and the answer that --json asks for");
+  verb->footer("Writes the universe file (--database).");
   verb->callback([&options, &run, import] {
     run = [&options, import] { return RunImport(options, *import); };
   });

@@ -3,8 +3,8 @@
 
 namespace orrerix {
 
-// While it lives an interrupt (Ctrl+C) or a request to terminate does not end the process at once, but
-// is noted for it to end tidily.
+// While it lives an interrupt (Ctrl+C) or a request to terminate does not end the process at once,
+// but is noted for it to end tidily.
 class Interruption {
  public:
   Interruption();

@@ -5,6 +5,7 @@
 
 #include <fmt/format.h>
 
+#include "cli/help_format.h"
 #include "cli/spelling.h"
 #include "cli/verbs.h"
 #include "shell/version.h"
@@ -54,7 +55,10 @@ int Run(int argc, char** argv) {
   CommonOptions options;
   Verb run;
   app.set_version_flag("--version", "orrerix-cli " + CurrentVersion().Text());
-  AddText(app, "--database", options.Database, "The universe file");
+  app.formatter(std::make_shared<HelpFormat>());
+  AddText(app, "--database", options.Database,
+          "The universe file; default: the one in the save folder")
+      ->type_name("FILE");
   app.add_option("--language", options.Language, "Language of captions")
       ->check(CLI::IsMember({"en", "de", "fr"}));
   app.add_option("--on-failure", options.OnFailure, "Answer to every failure question")

@@ -150,8 +150,8 @@ ImportResult UniverseImport::Run(bool quiet, const std::function<bool()>& isEnde
     CliHost host(messages, quiet, isEnded);
     try {
       result.IsFinished = ImportGame(
-          log, host, database,
-          {game, work.Path(), JetVersionOption::Version30, CurrentVersion()}, DerivedStages());
+          log, host, database, {game, work.Path(), JetVersionOption::Version30, CurrentVersion()},
+          DerivedStages());
     } catch (const ImportEnded&) {
       // The answer to the question about memory was to abort, or the import is wanted no more.
     }
@@ -168,8 +168,7 @@ ImportResult UniverseImport::Run(bool quiet, const std::function<bool()>& isEnde
     result.LogEntries.push_back(WithSameLineEnds(line));
   }
   result.Failures = log.Failures();
-  result.Seconds =
-      std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+  result.Seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
   return result;
 }
 

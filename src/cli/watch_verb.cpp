@@ -49,12 +49,13 @@ Json RoundJson(const Round& round) {
 }
 
 std::string RoundText(const Round& round) {
-  std::string text = fmt::format("{}  {} {}, {:.2f} seconds, {} log lines, {} failures",
-                                 round.Time, round.Files, round.Files == 1 ? "file" : "files",
-                                 round.Import.Seconds, round.Import.LogEntries.size(),
-                                 round.Import.Failures.size());
+  std::string text =
+      fmt::format("{}  {} {}, {:.2f} seconds, {} log lines, {} failures", round.Time, round.Files,
+                  round.Files == 1 ? "file" : "files", round.Import.Seconds,
+                  round.Import.LogEntries.size(), round.Import.Failures.size());
   if (!round.Diff) return text;
   const UniverseDiff::Counts counts = round.Diff->RowCounts();
+  if (round.Diff->IsEmpty()) return text + "; no differences";
   text += fmt::format("; {} rows added, {} removed, {} changed", counts.Added, counts.Removed,
                       counts.Changed);
   const std::size_t added = round.Diff->TablesAdded.size();
@@ -147,6 +148,7 @@ class WatchVerb {
 };
 
 int RunWatch(const CommonOptions& options, const WatchArguments& arguments) {
+  if (!options.Database) throw WrongUsage("watch needs --database FILE");
   const Interruption interruption;
   WatchVerb(options, arguments).Run();
   return kDone;
@@ -161,6 +163,8 @@ void AddWatchVerb(CLI::App& app, const CommonOptions& options, Verb& run) {
   verb->add_option("--game", arguments->Game, "The game's folder")->required()->type_name("DIR");
   AddText(*verb, "--log", arguments->Log, "File for the data log of the last round")
       ->type_name("FILE");
+  verb->footer(
+      "Needs --database, the universe file that it writes. Ends on an interrupt (Ctrl+C).");
   verb->callback([&options, &run, arguments] {
     run = [&options, arguments] { return RunWatch(options, *arguments); };
   });

@@ -61,9 +61,8 @@ void AppendChanged(std::string& text, const std::vector<ReportRow>& rows) {
       "<tr><th>What</th><th>Field</th><th>Old</th><th>New</th></tr>\n";
   for (const ReportRow& row : rows) {
     for (const ReportField& field : row.Fields) {
-      text +=
-          fmt::format("<tr><td>{}</td><td>{}</td><td>{}</td><td>{}</td></tr>\n", Things(row),
-                      Escaped(field.Column), Escaped(field.Old), Escaped(field.New));
+      text += fmt::format("<tr><td>{}</td><td>{}</td><td>{}</td><td>{}</td></tr>\n", Things(row),
+                          Escaped(field.Column), Escaped(field.Old), Escaped(field.New));
     }
   }
   text += "</table>\n";
@@ -111,8 +110,7 @@ void AppendSummary(std::string& text, const Report& report) {
 }  // namespace
 
 std::string HtmlReport(const Report& report) {
-  const std::string title =
-      fmt::format("From {} to {}", Escaped(report.Old), Escaped(report.New));
+  const std::string title = fmt::format("From {} to {}", Escaped(report.Old), Escaped(report.New));
   std::string text = fmt::format(
       "<!DOCTYPE html>\n<html lang=\"en\">\n<head>\n<meta charset=\"utf-8\">\n<title>{}</title>\n"
       "<style>{}</style>\n</head>\n<body>\n<h1>{}</h1>\n",

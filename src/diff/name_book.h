@@ -13,9 +13,9 @@ namespace orrerix {
 
 class NameBook {
  public:
-  // Adds the things of a universe: systems, bases, factions, ships and their packages, goods, objects
-  // and whatever else has a nickname and a name or the number of one. The first name of a nickname
-  // counts.
+  // Adds the things of a universe: systems, bases, factions, ships and their packages, goods,
+  // objects and whatever else has a nickname and a name or the number of one. The first name of a
+  // nickname counts.
   void Learn(const std::vector<StoredTable>& universe);
 
   // The name of a nickname, whatever its case; empty if none is known.

@@ -52,8 +52,8 @@ Report MakeReport(const UniverseDiff& diff, const NameBook& names, std::string o
 // "3 rows added, 1 removed, 2 changed", or "No differences" if there are none at all.
 std::string SummaryOf(const Report& report);
 
-// The report as plain text, as Markdown (tables as GitHub draws them), and as one self-contained HTML
-// document. All three hold the same.
+// The report as plain text, as Markdown (tables as GitHub draws them), and as one self-contained
+// HTML document. All three hold the same.
 std::string PlainReport(const Report& report);
 std::string MarkdownReport(const Report& report);
 std::string HtmlReport(const Report& report);

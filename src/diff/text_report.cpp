@@ -53,8 +53,7 @@ void AppendTables(std::string& text, std::string_view caption,
 }  // namespace
 
 std::string PlainReport(const Report& report) {
-  std::string text =
-      fmt::format("From {} to {}: {}\n", report.Old, report.New, SummaryOf(report));
+  std::string text = fmt::format("From {} to {}: {}\n", report.Old, report.New, SummaryOf(report));
   AppendTables(text, "Tables added", report.TablesAdded);
   AppendTables(text, "Tables removed", report.TablesRemoved);
   for (const ReportSection& section : report.Sections) {

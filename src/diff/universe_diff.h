@@ -49,12 +49,12 @@ struct UniverseDiff {
 // All tables of a universe in their order, as far as they can be read.
 std::vector<StoredTable> ReadAllTables(FailureSink& sink, const Database& universe);
 
-// Compares two universes. Rows are matched by `nickname`, where both tables have it and it is unique
-// and never Null, else by all text columns, repeated ones in stored order; rows of `ids_name` and
-// `ids_info` by `ID`. Names and keys compare without regard to case, values exactly. A column that
-// only one side has counts as Null on the other. The columns `ID` elsewhere and `OX_ID` and the
-// tables `Version` and `OXWarning` do not count. With `only`, names in lower case, other tables do
-// not count either.
+// Compares two universes. Rows are matched by `nickname`, where both tables have it and it is
+// unique and never Null, else by all text columns, repeated ones in stored order; rows of
+// `ids_name` and `ids_info` by `ID`. Names and keys compare without regard to case, values exactly.
+// A column that only one side has counts as Null on the other. The columns `ID` elsewhere and
+// `OX_ID` and the tables `Version` and `OXWarning` do not count. With `only`, names in lower case,
+// other tables do not count either.
 UniverseDiff CompareUniverses(const std::vector<StoredTable>& old,
                               const std::vector<StoredTable>& now,
                               const std::optional<std::set<std::string>>& only = std::nullopt);
