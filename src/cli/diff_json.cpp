@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "cli/diff_json.h"
 
+#include "cli/json_text.h"
 #include "cli/value_json.h"
 
 namespace orrerix {
@@ -9,9 +10,11 @@ namespace {
 using Json = nlohmann::ordered_json;
 
 Json RowJson(const TableDiff& table, const std::vector<Value>& row) {
-  Json json = Json::object();
-  for (std::size_t i = 0; i < row.size(); ++i) json[table.Columns[i]] = ValueJson(row[i]);
-  return json;
+  Json::object_t members;
+  for (std::size_t i = 0; i < row.size(); ++i) {
+    AppendMember(members, table.Columns[i], ValueJson(row[i]));
+  }
+  return members;
 }
 
 Json ChangedJson(const TableDiff& table, const ChangedRow& row) {
@@ -44,10 +47,9 @@ Json DiffSummaryJson(const UniverseDiff& diff) {
 }
 
 Json DiffJson(const UniverseDiff& diff) {
-  Json json = {{"tables", Json::object()}};
-  for (const TableDiff& table : diff.Tables) json["tables"][table.Name] = TableJson(table);
-  json["summary"] = DiffSummaryJson(diff);
-  return json;
+  Json::object_t tables;
+  for (const TableDiff& table : diff.Tables) AppendMember(tables, table.Name, TableJson(table));
+  return {{"tables", std::move(tables)}, {"summary", DiffSummaryJson(diff)}};
 }
 
 }  // namespace orrerix

@@ -21,11 +21,12 @@ struct ImportOptions {
   bool Quiet = false;
 };
 
-Json AnswerJson(const std::string& target, const ImportResult& result) {
+Json AnswerJson(const std::string& target, const ImportAnswer& result) {
   Json answer;
   answer["database"] = target;
-  answer["tables"] = Json::object();
-  for (const auto& count : result.Tables) answer["tables"][count.Name] = count.Rows;
+  Json::object_t tables;
+  for (const TableCount& count : result.Tables) AppendMember(tables, count.Name, count.Rows);
+  answer["tables"] = std::move(tables);
   answer["log_lines"] = result.LogEntries.size();
   answer["log"] = result.LogEntries;
   answer["failures"] = Json::array();
@@ -39,15 +40,15 @@ Json AnswerJson(const std::string& target, const ImportResult& result) {
   return answer;
 }
 
-void PrintText(const std::string& target, const ImportResult& result) {
-  for (const auto& count : result.Tables) fmt::print("{:<32}{:>8}\n", count.Name, count.Rows);
+void PrintText(const std::string& target, const ImportAnswer& result) {
+  for (const TableCount& count : result.Tables) fmt::print("{:<32}{:>8}\n", count.Name, count.Rows);
   fmt::print("{} log lines, {} failures, {:.2f} seconds: {}\n", result.LogEntries.size(),
              result.Failures.size(), result.Seconds, target);
 }
 
 // Without a file the log stands in the answer.
 void WriteLog(const CommonOptions& options, const ImportOptions& import,
-              const ImportResult& result) {
+              const ImportAnswer& result) {
   const std::string text = LogText(result.LogEntries);
   if (import.Log) {
     WriteFile(*import.Log, text);
@@ -60,7 +61,7 @@ int RunImport(const CommonOptions& options, const ImportOptions& import) {
   const UniverseImport universe(options, import.Game, options.DatabasePath());
   // Before the import, so that none is made in vain.
   if (import.Log) RequireWritable(*import.Log);
-  const ImportResult result = universe.Run(import.Quiet);
+  const ImportAnswer result = universe.Run(import.Quiet);
   WriteLog(options, import, result);
   if (!result.IsFinished) {
     throw CouldNot("the import was given up; the universe file is not usable");

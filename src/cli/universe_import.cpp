@@ -51,10 +51,6 @@ class WorkFolder {
   std::optional<FolderLock> lock_;
 };
 
-class IgnoreFailures : public FailureSink {
-  void Fail(const Failure&) override {}
-};
-
 // The window imports in the folder of its own universe file, and holds that folder meanwhile.
 FolderLock RequireUnused(const fs::path& target) {
   const auto inUse = [&target] {
@@ -81,22 +77,9 @@ FolderLock RequireUnused(const fs::path& target) {
   return unlocked;
 }
 
-std::vector<ImportResult::TableCount> CountTables(Database& database) {
-  std::vector<ImportResult::TableCount> counts;
-  if (!database.IsOpen()) return counts;
-  IgnoreFailures ignore;
-  for (Recordset tables = database.OpenRecordset(
-           ignore, "SELECT name FROM sqlite_master WHERE type = 'table' ORDER BY rowid");
-       !tables.AtEnd(); tables.MoveNext()) {
-    const std::string name = tables["name"].Get().Text();
-    counts.push_back({name, database.RowCount(ignore, name).value_or(0)});
-  }
-  return counts;
-}
-
 // A failure that was passed over may have kept the last table from being written.
-bool IsStamped(const std::vector<ImportResult::TableCount>& counts) {
-  return std::any_of(counts.begin(), counts.end(), [](const ImportResult::TableCount& count) {
+bool IsStamped(const std::vector<TableCount>& counts) {
+  return std::any_of(counts.begin(), counts.end(), [](const TableCount& count) {
     return count.Name == "Version" && count.Rows > 0;
   });
 }
@@ -136,40 +119,40 @@ UniverseImport::UniverseImport(const CommonOptions& options, std::string game,
   }
 }
 
-ImportResult UniverseImport::Run(bool quiet, const std::function<bool()>& isEnded) const {
+ImportAnswer UniverseImport::Run(bool quiet, const std::function<bool()>& isEnded) const {
   const auto start = std::chrono::steady_clock::now();
   const auto lock = RequireUnused(target_);
   PolicyMessageBoxes messages(options_);
   ErrorLog log(messages, CurrentVersion());
   Database database;
-  ImportResult result;
+  ImportAnswer answer;
   // The files of the import's own names never meet others in a folder of their own.
   const WorkFolder work(target_);
   const GameFolder game(game_);
   {
     CliHost host(messages, quiet, isEnded);
     try {
-      result.IsFinished = ImportGame(
+      ImportResult result = ImportGame(
           log, host, database, {game, work.Path(), JetVersionOption::Version30, CurrentVersion()},
           DerivedStages());
+      answer.IsFinished = result.Finished && IsStamped(result.Tables);
+      answer.Tables = std::move(result.Tables);
     } catch (const ImportEnded&) {
       // The answer to the question about memory was to abort, or the import is wanted no more.
     }
   }
-  result.Tables = CountTables(database);
   database.Close();
-  result.IsFinished = result.IsFinished && IsStamped(result.Tables);
-  if (result.IsFinished) {
+  if (answer.IsFinished) {
     std::error_code error;
     fs::rename(work.Path() / "Orrerix.fl", target_, error);
-    result.IsFinished = !error;
+    answer.IsFinished = !error;
   }
   for (const std::string& line : log.DataLines()) {
-    result.LogEntries.push_back(WithSameLineEnds(line));
+    answer.LogEntries.push_back(WithSameLineEnds(line));
   }
-  result.Failures = log.Failures();
-  result.Seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
-  return result;
+  answer.Failures = log.Failures();
+  answer.Seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+  return answer;
 }
 
 std::string LogText(const std::vector<std::string>& entries) {

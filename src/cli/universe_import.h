@@ -2,22 +2,18 @@
 // One import into a universe file, as several verbs need it.
 #pragma once
 
-#include <cstdint>
 #include <filesystem>
 #include <functional>
 #include <string>
 #include <vector>
 
 #include "cli/options.h"
+#include "import/crunching.h"
 #include "shell/error_log.h"
 
 namespace orrerix {
 
-struct ImportResult {
-  struct TableCount {
-    std::string Name;
-    std::int64_t Rows;
-  };
+struct ImportAnswer {
   bool IsFinished = false;  // else the universe file is as it was before
   std::vector<TableCount> Tables;
   std::vector<std::string> LogEntries;  // of the data log; each line end within them is one LF
@@ -37,7 +33,7 @@ class UniverseImport {
   // Imports beside the universe file, which is replaced in one step once all is done. Failures are
   // answered by the options' policy and printed to standard error. The import is given up as soon
   // as `isEnded`, if there is one, says so. Throws CouldNot if another process uses the file.
-  ImportResult Run(bool quiet, const std::function<bool()>& isEnded = {}) const;
+  ImportAnswer Run(bool quiet, const std::function<bool()>& isEnded = {}) const;
 
  private:
   const CommonOptions& options_;

@@ -35,7 +35,7 @@ struct WatchArguments {
 struct Round {
   std::string Time;
   std::size_t Files = 0;
-  ImportResult Import;
+  ImportAnswer Import;
   std::optional<UniverseDiff> Diff;  // to the round before; nothing in the first one
 };
 
