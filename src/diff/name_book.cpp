@@ -31,7 +31,7 @@ std::optional<std::size_t> FindOneOf(const TableDef& table,
 
 // Where no name is known an import puts a text such as "gun_01(0)" or "0 - 0" in its place.
 bool IsStandIn(std::string_view name, std::string_view nickname) {
-  if (name.empty() || EqualIgnoringCase(name, nickname)) return true;
+  if (name.empty() || name == nickname) return true;
   if (name.starts_with("0 - 0") || name.starts_with('(')) return true;
   return name.ends_with(')') && name.size() > nickname.size() &&
          EqualIgnoringCase(name.substr(0, nickname.size()), nickname) &&

@@ -107,7 +107,8 @@ class SectionWriter {
     std::string text = value.Text();
     if (!value.IsText()) return text;
     const std::string_view name = names_.NameOf(text);
-    return name.empty() ? text : fmt::format("{} ({})", text, name);
+    const bool saysMore = !name.empty() && !EqualIgnoringCase(name, text);
+    return saysMore ? fmt::format("{} ({})", text, name) : text;
   }
 
   // Whether a base sells the good of a row; nothing if the row is of no market.

@@ -21,6 +21,8 @@ const std::map<std::string, std::set<std::string>> kMayInclude = {
     {"platform", {}},
     {"db", {"platform"}},
     {"shell", {"db", "platform"}},
+    {"tables", {"db"}},
+    {"diff", {"tables", "db"}},
     {"import", {"shell", "db", "platform"}},
     {"derived", {"import", "shell", "db", "platform"}},
     {"map", {"derived", "import", "shell", "db", "platform"}},
@@ -28,7 +30,7 @@ const std::map<std::string, std::set<std::string>> kMayInclude = {
     {"online", {"import", "shell", "db", "platform"}},
     {"routes", {"import", "shell", "db", "platform"}},
     {"picture", {"map", "derived", "import", "shell", "db", "platform"}},
-    {"cli", {"picture", "routes", "info", "online", "map", "derived", "import", "shell", "db", "platform"}},
+    {"cli", {"diff", "tables", "picture", "routes", "info", "online", "map", "derived", "import", "shell", "db", "platform"}},
     {"forms", {"picture", "info", "online", "map", "derived", "import", "shell", "db", "platform"}},
     {"demo", {}},
 };
