@@ -13,8 +13,8 @@ constexpr std::string_view kIndent = "       ";
 
 std::string ArgumentText(const CLI::Option& option) {
   std::string text = option.get_positional() ? option.get_name(true) : option.get_name();
-  if (!option.get_positional() && option.get_type_size() != 0) {
-    const std::string type = option.get_type_name();
+  const std::string type = option.get_type_name();
+  if (!option.get_positional() && !type.empty()) {
     // Of a choice the words alone say enough.
     text += " " + type.substr(type.find('{') == std::string::npos ? 0 : type.find('{'));
   }

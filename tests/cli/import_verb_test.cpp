@@ -15,7 +15,7 @@ class AnImportForScripts : public CommandLine {
   Answer ImportWithLog(const std::string& more) {
     const std::filesystem::path game = Game();
     folder.Write("game/DATA/MISSIONS/mbases.ini",
-                 "[MRoom]\r\nnickname = bar\r\nname = a\r\nname = b\r\n");
+                 "[MRoom]\r\nnickname = bar\r\nrate = 10\r\nrate = 20\r\n");
     return Run("import --game " + game.string() + " " + Database() + " " + more);
   }
   std::filesystem::path LogFile() const { return folder.Path() / "log.txt"; }
@@ -27,7 +27,7 @@ TEST_F(AnImportForScripts, GivesTheEntriesOfTheLog) {
   std::string text;
   for (const auto& entry : json["log"]) text += entry.get<std::string>() + "\n";
   EXPECT_EQ(json["log"].size(), json["log_lines"]);
-  EXPECT_THAT(text, HasSubstr("[MRoom]\nnickname = bar\nname = a\nname = b\n"));
+  EXPECT_THAT(text, HasSubstr("[MRoom]\nnickname = bar\nrate = 10\nrate = 20\n"));
   EXPECT_EQ(text, Content(LogFile()));
 }
 
@@ -68,8 +68,8 @@ TEST_F(CommandLine, HelpSaysWhatAVerbNeeds) {
       HasSubstr("Usage: orrerix-cli import --game DIR [--log FILE] [--strict] [--quiet]\n"));
   EXPECT_THAT(
       Run("table --help").Output,
-      HasSubstr("Usage: orrerix-cli table NAME [--columns A,B,...] [--where COLUMN=TEXT]... "
-                "[--sort COLUMN[:desc]]...\n        [--limit N] [--csv]\n"));
+      HasSubstr("Usage: orrerix-cli table NAME [--columns A,B,...] [--where COLUMN=TEXT]...\n"
+                "        [--sort COLUMN[:desc]]... [--limit N] [--csv]\n"));
   EXPECT_THAT(Run("station --help").Output, HasSubstr("[--mode {#,$,I,2,3}]"));
   EXPECT_THAT(Run("way --help").Output, HasSubstr("Needs a universe file"));
   EXPECT_THAT(Run("--help").Output, HasSubstr("orrerix-cli VERB --help"));

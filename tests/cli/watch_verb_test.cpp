@@ -52,7 +52,7 @@ TEST_F(Watching, TellsARoundForEachChange) {
   EXPECT_THAT(first["time"].get<std::string>(), MatchesRegex("[0-9]+:[0-9]+:[0-9]+"));
 
   folder.Write("game/DATA/MISSIONS/mbases.ini",
-               "[MRoom]\r\nnickname = x_bar\r\nname = a\r\nname = b\r\n");
+               "[MRoom]\r\nnickname = x_bar\r\nrate = 10\r\nrate = 20\r\n");
   const nlohmann::json second = Round();
 
   EXPECT_EQ(second["files"], 1);
