@@ -43,8 +43,9 @@ struct CannotCheck : std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
-// Called while a check runs, with the part of it that is done (0 to 1). False cancels the check.
-using CheckProgress = std::function<bool(double done)>;
+// Called again and again while a check runs, with the number of steps that are done: each file is
+// a step of reading and one or more of checking. False cancels the check.
+using CheckProgress = std::function<bool(std::size_t steps)>;
 
 // Checks a game folder. Throws CannotCheck if it, or the base, has no usable EXE/freelancer.ini.
 // Whatever else is wrong with a file becomes a finding.

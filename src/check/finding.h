@@ -12,9 +12,12 @@ enum class Severity { Error, Warning, Note };
 // "error", "warning", "note"
 constexpr const char* SeverityName(Severity severity) {
   switch (severity) {
-    case Severity::Error: return "error";
-    case Severity::Warning: return "warning";
-    default: return "note";
+    case Severity::Error:
+      return "error";
+    case Severity::Warning:
+      return "warning";
+    default:
+      return "note";
   }
 }
 
@@ -36,6 +39,7 @@ enum class FindingState {
 struct FilePlace {
   std::string File;
   int Line = 1;
+  check::Layer Layer = check::Layer::Game;
 
   bool operator==(const FilePlace&) const = default;
 };
