@@ -94,9 +94,10 @@ void CheckCase(const CheckedGame& game, Findings& findings) {
 }
 
 void CheckTwice(const CheckedGame& game, Findings& findings) {
-  std::map<std::pair<Layer, std::string_view>, const DiskFile*> seen;
+  using LayeredPath = std::pair<Layer, std::string_view>;
+  std::map<LayeredPath, const DiskFile*> seen;
   for (const DiskFile& file : game.Files.Tree().Files()) {
-    const auto [first, isNew] = seen.emplace(std::pair(file.Layer, file.Key), &file);
+    const auto [first, isNew] = seen.emplace(LayeredPath(file.Layer, file.Key), &file);
     if (isNew) continue;
     findings.Add(
         Rule::FileTwice, AtFirstLine(file),
