@@ -39,8 +39,8 @@ hull = f
 )");
 
   EXPECT_THAT(Found("good-part"),
-              ElementsAre("goods:1 -", "goods:5 category", "goods:6 -", "goods:11 equipment",
-                          "goods:12 -", "goods:15 -", "goods:20 hull"));
+              ElementsAre("goods:1 -", "goods:5 category", "goods:6 -", "goods:12 equipment",
+                          "goods:13 -", "goods:16 -", "goods:22 hull"));
 }
 
 TEST_F(GoodRules, AGoodThatIsSoldNeedsAPrice) {

@@ -15,7 +15,9 @@ TEST(RuleTable, StandsInTheOrderOfIdsAndOfTheRulesThemselves) {
   EXPECT_EQ(rules.size(), 60u);
   for (std::size_t i = 0; i < rules.size(); ++i) {
     EXPECT_EQ(static_cast<std::size_t>(rules[i].Rule), i) << rules[i].Id;
-    if (i > 0) EXPECT_LT(rules[i - 1].Id, rules[i].Id);
+    if (i > 0) {
+      EXPECT_LT(rules[i - 1].Id, rules[i].Id);
+    }
     EXPECT_FALSE(rules[i].Title.empty()) << rules[i].Id;
     EXPECT_FALSE(rules[i].Explanation.empty()) << rules[i].Id;
   }

@@ -78,11 +78,11 @@ TEST_F(TextRules, APartThatIsCutOffIsASectionOfItsOwn) {
 TEST_F(TextRules, BytesThatNoTextHasAreFoundOnce) {
   Data("constants", std::string_view("[A]\na = 1\nb = \0\nc = \0\n", 20));
   Data("fonts", "[A]\r\nname = Gr\xFC\xDF\x65\r\nkey = \x81\r\n");
-  Data("hud", "[A]\rname = \xEF\xBF\xBD\r");
+  Data("huds", "[A]\rname = \xEF\xBF\xBD\r");
   Data("igraph", "[A]\nname = \xC3\xBC\n");
   Data("intro", "[A]\nname = \xFC\n");
 
-  EXPECT_THAT(Found("bad-bytes"), ElementsAre("constants:3 b", "fonts:3 key", "hud:2 name"));
+  EXPECT_THAT(Found("bad-bytes"), ElementsAre("constants:3 b", "fonts:3 key", "huds:2 name"));
 }
 
 }  // namespace
