@@ -79,6 +79,7 @@ int Run(int argc, char** argv) {
   AddWayVerb(app, options, run);
   AddTradeVerb(app, options, run);
   AddTravelTimesVerb(app, options, run);
+  AddCheckVerb(app, options, run);
 #ifdef ORRERIX_WITH_QT
   AddRenderVerb(app, options, run);
 #endif

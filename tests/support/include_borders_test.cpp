@@ -29,9 +29,10 @@ const std::map<std::string, std::set<std::string>> kMayInclude = {
     {"info", {"map", "derived", "import", "shell", "db", "platform"}},
     {"online", {"import", "shell", "db", "platform"}},
     {"routes", {"import", "shell", "db", "platform"}},
+    {"check", {"import", "shell", "db", "platform"}},
     {"picture", {"map", "derived", "import", "shell", "db", "platform"}},
-    {"cli", {"diff", "tables", "picture", "routes", "info", "online", "map", "derived", "import", "shell", "db", "platform"}},
-    {"forms", {"picture", "info", "online", "map", "derived", "import", "shell", "db", "platform"}},
+    {"cli", {"diff", "tables", "picture", "check", "routes", "info", "online", "map", "derived", "import", "shell", "db", "platform"}},
+    {"forms", {"picture", "check", "info", "online", "map", "derived", "import", "shell", "db", "platform"}},
     {"demo", {}},
 };
 
