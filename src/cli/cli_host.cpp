@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <utility>
 
 #include <fmt/format.h>
 
@@ -26,11 +27,17 @@ std::string LastLine(std::string_view text) {
 
 }  // namespace
 
-CliHost::CliHost(MessageBoxes& messages, bool quiet)
-    : messages_(messages), shown_(!quiet && IsErrorShownOnTerminal()) {}
+CliHost::CliHost(MessageBoxes& messages, bool quiet, std::function<bool()> isEnded)
+    : messages_(messages),
+      shown_(!quiet && IsErrorShownOnTerminal()),
+      isEnded_(std::move(isEnded)) {}
 
 CliHost::~CliHost() {
   if (shown_) fmt::print(stderr, "\r\033[K");
+}
+
+void CliHost::Yield() {
+  if (isEnded_ && isEnded_()) throw ImportEnded();
 }
 
 void CliHost::ShowText(std::string_view text) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 
 #include "import/import_host.h"
@@ -12,14 +13,15 @@ namespace orrerix {
 // being read; elsewhere, or with --quiet, nothing.
 class CliHost : public ImportHost {
  public:
-  CliHost(MessageBoxes& messages, bool quiet);
+  // The import ends, by ImportEnded, once `isEnded`, if there is one, says so.
+  CliHost(MessageBoxes& messages, bool quiet, std::function<bool()> isEnded = {});
   ~CliHost() override;
 
   void ShowText(std::string_view text) override;
   void AppendText(std::string_view text) override;
   void ProgressIt(std::int32_t maximum, std::int32_t value,
                   const ImportProgress& progress) override;
-  void Yield() override {}
+  void Yield() override;
   void Pause(int) override {}
   MessageAnswer Show(const Message& message) override { return messages_.Show(message); }
   std::uint32_t TickCount() override;
@@ -29,6 +31,7 @@ class CliHost : public ImportHost {
  private:
   MessageBoxes& messages_;
   bool shown_;
+  std::function<bool()> isEnded_;
   std::string doing_;
 };
 

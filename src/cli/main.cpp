@@ -5,6 +5,7 @@
 
 #include <fmt/format.h>
 
+#include "cli/help_format.h"
 #include "cli/spelling.h"
 #include "cli/verbs.h"
 #include "shell/version.h"
@@ -54,7 +55,10 @@ int Run(int argc, char** argv) {
   CommonOptions options;
   Verb run;
   app.set_version_flag("--version", "orrerix-cli " + CurrentVersion().Text());
-  AddText(app, "--database", options.Database, "The universe file");
+  app.formatter(std::make_shared<HelpFormat>());
+  AddText(app, "--database", options.Database,
+          "The universe file; default: the one in the save folder")
+      ->type_name("FILE");
   app.add_option("--language", options.Language, "Language of captions")
       ->check(CLI::IsMember({"en", "de", "fr"}));
   app.add_option("--on-failure", options.OnFailure, "Answer to every failure question")
@@ -63,6 +67,9 @@ int Run(int argc, char** argv) {
   app.require_subcommand(1);
   app.fallthrough();
   AddImportVerb(app, options, run);
+  AddTableVerbs(app, options, run);
+  AddDiffVerb(app, options, run);
+  AddWatchVerb(app, options, run);
   AddSceneVerb(app, options, run);
   AddTextVerbs(app, options, run);
   AddHoverVerb(app, options, run);
@@ -72,6 +79,7 @@ int Run(int argc, char** argv) {
   AddWayVerb(app, options, run);
   AddTradeVerb(app, options, run);
   AddTravelTimesVerb(app, options, run);
+  AddCheckVerb(app, options, run);
 #ifdef ORRERIX_WITH_QT
   AddRenderVerb(app, options, run);
 #endif

@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "cli/options.h"
 
+#include <charconv>
 #include <cstdio>
 #include <optional>
 
 #include <fmt/format.h>
 
+#include "cli/spelling.h"
+#include "db/text.h"
 #include "db/working_copy.h"
 #include "platform/native_registry.h"
 #include "shell/game_registry.h"
@@ -16,12 +19,6 @@ namespace orrerix {
 namespace fs = std::filesystem;
 namespace {
 
-// Turns the first failure into the verb's own.
-class Stop : public FailureSink {
- public:
-  void Fail(const Failure& failure) override { throw CouldNot(failure.Description); }
-};
-
 // The stamp of a universe, the last thing that an import writes; nothing if it is not there.
 std::optional<std::string> StampOf(Database& universe) {
   IgnoreFailures quiet;
@@ -30,12 +27,23 @@ std::optional<std::string> StampOf(Database& universe) {
   return version["Version"].Get().Text();
 }
 
+void RequireFile(const fs::path& path) {
+  std::error_code error;
+  if (fs::exists(path, error)) return;
+  throw CouldNot(fmt::format("there is no universe file '{}'; 'import' makes one", path.string()));
+}
+
+std::string RequireStamp(Database& universe, const fs::path& path) {
+  if (const auto stamp = StampOf(universe)) return *stamp;
+  throw CouldNot(fmt::format("'{}' is no finished universe file; import it anew", path.string()));
+}
+
 }  // namespace
 
-void AddText(CLI::App& app, const std::string& name, std::optional<std::string>& text,
-             const std::string& help) {
+CLI::Option* AddText(CLI::App& app, const std::string& name, std::optional<std::string>& text,
+                     const std::string& help) {
   // An option bound to the optional itself would take an empty text for none.
-  app.add_option_function<std::string>(
+  return app.add_option_function<std::string>(
       name, [&text](const std::string& given) { text = given; }, help);
 }
 
@@ -65,23 +73,54 @@ orrerix::Language CommonOptions::CaptionLanguage() const {
 
 Database OpenUniverse(const CommonOptions& options) {
   const fs::path path = options.DatabasePath();
-  std::error_code error;
-  if (!fs::exists(path, error)) {
-    throw CouldNot(
-        fmt::format("there is no universe file '{}'; 'import' makes one", path.string()));
-  }
-  Stop stop;
+  RequireFile(path);
+  StopOnFailure stop;
   WorkingCopy copy;
   Database universe = copy.Of(stop, path);
-  const auto stamp = StampOf(universe);
-  if (!stamp) {
-    throw CouldNot(fmt::format("'{}' is no finished universe file; import it anew", path.string()));
-  }
-  if (*stamp != CurrentVersion().Stamp()) {
+  if (RequireStamp(universe, path) != CurrentVersion().Stamp()) {
     throw CouldNot(
         fmt::format("the universe file '{}' is of another version; import it anew", path.string()));
   }
   return universe;
+}
+
+Database OpenFinishedFile(const fs::path& path) {
+  RequireFile(path);
+  StopOnFailure stop;
+  Database universe = DBEngine::OpenDatabase(stop, path);
+  RequireStamp(universe, path);
+  return universe;
+}
+
+CouldNot NoSuch(std::string_view kind, std::string_view name,
+                const std::vector<std::string>& known) {
+  std::string text = fmt::format("there is no {} '{}'", kind, name);
+  const std::string closest = MostAlike(name, known);
+  if (!closest.empty()) text += fmt::format("; did you mean '{}'?", closest);
+  return CouldNot(text);
+}
+
+std::vector<std::string> SplitList(const std::string& text) {
+  std::vector<std::string> parts;
+  std::string_view rest = text;
+  while (true) {
+    const std::size_t comma = rest.find(',');
+    parts.emplace_back(Trim(rest.substr(0, comma)));
+    if (comma == std::string_view::npos) return parts;
+    rest.remove_prefix(comma + 1);
+  }
+}
+
+std::int64_t ParseCount(std::string_view option, const std::string& text, std::int64_t least,
+                        std::int64_t most) {
+  std::int64_t number = 0;
+  const char* const end = text.data() + text.size();
+  const auto [next, error] = std::from_chars(text.data(), end, number);
+  if (error != std::errc() || next != end || number < least || number > most) {
+    throw WrongUsage(
+        fmt::format("{} needs a whole number from {} to {}, not '{}'", option, least, most, text));
+  }
+  return number;
 }
 
 }  // namespace orrerix

@@ -2,11 +2,14 @@
 // What every verb of the command line shares.
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
 #include <functional>
 #include <optional>
 #include <stdexcept>
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include <CLI/CLI.hpp>
 
@@ -22,6 +25,7 @@ inline constexpr int kDone = 0;
 inline constexpr int kCouldNot = 1;
 inline constexpr int kWrongUsage = 2;
 inline constexpr int kStrictFound = 3;
+inline constexpr int kDifferent = 3;
 
 // A verb could not do its work; the text is the one line that says why.
 struct CouldNot : std::runtime_error {
@@ -46,8 +50,8 @@ struct CommonOptions {
 
 // Adds an option that takes a text. An empty text is a text like any other; `text` stays empty only
 // where the option is not given.
-void AddText(CLI::App& app, const std::string& name, std::optional<std::string>& text,
-             const std::string& help);
+CLI::Option* AddText(CLI::App& app, const std::string& name, std::optional<std::string>& text,
+                     const std::string& help);
 
 // Answers every failure question by the chosen policy and prints it to standard error, in the
 // dialog's own words. Other messages are printed, too.
@@ -62,5 +66,26 @@ class PolicyMessageBoxes : public MessageBoxes {
 
 // Opens the finished universe file for reading, as the indexed copy; says why if it cannot.
 Database OpenUniverse(const CommonOptions& options);
+
+// Opens a finished universe file as it is on disk, of whatever version, to read its tables. Throws
+// CouldNot.
+Database OpenFinishedFile(const std::filesystem::path& path);
+
+// A failure of its work is that of the verb: throws CouldNot.
+class StopOnFailure : public FailureSink {
+ public:
+  void Fail(const Failure& failure) override { throw CouldNot(failure.Description); }
+};
+
+// That there is nothing of a name, with what is spelled most like it: `kind` says what is sought.
+CouldNot NoSuch(std::string_view kind, std::string_view name,
+                const std::vector<std::string>& known);
+
+// The parts of a list with commas, trimmed of blanks.
+std::vector<std::string> SplitList(const std::string& text);
+
+// A whole number within bounds. Throws WrongUsage that names the option.
+std::int64_t ParseCount(std::string_view option, const std::string& text, std::int64_t least,
+                        std::int64_t most);
 
 }  // namespace orrerix

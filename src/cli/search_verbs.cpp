@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // search and sellers: the lists of the search panel.
 #include <algorithm>
+#include <iterator>
 #include <map>
 #include <memory>
 
@@ -16,6 +17,9 @@
 namespace orrerix {
 namespace {
 
+// Between nickname and name of a printed row.
+constexpr char kBetween = '\t';
+
 const std::map<std::string, SearchType> kSearches = {{"place", SearchType::Place},
                                                      {"ship", SearchType::Ship},
                                                      {"equipment", SearchType::Equipment},
@@ -23,9 +27,14 @@ const std::map<std::string, SearchType> kSearches = {{"place", SearchType::Place
 const std::map<std::string, SearchType> kSold = {
     {"ship", SearchType::Ship}, {"equipment", SearchType::Equipment}, {"bribe", SearchType::Bribe}};
 
+// A row as search prints it.
+std::string LineOf(const SearchRow& row) {
+  return row.Nickname + kBetween + row.RealName;
+}
+
 void AnswerRows(const CommonOptions& options, const std::vector<SearchRow>& rows) {
   if (!options.Json) {
-    for (const SearchRow& row : rows) fmt::print("{}\t{}\n", row.Nickname, row.RealName);
+    for (const SearchRow& row : rows) fmt::print("{}\n", LineOf(row));
     return;
   }
   nlohmann::ordered_json answer = nlohmann::ordered_json::array();
@@ -35,20 +44,39 @@ void AnswerRows(const CommonOptions& options, const std::vector<SearchRow>& rows
   PrintJson(answer);
 }
 
+bool IsEqual(std::string_view a, std::string_view b) {
+  return Ucase(a) == Ucase(b);
+}
+
+// Of the rows that the panel lists for no text those that are meant by a nickname, by a printed
+// line, or else by a name.
+std::vector<SearchRow> RowsMeant(const std::vector<SearchRow>& listed, const std::string& text) {
+  std::vector<SearchRow> rows;
+  const auto keep = [&](auto&& isMeant) {
+    if (rows.empty()) std::copy_if(listed.begin(), listed.end(), std::back_inserter(rows), isMeant);
+  };
+  keep([&](const SearchRow& row) { return IsEqual(row.Nickname, text); });
+  keep([&](const SearchRow& row) { return IsEqual(LineOf(row), text); });
+  keep([&](const SearchRow& row) { return IsEqual(row.RealName, text); });
+  return rows;
+}
+
+// What the panel lists. A nickname or a printed line, for which it lists nothing, gives its rows.
 int RunSearch(const CommonOptions& options, SearchType type, const std::string& text) {
   OpenedUniverse universe(options);
-  AnswerRows(options, Search(universe.Data, type, text));
+  std::vector<SearchRow> rows;
+  const bool isLine = text.find(kBetween) != std::string::npos;
+  if (!isLine) rows = Search(universe.Data, type, text);
+  if (rows.empty() && !text.empty()) rows = RowsMeant(Search(universe.Data, type, ""), text);
+  AnswerRows(options, rows);
   return kDone;
 }
 
-int RunSellers(const CommonOptions& options, SearchType type, const std::string& nickname) {
+int RunSellers(const CommonOptions& options, SearchType type, const std::string& text) {
   OpenedUniverse universe(options);
-  const std::vector<SearchRow> listed = Search(universe.Data, type, "");
-  const auto row = std::find_if(listed.begin(), listed.end(), [&](const SearchRow& each) {
-    return Ucase(each.Nickname) == Ucase(nickname);
-  });
-  if (row == listed.end()) throw CouldNot("the search panel lists no '" + nickname + "'");
-  AnswerRows(options, SellersOf(universe.Data, type, *row));
+  const std::vector<SearchRow> rows = RowsMeant(Search(universe.Data, type, ""), text);
+  if (rows.empty()) throw CouldNot("the search panel lists no '" + text + "'");
+  AnswerRows(options, SellersOf(universe.Data, type, rows.front()));
   return kDone;
 }
 
@@ -56,7 +84,7 @@ int RunSellers(const CommonOptions& options, SearchType type, const std::string&
 template <typename Answer>
 void AddVerb(CLI::App& app, const CommonOptions& options, Verb& run, const char* name,
              const char* help, const std::map<std::string, SearchType>& kinds, const char* word,
-             Answer answer) {
+             const char* about, Answer answer) {
   struct Words {
     std::string Kind;
     std::string Text;
@@ -64,7 +92,7 @@ void AddVerb(CLI::App& app, const CommonOptions& options, Verb& run, const char*
   auto words = std::make_shared<Words>();
   CLI::App* verb = app.add_subcommand(name, help);
   verb->add_option("KIND", words->Kind, "What is sought")->required()->check(CLI::IsMember(&kinds));
-  verb->add_option(word, words->Text)->required();
+  verb->add_option(word, words->Text, about)->required();
   verb->callback([&options, &run, &kinds, words, answer] {
     run = [&options, &kinds, words, answer] {
       return answer(options, kinds.at(words->Kind), words->Text);
@@ -76,9 +104,9 @@ void AddVerb(CLI::App& app, const CommonOptions& options, Verb& run, const char*
 
 void AddSearchVerbs(CLI::App& app, const CommonOptions& options, Verb& run) {
   AddVerb(app, options, run, "search", "The rows that the search panel lists", kSearches, "TEXT",
-          RunSearch);
+          "Part of the name, with * and ?; or a nickname", RunSearch);
   AddVerb(app, options, run, "sellers", "Where it is sold, or the bribe taken", kSold, "NICKNAME",
-          RunSellers);
+          "What a row of search has: its nickname or its name", RunSellers);
 }
 
 }  // namespace orrerix

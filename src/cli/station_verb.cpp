@@ -118,7 +118,7 @@ void AddStationVerb(CLI::App& app, const CommonOptions& options, Verb& run) {
   auto words = std::make_shared<StationWords>();
   CLI::App* verb = app.add_subcommand("station", "What the station window shows of an object");
   verb->add_option("NICKNAME", words->Nickname, "The object's nickname")->required();
-  verb->add_option("--mode", words->Mode, "The view")
+  verb->add_option("--mode", words->Mode, "The view; I, 2 and 3 need --layout")
       ->check(CLI::IsMember({"#", "$", "I", "2", "3"}));
   AddText(*verb, "--layout", words->Layout, "Outer size of the window, twips: WxH");
   verb->callback(

@@ -332,9 +332,12 @@ void AddTradeVerb(CLI::App& app, const CommonOptions& options, Verb& run) {
   AddText(*verb, "--skip-goods", arguments->SkipGoods, "Not these goods: G,...");
   AddText(*verb, "--max-minutes", arguments->LongestMinutes, "No plan lasts longer");
   AddText(*verb, "--hops", arguments->Hops, "Legs at most, 1 to 6");
-  verb->add_flag("--loop", arguments->Loop, "The last leg leads back to the first stop");
-  AddText(*verb, "--via", arguments->Via, "From --from through these places in turn: P,...");
-  AddText(*verb, "--carry", arguments->Carry, "Where to sell what is aboard: GOOD[:N]");
+  verb->add_flag("--loop", arguments->Loop,
+                 "The last leg leads back to the first stop; not with --to");
+  AddText(*verb, "--via", arguments->Via,
+          "From --from, which it needs, through these places in turn: P,...; not with --to");
+  AddText(*verb, "--carry", arguments->Carry,
+          "Where to sell what is aboard: GOOD[:N]; needs --from, not with --loop or --via");
   verb->add_option("--sort", arguments->Sort, "Order of the plans")
       ->check(CLI::IsMember({"profit", "minute", "percent", "loop"}));
   AddText(*verb, "--top", arguments->Top, "Plans shown; default 20");

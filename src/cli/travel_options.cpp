@@ -121,34 +121,11 @@ Travel ReadTravel(Routine& routine, OpenedUniverse& universe, const TravelArgume
   return travel;
 }
 
-std::vector<std::string> SplitList(const std::string& text) {
-  std::vector<std::string> parts;
-  std::string_view rest = text;
-  while (true) {
-    const std::size_t comma = rest.find(',');
-    parts.emplace_back(Trim(rest.substr(0, comma)));
-    if (comma == std::string_view::npos) return parts;
-    rest.remove_prefix(comma + 1);
-  }
-}
-
 std::optional<double> WholeTextNumber(const std::string& text) {
   double number = 0;
   const char* const end = text.data() + text.size();
   const auto [next, error] = std::from_chars(text.data(), end, number);
   if (error != std::errc() || next != end || !std::isfinite(number)) return std::nullopt;
-  return number;
-}
-
-std::int64_t ParseCount(std::string_view option, const std::string& text, std::int64_t least,
-                        std::int64_t most) {
-  std::int64_t number = 0;
-  const char* const end = text.data() + text.size();
-  const auto [next, error] = std::from_chars(text.data(), end, number);
-  if (error != std::errc() || next != end || number < least || number > most) {
-    throw WrongUsage(
-        fmt::format("{} needs a whole number from {} to {}, not '{}'", option, least, most, text));
-  }
   return number;
 }
 

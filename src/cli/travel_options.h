@@ -51,15 +51,8 @@ struct Travel {
 // Throws CouldNot for a ship, a place or a faction that is not there.
 Travel ReadTravel(Routine& routine, OpenedUniverse& universe, const TravelArguments& arguments);
 
-// The parts of a list with commas, trimmed of blanks.
-std::vector<std::string> SplitList(const std::string& text);
-
 // A number that is all of a text; nothing if it is not one or not finite.
 std::optional<double> WholeTextNumber(const std::string& text);
-
-// A whole number within bounds. Throws WrongUsage that names the option.
-std::int64_t ParseCount(std::string_view option, const std::string& text, std::int64_t least,
-                        std::int64_t most);
 
 nlohmann::ordered_json ModelJson(const TravelModel& model);
 

@@ -261,6 +261,30 @@ std::optional<std::int64_t> Database::RowCount(FailureSink& sink, std::string_vi
   return count;
 }
 
+StoredTable Database::ReadTable(FailureSink& sink, std::string_view table) const {
+  StoredTable read;
+  Guard(sink, [&] {
+    RequireOpen();
+    // An index would give the rows in its own order.
+    const PreparedStatement rows = connection_->PrepareOnce(
+        fmt::format("SELECT * FROM main.{} NOT INDEXED", QuoteName(table)));
+    const auto definition = connection_->Find(table);
+    const int width = sqlite3_column_count(rows.get());
+    if (definition == nullptr || definition->Fields.size() != static_cast<std::size_t>(width)) {
+      throw EngineFailure(failure_number::kUnrecognizedFormat,
+                          fmt::format("Unrecognized database format '{}'.", Path().string()));
+    }
+    std::vector<Value> cells;
+    int result = sqlite3_step(rows.get());
+    for (; result == SQLITE_ROW; result = sqlite3_step(rows.get())) {
+      for (int i = 0; i < width; ++i) cells.push_back(Column(rows.get(), i));
+    }
+    if (result != SQLITE_DONE) throw connection_->LastFailure();
+    read = {*definition, std::move(cells)};
+  });
+  return read;
+}
+
 void Database::CreateTables(FailureSink& sink, std::span<const TableDef> tables,
                             const std::function<void(std::size_t)>& fill) {
   constexpr std::size_t many = 256;

@@ -17,6 +17,7 @@
 #include "db/failure.h"
 #include "db/held_rows.h"
 #include "db/recordset.h"
+#include "db/stored_table.h"
 #include "db/table_def.h"
 #include "db/unique_numbers.h"
 #include "db/value.h"
@@ -84,6 +85,10 @@ class Database {
 
   // Number of a table's rows; nothing if it cannot be read.
   std::optional<std::int64_t> RowCount(FailureSink& sink, std::string_view table) const;
+
+  // Reads a whole table in stored order. Fails with 3078 if there is none of that name; it is then
+  // without fields.
+  StoredTable ReadTable(FailureSink& sink, std::string_view table) const;
 
   // Opens a table to append to; it shows no rows.
   Recordset OpenTable(FailureSink& sink, std::string_view table);

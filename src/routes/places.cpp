@@ -39,6 +39,12 @@ std::vector<NodeIndex> DocksNamed(const TravelGraph& graph, std::string_view nam
   });
 }
 
+std::vector<NodeIndex> ObjectsNamed(const TravelGraph& graph, std::string_view name) {
+  return ObjectsThat(graph, [name](const TravelObject& object) {
+    return !name.empty() && EqualIgnoringCase(object.Name, name);
+  });
+}
+
 std::vector<NodeIndex> NodesOfSystem(const TravelGraph& graph, SystemIndex system) {
   std::vector<NodeIndex> nodes;
   for (const NodeIndex node : graph.Systems[system].Objects) {
@@ -65,13 +71,19 @@ std::uint32_t LockedNumber(std::string_view text) {
 }  // namespace
 
 TravelPlace PlaceOfWay(const TravelGraph& graph, std::string_view name) {
+  if (const std::size_t tab = name.find('\t'); tab != std::string_view::npos) {
+    return PlaceOfWay(graph, name.substr(0, tab));
+  }
   if (const auto object = graph.FindObject(name)) {
     return {{*object}, graph.Objects[*object].IsDock};
   }
   if (auto docks = DocksOfBase(graph, name); !docks.empty()) return {std::move(docks), true};
   if (const auto system = graph.FindSystem(name)) return {NodesOfSystem(graph, *system), false};
   if (auto docks = DocksNamed(graph, name); !docks.empty()) return {std::move(docks), true};
-  return {NodesOfSystemsNamed(graph, name), false};
+  if (auto nodes = NodesOfSystemsNamed(graph, name); !nodes.empty()) {
+    return {std::move(nodes), false};
+  }
+  return {ObjectsNamed(graph, name), false};
 }
 
 std::vector<NodeIndex> DocksOfTrade(const TravelGraph& graph, std::string_view name) {

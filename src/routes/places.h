@@ -17,7 +17,8 @@ struct TravelPlace {
 
 // A place of a way, the first that fits: an object by its nickname; the docks of a base; all nodes
 // of a system by its nickname; docks by their name, also where "Dockring: " stands before it;
-// systems by their name. Systems, and an object that is no dock, are reached without docking.
+// systems by their name; other objects by theirs. Of a row as a search prints it, nickname, tab and
+// name, the nickname counts. Systems, and an object that is no dock, are reached without docking.
 TravelPlace PlaceOfWay(const TravelGraph& graph, std::string_view name);
 
 // A place of a trade, found in the same order: only docks count, those of a system if it is one.

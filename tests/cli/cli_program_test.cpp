@@ -1,20 +1,12 @@
 // SPDX-License-Identifier: MIT
 // The command line as a script meets it: words in, answer and exit code out.
-#include <array>
 #include <cctype>
-#include <cstdio>
-#include <fstream>
-#include <sstream>
 
-#include <gmock/gmock.h>
-#include <nlohmann/json.hpp>
-
+#include "cli/command_line_fixture.h"
 #include "db/engine.h"
-#include "demo/demo_game.h"
 #include "map/control_id.h"
 #include "platform/folder_lock.h"
 #include "support/failure_sinks.h"
-#include "support/temp_folder.h"
 
 namespace orrerix {
 namespace {
@@ -23,61 +15,6 @@ namespace fs = std::filesystem;
 using ::testing::EndsWith;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
-
-struct Answer {
-  int ExitCode = -1;
-  std::string Output;
-  std::string Errors;
-  nlohmann::json Json() const { return nlohmann::json::parse(Output); }
-};
-
-std::string Content(const fs::path& file) {
-  std::ifstream stream(file, std::ios::binary);
-  std::ostringstream content;
-  content << stream.rdbuf();
-  return content.str();
-}
-
-class CommandLine : public ::testing::Test {
- protected:
-  Answer Run(const std::string& words) {
-    const fs::path errors = folder.Path() / "errors.txt";
-    const std::string command = std::string(ORRERIX_CLI) + " " + words + " 2>" + errors.string();
-    Answer answer;
-    FILE* pipe = popen(command.c_str(), "r");
-    std::array<char, 4096> buffer{};
-    while (const std::size_t read = fread(buffer.data(), 1, buffer.size(), pipe)) {
-      answer.Output.append(buffer.data(), read);
-    }
-    answer.ExitCode = WEXITSTATUS(pclose(pipe));
-    answer.Errors = Content(errors);
-    return answer;
-  }
-
-  fs::path Game() {
-    const fs::path game = folder.Path() / "game";
-    WriteDemoGame(game, 5);
-    return game;
-  }
-  std::string Database() const { return "--database " + (folder.Path() / "u.fl").string(); }
-  Answer Import(const std::string& more = "") {
-    return Run("import --game " + Game().string() + " " + Database() + " " + more);
-  }
-
-  // Nickname of an object that a map of nearly all cells shows.
-  std::string FirstObject() {
-    const nlohmann::json scene = Run("scene --json --zoom 0,0,17,17 " + Database()).Json();
-    for (const auto& control : scene["controls"]) {
-      if (control["control"] != ObjectName(ControlId::MapIcon)) continue;
-      if (control["Picture"] != "Jumpgate" && control["Picture"] != "JumpHole") {
-        return control["Tag"];
-      }
-    }
-    return {};
-  }
-
-  TempFolder folder;
-};
 
 TEST_F(CommandLine, VersionsAreTold) {
   const Answer answer = Run("--version");

@@ -284,6 +284,28 @@ TEST_F(OpenDatabase, AFileCanBeReadWithoutTheProgramsFunctions) {
   }
 }
 
+TEST_F(OpenDatabase, ReadsAWholeTableInStoredOrderWhateverItsIndexes) {
+  for (const char* name : {"c", "b", "d", "a"}) Add(name, 1, "keyed");
+  db.ExecuteNative(mustWork, "CREATE INDEX lookup ON keyed (name, number)");
+
+  const StoredTable table = db.ReadTable(mustWork, "KEYED");
+
+  EXPECT_EQ(table.Definition.Name, "keyed");
+  ASSERT_EQ(table.RowCount(), 4u);
+  std::string names;
+  for (std::size_t row = 0; row < 4; ++row) {
+    names += table.Row(row)[*table.Definition.Find("name")].Text();
+  }
+  EXPECT_EQ(names, "cbda");
+}
+
+TEST_F(OpenDatabase, ATableThatIsMissingCannotBeRead) {
+  const StoredTable table = db.ReadTable(failures, "nowhere");
+
+  EXPECT_EQ(table.RowCount(), 0u);
+  EXPECT_THAT(failures.Numbers(), ElementsAre(failure_number::kNoSuchTable));
+}
+
 TEST_F(OpenDatabase, TheRowsOfATableThatIsMissingCannotBeCounted) {
   EXPECT_FALSE(db.RowCount(failures, "absent").has_value());
 

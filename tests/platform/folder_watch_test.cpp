@@ -1,0 +1,133 @@
+// SPDX-License-Identifier: MIT
+#include "platform/folder_watch.h"
+
+#include <fstream>
+
+#include <gmock/gmock.h>
+
+#include "support/temp_folder.h"
+
+namespace orrerix {
+namespace {
+
+namespace fs = std::filesystem;
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+// The system notes a change before the call that makes it returns, so that nothing has to wait.
+class WatchedFolders : public ::testing::Test {
+ protected:
+  WatchedFolders() {
+    folder.Write("game/EXE/freelancer.ini", "x");
+    folder.Write("game/Data/ships/ships.ini", "x");
+    folder.Write("game/saves/one.fl", "x");
+    watch = WatchFolders(Game(), {"exe", "data"});
+  }
+
+  fs::path Game() const { return folder.Path() / "game"; }
+
+  TempFolder folder;
+  std::unique_ptr<FolderWatch> watch;
+};
+
+TEST_F(WatchedFolders, AreStillAtFirst) {
+  EXPECT_FALSE(watch->HasStirred());
+}
+
+TEST_F(WatchedFolders, StirOnceForAFileThatIsWritten) {
+  folder.Write("game/EXE/freelancer.ini", "xy");
+
+  EXPECT_TRUE(watch->HasStirred());
+  EXPECT_FALSE(watch->HasStirred());
+}
+
+TEST_F(WatchedFolders, StirForFilesInFoldersBelow) {
+  folder.Write("game/Data/ships/new.ini", "x");
+  EXPECT_TRUE(watch->HasStirred());
+
+  fs::rename(Game() / "Data/ships/new.ini", Game() / "Data/ships/renamed.ini");
+  EXPECT_TRUE(watch->HasStirred());
+
+  fs::remove(Game() / "Data/ships/renamed.ini");
+  EXPECT_TRUE(watch->HasStirred());
+}
+
+TEST_F(WatchedFolders, StirForFilesInFoldersThatAreMadeLater) {
+  fs::create_directories(Game() / "Data/solar/deep");
+  EXPECT_TRUE(watch->HasStirred());
+
+  folder.Write("game/Data/solar/deep/x.ini", "x");
+  EXPECT_TRUE(watch->HasStirred());
+}
+
+TEST_F(WatchedFolders, DoNotStirForOtherFolders) {
+  folder.Write("game/saves/two.fl", "x");
+  folder.Write("game/readme.txt", "x");
+  fs::create_directory(Game() / "mods");
+
+  EXPECT_FALSE(watch->HasStirred());
+}
+
+TEST_F(WatchedFolders, DoNotStirForReading) {
+  std::ifstream(Game() / "EXE/freelancer.ini").get();
+
+  EXPECT_FALSE(watch->HasStirred());
+}
+
+TEST_F(WatchedFolders, AreWaitedForIfTheyVanish) {
+  fs::rename(Game(), folder.Path() / "away");
+  EXPECT_TRUE(watch->HasStirred());
+  EXPECT_FALSE(watch->HasStirred());
+
+  fs::rename(folder.Path() / "away", Game());
+  EXPECT_TRUE(watch->HasStirred());
+  folder.Write("game/EXE/freelancer.ini", "xyz");
+  EXPECT_TRUE(watch->HasStirred());
+}
+
+TEST_F(WatchedFolders, AreWaitedForIfAFolderAboveVanishes) {
+  const TempFolder other;
+  folder.Write("outer/game/exe/a.ini", "x");
+  watch = WatchFolders(folder.Path() / "outer/game", {"exe"});
+  fs::rename(folder.Path() / "outer", folder.Path() / "away");
+
+  EXPECT_TRUE(watch->HasStirred());
+}
+
+TEST_F(WatchedFolders, MayBeMissingAtFirst) {
+  watch = WatchFolders(folder.Path() / "later", {"exe"});
+  EXPECT_FALSE(watch->HasStirred());
+
+  folder.Write("later/exe/a.ini", "x");
+  EXPECT_TRUE(watch->HasStirred());
+}
+
+TEST_F(WatchedFolders, EndAWait) {
+  folder.Write("game/EXE/freelancer.ini", "xy");
+
+  watch->Wait(std::chrono::hours(1));
+
+  EXPECT_TRUE(watch->HasStirred());
+}
+
+TEST_F(WatchedFolders, AreFoundByNameWhateverTheirCase) {
+  EXPECT_THAT(FoldersNamed(Game(), {"exe", "data"}), ElementsAre(Game() / "Data", Game() / "EXE"));
+  EXPECT_THAT(FoldersNamed(folder.Path() / "nowhere", {"exe"}), IsEmpty());
+  folder.Write("game/data", "a file");
+  EXPECT_THAT(FoldersNamed(Game(), {"data"}), ElementsAre(Game() / "Data"));
+}
+
+TEST_F(WatchedFolders, AreEnteredThroughLinksButNotInCircles) {
+  const fs::path outside = folder.Write("outside/inner/a.ini", "x").parent_path();
+  fs::create_directory_symlink(outside.parent_path(), Game() / "EXE/linked");
+  fs::create_directory_symlink(Game() / "EXE", outside / "circle");
+  std::vector<fs::path> folders;
+
+  ForEachFolder({Game() / "EXE"}, [&](const fs::path& each) { folders.push_back(each); });
+
+  EXPECT_THAT(folders, ::testing::Contains(Game() / "EXE/linked/inner"));
+  EXPECT_LT(folders.size(), 10u);
+}
+
+}  // namespace
+}  // namespace orrerix
