@@ -5,18 +5,22 @@
 #include <QGuiApplication>
 #include <QImage>
 #include <QScreen>
+#include <QShortcut>
 #include <utility>
 
 #include <fmt/format.h>
 
 #include "db/number_text.h"
+#include "forms/controls/captions.h"
 #include "forms/controls/form_geometry.h"
 #include "forms/print_form.h"
 #include "forms/start/import_screen_layout.h"
+#include "import/log_entry.h"
 #include "map/game_sounds.h"
 #include "online/web_pages.h"
 #include "platform/game_path.h"
 #include "shell/files.h"
+#include "shell/game_record.h"
 #include "shell/routine.h"
 #include "shell/startup.h"
 
@@ -52,7 +56,11 @@ OrrerixMain::OrrerixMain(const FormParts& parts, Settings& settings, LanguageFil
       newsController_(map_, parts.Log),
       stations_({parts.Log, parts.Pictures, parts.Sound, language, map_.State().Names,
                  [this](Routine& routine) { return OpenUniverse(routine); },
-                 [this] { return frameGeometry().size() - size(); }}) {
+                 [this] { return frameGeometry().size() - size(); }}),
+      tools_(*this, parts, format),
+      toolsEntry_(map_.Frame(), parts.Speech, [this] { tools_.Open(); }),
+      changeNotice_(map_.Frame(), [this] { ImportAgain(); }),
+      marks_(new MapMarks(map_.Frame())) {
   setObjectName("OrrerixMain");
   setMinimumSize(kSmallestForm);
   QPalette colors = palette();
@@ -62,6 +70,7 @@ OrrerixMain::OrrerixMain(const FormParts& parts, Settings& settings, LanguageFil
   QObject::connect(&importScreen_->StartButton(), &QPushButton::clicked, this, [this] {
     if (!gameMissing_.IsOpen()) StartImport();
   });
+  MakeTools();
   lookForGame_.setSingleShot(true);
   QObject::connect(&lookForGame_, &QTimer::timeout, this, [this] { LookForGame(); });
 }
@@ -80,7 +89,9 @@ bool OrrerixMain::Load() {
     });
     MakeShortcuts(parts_.Log, routine, parts_.Registry, paths.ApplicationFolder, paths.Executable,
                   parts_.Version);
+    startFolder_ = saveFolder_;
     importScreen_->GameFolderEdit().setText(QString::fromStdString(parts_.GamePath()));
+    saveFolder_ = SaveFolderOfGame(startFolder_, GameFolderText());
     setWindowTitle(QString::fromStdString(StartCaption(parts_.Version)));
     ReplaceStarMap(routine, paths.ApplicationFolder / "SysMap.jpg");
     leaves = !ExamineUniverseFile(routine);
@@ -261,6 +272,8 @@ void OrrerixMain::RunImport(FolderLock lock) {
   Redraw();
   PlaceForImport();
   const GameFolder game(GameFolderText());
+  const GameRecord record{GameFolderText(), StampOfGame(GameFolderText())};
+  const std::size_t linesBefore = parts_.Log.DataLines().size();
   import_.emplace(parts_, *this, *importScreen_, startMemory_, std::move(lock));
   const ImportSession::Result result = import_->Run({game, saveFolder_, format_, parts_.Version});
   import_.reset();
@@ -273,6 +286,9 @@ void OrrerixMain::RunImport(FolderLock lock) {
     close();
     return;
   }
+  WriteGameRecord(UniverseFile(), record);
+  const std::vector<std::string>& lines = parts_.Log.DataLines();
+  SaveLog(UniverseFile(), {lines.begin() + static_cast<std::ptrdiff_t>(linesBefore), lines.end()});
   ShowMaximised();
   Redraw();
 }
@@ -294,9 +310,12 @@ void OrrerixMain::ShowMap() {
     map_.Redraw(universe, drawn.width(), drawn.height());
     mapController_.MapRedrawn();
     newsController_.MapRedrawn();
+    toolsEntry_.Follow(map_.Drawing());
+    marks_->Follow(map_.Drawing());
     // Not every desktop gives the focus to a form that is just shown.
     if (isNew) QueueFocus();
     if (isNew) map_.Frame().setFocus();
+    if (isNew) tools_.UniverseShown();
   });
 }
 
@@ -414,6 +433,92 @@ void OrrerixMain::PrintTheMap() {
   phase_ = Phase::Map;
 }
 
+void OrrerixMain::MakeTools() {
+  const auto onKey = [this](const QKeySequence& keys, auto act) {
+    QObject::connect(new QShortcut(keys, this), &QShortcut::activated, this, act);
+  };
+  onKey(Qt::Key_F1, [this] { tools_.ShowKeys(); });
+  onKey(Qt::Key_F2, [this] { tools_.Open(); });
+  onKey(Qt::Key_F5, [this] { ImportAgain(); });
+  onKey(QKeySequence::Find, [this] {
+    if (phase_ == Phase::Map) search_.OpenSearch(SearchType::Place);
+  });
+  tools_.OnReplaced = [this] {
+    changeNotice_.Hide();
+    map_.ForgetNames();
+    Redraw();
+  };
+  tools_.OnChangeSeen = [this](bool changed) {
+    if (!changed) return changeNotice_.Hide();
+    changeNotice_.Show(CaptionIn(parts_.Speech.Current, TextId::FilesChanged));
+  };
+}
+
+bool OrrerixMain::ShowOnMap(const std::string& nickname) {
+  if (phase_ != Phase::Map) return false;
+  bool isThere = false;
+  Routine routine(parts_.Log, "OrrerixMain.StSearchList_DblClick");
+  routine.Run([&] {
+    Universe universe = OpenUniverse(routine);
+    isThere = JumpTargetOf(routine, universe, nickname).has_value();
+  });
+  if (isThere) search_.Jump(nickname);
+  return isThere;
+}
+
+void OrrerixMain::ImportAgain() {
+  if (phase_ == Phase::Map) tools_.ImportAgain();
+}
+
+void OrrerixMain::OpenGame(const std::string& folder) {
+  if (phase_ != Phase::Map && phase_ != Phase::FirstRun) return;
+  const GameFolder game(folder);
+  if (!game.FindFile(game.Text() + "\\exe\\Freelancer.exe")) {
+    tools_.ShowState(
+        QString::fromStdString(FormatIn(parts_.Speech.Current, TextId::NoGameIn, folder)));
+    return;
+  }
+  RememberView();
+  importScreen_->GameFolderEdit().setText(QString::fromStdString(folder));
+  saveFolder_ = SaveFolderOfGame(startFolder_, folder);
+  stations_.CloseAll();
+  changeNotice_.Hide();
+  marks_->Mark({});
+  map_.ForgetNames();
+  map_.State().Zoom = {};
+  RecallView();
+  phase_ = Phase::FirstRun;
+  Routine routine(parts_.Log, "OrrerixMain.Form_Load",
+                  "While opening Database and checking for version.");
+  bool goesOn = true;
+  routine.Run([&] { goesOn = ExamineUniverseFile(routine); });
+  if (goesOn) Redraw();
+}
+
+namespace {
+
+QString ViewKey(const fs::path& saveFolder) {
+  return "view/" + QString::number(qHash(QString::fromStdString(saveFolder.string())));
+}
+
+}  // namespace
+
+// Where the map was left, for when this universe is opened again.
+void OrrerixMain::RememberView() {
+  const ZoomRectangle& shown = map_.State().Zoom.Current();
+  tools_.Remembered().setValue(
+      ViewKey(saveFolder_),
+      QString("%1 %2 %3 %4").arg(shown.X1).arg(shown.Y1).arg(shown.X2).arg(shown.Y2));
+}
+
+void OrrerixMain::RecallView() {
+  const QStringList sides =
+      tools_.Remembered().value(ViewKey(saveFolder_)).toString().split(' ', Qt::SkipEmptyParts);
+  if (sides.size() != 4) return;
+  const ZoomRectangle view{sides[0].toInt(), sides[1].toInt(), sides[2].toInt(), sides[3].toInt()};
+  if (view.IsValid() && view.IsZoomed()) map_.State().Zoom.PushZoomStack(parts_.Log, view);
+}
+
 void OrrerixMain::closeEvent(QCloseEvent* event) {
   if (import_) {
     // The import is on the stack below this event: it has to end first.
@@ -422,6 +527,7 @@ void OrrerixMain::closeEvent(QCloseEvent* event) {
     return;
   }
   event->accept();
+  if (phase_ == Phase::Map) RememberView();
   stations_.CloseAll();
   if (OnClosed) OnClosed();
 }

@@ -13,12 +13,15 @@
 #include "forms/import_session.h"
 #include "forms/map/map_controller.h"
 #include "forms/map/map_host.h"
+#include "forms/map/map_marks.h"
 #include "forms/map/map_screen.h"
 #include "forms/map/news_controller.h"
 #include "forms/map/search_controller.h"
+#include "forms/map/tools_entry.h"
 #include "forms/reentry.h"
 #include "forms/start/import_screen.h"
 #include "forms/station/station_windows.h"
+#include "forms/workbench/tools.h"
 #include "online/news.h"
 #include "shell/startup.h"
 
@@ -26,7 +29,7 @@ namespace orrerix {
 
 // The main form. It shows one of three screens, decided anew by every redraw: first run, importing,
 // or the map.
-class OrrerixMain : public QWidget, private MapHost {
+class OrrerixMain : public QWidget, private MapHost, private WorkbenchHost {
  public:
   OrrerixMain(const FormParts& parts, Settings& settings, LanguageFile& language,
               const MemoryStatus& startMemory, JetVersionOption format);
@@ -69,8 +72,9 @@ class OrrerixMain : public QWidget, private MapHost {
   // Opens the link of a news label with the game's sound for that.
   void OpenNewsLink(int index) override;
 
-  std::filesystem::path UniverseFile() const { return UniverseFileIn(saveFolder_); }
+  std::filesystem::path UniverseFile() const override { return UniverseFileIn(saveFolder_); }
   GameFolder Game() const override;
+  Tools& ToolsOfMap() { return tools_; }
   MapScreen& Map() { return map_; }
   MapController& Controller() { return mapController_; }
   const StationWindows& Stations() const { return stations_; }
@@ -101,6 +105,17 @@ class OrrerixMain : public QWidget, private MapHost {
 
   void OpenLogoPage(bool firstHalf) override;
 
+  std::string GameText() const override { return GameFolderText(); }
+  bool ShowOnMap(const std::string& nickname) override;
+  void ImportAgain() override;
+  void OpenGame(const std::string& folder) override;
+  void MarkCells(const std::vector<MapCell>& cells) override { marks_->Mark(cells); }
+  void WatchGame(bool on) override { tools_.WatchGame(on); }
+
+  void MakeTools();
+  void RememberView();
+  void RecallView();
+
   void QueueFocus();
   void GotFocus();
   std::string GameFolderText() const;
@@ -125,7 +140,8 @@ class OrrerixMain : public QWidget, private MapHost {
   LanguageFile& language_;
   const MemoryStatus& startMemory_;
   JetVersionOption format_;
-  std::filesystem::path saveFolder_;
+  std::filesystem::path startFolder_;  // the save folder that a start finds
+  std::filesystem::path saveFolder_;   // of the universe that is shown
   WorkingCopy copy_;
 
   Phase phase_ = Phase::Loading;
@@ -141,6 +157,10 @@ class OrrerixMain : public QWidget, private MapHost {
   SearchController search_;
   NewsController newsController_;
   StationWindows stations_;
+  Tools tools_;
+  ToolsEntry toolsEntry_;
+  MapNotice changeNotice_;
+  MapMarks* marks_;
 };
 
 }  // namespace orrerix

@@ -2,6 +2,7 @@
 #include "shell/file_snapshot.h"
 
 #include <algorithm>
+#include <functional>
 
 #include "platform/folder_watch.h"
 
@@ -35,6 +36,18 @@ FileSnapshot::FileSnapshot(const std::vector<fs::path>& folders,
       files_.emplace(entry->path(), stamp);
     }
   });
+}
+
+std::uint64_t FileSnapshot::Digest() const {
+  constexpr std::uint64_t factor = 1099511628211u;  // of FNV-1a
+  std::uint64_t digest = 14695981039346656037u;
+  const auto add = [&digest](std::uint64_t part) { digest = (digest ^ part) * factor; };
+  for (const auto& [path, stamp] : files_) {
+    add(std::hash<std::string>()(path.string()));
+    add(stamp.Size);
+    add(static_cast<std::uint64_t>(stamp.Written.time_since_epoch().count()));
+  }
+  return digest;
 }
 
 std::vector<fs::path> FileSnapshot::ChangedSince(const FileSnapshot& earlier) const {

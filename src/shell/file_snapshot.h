@@ -22,6 +22,9 @@ class FileSnapshot {
   // The files that came, went or were written between an earlier snapshot and this one, in order.
   std::vector<std::filesystem::path> ChangedSince(const FileSnapshot& earlier) const;
 
+  // A number that differs, but for a rare chance, from that of a snapshot with other files.
+  std::uint64_t Digest() const;
+
  private:
   struct Stamp {
     std::uintmax_t Size = 0;

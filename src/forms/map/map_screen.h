@@ -37,6 +37,9 @@ class MapScreen {
   // Reads the systems' names; once, however often it is called.
   void InitDataUsage(Universe& universe);
 
+  // The next InitDataUsage reads them again: another universe is shown.
+  void ForgetNames() { namesRead_ = false; }
+
   // One redraw of everything, on a form of this outer size (twips). Shows the frame.
   void Redraw(Universe& universe, int formWidth, int formHeight);
   void Hide() { frame_->hide(); }

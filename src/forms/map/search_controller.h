@@ -24,6 +24,9 @@ class SearchController : private SearchEvents {
   // A click on one of the first four tool icons.
   void OpenSearch(SearchType type);
 
+  // Shows a place of the map and opens its window. Does nothing if the map does not have it.
+  void Jump(const std::string& nickname);
+
   bool Visible() const { return panel_.Visible(); }
 
  private:
@@ -40,7 +43,6 @@ class SearchController : private SearchEvents {
   SearchAnswer Ask(const char* source, const std::string& info, const Event& event);
   void Follow(SearchAnswer answer);
   void ShowInfo(ControlList box);
-  void Jump(const std::string& nickname);
 
   MapScreen& screen_;
   MapHost& form_;

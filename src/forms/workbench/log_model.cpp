@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: MIT
+#include "forms/workbench/log_model.h"
+
+#include <array>
+
+#include "forms/controls/captions.h"
+
+namespace orrerix {
+namespace {
+
+constexpr int kColumns = 4;
+
+TextId NameOf(LogKind kind) {
+  switch (kind) {
+    case LogKind::MissingFile:
+      return TextId::LogMissingFile;
+    case LogKind::DoubleData:
+      return TextId::LogDoubleData;
+    case LogKind::RowRefused:
+      return TextId::LogRowRefused;
+    case LogKind::MissingRing:
+      return TextId::LogMissingRing;
+    case LogKind::MissingPosition:
+      return TextId::LogMissingPosition;
+    case LogKind::MissingPackage:
+      return TextId::LogMissingPackage;
+    default:
+      return TextId::LogOther;
+  }
+}
+
+}  // namespace
+
+void LogModel::Show(const std::vector<std::string>& entries) {
+  beginResetModel();
+  entries_.clear();
+  for (const std::string& entry : entries) entries_.push_back(ParseLogEntry(entry));
+  endResetModel();
+}
+
+const LogEntry* LogModel::EntryAt(const QModelIndex& index) const {
+  return index.isValid() ? &entries_[static_cast<std::size_t>(index.row())] : nullptr;
+}
+
+int LogModel::rowCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : static_cast<int>(entries_.size());
+}
+
+int LogModel::columnCount(const QModelIndex&) const {
+  return kColumns;
+}
+
+QVariant LogModel::data(const QModelIndex& index, int role) const {
+  const LogEntry* entry = EntryAt(index);
+  if (entry == nullptr) return {};
+  if (role == Qt::ToolTipRole) return QString::fromStdString(entry->Text).remove('\r');
+  if (role != Qt::DisplayRole) return {};
+  switch (index.column()) {
+    case KindColumn:
+      return CaptionIn(choice_.Current, NameOf(entry->Kind));
+    case FileColumn:
+      return QString::fromStdString(entry->File).replace('\\', '/');
+    case NicknameColumn:
+      return QString::fromStdString(entry->Nickname);
+    default:
+      return QString::fromStdString(entry->Text).simplified();
+  }
+}
+
+QVariant LogModel::headerData(int section, Qt::Orientation orientation, int role) const {
+  if (orientation != Qt::Horizontal || role != Qt::DisplayRole) return {};
+  constexpr std::array<TextId, kColumns> heads = {TextId::HeadKind, TextId::HeadFile,
+                                                  TextId::HeadNickname, TextId::HeadText};
+  return CaptionIn(choice_.Current, heads[static_cast<std::size_t>(section)]);
+}
+
+}  // namespace orrerix

@@ -1,0 +1,125 @@
+// SPDX-License-Identifier: MIT
+#include "forms/workbench/log_page.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QFile>
+#include <QFileDialog>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QPushButton>
+#include <QSplitter>
+#include <QVBoxLayout>
+
+#include "forms/controls/captions.h"
+#include "picture/form_font.h"
+
+namespace orrerix {
+namespace {
+
+constexpr int kFont = 9;
+constexpr int kKindWidth = 160;
+constexpr int kFileWidth = 300;
+constexpr int kNicknameWidth = 160;
+
+}  // namespace
+
+LogPage::LogPage(WorkbenchHost& host, const LanguageChoice& choice)
+    : WorkbenchPage(TextId::LogPage), host_(host), choice_(choice), model_(choice) {
+  filter_.setSourceModel(&model_);
+  filter_.setFilterKeyColumn(-1);
+  filter_.setFilterCaseSensitivity(Qt::CaseInsensitive);
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->addWidget(MakeBar());
+  auto* split = new QSplitter(Qt::Vertical, this);
+  table_ = new QTableView(split);
+  table_->setObjectName("LogTable");
+  table_->setAccessibleName(CaptionIn(choice.Current, TextId::LogPage));
+  table_->setModel(&filter_);
+  table_->setSortingEnabled(true);
+  table_->sortByColumn(-1, Qt::AscendingOrder);
+  table_->setSelectionBehavior(QAbstractItemView::SelectRows);
+  table_->setWordWrap(false);
+  table_->verticalHeader()->hide();
+  table_->horizontalHeader()->setStretchLastSection(true);
+  table_->setColumnWidth(LogModel::KindColumn, kKindWidth);
+  table_->setColumnWidth(LogModel::FileColumn, kFileWidth);
+  table_->setColumnWidth(LogModel::NicknameColumn, kNicknameWidth);
+  entry_ = new QPlainTextEdit(split);
+  entry_->setObjectName("LogEntry");
+  entry_->setReadOnly(true);
+  entry_->setFont(FixedFont(kFont));
+  split->setStretchFactor(0, 3);
+  split->setStretchFactor(1, 1);
+  layout->addWidget(split, 1);
+  connect(table_->selectionModel(), &QItemSelectionModel::currentChanged, this,
+          [this] { ShowChosen(); });
+}
+
+QWidget* LogPage::MakeBar() {
+  auto* bar = new QWidget(this);
+  auto* row = new QHBoxLayout(bar);
+  row->setContentsMargins(0, 0, 0, 0);
+  auto* text = new QLineEdit(bar);
+  text->setObjectName("Filter");
+  text->setPlaceholderText(CaptionIn(choice_.Current, TextId::FindInLog));
+  text->setAccessibleName(CaptionIn(choice_.Current, TextId::FindInLog));
+  text->setClearButtonEnabled(true);
+  connect(text, &QLineEdit::textChanged, this,
+          [this](const QString& wanted) { filter_.setFilterFixedString(wanted); });
+  row->addWidget(text, 1);
+  sums_ = new QLabel(bar);
+  row->addWidget(sums_);
+  auto* copy = new QPushButton(CaptionIn(choice_.Current, TextId::Copy), bar);
+  auto* save = new QPushButton(CaptionIn(choice_.Current, TextId::SaveLog), bar);
+  connect(copy, &QPushButton::clicked, this, [this] { Copy(); });
+  connect(save, &QPushButton::clicked, this, [this] { Save(); });
+  row->addWidget(copy);
+  row->addWidget(save);
+  return bar;
+}
+
+void LogPage::Enter() {
+  Read();
+}
+
+void LogPage::UniverseChanged() {
+  Read();
+}
+
+void LogPage::Read() {
+  entries_ = ReadSavedLog(host_.UniverseFile());
+  model_.Show(entries_);
+  sums_->setText(
+      QString::fromStdString(FormatIn(choice_.Current, TextId::LogSums, entries_.size())));
+  if (!entries_.empty()) table_->setCurrentIndex(filter_.index(0, 0));
+  ShowChosen();
+}
+
+void LogPage::ShowChosen() {
+  const LogEntry* entry = model_.EntryAt(filter_.mapToSource(table_->currentIndex()));
+  entry_->setPlainText(entry == nullptr ? QString()
+                                        : QString::fromStdString(entry->Text).remove('\r'));
+}
+
+void LogPage::Copy() {
+  QApplication::clipboard()->setText(entry_->toPlainText());
+}
+
+void LogPage::Save() {
+  const QString caption = CaptionIn(choice_.Current, TextId::SaveLog);
+  const QString name = QFileDialog::getSaveFileName(this, caption, "Orrerix.log");
+  if (name.isEmpty()) return;
+  QFile file(name);
+  bool isSaved = file.open(QIODevice::WriteOnly);
+  for (const std::string& entry : entries_) {
+    const QByteArray line = QString::fromStdString(entry).remove('\r').toUtf8() + '\n';
+    isSaved = isSaved && file.write(line) == line.size();
+  }
+  if (isSaved) return;
+  sums_->setText(QString::fromStdString(
+      FormatIn(choice_.Current, TextId::CannotWriteFile, name.toStdString())));
+}
+
+}  // namespace orrerix

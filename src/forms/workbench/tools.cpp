@@ -1,0 +1,124 @@
+// SPDX-License-Identifier: MIT
+#include "forms/workbench/tools.h"
+
+#include <QDesktopServices>
+#include <QProcess>
+#include <QUrl>
+#include <utility>
+
+#include "forms/controls/captions.h"
+#include "forms/workbench/check_page.h"
+#include "forms/workbench/differences_page.h"
+#include "forms/workbench/log_page.h"
+#include "forms/workbench/setting_keys.h"
+#include "shell/game_record.h"
+
+namespace orrerix {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr int kWatchInterval = 100;  // milliseconds
+
+QString SettingsFile(const fs::path& applicationFolder) {
+  return QString::fromStdString((applicationFolder / "Orrerix-Tools.ini").string());
+}
+
+}  // namespace
+
+Tools::Tools(WorkbenchHost& host, const FormParts& parts, JetVersionOption format)
+    : host_(host),
+      parts_(parts),
+      format_(format),
+      settings_(SettingsFile(parts.Paths.ApplicationFolder), QSettings::IniFormat) {
+  watchTimer_.setInterval(kWatchInterval);
+  QObject::connect(&watchTimer_, &QTimer::timeout, [this] { LookForChanges(); });
+}
+
+Tools::~Tools() = default;
+
+Workbench& Tools::Window() {
+  if (window_ != nullptr) return *window_;
+  window_ = std::make_unique<Workbench>(settings_, parts_.Speech);
+  window_->Add(std::make_unique<CheckPage>(
+      host_, parts_.Speech, [this](const fs::path& file, int line) { OpenInEditor(file, line); }));
+  window_->Add(std::make_unique<DifferencesPage>(host_, parts_.Speech, parts_.Version));
+  auto game = std::make_unique<GamePage>(host_, settings_, parts_.Speech);
+  gamePage_ = game.get();
+  window_->Add(std::move(game));
+  window_->Add(std::make_unique<LogPage>(host_, parts_.Speech));
+  return *window_;
+}
+
+void Tools::Open() {
+  Window().Open();
+}
+
+void Tools::ShowKeys() {
+  Window().ShowKeys();
+}
+
+void Tools::ShowState(const QString& text) {
+  if (gamePage_ != nullptr) gamePage_->ShowState(text);
+}
+
+void Tools::ImportAgain() {
+  if (import_.IsRunning()) {
+    importsAgain_ = true;
+    return;
+  }
+  ShowState(CaptionIn(parts_.Speech.Current, TextId::Importing));
+  import_.Start({host_.GameText(), host_.UniverseFile(), format_, parts_.Version},
+                [this](const ImportOutcome& outcome) { FinishImport(outcome); });
+}
+
+void Tools::FinishImport(const ImportOutcome& outcome) {
+  const Language language = parts_.Speech.Current;
+  ShowState(QString::fromStdString(
+      outcome.Finished ? FormatIn(language, TextId::ImportedIn, outcome.Seconds,
+                                  outcome.LogEntries.size(), outcome.Failures)
+                       : FormatIn(language, TextId::ImportImpossible, outcome.Error)));
+  if (outcome.Finished) {
+    if (OnReplaced) OnReplaced();
+    if (window_ != nullptr) window_->UniverseChanged();
+  }
+  if (std::exchange(importsAgain_, false)) ImportAgain();
+}
+
+void Tools::WatchGame(bool on) {
+  watch_.reset();
+  if (on) watch_ = std::make_unique<GameFilesWatch>(fs::path(host_.GameText()));
+  on ? watchTimer_.start() : watchTimer_.stop();
+}
+
+void Tools::LookForChanges() {
+  if (watch_ && watch_->TakeRound(std::chrono::steady_clock::now())) ImportAgain();
+}
+
+void Tools::UniverseShown() {
+  WatchGame(settings_.value(setting_key::kWatch, false).toBool());
+  if (window_ != nullptr) window_->UniverseChanged();
+  stamp_.Start(
+      [file = host_.UniverseFile(), game = host_.GameText()](const BackgroundTask::IsCancelled&) {
+        const auto record = ReadGameRecord(file);
+        return record && IsSameFolder(record->Game, game) && record->Stamp != StampOfGame(game);
+      },
+      [this](bool changed) {
+        if (OnChangeSeen) OnChangeSeen(changed);
+      });
+}
+
+// The command's words may name the file and the line.
+void Tools::OpenInEditor(const fs::path& file, int line) {
+  const QString name = QString::fromStdString(file.string());
+  QStringList words = QProcess::splitCommand(settings_.value(setting_key::kEditor).toString());
+  if (words.isEmpty()) {
+    QDesktopServices::openUrl(QUrl::fromLocalFile(name));
+    return;
+  }
+  for (QString& word : words) word.replace("{file}", name).replace("{line}", QString::number(line));
+  const QString program = words.takeFirst();
+  QProcess::startDetached(program, words);
+}
+
+}  // namespace orrerix

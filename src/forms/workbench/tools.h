@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: MIT
+// The tools beside the map: their window, imports in the background, and the watch on the game.
+#pragma once
+
+#include <QSettings>
+#include <QTimer>
+#include <functional>
+#include <memory>
+
+#include "forms/form_parts.h"
+#include "forms/workbench/background_import.h"
+#include "forms/workbench/game_page.h"
+#include "forms/workbench/workbench.h"
+#include "forms/workbench/workbench_host.h"
+#include "shell/game_files_watch.h"
+
+namespace orrerix {
+
+class Tools {
+ public:
+  // All of these outlive this.
+  Tools(WorkbenchHost& host, const FormParts& parts, JetVersionOption format);
+  ~Tools();
+  Tools(const Tools&) = delete;
+  Tools& operator=(const Tools&) = delete;
+
+  // Called when a universe that was imported in the background has taken the place of the old one.
+  std::function<void()> OnReplaced;
+
+  // Called with the answer whether the game's files have changed since they were imported.
+  std::function<void(bool)> OnChangeSeen;
+
+  void Open();
+  void ShowKeys();
+
+  // Imports the game that is shown anew, while the map stays.
+  void ImportAgain();
+
+  // Follows changes of the game's files; each is imported at once.
+  void WatchGame(bool on);
+
+  // A universe is on the map, or another one than before.
+  void UniverseShown();
+
+  // A line on the page of the game.
+  void ShowState(const QString& text);
+
+  // What is remembered from run to run.
+  QSettings& Remembered() { return settings_; }
+
+ private:
+  Workbench& Window();
+  void FinishImport(const ImportOutcome& outcome);
+  void LookForChanges();
+  void OpenInEditor(const std::filesystem::path& file, int line);
+
+  WorkbenchHost& host_;
+  const FormParts& parts_;
+  JetVersionOption format_;
+  QSettings settings_;
+  std::unique_ptr<Workbench> window_;  // made when it is first wanted
+  GamePage* gamePage_ = nullptr;
+  QTimer watchTimer_;
+  std::unique_ptr<GameFilesWatch> watch_;
+  bool importsAgain_ = false;  // files changed while an import ran
+  BackgroundImport import_;
+  BackgroundTask stamp_;
+};
+
+}  // namespace orrerix

@@ -1,0 +1,109 @@
+// SPDX-License-Identifier: MIT
+#include "forms/workbench/workbench.h"
+
+#include <QCloseEvent>
+#include <QIcon>
+#include <QKeyEvent>
+#include <QMessageBox>
+#include <QSplitter>
+#include <QVBoxLayout>
+#include <algorithm>
+
+#include "forms/controls/captions.h"
+#include "forms/workbench/setting_keys.h"
+
+namespace orrerix {
+namespace {
+
+constexpr QSize kFirstSize{1100, 720};
+constexpr int kListWidth = 150;
+// The style's own boxes do not show on the dark background while they are empty.
+constexpr const char* kStyle =
+    "QCheckBox::indicator { width: 15px; height: 15px; image: url(:/pictures/tools/check_off.svg); "
+    "}"
+    "QCheckBox::indicator:checked { image: url(:/pictures/tools/check_on.svg); }";
+
+}  // namespace
+
+Workbench::Workbench(QSettings& settings, const LanguageChoice& choice)
+    : settings_(settings),
+      choice_(choice),
+      list_(new QListWidget(this)),
+      stack_(new QStackedWidget(this)) {
+  setObjectName("Workbench");
+  setWindowTitle(CaptionIn(choice.Current, TextId::Tools));
+  setStyleSheet(kStyle);
+  setWindowIcon(QIcon(":/pictures/application.svg"));
+  list_->setObjectName("PageList");
+  list_->setAccessibleName(CaptionIn(choice.Current, TextId::Tools));
+  list_->setFixedWidth(kListWidth);
+  auto* layout = new QHBoxLayout(this);
+  layout->setContentsMargins(8, 8, 8, 8);
+  layout->addWidget(list_);
+  layout->addWidget(stack_, 1);
+  connect(list_, &QListWidget::currentRowChanged, this, [this](int row) { Choose(row); });
+  resize(kFirstSize);
+  restoreGeometry(settings_.value(setting_key::kGeometry).toByteArray());
+}
+
+Workbench::~Workbench() = default;
+
+void Workbench::Add(std::unique_ptr<WorkbenchPage> page) {
+  list_->addItem(CaptionIn(choice_.Current, page->Name()));
+  pages_.push_back(page.get());
+  stack_->addWidget(page.release());
+}
+
+void Workbench::Open() {
+  const int last = settings_.value(setting_key::kPage, 0).toInt();
+  const int count = static_cast<int>(pages_.size());
+  if (list_->currentRow() < 0 && count > 0) list_->setCurrentRow(std::clamp(last, 0, count - 1));
+  show();
+  raise();
+  activateWindow();
+}
+
+void Workbench::Open(TextId page) {
+  for (std::size_t i = 0; i < pages_.size(); ++i) {
+    if (pages_[i]->Name() == page) list_->setCurrentRow(static_cast<int>(i));
+  }
+  Open();
+}
+
+void Workbench::Choose(int row) {
+  if (row < 0) return;
+  stack_->setCurrentIndex(row);
+  pages_[static_cast<std::size_t>(row)]->Enter();
+}
+
+void Workbench::UniverseChanged() {
+  for (WorkbenchPage* page : pages_) page->UniverseChanged();
+}
+
+void Workbench::ShowKeys() {
+  auto* keys = new QMessageBox(QMessageBox::NoIcon, CaptionIn(choice_.Current, TextId::KeysTitle),
+                               CaptionIn(choice_.Current, TextId::KeysText), QMessageBox::Close,
+                               isVisible() ? this : nullptr);
+  keys->setObjectName("Keys");
+  keys->setTextFormat(Qt::PlainText);
+  keys->setAttribute(Qt::WA_DeleteOnClose);
+  keys->button(QMessageBox::Close)->setText(CaptionIn(choice_.Current, TextId::ButtonClose));
+  keys->open();
+}
+
+void Workbench::closeEvent(QCloseEvent* event) {
+  settings_.setValue(setting_key::kGeometry, saveGeometry());
+  settings_.setValue(setting_key::kPage, list_->currentRow());
+  QWidget::closeEvent(event);
+}
+
+void Workbench::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_F1) return ShowKeys();
+  if (event->key() == Qt::Key_Escape) {
+    close();
+    return;
+  }
+  QWidget::keyPressEvent(event);
+}
+
+}  // namespace orrerix

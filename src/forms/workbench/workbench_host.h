@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include "derived/system_grid.h"
+#include "import/universe.h"
+#include "shell/routine.h"
+
+namespace orrerix {
+
+// What the workbench asks of the main form.
+class WorkbenchHost {
+ public:
+  virtual ~WorkbenchHost() = default;
+
+  // The game folder that the map shows.
+  virtual std::string GameText() const = 0;
+  virtual std::filesystem::path UniverseFile() const = 0;
+
+  // The universe file, open. One that cannot be read is a failure of `routine`.
+  virtual Universe OpenUniverse(Routine& routine) = 0;
+
+  // Marks cells of the map until it is called again.
+  virtual void MarkCells(const std::vector<MapCell>& cells) = 0;
+
+  // Shows the place with this nickname on the map. False if the map does not have it.
+  virtual bool ShowOnMap(const std::string& nickname) = 0;
+
+  // Reads the game folder anew. The universe that is shown stays where the import is given up.
+  virtual void ImportAgain() = 0;
+
+  // Follows changes of its files, or no more.
+  virtual void WatchGame(bool on) = 0;
+
+  // Shows another game, importing it first where it has no universe file yet.
+  virtual void OpenGame(const std::string& folder) = 0;
+};
+
+}  // namespace orrerix
