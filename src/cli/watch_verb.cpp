@@ -9,6 +9,7 @@
 #include <fmt/chrono.h>
 #include <fmt/format.h>
 
+#include "check/check.h"
 #include "cli/diff_json.h"
 #include "cli/interruption.h"
 #include "cli/json_text.h"
@@ -29,6 +30,14 @@ constexpr std::chrono::seconds kRetryPause{1};
 struct WatchArguments {
   std::string Game;
   std::optional<std::string> Log;
+  bool Check = false;
+};
+
+// How many findings of each severity a check has.
+struct FindingCounts {
+  std::size_t Errors = 0;
+  std::size_t Warnings = 0;
+  std::size_t Notes = 0;
 };
 
 // What is told of one round.
@@ -37,15 +46,47 @@ struct Round {
   std::size_t Files = 0;
   ImportAnswer Import;
   std::optional<UniverseDiff> Diff;  // to the round before; nothing in the first one
+  std::optional<FindingCounts> Findings;
 };
 
+FindingCounts CheckGame(const std::string& game) {
+  using check::Severity;
+  check::CheckOptions options;
+  options.Game = game;
+  try {
+    const check::CheckAnswer answer =
+        check::RunCheck(options, [](std::size_t) { return !Interruption::IsAsked(); });
+    return {answer.Count(Severity::Error), answer.Count(Severity::Warning),
+            answer.Count(Severity::Note)};
+  } catch (const check::CannotCheck& error) {
+    throw CouldNot(error.what());
+  }
+}
+
 Json RoundJson(const Round& round) {
-  return {{"time", round.Time},
-          {"files", round.Files},
-          {"seconds", round.Import.Seconds},
-          {"log_lines", round.Import.LogEntries.size()},
-          {"failures", round.Import.Failures.size()},
-          {"summary", round.Diff ? DiffSummaryJson(*round.Diff) : Json(nullptr)}};
+  Json json = {{"time", round.Time},
+               {"files", round.Files},
+               {"seconds", round.Import.Seconds},
+               {"log_lines", round.Import.LogEntries.size()},
+               {"failures", round.Import.Failures.size()},
+               {"summary", round.Diff ? DiffSummaryJson(*round.Diff) : Json(nullptr)}};
+  if (const auto& findings = round.Findings) {
+    json["findings"] = {
+        {"error", findings->Errors}, {"warning", findings->Warnings}, {"note", findings->Notes}};
+  }
+  return json;
+}
+
+std::string DiffText(const UniverseDiff& diff) {
+  if (diff.IsEmpty()) return "; no differences";
+  const UniverseDiff::Counts counts = diff.RowCounts();
+  std::string text = fmt::format("; {} rows added, {} removed, {} changed", counts.Added,
+                                 counts.Removed, counts.Changed);
+  const std::size_t added = diff.TablesAdded.size();
+  const std::size_t removed = diff.TablesRemoved.size();
+  if (added > 0) text += fmt::format(", {} tables added", added);
+  if (removed > 0) text += fmt::format(", {} tables removed", removed);
+  return text;
 }
 
 std::string RoundText(const Round& round) {
@@ -53,15 +94,11 @@ std::string RoundText(const Round& round) {
       fmt::format("{}  {} {}, {:.2f} seconds, {} log lines, {} failures", round.Time, round.Files,
                   round.Files == 1 ? "file" : "files", round.Import.Seconds,
                   round.Import.LogEntries.size(), round.Import.Failures.size());
-  if (!round.Diff) return text;
-  const UniverseDiff::Counts counts = round.Diff->RowCounts();
-  if (round.Diff->IsEmpty()) return text + "; no differences";
-  text += fmt::format("; {} rows added, {} removed, {} changed", counts.Added, counts.Removed,
-                      counts.Changed);
-  const std::size_t added = round.Diff->TablesAdded.size();
-  const std::size_t removed = round.Diff->TablesRemoved.size();
-  if (added > 0) text += fmt::format(", {} tables added", added);
-  if (removed > 0) text += fmt::format(", {} tables removed", removed);
+  if (round.Diff) text += DiffText(*round.Diff);
+  if (const auto& findings = round.Findings) {
+    text += fmt::format("; check: {} errors, {} warnings, {} notes", findings->Errors,
+                        findings->Warnings, findings->Notes);
+  }
   return text;
 }
 
@@ -115,7 +152,8 @@ class WatchVerb {
   }
 
   void TellRound(const UniverseImport& universe) {
-    Round round{TimeOfDay(), changed_.size(), universe.Run(false, Interruption::IsAsked), {}};
+    Round round{TimeOfDay(), changed_.size(), universe.Run(false, Interruption::IsAsked), {}, {}};
+    if (arguments_.Check && !Interruption::IsAsked()) round.Findings = CheckGame(arguments_.Game);
     if (Interruption::IsAsked()) return;
     if (arguments_.Log) WriteFile(*arguments_.Log, LogText(round.Import.LogEntries));
     if (!round.Import.IsFinished) {
@@ -163,6 +201,7 @@ void AddWatchVerb(CLI::App& app, const CommonOptions& options, Verb& run) {
   verb->add_option("--game", arguments->Game, "The game's folder")->required()->type_name("DIR");
   AddText(*verb, "--log", arguments->Log, "File for the data log of the last round")
       ->type_name("FILE");
+  verb->add_flag("--check", arguments->Check, "Check the game's files, too, as check does");
   verb->footer(
       "Needs --database, the universe file that it writes. Ends on an interrupt (Ctrl+C).");
   verb->callback([&options, &run, arguments] {

@@ -79,6 +79,19 @@ TEST_F(Watching, WaitsForAFolderThatVanished) {
   EXPECT_EQ(End(SIGINT), 0);
 }
 
+TEST_F(Watching, CountsFindingsOfACheckIfAsked) {
+  Start("--json --check");
+  const nlohmann::json first = Round();
+  folder.Write("game/DATA/MISSIONS/mbases.ini", "no section\r\n[MBase\r\n");
+  const nlohmann::json second = Round();
+
+  // The text before any section is a warning, the header without its end an error.
+  EXPECT_GT(second["findings"]["error"], 0);
+  EXPECT_GT(second["findings"]["warning"], 0);
+  EXPECT_NE(second["findings"], first["findings"]);
+  EXPECT_EQ(End(SIGTERM), 0);
+}
+
 TEST_F(Watching, TellsRoundsToPeopleToo) {
   Start("");
   const std::string line = Line();
