@@ -498,7 +498,7 @@ void OrrerixMain::OpenGame(const std::string& folder) {
 namespace {
 
 QString ViewKey(const fs::path& saveFolder) {
-  return "view/" + QString::number(qHash(QString::fromStdString(saveFolder.string())));
+  return "view/" + QString::fromStdString(saveFolder.filename().string());
 }
 
 }  // namespace

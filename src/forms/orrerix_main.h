@@ -29,7 +29,7 @@ namespace orrerix {
 
 // The main form. It shows one of three screens, decided anew by every redraw: first run, importing,
 // or the map.
-class OrrerixMain : public QWidget, private MapHost, private WorkbenchHost {
+class OrrerixMain : public QWidget, public WorkbenchHost, private MapHost {
  public:
   OrrerixMain(const FormParts& parts, Settings& settings, LanguageFile& language,
               const MemoryStatus& startMemory, JetVersionOption format);
@@ -72,9 +72,16 @@ class OrrerixMain : public QWidget, private MapHost, private WorkbenchHost {
   // Opens the link of a news label with the game's sound for that.
   void OpenNewsLink(int index) override;
 
+  // What the workbench asks for; see there.
+  std::string GameText() const override { return GameFolderText(); }
+  bool ShowOnMap(const std::string& nickname) override;
+  void ImportAgain() override;
+  void OpenGame(const std::string& folder) override;
+  void MarkCells(const std::vector<MapCell>& cells) override { marks_->Mark(cells); }
+  void WatchGame(bool on) override { tools_.WatchGame(on); }
   std::filesystem::path UniverseFile() const override { return UniverseFileIn(saveFolder_); }
   GameFolder Game() const override;
-  Tools& ToolsOfMap() { return tools_; }
+  Tools& MapTools() { return tools_; }
   MapScreen& Map() { return map_; }
   MapController& Controller() { return mapController_; }
   const StationWindows& Stations() const { return stations_; }
@@ -104,13 +111,6 @@ class OrrerixMain : public QWidget, private MapHost, private WorkbenchHost {
   void UseTool(int index) override;
 
   void OpenLogoPage(bool firstHalf) override;
-
-  std::string GameText() const override { return GameFolderText(); }
-  bool ShowOnMap(const std::string& nickname) override;
-  void ImportAgain() override;
-  void OpenGame(const std::string& folder) override;
-  void MarkCells(const std::vector<MapCell>& cells) override { marks_->Mark(cells); }
-  void WatchGame(bool on) override { tools_.WatchGame(on); }
 
   void MakeTools();
   void RememberView();

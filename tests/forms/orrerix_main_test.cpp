@@ -28,6 +28,12 @@ class OrrerixMainTest : public FormFixture {
     form->ShowMaximised();
   }
 
+  std::size_t SystemLabels() {
+    const ControlList& controls = form->Map().Drawing().Controls;
+    return static_cast<std::size_t>(
+        std::count_if(controls.begin(), controls.end(),
+                      [](const Control& control) { return control.Id == ControlId::SystemLabel; }));
+  }
   bool ShowsMap() { return form->Map().Frame().isVisible(); }
   bool HasTableVersion() {
     IgnoreFailures ignore;
@@ -245,6 +251,91 @@ TEST_F(OrrerixMainTest, AFinishedFileIsShownWithoutAnImport) {
 
   EXPECT_TRUE(WaitUntil([&] { return ShowsMap(); }));
   EXPECT_EQ(std::filesystem::last_write_time(UniverseFile()), written);
+}
+
+TEST_F(OrrerixMainTest, AnImportAgainReplacesTheUniverseWhileTheMapStays) {
+  WriteGame();
+  Load();
+  ASSERT_TRUE(WaitUntil([&] { return ShowsMap(); }));
+  const std::size_t systems = SystemLabels();
+  std::filesystem::remove_all(*paths.Game);
+  WriteDemoGame(*paths.Game, 16);
+
+  QTest::keyClick(&*form, Qt::Key_F5);
+
+  EXPECT_TRUE(ShowsMap());
+  EXPECT_TRUE(WaitUntil([&] { return SystemLabels() > systems; }));
+  EXPECT_FALSE(form->Importing());
+  EXPECT_TRUE(messages.Shown.empty());
+}
+
+TEST_F(OrrerixMainTest, AnotherGameHasAUniverseFileOfItsOwnAndTheFirstComesBackWhereItWasLeft) {
+  WriteGame();
+  const std::string other = (folder.Path() / "other").string();
+  WriteDemoGame(other, 16);
+  Load();
+  ASSERT_TRUE(WaitUntil([&] { return ShowsMap(); }));
+  const auto first = form->UniverseFile();
+  const ZoomRectangle view{4, 4, 7, 7};
+  ASSERT_TRUE(form->Controller().PushZoomStack(view));
+
+  form->OpenGame(other);
+  ASSERT_TRUE(WaitUntil([&] { return ShowsMap() && form->UniverseFile() != first; }));
+  EXPECT_TRUE(std::filesystem::exists(first));
+  form->OpenGame(*paths.Game);
+  ASSERT_TRUE(WaitUntil([&] { return ShowsMap() && form->UniverseFile() == first; }));
+
+  EXPECT_EQ(form->Map().State().Zoom.Current(), view);
+}
+
+TEST_F(OrrerixMainTest, AFolderWithoutAGameIsNotOpened) {
+  WriteGame();
+  Load();
+  ASSERT_TRUE(WaitUntil([&] { return ShowsMap(); }));
+
+  form->OpenGame("/nowhere");
+
+  EXPECT_EQ(form->GameText(), *paths.Game);
+  EXPECT_TRUE(ShowsMap());
+}
+
+TEST_F(OrrerixMainTest, AStartWithAnotherGameDoesNotShowTheUniverseOfTheFirst) {
+  WriteGame();
+  Load();
+  ASSERT_TRUE(WaitUntil([&] { return ShowsMap(); }));
+  const auto first = form->UniverseFile();
+  paths.Game = (folder.Path() / "other").string();
+  WriteDemoGame(*paths.Game, 16);
+
+  Load();
+  ASSERT_TRUE(WaitUntil([&] { return ShowsMap(); }));
+
+  EXPECT_NE(form->UniverseFile(), first);
+}
+
+TEST_F(OrrerixMainTest, FilesThatHaveChangedSinceTheImportAreNoticedAtTheNextStart) {
+  WriteGame();
+  Load();
+  ASSERT_TRUE(WaitUntil([&] { return ShowsMap(); }));
+  folder.Write("game/DATA/new.ini", "x");
+
+  Load();
+  ASSERT_TRUE(WaitUntil([&] { return ShowsMap(); }));
+
+  EXPECT_TRUE(WaitUntil([&] { return Find(*form, "MapNotice").isVisible(); }));
+}
+
+TEST_F(OrrerixMainTest, TheToolsAreReachedByAWordBesideTheLanguage) {
+  WriteGame();
+  Load();
+  ASSERT_TRUE(WaitUntil([&] { return ShowsMap(); }));
+
+  Find<QPushButton>(*form, "Tools").click();
+
+  const auto windows = QApplication::topLevelWidgets();
+  EXPECT_TRUE(std::any_of(windows.begin(), windows.end(), [](const QWidget* window) {
+    return window->objectName() == "Workbench" && window->isVisible();
+  }));
 }
 
 TEST_F(OrrerixMainTest, AnImportThatIsGivenUpLeavesItsScreenStanding) {

@@ -50,7 +50,6 @@ void MapScreen::SetNews(std::string ownLink, std::vector<NewsItem> news) {
 
 void MapScreen::InitDataUsage(Universe& universe) {
   if (std::exchange(namesRead_, true)) return;
-  state_.Zoom.Reset();
   state_.Names = GetSystemNames(universe, texts_);
   ReadAhead();
 }
