@@ -294,7 +294,8 @@ void OrrerixMain::RunImport(FolderLock lock) {
 }
 
 void OrrerixMain::ShowMap() {
-  setWindowTitle(QString::fromStdString(MapCaption(parts_.Version)));
+  const std::string gameName = fs::path(GameFolderText()).filename().string();
+  setWindowTitle(QString::fromStdString(MapCaption(parts_.Version) + " - " + gameName));
   importScreen_->HideProgress();
   importScreen_->hide();
   Routine routine(parts_.Log, "OrrerixMain.Form_Resize");

@@ -160,7 +160,7 @@ TEST_F(OrrerixMainTest, AValidGameIsImportedByItselfAndTheMapAppears) {
 
   EXPECT_FALSE(form->Importing());
   EXPECT_TRUE(form->isMaximized());
-  EXPECT_EQ(form->windowTitle(), "FL Orrerix v1.0 Revision 0");
+  EXPECT_EQ(form->windowTitle(), "FL Orrerix v1.0 Revision 0 - game");
   EXPECT_FALSE(Find(*form, "ImportScreen").isVisible());
   EXPECT_TRUE(messages.Shown.empty());
   EXPECT_GT(form->Map().Drawing().Controls.size(), 12U);

@@ -12,7 +12,8 @@ namespace orrerix {
 namespace {
 
 constexpr int kFont = 9;
-constexpr int kGap = 16;  // pixels
+constexpr int kGap = 16;        // pixels
+constexpr int kLabelInset = 4;  // below the letters of a label, pixels
 constexpr const char* kEntryStyle =
     "QPushButton { border: none; background: transparent; color: #80d0ff; padding: 0; }"
     "QPushButton:hover, QPushButton:focus { color: #ffffff; text-decoration: underline; }";
@@ -30,7 +31,7 @@ QRectF LanguagePlace(const ControlList& controls, const QPointF& corner) {
       const QFontMetrics letters(FormFont(control.FontSize.value_or(kFont)));
       const QString name = QString::fromStdString(control.Caption.value_or(""));
       const QSizeF size(letters.horizontalAdvance(name), letters.height());
-      return {place.bottomRight() - QPointF(size.width(), size.height()), size};
+      return {place.bottomRight() - QPointF(size.width(), size.height() + kLabelInset), size};
     }
     const QRectF inner = LanguagePlace(control.Children, place.topLeft());
     if (!inner.isEmpty()) return inner;
