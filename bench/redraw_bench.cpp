@@ -37,8 +37,7 @@ void DrawingList(benchmark::State& state, const BenchGame& game, const fs::path&
   MapState map;
   map.Zoom.Reset(rectangle);
   map.Names = GetSystemNames(universe, english);
-  const MapView view{28800,   16200, MapOptions::Defaults(rectangle.IsZoomed()),
-                     measure, panel};
+  const MapView view{28800, 16200, MapOptions::Defaults(rectangle.IsZoomed()), measure, panel};
   std::size_t controls = 0;
   for (auto _ : state) controls = DrawMap(universe, map, view).Controls.size();
   state.counters["controls"] = static_cast<double>(controls);

@@ -60,9 +60,8 @@ bool HasColumn(const Database& database, std::string_view table, std::string_vie
   if (!database.HasTable(table)) return false;
   const std::size_t open = expression.find('(');
   const std::string_view column =
-      open == std::string_view::npos
-          ? expression
-          : expression.substr(open + 1, expression.find(')') - open - 1);
+      open == std::string_view::npos ? expression
+                                     : expression.substr(open + 1, expression.find(')') - open - 1);
   return database.HasField(table, column);
 }
 
@@ -93,8 +92,8 @@ Database& WorkingCopy::Of(FailureSink& sink, const fs::path& path) {
   for (std::size_t i = 0; i < kLookups.size(); ++i) {
     const Lookup& lookup = kLookups[i];
     if (!HasColumn(copy_, lookup.Table, lookup.Expression)) continue;
-    copy_.ExecuteNative(sink, fmt::format("CREATE INDEX lookup_{} ON {} ({})", i, lookup.Table,
-                                          lookup.Expression));
+    copy_.ExecuteNative(
+        sink, fmt::format("CREATE INDEX lookup_{} ON {} ({})", i, lookup.Table, lookup.Expression));
   }
   stamp_ = stamp;
   return copy_;

@@ -11,7 +11,6 @@ namespace orrerix {
 
 // The place of a row of `DockObjects` in the game's notation. A number that the row lacks is a
 // failure of its own, and the place is then empty.
-std::string CoordsOf(Routine& routine, Universe& universe, const CellNames& names,
-                     Recordset& dock);
+std::string CoordsOf(Routine& routine, Universe& universe, const CellNames& names, Recordset& dock);
 
 }  // namespace orrerix

@@ -132,8 +132,7 @@ TEST_F(KeyOfTwoFields, RefusesDoublesWhateverTheirCaseAndNull) {
 TEST(InsertStatement, NumbersItsParametersRowByRow) {
   const TableDef table{"t", {Of("a", FieldType::Text, true), Of("b", FieldType::Long, true)}, {}};
 
-  EXPECT_EQ(InsertStatement(table, 2),
-            "INSERT INTO \"t\" (\"a\",\"b\") VALUES (?1,?2),(?3,?4)");
+  EXPECT_EQ(InsertStatement(table, 2), "INSERT INTO \"t\" (\"a\",\"b\") VALUES (?1,?2),(?3,?4)");
 }
 
 TEST(TableDef, KnowsItsFieldWithAUniqueID) {

@@ -114,8 +114,7 @@ TEST_F(JumpObjects, ATargetWithoutAPositionLiesInTheMiddleAndIsLogged) {
   EXPECT_EQ(row["PosX2"].Number(), 0.5);
   EXPECT_EQ(row["PosY2"].Number(), 0.5);
   EXPECT_EQ(row["nickname2"], Value("b"));
-  EXPECT_THAT(DataLog(),
-              ElementsAre("*=== FL-MOD-ERROR: Objekt B has no POS = x,z,y! ===*"));
+  EXPECT_THAT(DataLog(), ElementsAre("*=== FL-MOD-ERROR: Objekt B has no POS = x,z,y! ===*"));
 }
 
 TEST_F(JumpObjects, AGotoWithoutASecondCommaIsAFailureAndStillFindsItsTarget) {

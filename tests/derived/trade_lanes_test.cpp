@@ -22,10 +22,8 @@ class TradeLanes : public DerivedFixture {
     std::string_view Pos = "0, 0, 0";
   };
   void Ring(std::string_view nickname, const RingFields& ring) {
-    Object(nickname, {.Pos = ring.Pos,
-                      .PrevRing = ring.Prev,
-                      .NextRing = ring.Next,
-                      .SpaceName = ring.Name});
+    Object(nickname,
+           {.Pos = ring.Pos, .PrevRing = ring.Prev, .NextRing = ring.Next, .SpaceName = ring.Name});
   }
 
   void Calculate() { CalcTradeLanes(universe, host); }
@@ -130,8 +128,7 @@ TEST_F(TradeLanes, TheNextRingOfTheStartIsTakenAsItStands) {
 
   Calculate();
 
-  EXPECT_THAT(DataLog(),
-              ElementsAre("FL-MOD-ERROR Searching target Tradelane <r2 > for <r1>"));
+  EXPECT_THAT(DataLog(), ElementsAre("FL-MOD-ERROR Searching target Tradelane <r2 > for <r1>"));
 }
 
 TEST_F(TradeLanes, ARingThatIsMissingDropsTheLaneAndIsLogged) {

@@ -12,10 +12,8 @@ namespace orrerix {
 class DerivedFixture : public UniverseFixture {
  protected:
   void System(std::string_view nickname, std::string_view pos, std::string_view scale = "") {
-    Add("Systems", {{"nickname", nickname},
-                    {"realname", nickname},
-                    {"pos", pos},
-                    {"navmapscale", scale}});
+    Add("Systems",
+        {{"nickname", nickname}, {"realname", nickname}, {"pos", pos}, {"navmapscale", scale}});
   }
 
   struct ObjectFields {

@@ -34,8 +34,7 @@ TEST(Captions, OfTheWarningFollowTheLanguage) {
   PictureStore pictures;
   const Spoiler spoiler(DefaultSpoilerTexts(Language::German), pictures, Language::German);
 
-  EXPECT_EQ(Find<QPushButton>(spoiler, "Cancel").text(),
-            "Abbrechen - Beenden und selbst suchen");
+  EXPECT_EQ(Find<QPushButton>(spoiler, "Cancel").text(), "Abbrechen - Beenden und selbst suchen");
   EXPECT_EQ(Find<QPushButton>(spoiler, "Cancel").toolTip(), "Abbrechen - Programm beenden");
 }
 

@@ -12,7 +12,8 @@ TEST(MapOptions, TheWholeGridStartsWithoutBackgrounds) {
 }
 
 TEST(MapOptions, AZoomedViewStartsWithEverything) {
-  EXPECT_EQ(MapOptions::Defaults(true).On, (std::array<bool, 6>{true, true, true, true, true, true}));
+  EXPECT_EQ(MapOptions::Defaults(true).On,
+            (std::array<bool, 6>{true, true, true, true, true, true}));
 }
 
 TEST(MapOptions, EachViewHasKeysOfItsOwn) {

@@ -31,8 +31,12 @@ const std::map<std::string, std::set<std::string>> kMayInclude = {
     {"routes", {"import", "shell", "db", "platform"}},
     {"check", {"import", "shell", "db", "platform"}},
     {"picture", {"map", "derived", "import", "shell", "db", "platform"}},
-    {"cli", {"diff", "tables", "picture", "check", "routes", "info", "online", "map", "derived", "import", "shell", "db", "platform"}},
-    {"forms", {"picture", "check", "info", "online", "map", "derived", "import", "shell", "db", "platform"}},
+    {"cli",
+     {"diff", "tables", "picture", "check", "routes", "info", "online", "map", "derived", "import",
+      "shell", "db", "platform"}},
+    {"forms",
+     {"picture", "check", "diff", "tables", "info", "online", "map", "derived", "import", "shell",
+      "db", "platform"}},
     {"demo", {}},
 };
 

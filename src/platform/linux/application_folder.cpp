@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "platform/application_folder.h"
 
-#include <unistd.h>
-
 #include <cstdlib>
+
+#include <unistd.h>
 
 namespace orrerix {
 namespace fs = std::filesystem;

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "platform/memory_status.h"
 
-#include <unistd.h>
-
 #include <algorithm>
 #include <fstream>
 #include <string>
+
+#include <unistd.h>
 
 namespace orrerix {
 namespace {

@@ -36,10 +36,12 @@ fs::path UserFolder(const std::string& name, const fs::path& otherwise) {
 
 std::string DefaultShellFolder(ShellFolder folder) {
   switch (folder) {
-    case ShellFolder::Desktop: return UserFolder("XDG_DESKTOP_DIR", Home() / "Desktop").string();
+    case ShellFolder::Desktop:
+      return UserFolder("XDG_DESKTOP_DIR", Home() / "Desktop").string();
     case ShellFolder::Personal:
       return UserFolder("XDG_DOCUMENTS_DIR", Home() / "Documents").string();
-    case ShellFolder::Programs: break;
+    case ShellFolder::Programs:
+      break;
   }
   return (Environment("XDG_DATA_HOME", Home() / ".local" / "share") / "applications").string();
 }

@@ -143,7 +143,8 @@ TEST_F(MapKeysTest, EveryStopHasANameInTheLanguageInUse) {
 
   EXPECT_EQ(Button(ControlId::OptionSwitch, 5).accessibleName().toStdString(),
             FixedLanguage(Language::French).Text(TextId::SystemNames));
-  EXPECT_EQ(Button(ControlId::Tool, 0).accessibleName().toStdString(), FixedLanguage(Language::French).Text(TextId::SearchPlaces));
+  EXPECT_EQ(Button(ControlId::Tool, 0).accessibleName().toStdString(),
+            FixedLanguage(Language::French).Text(TextId::SearchPlaces));
 }
 
 TEST_F(MapKeysTest, AStopStandsOverItsControlAndLetsTheMouseThrough) {
