@@ -136,22 +136,28 @@ class CheckVerb {
 void AddCheckVerb(CLI::App& app, const CommonOptions& options, Verb& run) {
   auto arguments = std::make_shared<CheckArguments>();
   CLI::App* verb = app.add_subcommand("check", "Find mistakes in a game folder's data files");
-  AddText(*verb, "--game", arguments->Game, "The game's folder");
-  AddText(*verb, "--base", arguments->Base, "The unmodified game beneath a mod");
+  AddText(*verb, "--game", arguments->Game, "The game's folder")->type_name("DIR");
+  AddText(*verb, "--base", arguments->Base, "The unmodified game beneath a mod")->type_name("DIR");
   verb->add_option("--format", arguments->Format, "What the report is: text, json or sarif")
       ->check(CLI::IsMember({"text", "json", "sarif"}));
-  AddText(*verb, "--output", arguments->Output, "File for the report");
+  AddText(*verb, "--output", arguments->Output, "File for the report")->type_name("FILE");
   verb->add_option("--fail-on", arguments->FailOn, "Exit code 3 from this severity on")
       ->check(CLI::IsMember({"error", "warning", "note", "never"}));
-  verb->add_option("--only", arguments->Only, "Look for these rules alone: RULE,...")
-      ->delimiter(',');
-  verb->add_option("--skip", arguments->Skip, "Look for all rules but these: RULE,...")
-      ->delimiter(',');
-  AddText(*verb, "--baseline", arguments->Baseline, "File of findings that are known already");
+  verb->add_option("--only", arguments->Only, "Look for these rules alone")
+      ->delimiter(',')
+      ->type_name("RULE,...");
+  verb->add_option("--skip", arguments->Skip, "Look for all rules but these")
+      ->delimiter(',')
+      ->type_name("RULE,...");
+  AddText(*verb, "--baseline", arguments->Baseline, "File of findings that are known already")
+      ->type_name("FILE");
   AddText(*verb, "--write-baseline", arguments->WriteBaseline,
-          "File to write all findings to, as a baseline");
-  AddText(*verb, "--explain", arguments->Explain, "Print what a rule looks for; 'all' for all");
+          "File to write all findings to, as a baseline")
+      ->type_name("FILE");
+  AddText(*verb, "--explain", arguments->Explain, "Print what a rule looks for; 'all' for all")
+      ->type_name("RULE");
   verb->add_flag("--quiet", arguments->Quiet, "Of the text the last line only");
+  verb->footer("Needs --game unless a rule is to be explained, and no universe file.");
   verb->callback([&options, &run, arguments] {
     run = [&options, arguments] { return CheckVerb(options, *arguments).Run(); };
   });

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "check/files/paths.h"
 
+#include <vector>
+
 #include "db/text.h"
 
 namespace orrerix::check {
@@ -32,16 +34,6 @@ std::string JoinPath(std::string_view below, std::string_view path) {
 
 std::string PathKey(std::string_view resolved) {
   return FoldAscii(resolved);
-}
-
-std::vector<std::string_view> PathComponents(std::string_view resolved) {
-  std::vector<std::string_view> components;
-  while (!resolved.empty()) {
-    const std::size_t end = resolved.find('/');
-    components.push_back(resolved.substr(0, end));
-    resolved.remove_prefix(end == std::string_view::npos ? resolved.size() : end + 1);
-  }
-  return components;
 }
 
 }  // namespace orrerix::check

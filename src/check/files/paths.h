@@ -4,7 +4,6 @@
 
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace orrerix::check {
 
@@ -17,8 +16,5 @@ std::string JoinPath(std::string_view below, std::string_view path);
 
 // A resolved path in the form in which paths compare: A-Z equals a-z.
 std::string PathKey(std::string_view resolved);
-
-// The components of a resolved path.
-std::vector<std::string_view> PathComponents(std::string_view resolved);
 
 }  // namespace orrerix::check

@@ -90,10 +90,6 @@ const KindInfo* KindOfSection(RoleSet roles, std::string_view foldedSection) {
   return nullptr;
 }
 
-std::span<const std::string_view> EquipmentSections() {
-  return InfoOf(Kind::Equipment).Sections;
-}
-
 bool IsCutAtLeadKey(RoleSet roles, std::string_view foldedSection) {
   if (roles.Has(Role::MBases) && foldedSection == "basefaction") return true;
   if (roles.Has(Role::Markets) && foldedSection == "basegood") return true;

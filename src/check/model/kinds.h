@@ -60,9 +60,6 @@ std::span<const KindInfo> AllKinds();
 // What a section of a file with these roles defines; null if nothing.
 const KindInfo* KindOfSection(RoleSet roles, std::string_view foldedSection);
 
-// The sections of kind Equipment, in lower case.
-std::span<const std::string_view> EquipmentSections();
-
 // Whether a second lead key in such a section starts another one.
 bool IsCutAtLeadKey(RoleSet roles, std::string_view foldedSection);
 

@@ -21,7 +21,7 @@ const std::vector<TargetInfo>& Targets() {
   // In the order of Target.
   static const std::vector<TargetInfo> targets = {
       {Target::Ammunition,
-       "Munition, Mine, CounterMeasure",
+       "Munition, Mine or CounterMeasure",
        {Kind::Equipment},
        {"munition", "mine", "countermeasure"}},
       {Target::Base, "base", {Kind::Base}, {}},

@@ -75,7 +75,14 @@ void CheckBytes(const IniFile& file, Findings& findings) {
   const auto line = file.BadBytesLine();
   if (!line) return;
   const IniSection* section = file.SectionAt(*line);
-  findings.Add(Rule::BadBytes, {&file.Disk(), *line, section, EntryAt(section, *line)},
+  const IniEntry* entry = EntryAt(section, *line);
+  IniEntry asEntry;
+  for (const BareLine& bare : file.BareLines()) {
+    if (bare.Line != *line) continue;
+    asEntry = {bare.Text, {}, kUnknownName, bare.Line};
+    entry = &asEntry;
+  }
+  findings.Add(Rule::BadBytes, {&file.Disk(), *line, section, entry},
                "the line holds bytes that no text has");
 }
 

@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "check/files/paths.h"
 
-#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
 namespace orrerix::check {
 namespace {
-
-using ::testing::ElementsAre;
 
 TEST(Paths, AreResolved) {
   EXPECT_EQ(ResolvePath("a\\b/c.ini"), "a/b/c.ini");
@@ -19,10 +17,6 @@ TEST(Paths, AreResolved) {
 
 TEST(Paths, CompareWithoutTheCaseOfAsciiLetters) {
   EXPECT_EQ(PathKey("DATA/\xC3\x84.INI"), "data/\xC3\x84.ini");
-}
-
-TEST(Paths, HaveComponents) {
-  EXPECT_THAT(PathComponents("a/b.ini"), ElementsAre("a", "b.ini"));
 }
 
 }  // namespace

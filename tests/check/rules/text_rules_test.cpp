@@ -80,9 +80,11 @@ TEST_F(TextRules, BytesThatNoTextHasAreFoundOnce) {
   Data("fonts", "[A]\r\nname = Gr\xFC\xDF\x65\r\nkey = \x81\r\n");
   Data("huds", "[A]\rname = \xEF\xBF\xBD\r");
   Data("igraph", "[A]\nname = \xC3\xBC\n");
+  Data("logos", "[A]\nx \x81\n");
   Data("intro", "[A]\nname = \xFC\n");
 
-  EXPECT_THAT(Found("bad-bytes"), ElementsAre("constants:3 b", "fonts:3 key", "huds:2 name"));
+  EXPECT_THAT(Found("bad-bytes"),
+              ElementsAre("constants:3 b", "fonts:3 key", "huds:2 name", "logos:2 x \xC2\x81"));
 }
 
 }  // namespace
