@@ -61,8 +61,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const GameFolder game(Game().string());
   Import import{{log, database}, game, host, {}, {}};
 
-  ReadINI(import, game.Text() + "\\a.ini", "", "Li01");
-  ReadINI(import, game.Text() + "\\a.ini", "", "Li02");
+  ReadINI(import, game.Text() + "\\a.ini", "Li01");
+  ReadINI(import, game.Text() + "\\a.ini", "Li02");
   database.WriteHeldRows(ignore);
   for (const auto& table : import.Sections.Tables()) {
     const TableDef definition = table->Definition();

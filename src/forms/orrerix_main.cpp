@@ -217,7 +217,9 @@ void OrrerixMain::LookForGame() {
   }
   const GameFolder game(GameFolderText());
   if (game.FindFile(game.Text() + "\\exe\\Freelancer.exe")) return StartImport();
-  gameMissing_.Show({FormatIn(parts_.Speech.Current, TextId::GameMissing, parts_.GamePath()),
+  const Language language = parts_.Speech.Current;
+  gameMissing_.Show({FormatIn(language, TextId::GameMissing, parts_.GamePath()) + "\r\n\r\n" +
+                         FormatIn(language, TextId::NoGameIn, game.Text()),
                      windowTitle().toStdString(), MessageButtons::Ok, MessageIcon::Exclamation});
 }
 

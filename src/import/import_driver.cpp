@@ -47,13 +47,13 @@ class ImportRun {
 
  private:
   void ReadConfiguration() {
-    Read("\\exe\\freelancer.ini", "[Resources]");
-    Read("\\data\\universe\\universe.ini", "[System]");
+    Read("\\exe\\freelancer.ini");
+    Read("\\data\\universe\\universe.ini");
     CleanUp();
   }
 
   void ReadCharacters() {
-    Read("\\data\\missions\\mbases.ini", "[GF_NPC]");
+    Read("\\data\\missions\\mbases.ini");
     CleanUp();
   }
 
@@ -75,9 +75,8 @@ class ImportRun {
                             "(ucase(nickname) COLLATE NOCASE)");
   }
 
-  void Read(std::string_view path, std::string_view section, const std::string& system = {}) {
-    routine_.Try(
-        [&] { ReadINI(import_, order_.Game.Text() + std::string(path), section, system); });
+  void Read(std::string_view path, const std::string& system = {}) {
+    routine_.Try([&] { ReadINI(import_, order_.Game.Text() + std::string(path), system); });
   }
 
   void CleanUp() { CleanUpMemory(log_, host_, database_, order_.SaveFolder); }
@@ -130,7 +129,7 @@ class ImportRun {
     if (Ucase(type) == "BASES") {
       ReadSystemFiles();
     } else {
-      Read("\\data\\" + file, "[" + type + "]");
+      Read("\\data\\" + file);
     }
   }
 
@@ -138,8 +137,7 @@ class ImportRun {
     for (Recordset systems = database_.OpenRecordset(routine_, "SELECT * from Systems");
          !systems.AtEnd(); systems.MoveNext()) {
       routine_.Try([&] {
-        Read("\\data\\universe\\" + systems["file"].Get().Text(), "[Object]",
-             systems["nickname"].Get().Text());
+        Read("\\data\\universe\\" + systems["file"].Get().Text(), systems["nickname"].Get().Text());
       });
     }
   }

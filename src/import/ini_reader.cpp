@@ -110,8 +110,7 @@ class Reader {
 
 }  // namespace
 
-void ReadINI(Import& import, const std::string& file, std::string_view,
-             const std::string& systemNickname) {
+void ReadINI(Import& import, const std::string& file, const std::string& systemNickname) {
   ReaderRoutine routine(import, file);
   routine.Run([&] {
     ++import.Progress.ImportDone;

@@ -12,8 +12,7 @@ namespace orrerix {
 // Cuts the file (a path of the game's kind) into blocks; those of twelve known kinds go to fixed
 // tables, each other one to a table named after its section. `systemNickname` is what the rows of
 // `Objects` carry as their system. A missing file is a line in the data log; one that cannot be
-// read is failure 75. `section` is what the caller hopes to find; the file decides.
-void ReadINI(Import& import, const std::string& file, std::string_view section,
-             const std::string& systemNickname);
+// read is failure 75.
+void ReadINI(Import& import, const std::string& file, const std::string& systemNickname);
 
 }  // namespace orrerix

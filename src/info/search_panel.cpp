@@ -93,7 +93,6 @@ SearchAnswer SearchPanel::MoveSelection(const SearchScope& scope, int by) {
   } else if (const auto row = Neighbour(subSearch_, by); row && row != subSearch_.Selected) {
     answer = SelectSubSearch(scope, *row);
   }
-  answer.Swallowed = true;
   return answer;
 }
 

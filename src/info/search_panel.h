@@ -31,7 +31,6 @@ struct SearchAnswer {
   std::optional<ControlList> InfoBox;  // the large box, empty to hide it; none: leave it
   SearchControl Focus = SearchControl::None;
   std::optional<std::string> Jump;  // nickname of the place to go to; the panel has closed
-  bool Swallowed = false;           // of a key: it means nothing else
 };
 
 // What an event may look at.

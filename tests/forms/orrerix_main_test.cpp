@@ -54,6 +54,7 @@ TEST_F(OrrerixMainTest, WithoutAGameItAsksForThePath) {
 
   EXPECT_TRUE(messages.Shown[0].Text.starts_with("Problem finding [\\exe\\Freelancer.exe]"));
   EXPECT_NE(messages.Shown[0].Text.find("[" + *paths.Game + "]"), std::string::npos);
+  EXPECT_TRUE(messages.Shown[0].Text.ends_with("No Freelancer.exe in " + *paths.Game));
   EXPECT_EQ(form->windowTitle(), "FreeLancer Orrerix v1.0 Revision 0");
   EXPECT_EQ(Find<QLineEdit>(*form, "GameFolderEdit").text().toStdString(), *paths.Game);
   EXPECT_TRUE(Find(*form, "StartButton").isVisible());
@@ -267,6 +268,23 @@ TEST_F(OrrerixMainTest, AnImportAgainReplacesTheUniverseWhileTheMapStays) {
   EXPECT_TRUE(WaitUntil([&] { return SystemLabels() > systems; }));
   EXPECT_FALSE(form->Importing());
   EXPECT_TRUE(messages.Shown.empty());
+}
+
+TEST_F(OrrerixMainTest, AWatchedGameIsShownAnewAsSoonAsItsFilesChange) {
+  WriteGame();
+  Load();
+  ASSERT_TRUE(WaitUntil([&] { return ShowsMap(); }));
+  const std::size_t systems = SystemLabels();
+  const ZoomRectangle view{0, 0, 16, 18};
+  form->Controller().PushZoomStack(view);
+  form->WatchGame(true);
+
+  std::ofstream(std::filesystem::path(*paths.Game) / "DATA" / "UNIVERSE" / "universe.ini",
+                std::ios::app)
+      << "\r\n[System]\r\nnickname = Xx99\r\nfile = none.ini\r\npos = 0, 0\r\n";
+
+  EXPECT_TRUE(WaitUntil([&] { return SystemLabels() == systems + 1; }));
+  EXPECT_EQ(form->Map().State().Zoom.Current(), view);
 }
 
 TEST_F(OrrerixMainTest, AnotherGameHasAUniverseFileOfItsOwnAndTheFirstComesBackWhereItWasLeft) {

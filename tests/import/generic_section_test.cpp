@@ -324,7 +324,7 @@ TEST_F(GenericSection, RowsOfSeveralFilesStandInOneTable) {
   folder.Write("DATA/Equipment/Weapon_Equip.ini", "[gun]\r\nnickname = b\r\n");
   Read("[gun]\nnickname = a\n");
 
-  ReadINI(import, Path("\\data\\equipment\\weapon_equip.ini"), "", "");
+  ReadINI(import, Path("\\data\\equipment\\weapon_equip.ini"), "");
   StoreSections();
 
   EXPECT_THAT(Column("gun", "SourceFileName"),

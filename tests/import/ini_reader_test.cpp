@@ -25,7 +25,7 @@ using ::testing::SizeIs;
 class IniReader : public ReaderFixture {};
 
 TEST_F(IniReader, AMissingFileIsALineInTheDataLogAndAStep) {
-  ReadINI(import, Path("\\data\\missions\\mbases.ini"), "[GF_NPC]", "");
+  ReadINI(import, Path("\\data\\missions\\mbases.ini"), "");
 
   EXPECT_THAT(DataLog(),
               ElementsAre("Cant find file: [" + Path("\\data\\missions\\mbases.ini") + "]"));
@@ -37,8 +37,8 @@ TEST_F(IniReader, AMissingFileIsALineInTheDataLogAndAStep) {
 TEST_F(IniReader, APathThatEndsInABackslashIsNoFile) {
   folder.Write("data/ships/a.ini", "[Object]");
 
-  ReadINI(import, Path("\\data\\ships\\"), "", "");
-  ReadINI(import, Path("\\data\\ships"), "", "");
+  ReadINI(import, Path("\\data\\ships\\"), "");
+  ReadINI(import, Path("\\data\\ships"), "");
 
   EXPECT_THAT(DataLog(), ElementsAre("Cant find file: [" + Path("\\data\\ships\\") + "]",
                                      "Cant find file: [" + Path("\\data\\ships") + "]"));
@@ -62,7 +62,7 @@ TEST_F(IniReader, APackedFileWithoutSectionsEndsTheCallToo) {
 TEST_F(IniReader, AFileIsFoundWhateverTheCaseOfItsPath) {
   folder.Write("DATA/Ships/ShipArch.INI", "[Ship]\r\nnickname = fox\r\n");
 
-  ReadINI(import, Path("\\data\\ships\\shiparch.ini"), "", "");
+  ReadINI(import, Path("\\data\\ships\\shiparch.ini"), "");
 
   EXPECT_THAT(Column("Ships", "NickName"), ElementsAre("fox"));
 }
@@ -233,7 +233,7 @@ TEST_F(IniReader, AWrappedTickCountShowsTheBlock) {
   } wrapping;
   Import other{universe, game, wrapping, {}, {}};
 
-  ReadINI(other, Path("\\data\\test.ini"), "", "");
+  ReadINI(other, Path("\\data\\test.ini"), "");
 
   EXPECT_THAT(wrapping.Progress, SizeIs(3));
 }
@@ -283,7 +283,7 @@ TEST_F(IniReader, AnUnreadableFileIsOneFailure) {
   std::filesystem::permissions(file, std::filesystem::perms::none);
   if (std::ifstream(file)) GTEST_SKIP() << "this user may read every file";
 
-  ReadINI(import, Path("\\data\\test.ini"), "", "");
+  ReadINI(import, Path("\\data\\test.ini"), "");
 
   EXPECT_THAT(FailureNumbers(), ElementsAre(75));
 }

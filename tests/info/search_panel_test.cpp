@@ -127,12 +127,12 @@ TEST_F(SearchPanelTest, KeysMoveThroughThePlacesAndStopAtTheEnds) {
   Places();
   panel.Open(scope, SearchType::Place);
 
-  EXPECT_TRUE(panel.MoveSelection(scope, -1).Swallowed);
+  panel.MoveSelection(scope, -1);
   EXPECT_EQ(panel.List().Selected, 0u);
   panel.MoveSelection(scope, 1);
   panel.MoveSelection(scope, 1);
   EXPECT_EQ(panel.List().Selected, 2u);
-  EXPECT_TRUE(panel.MoveSelection(scope, 1).Swallowed);
+  panel.MoveSelection(scope, 1);
   EXPECT_EQ(panel.List().Selected, 2u);
 }
 

@@ -5,6 +5,7 @@
 #include <QListWidget>
 #include <QTest>
 #include <QTimer>
+#include <QTreeView>
 #include <algorithm>
 #include <chrono>
 #include <stdexcept>
@@ -107,6 +108,7 @@ bool Tour::Go() {
     TakeHover();
     TakeSearch();
     TakeStation();
+    TakeTools();
     TakeUpdate();
     TakeErrorLog();
     TakeFailure();
@@ -283,6 +285,27 @@ void Tour::TakeStation() {
   };
   for (const int mode : {0, 0, 2, 3}) take(mode);
   station->close();
+}
+
+void Tour::TakeTools() {
+  run_.Main()->MapTools().Open();
+  QWidget* window = nullptr;
+  for (QWidget* form : QApplication::topLevelWidgets()) {
+    if (form->objectName() == "Workbench") window = form;
+  }
+  if (window == nullptr) throw std::runtime_error("the tools have no window");
+  auto& pages = ChildOf<QListWidget>(*window, "PageList");
+  pages.setCurrentRow(0);
+  auto& findings = ChildOf<QTreeView>(*window, "Findings");
+  Wait("the check", [&] { return findings.model()->rowCount() > 0; });
+  findings.expandToDepth(0);
+  findings.setCurrentIndex(findings.model()->index(0, 0, findings.model()->index(0, 0)));
+  PassEvents();
+  album_.Take("tools-check", *window);
+  pages.setCurrentRow(pages.count() - 1);
+  PassEvents();
+  album_.Take("tools-log", *window);
+  window->close();
 }
 
 void Tour::TakeErrorLog() {

@@ -28,6 +28,7 @@ class Tour {
   void TakeHover();
   void TakeSearch();
   void TakeStation();
+  void TakeTools();
   void TakeUpdate();
   void TakeErrorLog();
   void TakeFailure();

@@ -28,7 +28,7 @@ class ReaderFixture : public UniverseFixture {
   // Puts a file into the game folder and reads it. The bytes are taken as they stand.
   void ReadBytes(std::string_view bytes, const std::string& system = {}) {
     folder.Write("data/test.ini", bytes);
-    ReadINI(import, Path("\\data\\test.ini"), "", system);
+    ReadINI(import, Path("\\data\\test.ini"), system);
   }
 
   // The same with a text whose line ends become those of the game's files.

@@ -4,11 +4,14 @@
 #include <QTest>
 
 #include "../form_fixture.h"
+#include "db/engine.h"
 #include "demo/demo_game.h"
 #include "forms/workbench/check_page.h"
+#include "forms/workbench/differences_page.h"
 #include "forms/workbench/game_page.h"
 #include "forms/workbench/log_page.h"
 #include "import/log_entry.h"
+#include "support/failure_sinks.h"
 
 namespace orrerix {
 namespace {
@@ -110,6 +113,70 @@ TEST_F(WorkbenchTest, TheGamePageAsksForWhatItsButtonsSay) {
   EXPECT_EQ(host.Imports, 1);
   EXPECT_TRUE(host.Watches);
   EXPECT_EQ(host.Opened, std::vector<std::string>{"/games/none"});
+}
+
+class DifferencesPageTest : public WorkbenchTest {
+ protected:
+  // A universe file with one system at a cell.
+  void WriteUniverse(const std::filesystem::path& file, const char* name, const char* pos) {
+    FailTest mustWork;
+    Database universe = DBEngine::CreateDatabase(mustWork, file, JetVersionOption::Version30);
+    universe.CreateTable(mustWork,
+                         {"Systems", {Field{"nickname"}, Field{"realname"}, Field{"pos"}}, {}});
+    Recordset rows = universe.OpenTable(mustWork, "Systems");
+    rows.AddNew();
+    rows["nickname"] = "Li01";
+    rows["realname"] = name;
+    rows["pos"] = pos;
+    rows.Update();
+    universe.Close();
+  }
+
+  void Compare(const std::string& old) {
+    Find<QLineEdit>(page, "OldUniverse").setText(QString::fromStdString(old));
+    Find<QPushButton>(page, "Compare").click();
+    ASSERT_TRUE(WaitUntil([&] { return !Find(page, "Cancel").isEnabled(); }));
+  }
+
+  DifferencesPage page{host, choice, {1, 0, 0}};
+};
+
+TEST_F(DifferencesPageTest, WhatChangedIsListedByTableAndItsSystemsAreMarked) {
+  const auto old = folder.Path() / "old.fl";
+  WriteUniverse(old, "New York", "7, 4");
+  WriteUniverse(host.UniverseFile(), "Manhattan", "7, 4");
+
+  Compare(old.string());
+
+  auto& tables = Find<QListWidget>(page, "ChangedTables");
+  ASSERT_EQ(tables.count(), 2);
+  EXPECT_EQ(tables.item(1)->text(), "Systems (+0 -0 ~1)");
+  const QString report = Find<QTextBrowser>(page, "Report").toPlainText();
+  EXPECT_TRUE(report.contains("New York") && report.contains("Manhattan")) << report.toStdString();
+  Find<QPushButton>(page, "MarkSystems").click();
+  EXPECT_EQ(host.Marked, (std::vector<MapCell>{{7, 4}}));
+  Find<QPushButton>(page, "MarkSystems").click();
+  EXPECT_TRUE(host.Marked.empty());
+}
+
+TEST_F(DifferencesPageTest, AGameFolderIsImportedForTheComparison) {
+  const std::string game = (folder.Path() / "old game").string();
+  WriteDemoGame(game, 2);
+  WriteUniverse(host.UniverseFile(), "Manhattan", "7, 4");
+
+  Compare(game);
+
+  EXPECT_GT(Find<QListWidget>(page, "ChangedTables").count(), 2);
+}
+
+TEST_F(DifferencesPageTest, AFileThatIsNoUniverseIsNamed) {
+  folder.Write("old.fl", "no database at all, but long enough to be looked at as one");
+  WriteUniverse(host.UniverseFile(), "Manhattan", "7, 4");
+
+  Compare((folder.Path() / "old.fl").string());
+
+  EXPECT_TRUE(Find<QLabel>(page, "State").text().contains("old.fl"));
+  EXPECT_EQ(Find<QListWidget>(page, "ChangedTables").count(), 0);
 }
 
 class CheckPageTest : public WorkbenchTest {
