@@ -157,29 +157,15 @@ class TradeVerb {
     });
   }
 
-  // The stops that a name stands for; with `anyDock` open docks without a market too.
-  std::vector<NodeIndex> RequireDocks(const std::string& name, bool anyDock = false) const {
-    std::vector<NodeIndex> docks = DocksOfTrade(travel_.Graph, name);
-    std::erase_if(docks, [&](NodeIndex dock) {
-      return anyDock ? !travel_.Limits.IsOpen(dock) : !IsStop(dock);
-    });
-    if (docks.empty()) throw CouldNot(fmt::format("there is no place of trade '{}'", name));
-    return docks;
-  }
-
-  bool IsStop(NodeIndex dock) const {
-    return std::any_of(market_.Stops.begin(), market_.Stops.end(),
-                       [&](const TradeStop& stop) { return stop.Dock == dock; });
-  }
-
   void ReadPlaces() {
     if (arguments_.From) {
-      question_.From = RequireDocks(*arguments_.From, arguments_.Carry.has_value());
+      question_.From =
+          RequireStops(travel_, market_, *arguments_.From, arguments_.Carry.has_value());
     }
-    if (arguments_.To) question_.To = RequireDocks(*arguments_.To);
+    if (arguments_.To) question_.To = RequireStops(travel_, market_, *arguments_.To);
     if (!arguments_.Via) return;
     for (const std::string& place : SplitList(*arguments_.Via)) {
-      question_.Via.push_back(RequireDocks(place));
+      question_.Via.push_back(RequireStops(travel_, market_, place));
     }
     if (CombinationsOf(question_) > kMostCombinations) {
       throw CouldNot("the places have more than 100000 combinations of docks");
@@ -229,15 +215,6 @@ class TradeVerb {
     return json;
   }
 
-  static double PerMinute(std::int64_t profit, std::int64_t time) {
-    return static_cast<double>(profit) * 60'000 /
-           static_cast<double>(std::max<std::int64_t>(1, time));
-  }
-
-  bool HasReturns() const {
-    return question_.Via.empty() && question_.Hops == 1 && !question_.Loop;
-  }
-
   Json PlanJson(const TradePlan& plan) const {
     Json json = {{"legs", Json::array()}};
     for (const TradeLeg& leg : plan.Legs) {
@@ -249,7 +226,7 @@ class TradeVerb {
     json["percent"] = plan.Spending() == 0 ? Json(nullptr)
                                            : Json(100.0 * static_cast<double>(plan.Profit()) /
                                                   static_cast<double>(plan.Spending()));
-    if (!HasReturns()) return json;
+    if (!HasReturns(question_)) return json;
     json["back"] = nullptr;
     json["loop_minute"] = nullptr;
     if (plan.Back) {

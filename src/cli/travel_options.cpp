@@ -8,7 +8,6 @@
 #include <fmt/format.h>
 
 #include "db/text.h"
-#include "routes/places.h"
 
 namespace orrerix {
 namespace {
@@ -41,48 +40,6 @@ double ParseConstant(const ConstantOption& option, const std::string& text) {
   return *number;
 }
 
-void ApplyShip(Routine& routine, OpenedUniverse& universe, const std::string& nickname,
-               Travel& travel) {
-  const auto ship = TravelOfShip(routine, universe.Data.DB, nickname);
-  if (!ship) throw CouldNot(fmt::format("there is no ship '{}'", nickname));
-  travel.Model.CruiseSpeed = ship->CruiseSpeed.value_or(travel.Model.CruiseSpeed);
-  travel.Model.ImpulseSpeed = ship->ImpulseSpeed.value_or(travel.Model.ImpulseSpeed);
-  travel.Model.ChargeSeconds = ship->ChargeSeconds.value_or(travel.Model.ChargeSeconds);
-  travel.ShipHold = ship->HoldSize;
-}
-
-// An option counts before the ship, the ship before the game, the game before the default.
-void ReadModel(Routine& routine, OpenedUniverse& universe, const TravelArguments& arguments,
-               const std::optional<GameFolder>& game, Travel& travel) {
-  travel.Model.LaneSeconds = LaneSecondsOf(routine, universe.Data.DB);
-  if (game) {
-    travel.Model.CruiseSpeed = CruiseSpeedOfGame(*game).value_or(travel.Model.CruiseSpeed);
-  }
-  if (arguments.Ship) ApplyShip(routine, universe, *arguments.Ship, travel);
-  for (std::size_t i = 0; i < kConstants.size(); ++i) {
-    if (const auto& text = arguments.Constants[i].Text) {
-      travel.Model.*kConstants[i].Field = ParseConstant(kConstants[i], *text);
-    }
-  }
-}
-
-void ReadWishes(Routine& routine, OpenedUniverse& universe, const TravelArguments& arguments,
-                Travel& travel) {
-  travel.Wishes = arguments.Switches;
-  if (arguments.Avoid) travel.Wishes.Avoid = SplitList(*arguments.Avoid);
-  if (arguments.AvoidFactions) travel.Wishes.AvoidFactions = SplitList(*arguments.AvoidFactions);
-  for (const std::string& name : travel.Wishes.Avoid) {
-    if (NodesToAvoid(travel.Graph, name).empty() && !travel.Graph.FindSystem(name)) {
-      throw CouldNot(fmt::format("there is no system, object or base '{}' to avoid", name));
-    }
-  }
-  for (const std::string& faction : travel.Wishes.AvoidFactions) {
-    if (!IsFaction(routine, universe.Data.DB, travel.Graph, faction)) {
-      throw CouldNot(fmt::format("there is no faction '{}' to avoid", faction));
-    }
-  }
-}
-
 }  // namespace
 
 void AddTravelOptions(CLI::App& verb, TravelArguments& arguments) {
@@ -110,15 +67,16 @@ void RequireWellFormed(const TravelArguments& arguments) {
 }
 
 Travel ReadTravel(Routine& routine, OpenedUniverse& universe, const TravelArguments& arguments) {
-  Travel travel;
-  std::optional<GameFolder> game;
-  if (arguments.Game) game.emplace(*arguments.Game);
-  ReadModel(routine, universe, arguments, game, travel);
-  travel.Graph = ReadTravelGraph(routine, universe.Data.DB);
-  ReadWishes(routine, universe, arguments, travel);
-  travel.Locked = LockedNumbers(routine, universe.Data.DB, game ? &*game : nullptr);
-  travel.Limits = LimitsOf(travel.Graph, travel.Wishes, travel.Locked);
-  return travel;
+  TravelRequest request{arguments.Ship, arguments.Game, arguments.Switches};
+  if (arguments.Avoid) request.Wishes.Avoid = SplitList(*arguments.Avoid);
+  if (arguments.AvoidFactions) request.Wishes.AvoidFactions = SplitList(*arguments.AvoidFactions);
+  return ReadTravel(routine, universe.Data.DB, request, [&](TravelModel& model) {
+    for (std::size_t i = 0; i < kConstants.size(); ++i) {
+      if (const auto& text = arguments.Constants[i].Text) {
+        model.*kConstants[i].Field = ParseConstant(kConstants[i], *text);
+      }
+    }
+  });
 }
 
 std::optional<double> WholeTextNumber(const std::string& text) {

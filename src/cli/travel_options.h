@@ -11,9 +11,7 @@
 #include <nlohmann/json.hpp>
 
 #include "cli/opened_universe.h"
-#include "routes/travel_graph.h"
-#include "routes/travel_model.h"
-#include "routes/why_no_way.h"
+#include "routes/travel.h"
 #include "shell/routine.h"
 
 namespace orrerix {
@@ -37,16 +35,6 @@ void AddTravelOptions(CLI::App& verb, TravelArguments& arguments);
 // Throws WrongUsage for a speed that is not above 0 or a time below 0. To be asked before a
 // universe is opened.
 void RequireWellFormed(const TravelArguments& arguments);
-
-// The travel graph of a universe under the arguments.
-struct Travel {
-  TravelGraph Graph;
-  TravelModel Model;
-  TravelWishes Wishes;
-  std::set<std::uint32_t> Locked;
-  TravelLimits Limits;
-  std::optional<double> ShipHold;  // of --ship
-};
 
 // Throws CouldNot for a ship, a place or a faction that is not there.
 Travel ReadTravel(Routine& routine, OpenedUniverse& universe, const TravelArguments& arguments);

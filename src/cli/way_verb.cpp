@@ -55,12 +55,6 @@ const char* NameOf(JumpObstacle obstacle) {
   return "missing";
 }
 
-TravelPlace RequirePlace(const TravelGraph& graph, const std::string& name) {
-  TravelPlace place = PlaceOfWay(graph, name);
-  if (place.Nodes.empty()) throw CouldNot(fmt::format("there is no place '{}'", name));
-  return place;
-}
-
 Json WayJson(const Travel& travel, const Way& way) {
   const auto& objects = travel.Graph.Objects;
   Json json = {{"found", true},

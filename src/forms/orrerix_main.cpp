@@ -4,6 +4,7 @@
 #include <QCloseEvent>
 #include <QGuiApplication>
 #include <QImage>
+#include <QKeyEvent>
 #include <QScreen>
 #include <QShortcut>
 #include <utility>
@@ -17,6 +18,7 @@
 #include "forms/start/import_screen_layout.h"
 #include "import/log_entry.h"
 #include "map/game_sounds.h"
+#include "map/map_places.h"
 #include "online/web_pages.h"
 #include "platform/game_path.h"
 #include "shell/files.h"
@@ -60,7 +62,8 @@ OrrerixMain::OrrerixMain(const FormParts& parts, Settings& settings, LanguageFil
       tools_(*this, parts, format),
       toolsEntry_(map_.Frame(), parts.Speech, [this] { tools_.Open(); }),
       changeNotice_(map_.Frame(), [this] { ImportAgain(); }),
-      marks_(new MapMarks(map_.Frame())) {
+      marks_(new MapMarks(map_.Frame())),
+      way_(new MapWay(map_.Frame())) {
   setObjectName("OrrerixMain");
   setMinimumSize(kSmallestForm);
   QPalette colors = palette();
@@ -315,6 +318,7 @@ void OrrerixMain::ShowMap() {
     newsController_.MapRedrawn();
     toolsEntry_.Follow(map_.Drawing());
     marks_->Follow(map_.Drawing());
+    way_->Follow(map_.Drawing());
     // Not every desktop gives the focus to a form that is just shown.
     if (isNew) QueueFocus();
     if (isNew) map_.Frame().setFocus();
@@ -353,6 +357,7 @@ GameFolder OrrerixMain::Game() const {
 }
 
 void OrrerixMain::ShowStation(const std::string& nickname, const std::string& picture) {
+  lastStation_ = nickname;
   stations_.Open(nickname, picture);
 }
 
@@ -440,6 +445,7 @@ void OrrerixMain::MakeTools() {
   const auto onKey = [this](const QKeySequence& keys, auto act) {
     QObject::connect(new QShortcut(keys, this), &QShortcut::activated, this, act);
   };
+  map_.Frame().installEventFilter(this);
   onKey(Qt::Key_F1, [this] { tools_.ShowKeys(); });
   onKey(Qt::Key_F2, [this] { tools_.Open(); });
   onKey(Qt::Key_F5, [this] { ImportAgain(); });
@@ -448,6 +454,7 @@ void OrrerixMain::MakeTools() {
   });
   tools_.OnReplaced = [this] {
     changeNotice_.Hide();
+    way_->Hide();
     map_.ForgetNames();
     Redraw();
   };
@@ -469,6 +476,45 @@ bool OrrerixMain::ShowOnMap(const std::string& nickname) {
   return isThere;
 }
 
+bool OrrerixMain::ShowWay(const std::vector<ShownLeg>& legs) {
+  if (phase_ != Phase::Map) return false;
+  std::vector<MapWayLeg> shown;
+  Routine routine(parts_.Log, "OrrerixMain.ShowWay");
+  routine.Run([&] {
+    Universe universe = OpenUniverse(routine);
+    MapPlaces places(routine, universe);
+    for (const ShownLeg& leg : legs) {
+      const auto from = places.Find(leg.From);
+      const auto to = places.Find(leg.To);
+      if (from && to) shown.push_back({leg.Kind, *from, *to});
+    }
+  });
+  way_->Show(std::move(shown));
+  return way_->IsShown();
+}
+
+std::string OrrerixMain::StartPlace() {
+  const ZoomRectangle& view = map_.State().Zoom.Current();
+  if (phase_ != Phase::Map || view.Columns() > 1 || view.Rows() > 1) return lastStation_;
+  std::string system;
+  Routine routine(parts_.Log, "OrrerixMain.StartPlace");
+  routine.Run([&] {
+    Universe universe = OpenUniverse(routine);
+    system = MapPlaces(routine, universe).SystemIn({view.X1, view.Y1});
+  });
+  return system.empty() ? lastStation_ : system;
+}
+
+// The first Escape takes the way off the map; without one it goes back, as on every map.
+bool OrrerixMain::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::KeyPress && way_->IsShown() && watched == &map_.Frame() &&
+      static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
+    way_->Hide();
+    return true;
+  }
+  return QWidget::eventFilter(watched, event);
+}
+
 void OrrerixMain::ImportAgain() {
   if (phase_ == Phase::Map) tools_.ImportAgain();
 }
@@ -487,6 +533,8 @@ void OrrerixMain::OpenGame(const std::string& folder) {
   stations_.CloseAll();
   changeNotice_.Hide();
   marks_->Mark({});
+  way_->Hide();
+  lastStation_.clear();
   map_.ForgetNames();
   map_.State().Zoom = {};
   RecallView();

@@ -15,6 +15,7 @@
 #include "forms/map/map_host.h"
 #include "forms/map/map_marks.h"
 #include "forms/map/map_screen.h"
+#include "forms/map/map_way.h"
 #include "forms/map/news_controller.h"
 #include "forms/map/search_controller.h"
 #include "forms/map/tools_entry.h"
@@ -78,6 +79,9 @@ class OrrerixMain : public QWidget, public WorkbenchHost, private MapHost {
   void ImportAgain() override;
   void OpenGame(const std::string& folder) override;
   void MarkCells(const std::vector<MapCell>& cells) override { marks_->Mark(cells); }
+  bool ShowWay(const std::vector<ShownLeg>& legs) override;
+  void HideWay() override { way_->Hide(); }
+  std::string StartPlace() override;
   void WatchGame(bool on) override { tools_.WatchGame(on); }
   std::filesystem::path UniverseFile() const override { return UniverseFileIn(saveFolder_); }
   GameFolder Game() const override;
@@ -90,6 +94,7 @@ class OrrerixMain : public QWidget, public WorkbenchHost, private MapHost {
   void resizeEvent(QResizeEvent* event) override;
   void changeEvent(QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   // What the form is about. Phase and universe file together decide which screen it shows.
@@ -161,6 +166,8 @@ class OrrerixMain : public QWidget, public WorkbenchHost, private MapHost {
   ToolsEntry toolsEntry_;
   MapNotice changeNotice_;
   MapMarks* marks_;
+  MapWay* way_;
+  std::string lastStation_;  // that was opened, by its nickname
 };
 
 }  // namespace orrerix

@@ -35,8 +35,8 @@ const std::map<std::string, std::set<std::string>> kMayInclude = {
      {"diff", "tables", "picture", "check", "routes", "info", "online", "map", "derived", "import",
       "shell", "db", "platform"}},
     {"forms",
-     {"picture", "check", "diff", "tables", "info", "online", "map", "derived", "import", "shell",
-      "db", "platform"}},
+     {"picture", "check", "diff", "tables", "routes", "info", "online", "map", "derived", "import",
+      "shell", "db", "platform"}},
     {"demo", {}},
 };
 

@@ -7,9 +7,17 @@
 
 #include "derived/system_grid.h"
 #include "import/universe.h"
+#include "routes/fastest_way.h"
 #include "shell/routine.h"
 
 namespace orrerix {
+
+// A leg of a way between two objects, by their nicknames.
+struct ShownLeg {
+  LegKind Kind = LegKind::Fly;
+  std::string From;
+  std::string To;
+};
 
 // What the workbench asks of the main form.
 class WorkbenchHost {
@@ -28,6 +36,15 @@ class WorkbenchHost {
 
   // Shows the place with this nickname on the map. False if the map does not have it.
   virtual bool ShowOnMap(const std::string& nickname) = 0;
+
+  // Draws a way on the map until it is hidden, Escape is pressed on the map or another universe is
+  // shown. Legs to places that the map does not have are left out; false if that are all.
+  virtual bool ShowWay(const std::vector<ShownLeg>& legs) = 0;
+  virtual void HideWay() = 0;
+
+  // Where a player is: the nickname of the system that the map shows alone, else of the station that
+  // was opened last, else nothing.
+  virtual std::string StartPlace() = 0;
 
   // Reads the game folder anew. The universe that is shown stays where the import is given up.
   virtual void ImportAgain() = 0;
