@@ -17,18 +17,13 @@
 #include "db/text.h"
 #include "forms/controls/captions.h"
 #include "forms/workbench/background_import.h"
+#include "forms/workbench/throw_failures.h"
 #include "shell/startup.h"
 
 namespace orrerix {
 namespace {
 
 namespace fs = std::filesystem;
-
-// Ends a comparison at its first failure.
-class ThrowFailures : public FailureSink {
- public:
-  void Fail(const Failure& failure) override { throw std::runtime_error(failure.Description); }
-};
 
 std::vector<StoredTable> ReadUniverse(const fs::path& file) {
   ThrowFailures sink;

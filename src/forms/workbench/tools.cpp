@@ -11,6 +11,8 @@
 #include "forms/workbench/differences_page.h"
 #include "forms/workbench/log_page.h"
 #include "forms/workbench/setting_keys.h"
+#include "forms/workbench/trades_page.h"
+#include "forms/workbench/way_page.h"
 #include "shell/game_record.h"
 
 namespace orrerix {
@@ -43,6 +45,8 @@ Workbench& Tools::Window() {
   window_->Add(std::make_unique<CheckPage>(
       host_, parts_.Speech, [this](const fs::path& file, int line) { OpenInEditor(file, line); }));
   window_->Add(std::make_unique<DifferencesPage>(host_, parts_.Speech, parts_.Version));
+  window_->Add(std::make_unique<TradesPage>(host_, parts_.Speech));
+  window_->Add(std::make_unique<WayPage>(host_, parts_.Speech));
   auto game = std::make_unique<GamePage>(host_, settings_, parts_.Speech);
   gamePage_ = game.get();
   window_->Add(std::move(game));

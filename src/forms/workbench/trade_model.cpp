@@ -1,0 +1,156 @@
+// SPDX-License-Identifier: MIT
+#include "forms/workbench/trade_model.h"
+
+#include <QLocale>
+#include <array>
+
+#include "forms/controls/captions.h"
+
+namespace orrerix {
+namespace {
+
+constexpr std::array kHeads = {TextId::HeadFrom,    TextId::HeadTo,        TextId::HeadGoods,
+                               TextId::HeadProfit,  TextId::HeadPerMinute, TextId::HeadPercent,
+                               TextId::HeadMinutes, TextId::HeadRoundTrip};
+
+QString StopText(const TravelGraph& graph, NodeIndex dock) {
+  const TravelObject& object = graph.Objects[dock];
+  const TravelSystem& system = graph.Systems[object.System];
+  return QString::fromStdString((object.Name.empty() ? object.Nickname : object.Name) + ", " +
+                                (system.Name.empty() ? system.Nickname : system.Name));
+}
+
+double RoundTripOf(const TradePlan& plan) {
+  const std::int64_t back = plan.Back->Cargo ? plan.Back->Cargo->Profit() : 0;
+  return PerMinute(plan.Profit() + back, plan.Time() + plan.Back->Time);
+}
+
+}  // namespace
+
+TradeModel::Row TradeModel::RowOf(const TradeWorld& world, const TradePlan& plan) {
+  Row row;
+  QStringList stops;
+  QStringList goods;
+  for (const TradeLeg& leg : plan.Legs) {
+    stops.append(StopText(world.Travel.Graph, leg.To));
+    if (leg.Cargo) goods.append(CargoText(world.Market, leg.Cargo));
+  }
+  row.From = StopText(world.Travel.Graph, plan.Legs.front().From);
+  row.To = stops.join(" \u2192 ");
+  row.Goods = goods.join("; ");
+  row.Profit = static_cast<double>(plan.Profit());
+  row.Minute = PerMinute(plan.Profit(), plan.Time());
+  row.Time = plan.Time();
+  if (plan.Spending() > 0) row.Percent = 100 * row.Profit / static_cast<double>(plan.Spending());
+  if (plan.Back) row.RoundTrip = RoundTripOf(plan);
+  return row;
+}
+
+void TradeModel::Show(const TradeOutcome& outcome) {
+  beginResetModel();
+  plans_.clear();
+  rows_.clear();
+  if (outcome.World) {
+    plans_ = outcome.Answer.Plans;
+    for (const TradePlan& plan : plans_) rows_.push_back(RowOf(*outcome.World, plan));
+  }
+  endResetModel();
+}
+
+int TradeModel::rowCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : static_cast<int>(rows_.size());
+}
+
+int TradeModel::columnCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : static_cast<int>(kHeads.size());
+}
+
+QVariant TradeModel::data(const QModelIndex& index, int role) const {
+  if (!index.isValid()) return {};
+  const Row& row = rows_[static_cast<std::size_t>(index.row())];
+  switch (role) {
+    case Qt::DisplayRole:
+    case Qt::ToolTipRole:
+      return TextOf(row, index.column());
+    case SortRole:
+      return ValueOf(row, index.column());
+    case Qt::TextAlignmentRole:
+      return int((index.column() >= ProfitColumn ? Qt::AlignRight : Qt::AlignLeft) |
+                 Qt::AlignVCenter);
+    default:
+      return {};
+  }
+}
+
+QVariant TradeModel::TextOf(const Row& row, int column) const {
+  const auto whole = [&](double number) { return NumberText(choice_.Current, number); };
+  switch (column) {
+    case FromColumn:
+      return row.From;
+    case ToColumn:
+      return row.To;
+    case GoodsColumn:
+      return row.Goods;
+    case ProfitColumn:
+      return whole(row.Profit);
+    case MinuteColumn:
+      return whole(row.Minute);
+    case PercentColumn:
+      return row.Percent ? whole(*row.Percent) + "%" : QString();
+    case TimeColumn:
+      return MinutesText(row.Time);
+    default:
+      return row.RoundTrip ? whole(*row.RoundTrip) : QString();
+  }
+}
+
+QVariant TradeModel::ValueOf(const Row& row, int column) {
+  const auto orNone = [](const std::optional<double>& number) {
+    return number ? QVariant(*number) : QVariant();
+  };
+  switch (column) {
+    case FromColumn:
+      return row.From;
+    case ToColumn:
+      return row.To;
+    case GoodsColumn:
+      return row.Goods;
+    case ProfitColumn:
+      return row.Profit;
+    case MinuteColumn:
+      return row.Minute;
+    case PercentColumn:
+      return orNone(row.Percent);
+    case TimeColumn:
+      return static_cast<qlonglong>(row.Time);
+    default:
+      return orNone(row.RoundTrip);
+  }
+}
+
+QVariant TradeModel::headerData(int section, Qt::Orientation orientation, int role) const {
+  if (orientation != Qt::Horizontal) return {};
+  if (role == Qt::TextAlignmentRole && section < ProfitColumn) {
+    return int(Qt::AlignLeft | Qt::AlignVCenter);
+  }
+  if (role != Qt::DisplayRole && role != Qt::ToolTipRole) return {};
+  return CaptionIn(choice_.Current, kHeads[static_cast<std::size_t>(section)]);
+}
+
+TradeFilter::TradeFilter(TradeModel& trades) {
+  setSourceModel(&trades);
+  setSortRole(TradeModel::SortRole);
+  setFilterKeyColumn(-1);
+  setFilterCaseSensitivity(Qt::CaseInsensitive);
+  setSortCaseSensitivity(Qt::CaseInsensitive);
+}
+
+// The order is turned round for a descending one, so rows without a value turn with it.
+bool TradeFilter::lessThan(const QModelIndex& left, const QModelIndex& right) const {
+  const bool leftHas = left.data(TradeModel::SortRole).isValid();
+  const bool rightHas = right.data(TradeModel::SortRole).isValid();
+  if (leftHas != rightHas) return leftHas == (sortOrder() == Qt::AscendingOrder);
+  return QSortFilterProxyModel::lessThan(left, right);
+}
+
+}  // namespace orrerix

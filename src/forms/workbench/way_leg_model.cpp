@@ -1,0 +1,106 @@
+// SPDX-License-Identifier: MIT
+#include "forms/workbench/way_leg_model.h"
+
+#include <QLocale>
+#include <array>
+
+#include "forms/controls/captions.h"
+
+namespace orrerix {
+namespace {
+
+constexpr std::array kHeads = {TextId::HeadLeg,   TextId::HeadSystem,   TextId::HeadTo,
+                               TextId::HeadGoods, TextId::HeadDistance, TextId::HeadTime};
+constexpr std::array kKinds = {TextId::LegLaunch, TextId::LegGate, TextId::LegHole,
+                               TextId::LegLane,   TextId::LegFly,  TextId::LegDock};
+
+QString Named(const std::string& name, const std::string& nickname) {
+  return QString::fromStdString(name.empty() ? nickname : name);
+}
+
+}  // namespace
+
+std::vector<WayLegRow> RowsOf(const Travel& travel, const Way& way, const QString& goods) {
+  std::vector<WayLegRow> rows;
+  for (const WayLeg& leg : way.Legs) {
+    const TravelObject& from = travel.Graph.Objects[leg.From];
+    const TravelObject& to = travel.Graph.Objects[leg.To];
+    const TravelSystem& system = travel.Graph.Systems[from.System];
+    rows.push_back({{leg.Kind, from.Nickname, to.Nickname},
+                    Named(system.Name, system.Nickname),
+                    Named(to.Name, to.Nickname),
+                    goods,
+                    leg.Distance,
+                    leg.Time});
+  }
+  return rows;
+}
+
+// Whole seconds, rounded up as the legs are.
+QString MinutesText(std::int64_t milliseconds) {
+  const std::int64_t seconds = (milliseconds + 999) / 1000;
+  return QString("%1:%2").arg(seconds / 60).arg(seconds % 60, 2, 10, QChar('0'));
+}
+
+QString NumberText(Language language, double number) {
+  constexpr std::array speech = {QLocale::English, QLocale::German, QLocale::French};
+  return QLocale(speech[static_cast<std::size_t>(language) % speech.size()])
+      .toString(number, 'f', 0);
+}
+
+void WayLegModel::Show(std::vector<WayLegRow> rows) {
+  beginResetModel();
+  rows_ = std::move(rows);
+  endResetModel();
+}
+
+std::vector<ShownLeg> WayLegModel::Legs() const {
+  std::vector<ShownLeg> legs;
+  for (const WayLegRow& row : rows_) legs.push_back(row.Leg);
+  return legs;
+}
+
+int WayLegModel::rowCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : static_cast<int>(rows_.size());
+}
+
+int WayLegModel::columnCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : static_cast<int>(kHeads.size());
+}
+
+QVariant WayLegModel::data(const QModelIndex& index, int role) const {
+  if (!index.isValid()) return {};
+  if (role == Qt::TextAlignmentRole && index.column() >= DistanceColumn) {
+    return int(Qt::AlignRight | Qt::AlignVCenter);
+  }
+  const WayLegRow& row = rows_[static_cast<std::size_t>(index.row())];
+  if (role == Qt::ToolTipRole && index.column() == ToColumn) {
+    return QString::fromStdString(row.Leg.To);
+  }
+  if (role != Qt::DisplayRole && role != Qt::ToolTipRole) return {};
+  return TextOf(row, index.column());
+}
+
+QString WayLegModel::TextOf(const WayLegRow& row, int column) const {
+  switch (column) {
+    case LegColumn:
+      return CaptionIn(choice_.Current, kKinds[static_cast<std::size_t>(row.Leg.Kind)]);
+    case SystemColumn:
+      return row.System;
+    case ToColumn:
+      return row.To;
+    case GoodsColumn:
+      return row.Goods;
+    case DistanceColumn:
+      return NumberText(choice_.Current, row.Distance);
+    default:
+      return MinutesText(row.Time);
+  }
+}
+
+QVariant WayLegModel::headerData(int section, Qt::Orientation orientation, int role) const {
+  if (orientation != Qt::Horizontal || role != Qt::DisplayRole) return {};
+  return CaptionIn(choice_.Current, kHeads[static_cast<std::size_t>(section)]);
+}
+
+}  // namespace orrerix

@@ -1,0 +1,159 @@
+// SPDX-License-Identifier: MIT
+#include "forms/workbench/travel_page.h"
+
+#include <QHeaderView>
+#include <QScrollArea>
+#include <QVBoxLayout>
+
+#include "forms/controls/captions.h"
+
+namespace orrerix {
+namespace {
+
+constexpr int kFieldsWidth = 300;
+constexpr int kProgressWidth = 120;
+constexpr int kLegWidth = 110;
+constexpr int kSystemWidth = 130;
+constexpr int kPlaceWidth = 260;
+constexpr int kGoodsWidth = 230;
+
+}  // namespace
+
+TravelPage::TravelPage(TextId name, TextId find, WorkbenchHost& host, const LanguageChoice& choice)
+    : WorkbenchPage(name), host_(host), choice_(choice), legs_(choice) {
+  auto* columns = new QHBoxLayout(this);
+  columns->setContentsMargins(0, 0, 0, 0);
+  columns->addWidget(MakeFields(find));
+  results_ = new QVBoxLayout;
+  results_->addWidget(MakeBar());
+  columns->addLayout(results_, 1);
+  MakeLegTable();
+  MakeMapButtons();
+}
+
+QString TravelPage::Caption(TextId id) const {
+  return CaptionIn(choice_.Current, id);
+}
+
+QWidget* TravelPage::MakeFields(TextId find) {
+  auto* column = new QWidget(this);
+  column->setFixedWidth(kFieldsWidth);
+  auto* layout = new QVBoxLayout(column);
+  layout->setContentsMargins(0, 0, 0, 0);
+  fields_ = new TravelFields(choice_, column);
+  find_ = new QPushButton(Caption(find), column);
+  find_->setObjectName("Find");
+  cancel_ = new QPushButton(Caption(TextId::ButtonCancel), column);
+  cancel_->setObjectName("Cancel");
+  cancel_->setEnabled(false);
+  auto* buttons = new QHBoxLayout;
+  buttons->addWidget(find_);
+  buttons->addWidget(cancel_);
+  layout->addWidget(fields_, 1);
+  layout->addLayout(buttons);
+  connect(find_, &QPushButton::clicked, this, [this] { Start(); });
+  connect(cancel_, &QPushButton::clicked, this, [this] {
+    CancelWork();
+    ShowDone({});
+  });
+  return column;
+}
+
+QWidget* TravelPage::MakeBar() {
+  auto* bar = new QWidget(this);
+  auto* row = new QHBoxLayout(bar);
+  row->setContentsMargins(0, 0, 0, 0);
+  state_ = new QLabel(bar);
+  state_->setObjectName("State");
+  state_->setWordWrap(true);
+  state_->setMinimumHeight(state_->sizeHint().height());
+  progress_ = new QProgressBar(bar);
+  progress_->setObjectName("Progress");
+  progress_->setRange(0, 0);  // its end is not known
+  progress_->setFixedWidth(kProgressWidth);
+  progress_->setTextVisible(false);
+  progress_->hide();
+  row->addWidget(state_, 1);
+  row->addWidget(progress_);
+  return bar;
+}
+
+void TravelPage::MakeLegTable() {
+  legTable_ = new QTableView(this);
+  legTable_->setObjectName("Legs");
+  legTable_->setAccessibleName(Caption(TextId::WayPage));
+  legTable_->setModel(&legs_);
+  legTable_->setSelectionBehavior(QAbstractItemView::SelectRows);
+  legTable_->setAlternatingRowColors(true);
+  legTable_->verticalHeader()->hide();
+  legTable_->setWordWrap(false);
+  legTable_->setColumnWidth(WayLegModel::LegColumn, kLegWidth);
+  legTable_->setColumnWidth(WayLegModel::SystemColumn, kSystemWidth);
+  legTable_->setColumnWidth(WayLegModel::ToColumn, kPlaceWidth);
+  legTable_->setColumnWidth(WayLegModel::GoodsColumn, kGoodsWidth);
+}
+
+void TravelPage::MakeMapButtons() {
+  mapButtons_ = new QWidget(this);
+  auto* row = new QHBoxLayout(mapButtons_);
+  row->setContentsMargins(0, 0, 0, 0);
+  auto* show = new QPushButton(Caption(TextId::ShowWay), mapButtons_);
+  show->setObjectName("ShowWay");
+  show->setEnabled(false);
+  auto* hide = new QPushButton(Caption(TextId::HideWay), mapButtons_);
+  hide->setObjectName("HideWay");
+  row->addWidget(show);
+  row->addWidget(hide);
+  row->addStretch(1);
+  connect(show, &QPushButton::clicked, this, [this] { ShowOnMap(); });
+  connect(hide, &QPushButton::clicked, this, [this] { host_.HideWay(); });
+  connect(&legs_, &QAbstractItemModel::modelReset, show,
+          [this, show] { show->setEnabled(legs_.rowCount() > 0); });
+}
+
+void TravelPage::Enter() {
+  fields_->StartAt(host_.StartPlace());
+  if (!choicesAreRead_) ReadChoices();
+}
+
+void TravelPage::UniverseChanged() {
+  CancelWork();
+  ShowDone({});
+  Clear();
+  legs_.Show({});
+  choicesAreRead_ = false;
+  if (isVisible()) Enter();
+}
+
+void TravelPage::ReadChoices() {
+  choicesAreRead_ = true;
+  choices_.Start(
+      [file = host_.UniverseFile()](const BackgroundTask::IsCancelled&) {
+        return ReadTravelChoices(file);
+      },
+      [this](const TravelChoices& choices) { fields_->Offer(choices); });
+}
+
+TravelRequest TravelPage::Request() const {
+  TravelRequest request = fields_->Request();
+  request.Game = host_.GameText();
+  return request;
+}
+
+void TravelPage::ShowRunning() {
+  cancel_->setEnabled(true);
+  progress_->show();
+  state_->setText(Caption(TextId::Calculating));
+}
+
+void TravelPage::ShowDone(const QString& state) {
+  cancel_->setEnabled(false);
+  progress_->hide();
+  state_->setText(state);
+}
+
+void TravelPage::ShowOnMap() {
+  if (!host_.ShowWay(legs_.Legs())) state_->setText(Caption(TextId::WayNotOnMap));
+}
+
+}  // namespace orrerix

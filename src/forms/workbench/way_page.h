@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QPlainTextEdit>
+
+#include "forms/workbench/travel_page.h"
+#include "forms/workbench/way_search.h"
+
+namespace orrerix {
+
+// Looks for the fastest way between two places, or says why there is none.
+class WayPage : public TravelPage {
+ public:
+  // Both outlive the page.
+  WayPage(WorkbenchHost& host, const LanguageChoice& choice);
+
+  void Start() override;
+
+ private:
+  void Clear() override;
+  void CancelWork() override;
+  void Show(WayOutcome outcome);
+
+  QPlainTextEdit* reasons_;
+  BackgroundTask task_;  // last: it refers to the others
+};
+
+}  // namespace orrerix
