@@ -598,5 +598,60 @@ TEST_F(OrrerixMainMapTest, GivenUpAfterAFailureTheFormStaysSquareAndInPrint) {
   EXPECT_EQ(form->frameGeometry().width(), form->frameGeometry().height());
 }
 
+// Has the workbench put a way onto the map.
+class WayOnTheMap : public OrrerixMainTest {
+ protected:
+  void ShowWay() {
+    WriteGame();
+    Load();
+    ASSERT_TRUE(WaitUntil([&] { return ShowsMap(); }));
+    form->ToolsOfMap().Open();
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+      if (window->objectName() == "Workbench") workbench = window;
+    }
+    ASSERT_NE(workbench, nullptr);
+    auto& pages = Find<QListWidget>(*workbench, "PageList");
+    const auto way = pages.findItems("Way", Qt::MatchExactly);
+    ASSERT_EQ(way.size(), 1);
+    pages.setCurrentItem(way[0]);
+    QWidget& page = *workbench->findChild<QStackedWidget*>()->currentWidget();
+    Find<QComboBox>(page, "From").setEditText("ca01_03");
+    Find<QComboBox>(page, "To").setEditText("ca01_04");
+    Find<QPushButton>(page, "Find").click();
+    ASSERT_TRUE(WaitUntil([&] { return Find(page, "ShowWay").isEnabled(); }));
+    Find<QPushButton>(page, "ShowWay").click();
+  }
+
+  QWidget* workbench = nullptr;
+};
+
+TEST_F(WayOnTheMap, SurvivesRedrawsAndGoesWithEscapeBeforeTheMapGoesBack) {
+  ShowWay();
+  QWidget& way = Find(*form, "MapWay");
+  EXPECT_TRUE(way.isVisible());
+  form->Map().State().Zoom.PushZoomStack(log, {2, 2, 9, 9});
+  form->Redraw();
+  EXPECT_TRUE(way.isVisible());
+
+  QTest::keyClick(&form->Map().Frame(), Qt::Key_Escape);
+  EXPECT_FALSE(way.isVisible());
+  EXPECT_EQ(form->Map().State().Zoom.ZoomDepth(), 1u);
+
+  QTest::keyClick(&form->Map().Frame(), Qt::Key_Escape);
+  EXPECT_EQ(form->Map().State().Zoom.ZoomDepth(), 0u);
+}
+
+TEST_F(WayOnTheMap, IsOnThePrintout) {
+  ShowWay();
+  printers.File = folder.Path() / "map.pdf";
+  bool isVisible = false;
+  printers.OnAsked = [&] { isVisible = Find(*form, "MapWay").isVisible(); };
+
+  form->PrintTheMap();
+
+  EXPECT_TRUE(isVisible);
+  EXPECT_TRUE(Find(*form, "MapWay").isVisible());
+}
+
 }  // namespace
 }  // namespace orrerix

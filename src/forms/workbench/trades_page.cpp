@@ -5,6 +5,7 @@
 #include <QRegularExpressionValidator>
 #include <QSplitter>
 #include <QVBoxLayout>
+#include <array>
 
 #include "forms/controls/captions.h"
 
@@ -12,10 +13,7 @@ namespace orrerix {
 namespace {
 
 constexpr int kMostHops = 6;
-constexpr int kStopWidth = 190;
-constexpr int kGoodsWidth = 220;
-constexpr int kNumberWidth = 80;
-constexpr int kRoundTripWidth = 150;
+constexpr std::array kWidths = {170, 170, 200, 75, 75, 65, 65, 105};
 
 constexpr std::array kSortings = {
     std::pair(TextId::SortMinute, PlanSorting::Minute),
@@ -52,7 +50,7 @@ TradesPage::TradesPage(WorkbenchHost& host, const LanguageChoice& choice)
   filter->setAccessibleName(Caption(TextId::FilterText));
   filter->setClearButtonEnabled(true);
   connect(filter, &QLineEdit::textChanged, &filter_, &QSortFilterProxyModel::setFilterFixedString);
-  MakeTable();
+  MakeTradeTable();
   auto* split = new QSplitter(Qt::Vertical, this);
   split->addWidget(table_);
   split->addWidget(legTable_);
@@ -87,26 +85,13 @@ void TradesPage::AddFields() {
   });
 }
 
-void TradesPage::MakeTable() {
-  table_ = new QTableView(this);
-  table_->setObjectName("Trades");
-  table_->setAccessibleName(Caption(TextId::TradesPage));
-  table_->setModel(&filter_);
-  table_->setSelectionBehavior(QAbstractItemView::SelectRows);
-  table_->setSelectionMode(QAbstractItemView::SingleSelection);
-  table_->setAlternatingRowColors(true);
-  table_->verticalHeader()->hide();
-  table_->setWordWrap(false);
+void TradesPage::MakeTradeTable() {
+  table_ = MakeTable("Trades", TextId::TradesPage, filter_);
   table_->setSortingEnabled(true);
   table_->horizontalHeader()->setSortIndicator(-1, Qt::DescendingOrder);
-  for (const int column : {TradeModel::FromColumn, TradeModel::ToColumn}) {
-    table_->setColumnWidth(column, kStopWidth);
+  for (std::size_t column = 0; column < kWidths.size(); ++column) {
+    table_->setColumnWidth(static_cast<int>(column), kWidths[column]);
   }
-  table_->setColumnWidth(TradeModel::GoodsColumn, kGoodsWidth);
-  for (int column = TradeModel::ProfitColumn; column < TradeModel::RoundTripColumn; ++column) {
-    table_->setColumnWidth(column, kNumberWidth);
-  }
-  table_->setColumnWidth(TradeModel::RoundTripColumn, kRoundTripWidth);
   connect(table_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
           [this] { ShowChosen(); });
 }

@@ -23,7 +23,7 @@ class TradesPage : public TravelPage {
   void Clear() override;
   void CancelWork() override;
   void AddFields();
-  void MakeTable();
+  void MakeTradeTable();
   TradeWishes Wishes() const;
   void Show(TradeOutcome outcome);
   void ShowChosen();

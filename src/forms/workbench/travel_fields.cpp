@@ -135,8 +135,7 @@ void TravelFields::Offer(const TravelChoices& choices) {
 }
 
 void TravelFields::StartAt(const std::string& place) {
-  const std::string now = From();
-  if (now.empty() || now == startedAt_) from_->ShowPlace(place);
+  if (From() == startedAt_) from_->ShowPlace(place);
   startedAt_ = place;
 }
 

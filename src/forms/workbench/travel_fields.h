@@ -38,7 +38,7 @@ class TravelFields : public QWidget {
 
   void Offer(const TravelChoices& choices);
 
-  // Where the player is now: taken over while the field is empty or still says where they were.
+  // Where the player is now: taken over while the field still says where they were.
   void StartAt(const std::string& place);
 
   std::string From() const { return from_->Place(); }

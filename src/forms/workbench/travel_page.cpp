@@ -2,8 +2,8 @@
 #include "forms/workbench/travel_page.h"
 
 #include <QHeaderView>
-#include <QScrollArea>
 #include <QVBoxLayout>
+#include <array>
 
 #include "forms/controls/captions.h"
 
@@ -12,10 +12,8 @@ namespace {
 
 constexpr int kFieldsWidth = 300;
 constexpr int kProgressWidth = 120;
-constexpr int kLegWidth = 110;
-constexpr int kSystemWidth = 130;
-constexpr int kPlaceWidth = 260;
-constexpr int kGoodsWidth = 230;
+constexpr int kRowPadding = 6;
+constexpr std::array kLegWidths = {110, 140, 260, 220, 80, 70};
 
 }  // namespace
 
@@ -27,7 +25,10 @@ TravelPage::TravelPage(TextId name, TextId find, WorkbenchHost& host, const Lang
   results_ = new QVBoxLayout;
   results_->addWidget(MakeBar());
   columns->addLayout(results_, 1);
-  MakeLegTable();
+  legTable_ = MakeTable("Legs", TextId::WayPage, legs_);
+  for (std::size_t column = 0; column < kLegWidths.size(); ++column) {
+    legTable_->setColumnWidth(static_cast<int>(column), kLegWidths[column]);
+  }
   MakeMapButtons();
 }
 
@@ -78,19 +79,20 @@ QWidget* TravelPage::MakeBar() {
   return bar;
 }
 
-void TravelPage::MakeLegTable() {
-  legTable_ = new QTableView(this);
-  legTable_->setObjectName("Legs");
-  legTable_->setAccessibleName(Caption(TextId::WayPage));
-  legTable_->setModel(&legs_);
-  legTable_->setSelectionBehavior(QAbstractItemView::SelectRows);
-  legTable_->setAlternatingRowColors(true);
-  legTable_->verticalHeader()->hide();
-  legTable_->setWordWrap(false);
-  legTable_->setColumnWidth(WayLegModel::LegColumn, kLegWidth);
-  legTable_->setColumnWidth(WayLegModel::SystemColumn, kSystemWidth);
-  legTable_->setColumnWidth(WayLegModel::ToColumn, kPlaceWidth);
-  legTable_->setColumnWidth(WayLegModel::GoodsColumn, kGoodsWidth);
+QTableView* TravelPage::MakeTable(const char* name, TextId caption, QAbstractItemModel& model) {
+  auto* table = new QTableView(this);
+  table->setObjectName(name);
+  table->setAccessibleName(Caption(caption));
+  table->setModel(&model);
+  table->setSelectionBehavior(QAbstractItemView::SelectRows);
+  table->setSelectionMode(QAbstractItemView::SingleSelection);
+  table->setAlternatingRowColors(true);
+  table->setWordWrap(false);
+  table->verticalHeader()->hide();
+  table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() + kRowPadding);
+  table->horizontalHeader()->setHighlightSections(false);
+  table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+  return table;
 }
 
 void TravelPage::MakeMapButtons() {

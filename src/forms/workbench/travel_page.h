@@ -38,6 +38,9 @@ class TravelPage : public WorkbenchPage {
   // What the fields say, with the game on the map.
   TravelRequest Request() const;
 
+  // A table of rows that are chosen whole.
+  QTableView* MakeTable(const char* name, TextId caption, QAbstractItemModel& model);
+
   void ShowRunning();
   void ShowDone(const QString& state);
 
@@ -53,7 +56,6 @@ class TravelPage : public WorkbenchPage {
   QWidget* MakeFields(TextId find);
   QWidget* MakeBar();
   void MakeMapButtons();
-  void MakeLegTable();
   void ReadChoices();
   void ShowOnMap();
 

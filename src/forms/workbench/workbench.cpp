@@ -5,6 +5,7 @@
 #include <QIcon>
 #include <QKeyEvent>
 #include <QMessageBox>
+#include <QScreen>
 #include <QSplitter>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -15,13 +16,14 @@
 namespace orrerix {
 namespace {
 
-constexpr QSize kFirstSize{1100, 720};
+constexpr QSize kFirstSize{1400, 780};
 constexpr int kListWidth = 150;
 // The style's own boxes do not show on the dark background while they are empty.
 constexpr const char* kStyle =
-    "QCheckBox::indicator { width: 15px; height: 15px; image: url(:/pictures/tools/check_off.svg); "
-    "}"
-    "QCheckBox::indicator:checked { image: url(:/pictures/tools/check_on.svg); }";
+    "QCheckBox::indicator, QListView::indicator { width: 15px; height: 15px;"
+    " image: url(:/pictures/tools/check_off.svg); }"
+    "QCheckBox::indicator:checked, QListView::indicator:checked {"
+    " image: url(:/pictures/tools/check_on.svg); }";
 
 }  // namespace
 
@@ -42,7 +44,7 @@ Workbench::Workbench(QSettings& settings, const LanguageChoice& choice)
   layout->addWidget(list_);
   layout->addWidget(stack_, 1);
   connect(list_, &QListWidget::currentRowChanged, this, [this](int row) { Choose(row); });
-  resize(kFirstSize);
+  resize(kFirstSize.boundedTo(screen()->availableSize()));
   restoreGeometry(settings_.value(setting_key::kGeometry).toByteArray());
 }
 

@@ -6,6 +6,7 @@
 #include "../form_fixture.h"
 #include "db/engine.h"
 #include "demo/demo_game.h"
+#include "fake_workbench_host.h"
 #include "forms/workbench/check_page.h"
 #include "forms/workbench/differences_page.h"
 #include "forms/workbench/game_page.h"
@@ -16,38 +17,9 @@
 namespace orrerix {
 namespace {
 
-class FakeHost : public WorkbenchHost {
- public:
-  FakeHost(ErrorLog& log, std::filesystem::path folder) : log_(log), folder_(std::move(folder)) {}
-
-  std::string GameText() const override { return Game; }
-  std::filesystem::path UniverseFile() const override { return folder_ / "Orrerix.fl"; }
-  Universe OpenUniverse(Routine&) override { return {log_, none_}; }
-  bool ShowOnMap(const std::string& nickname) override {
-    Shown.push_back(nickname);
-    return nickname != "nowhere";
-  }
-  void ImportAgain() override { ++Imports; }
-  void OpenGame(const std::string& folder) override { Opened.push_back(folder); }
-  void WatchGame(bool on) override { Watches = on; }
-  void MarkCells(const std::vector<MapCell>& cells) override { Marked = cells; }
-
-  std::string Game = "/games/none";
-  std::vector<std::string> Shown;
-  std::vector<std::string> Opened;
-  int Imports = 0;
-  bool Watches = false;
-  std::vector<MapCell> Marked;
-
- private:
-  ErrorLog& log_;
-  Database none_;
-  std::filesystem::path folder_;
-};
-
 class WorkbenchTest : public FormFixture {
  protected:
-  FakeHost host{log, folder.Path()};
+  FakeWorkbenchHost host{log, folder.Path()};
   QSettings settings{QString::fromStdString((folder.Path() / "t.ini").string()),
                      QSettings::IniFormat};
 };
