@@ -246,9 +246,12 @@ enum class TextId : int {
   LegLane,
   LegFly,
   LegDock,
+  CopyCoordinates,
+  TradesFromHere,
+  WayToHere,
 };
 inline constexpr int kStoredTexts = 29;
-inline constexpr int kTexts = static_cast<int>(TextId::LegDock) + 1;
+inline constexpr int kTexts = static_cast<int>(TextId::WayToHere) + 1;
 
 // The language in use. It belongs to the program; whoever speaks looks here.
 struct LanguageChoice {

@@ -22,6 +22,7 @@ namespace orrerix {
 namespace {
 
 constexpr int kIconPixels = 64;
+constexpr int kTravelIconPixels = 36;
 constexpr QRgb kGround = 0xFF000040;
 
 // Places of what stands in the left margin, twips.
@@ -54,6 +55,7 @@ StationInfo::StationInfo(const StationParts& parts, std::string nickname, std::s
   setPalette(colors);
   MakeDecoration();
   MakeModes();
+  MakeTravelButtons();
   infoText_ = new TextBox(ControlId::BoxText, this);
   infoText_->setAccessibleName(Caption(TextId::Information));
   prices_ = new PriceTableView(this);
@@ -106,6 +108,32 @@ void StationInfo::MakeModes() {
         PixelRect(kSide, kFirstMode + static_cast<int>(i) * kModeStep, kButton, kButton));
     QObject::connect(button, &QPushButton::clicked, this, [this, i] { ChooseMode(i); });
     mode_[i] = button;
+  }
+}
+
+// Below the ornament.
+void StationInfo::MakeTravelButtons() {
+  struct TravelButton {
+    const char* Name;
+    TextId Caption;
+    const char* Picture;
+    const std::function<void(const std::string&)>& Act;
+  };
+  const TravelButton buttons[] = {
+      {"TradesFromHere", TextId::TradesFromHere, ":/pictures/tools/trades.svg", parts_.OnTrades},
+      {"WayToHere", TextId::WayToHere, ":/pictures/tools/way.svg", parts_.OnWay}};
+  int top = kOrnamentTop + kModeStep + 300;
+  for (const TravelButton& travel : buttons) {
+    if (!travel.Act) continue;
+    auto* button = new QPushButton(this);
+    button->setObjectName(travel.Name);
+    button->setAccessibleName(Caption(travel.Caption));
+    button->setToolTip(Caption(travel.Caption));
+    button->setIcon(QIcon(travel.Picture));
+    button->setIconSize(QSize(kTravelIconPixels, kTravelIconPixels));
+    button->setGeometry(PixelRect(kSide, top, kButton, kButton));
+    QObject::connect(button, &QPushButton::clicked, this, [this, &act = travel.Act] { act(nick_); });
+    top += kModeStep;
   }
 }
 

@@ -29,6 +29,11 @@ struct StationParts {
   const CellNames& Names;
   std::function<Universe(Routine&)> OpenUniverse;
   std::function<QSize()> Decoration;  // what the desktop adds to a window's size, pixels
+
+  // Called with the station's nickname by the buttons for its trades and the way to it; without
+  // them there are no such buttons.
+  std::function<void(const std::string&)> OnTrades = nullptr;
+  std::function<void(const std::string&)> OnWay = nullptr;
 };
 
 // The station window of one object of the map: five views of what the universe knows of it.
@@ -53,6 +58,7 @@ class StationInfo : public QWidget {
   void MakeDecoration();
   void ShowPicture(ControlId id, const QString& file, const QRect& place);
   void MakeModes();
+  void MakeTravelButtons();
   void Place();
   void Settle();
   QSize Decoration() const;

@@ -45,8 +45,12 @@ Workbench& Tools::Window() {
   window_->Add(std::make_unique<CheckPage>(
       host_, parts_.Speech, [this](const fs::path& file, int line) { OpenInEditor(file, line); }));
   window_->Add(std::make_unique<DifferencesPage>(host_, parts_.Speech, parts_.Version));
-  window_->Add(std::make_unique<TradesPage>(host_, parts_.Speech));
-  window_->Add(std::make_unique<WayPage>(host_, parts_.Speech));
+  auto trades = std::make_unique<TradesPage>(host_, parts_.Speech);
+  auto way = std::make_unique<WayPage>(host_, parts_.Speech);
+  tradesPage_ = trades.get();
+  wayPage_ = way.get();
+  window_->Add(std::move(trades));
+  window_->Add(std::move(way));
   auto game = std::make_unique<GamePage>(host_, settings_, parts_.Speech);
   gamePage_ = game.get();
   window_->Add(std::move(game));
@@ -60,6 +64,16 @@ void Tools::Open() {
 
 void Tools::ShowKeys() {
   Window().ShowKeys();
+}
+
+void Tools::ShowTradesFrom(const std::string& place) {
+  Window().Open(TextId::TradesPage);
+  tradesPage_->ShowTradesFrom(place);
+}
+
+void Tools::ShowWayTo(const std::string& place) {
+  Window().Open(TextId::WayPage);
+  wayPage_->ShowWayTo(place);
 }
 
 void Tools::ShowState(const QString& text) {

@@ -16,6 +16,9 @@
 
 namespace orrerix {
 
+class TradesPage;
+class WayPage;
+
 class Tools {
  public:
   // All of these outlive this.
@@ -32,6 +35,10 @@ class Tools {
 
   void Open();
   void ShowKeys();
+
+  // Open the window with the trades from a place, or the way to it from where the player is.
+  void ShowTradesFrom(const std::string& place);
+  void ShowWayTo(const std::string& place);
 
   // Imports the game that is shown anew, while the map stays.
   void ImportAgain();
@@ -59,6 +66,8 @@ class Tools {
   JetVersionOption format_;
   QSettings settings_;
   std::unique_ptr<Workbench> window_;  // made when it is first wanted
+  TradesPage* tradesPage_ = nullptr;
+  WayPage* wayPage_ = nullptr;
   GamePage* gamePage_ = nullptr;
   QTimer watchTimer_;
   std::unique_ptr<GameFilesWatch> watch_;

@@ -130,6 +130,9 @@ QVariant TradeModel::ValueOf(const Row& row, int column) {
 
 QVariant TradeModel::headerData(int section, Qt::Orientation orientation, int role) const {
   if (orientation != Qt::Horizontal) return {};
+  if (role == Qt::TextAlignmentRole && section >= ProfitColumn) {
+    return int(Qt::AlignRight | Qt::AlignVCenter);
+  }
   if (role != Qt::DisplayRole && role != Qt::ToolTipRole) return {};
   return CaptionIn(choice_.Current, kHeads[static_cast<std::size_t>(section)]);
 }

@@ -13,7 +13,7 @@ namespace orrerix {
 namespace {
 
 constexpr int kMostHops = 6;
-constexpr std::array kWidths = {170, 170, 200, 75, 75, 65, 65, 105};
+constexpr std::array kWidths = {155, 155, 190, 75, 75, 65, 65};
 
 constexpr std::array kSortings = {
     std::pair(TextId::SortMinute, PlanSorting::Minute),
@@ -88,6 +88,7 @@ void TradesPage::AddFields() {
 void TradesPage::MakeTradeTable() {
   table_ = MakeTable("Trades", TextId::TradesPage, filter_);
   table_->setSortingEnabled(true);
+  table_->horizontalHeader()->setStretchLastSection(true);
   table_->horizontalHeader()->setSortIndicator(-1, Qt::DescendingOrder);
   for (std::size_t column = 0; column < kWidths.size(); ++column) {
     table_->setColumnWidth(static_cast<int>(column), kWidths[column]);
@@ -107,6 +108,12 @@ TradeWishes TradesPage::Wishes() const {
   wishes.Loop = loop_->isChecked();
   wishes.Sorting = kSortings[static_cast<std::size_t>(sorting_->currentIndex())].second;
   return wishes;
+}
+
+void TradesPage::ShowTradesFrom(const std::string& place) {
+  fields_->ShowFrom(place);
+  fields_->ShowTo({});
+  Start();
 }
 
 void TradesPage::Start() {

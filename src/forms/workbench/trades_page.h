@@ -19,6 +19,9 @@ class TradesPage : public TravelPage {
 
   void Start() override;
 
+  // Looks for the trades from a place to any other.
+  void ShowTradesFrom(const std::string& place);
+
  private:
   void Clear() override;
   void CancelWork() override;

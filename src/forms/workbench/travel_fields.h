@@ -45,6 +45,12 @@ class TravelFields : public QWidget {
   std::string To() const { return to_->Place(); }
   TravelRequest Request() const;  // without a game
 
+  void ShowFrom(const std::string& place) { from_->ShowPlace(place); }
+  void ShowTo(const std::string& place) { to_->ShowPlace(place); }
+
+  // The first of both that is empty gets the keyboard.
+  void FocusEmpty() { (From().empty() ? from_ : to_)->setFocus(); }
+
   // Adds a field below the ship and those that were added before; one without a caption speaks for
   // itself.
   void Add(TextId caption, QWidget* field);

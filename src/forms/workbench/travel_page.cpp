@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "forms/workbench/travel_page.h"
 
+#include <QApplication>
+#include <QClipboard>
 #include <QHeaderView>
 #include <QVBoxLayout>
 #include <array>
@@ -104,9 +106,11 @@ void TravelPage::MakeMapButtons() {
   show->setEnabled(false);
   auto* hide = new QPushButton(Caption(TextId::HideWay), mapButtons_);
   hide->setObjectName("HideWay");
-  row->addWidget(show);
-  row->addWidget(hide);
+  auto* copy = new QPushButton(Caption(TextId::CopyCoordinates), mapButtons_);
+  copy->setObjectName("CopyCoordinates");
+  for (QPushButton* button : {show, hide, copy}) row->addWidget(button);
   row->addStretch(1);
+  connect(copy, &QPushButton::clicked, this, [this] { CopyCoordinates(); });
   connect(show, &QPushButton::clicked, this, [this] { ShowOnMap(); });
   connect(hide, &QPushButton::clicked, this, [this] { host_.HideWay(); });
   connect(&legs_, &QAbstractItemModel::modelReset, show,
@@ -152,6 +156,14 @@ void TravelPage::ShowDone(const QString& state) {
   cancel_->setEnabled(false);
   progress_->hide();
   state_->setText(state);
+}
+
+// Of the chosen leg's end.
+void TravelPage::CopyCoordinates() {
+  const QModelIndex chosen = legTable_->currentIndex();
+  if (!chosen.isValid()) return;
+  QApplication::clipboard()->setText(
+      legs_.Rows()[static_cast<std::size_t>(chosen.row())].Coordinates);
 }
 
 void TravelPage::ShowOnMap() {

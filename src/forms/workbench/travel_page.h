@@ -58,6 +58,7 @@ class TravelPage : public WorkbenchPage {
   void MakeMapButtons();
   void ReadChoices();
   void ShowOnMap();
+  void CopyCoordinates();
 
   QPushButton* find_;
   QPushButton* cancel_;

@@ -18,6 +18,15 @@ QString Named(const std::string& name, const std::string& nickname) {
   return QString::fromStdString(name.empty() ? nickname : name);
 }
 
+QString CoordinatesOf(const Travel& travel, const TravelObject& object) {
+  const TravelSystem& system = travel.Graph.Systems[object.System];
+  return QString("%1, %2: %3, %4, %5")
+      .arg(Named(object.Name, object.Nickname), Named(system.Name, system.Nickname))
+      .arg(object.Point.X, 0, 'f', 0)
+      .arg(object.Point.Y, 0, 'f', 0)
+      .arg(object.Point.Z, 0, 'f', 0);
+}
+
 }  // namespace
 
 std::vector<WayLegRow> RowsOf(const Travel& travel, const Way& way, const QString& goods) {
@@ -31,7 +40,8 @@ std::vector<WayLegRow> RowsOf(const Travel& travel, const Way& way, const QStrin
                     Named(to.Name, to.Nickname),
                     goods,
                     leg.Distance,
-                    leg.Time});
+                    leg.Time,
+                    CoordinatesOf(travel, to)});
   }
   return rows;
 }
@@ -99,7 +109,11 @@ QString WayLegModel::TextOf(const WayLegRow& row, int column) const {
 }
 
 QVariant WayLegModel::headerData(int section, Qt::Orientation orientation, int role) const {
-  if (orientation != Qt::Horizontal || role != Qt::DisplayRole) return {};
+  if (orientation != Qt::Horizontal) return {};
+  if (role == Qt::TextAlignmentRole && section >= DistanceColumn) {
+    return int(Qt::AlignRight | Qt::AlignVCenter);
+  }
+  if (role != Qt::DisplayRole) return {};
   return CaptionIn(choice_.Current, kHeads[static_cast<std::size_t>(section)]);
 }
 

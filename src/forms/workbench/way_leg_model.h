@@ -21,6 +21,7 @@ struct WayLegRow {
   QString Goods;        // aboard; empty where nothing is
   double Distance = 0;  // game units
   std::int64_t Time = 0;
+  QString Coordinates;  // of its end: name, system and position in game units
 };
 
 std::vector<WayLegRow> RowsOf(const Travel& travel, const Way& way, const QString& goods = {});

@@ -17,10 +17,21 @@ WayPage::WayPage(WorkbenchHost& host, const LanguageChoice& choice)
   results_->addWidget(mapButtons_);
 }
 
+// A player who stands at the place itself says from where.
+void WayPage::ShowWayTo(const std::string& place) {
+  fields_->ShowTo(place);
+  if (fields_->From() == fields_->To()) fields_->ShowFrom({});
+  Start();
+}
+
 void WayPage::Start() {
   const std::string from = fields_->From();
   const std::string to = fields_->To();
-  if (from.empty() || to.empty()) return;
+  if (from.empty() || to.empty()) {
+    Clear();
+    fields_->FocusEmpty();
+    return;
+  }
   ShowRunning();
   task_.Start(
       [file = host_.UniverseFile(), request = Request(), from, to,

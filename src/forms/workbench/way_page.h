@@ -16,6 +16,9 @@ class WayPage : public TravelPage {
 
   void Start() override;
 
+  // Looks for the way to a place from where the player is.
+  void ShowWayTo(const std::string& place);
+
  private:
   void Clear() override;
   void CancelWork() override;

@@ -34,7 +34,9 @@ class StationInfoTest : public StationFixture {
     if (!window_) {
       window_ = std::make_unique<StationInfo>(
           StationParts{log, pictures, sound, texts, names, [this](Routine&) { return universe; },
-                       [this] { return decoration; }},
+                       [this] { return decoration; },
+                       [this](const std::string& place) { tradesFrom = place; },
+                       [this](const std::string& place) { wayTo = place; }},
           "pier", "Outpost");
       window_->show();
       PassEvents();
@@ -51,6 +53,8 @@ class StationInfoTest : public StationFixture {
   PictureStore pictures;
   FakeSound sound;
   QSize decoration{0, 0};
+  std::string tradesFrom;
+  std::string wayTo;
   // A player who changes the language while the window is open.
   struct ChangingTexts : TextSource {
     Language InUse = Language::English;
@@ -60,6 +64,14 @@ class StationInfoTest : public StationFixture {
  private:
   std::unique_ptr<StationInfo> window_;
 };
+
+TEST_F(StationInfoTest, ItsButtonsAskForItsTradesAndTheWayToIt) {
+  Find<QPushButton>(Window(), "TradesFromHere").click();
+  Find<QPushButton>(Window(), "WayToHere").click();
+
+  EXPECT_EQ(tradesFrom, "pier");
+  EXPECT_EQ(wayTo, "pier");
+}
 
 TEST_F(StationInfoTest, ItOpensWithItsInfo) {
   EXPECT_EQ(Window().Mode(), StationMode::Info);

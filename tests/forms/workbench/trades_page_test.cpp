@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/workbench/trades_page.h"
 
+#include <QClipboard>
 #include <QListWidget>
 #include <QSpinBox>
 
@@ -74,6 +75,27 @@ TEST_F(TradesPageTest, TheChosenTradeShowsItsLegsAndPutsThemOnTheMap) {
   EXPECT_EQ(host.Way[1].To, "brook");
   Find<QPushButton>(page, "HideWay").click();
   EXPECT_TRUE(host.Way.empty());
+}
+
+TEST_F(TradesPageTest, CoordinatesOfALegsEndAreCopied) {
+  Open(page);
+  Search(page);
+  ShowLegs();
+  Legs().selectRow(1);
+
+  Find<QPushButton>(page, "CopyCoordinates").click();
+
+  EXPECT_EQ(QApplication::clipboard()->text(), "brook, Liberty: 3000, 0, 0");
+}
+
+TEST_F(TradesPageTest, ShowsTheTradesFromAPlace) {
+  Open(page);
+
+  page.ShowTradesFrom("brook");
+
+  ASSERT_TRUE(WaitUntil([&] { return !Find(page, "Cancel").isEnabled(); }));
+  ASSERT_EQ(Count(), 1);
+  EXPECT_EQ(RowOf(Trades(), 0)[TradeModel::FromColumn], "brook, Liberty");
 }
 
 TEST_F(TradesPageTest, AWayThatTheMapDoesNotHaveIsNamed) {

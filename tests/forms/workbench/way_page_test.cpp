@@ -105,6 +105,26 @@ TEST_F(WayPageTest, OffersDocksAndSystemsByTheirNames) {
   EXPECT_THAT(State(page), HasSubstr("to cliff"));
 }
 
+TEST_F(WayPageTest, ShowsTheWayToAPlaceFromWhereThePlayerIs) {
+  host.Start = "anvil";
+  Open(page);
+
+  page.ShowWayTo("brook");
+
+  ASSERT_TRUE(WaitUntil([&] { return !Find(page, "Cancel").isEnabled(); }));
+  EXPECT_THAT(State(page), HasSubstr("anvil to brook"));
+}
+
+TEST_F(WayPageTest, AsksFromWhereIfThePlayerIsThereAlready) {
+  host.Start = "brook";
+  Open(page);
+
+  page.ShowWayTo("brook");
+
+  EXPECT_TRUE(Find<QComboBox>(page, "From").currentText().isEmpty());
+  EXPECT_TRUE(State(page).empty());
+}
+
 TEST_F(WayPageTest, WithoutAnEndNothingIsSought) {
   Open(page);
 
