@@ -18,8 +18,8 @@ std::optional<MapPlace> MapPlaces::Find(std::string_view nickname) {
 }
 
 std::string MapPlaces::SystemIn(MapCell cell) {
-  Recordset system = universe_.DB.OpenRecordset(
-      routine_, "SELECT * from Systems where pos = '{}'", {CellText(cell)});
+  Recordset system = universe_.DB.OpenRecordset(routine_, "SELECT * from Systems where pos = '{}'",
+                                                {CellText(cell)});
   return system.AtEnd() ? std::string() : system["nickname"].Get().Text();
 }
 

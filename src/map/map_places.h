@@ -21,8 +21,9 @@ class MapPlaces {
   // Both must outlive this.
   MapPlaces(Routine& routine, Universe& universe);
 
-  // The place of an object by its nickname, in whatever case. Nothing if there is no such object, or
-  // its system is not on the map; a coordinate that cannot be read is that of the system's middle.
+  // The place of an object by its nickname, in whatever case. Nothing if there is no such object,
+  // or its system is not on the map; a coordinate that cannot be read is that of the system's
+  // middle.
   std::optional<MapPlace> Find(std::string_view nickname);
 
   // The nickname of the system in a cell; empty if there is none.

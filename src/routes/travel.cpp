@@ -78,9 +78,8 @@ std::vector<NodeIndex> RequireStops(const Travel& travel, const Market& market,
                        [dock](const TradeStop& stop) { return stop.Dock == dock; });
   };
   std::vector<NodeIndex> docks = DocksOfTrade(travel.Graph, name);
-  std::erase_if(docks, [&](NodeIndex dock) {
-    return anyDock ? !travel.Limits.IsOpen(dock) : !isStop(dock);
-  });
+  std::erase_if(
+      docks, [&](NodeIndex dock) { return anyDock ? !travel.Limits.IsOpen(dock) : !isStop(dock); });
   if (docks.empty()) throw UnknownName(NameKind::Stop, std::string(name));
   return docks;
 }

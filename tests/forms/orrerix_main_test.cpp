@@ -605,7 +605,7 @@ class WayOnTheMap : public OrrerixMainTest {
     WriteGame();
     Load();
     ASSERT_TRUE(WaitUntil([&] { return ShowsMap(); }));
-    form->ToolsOfMap().Open();
+    form->MapTools().Open();
     for (QWidget* window : QApplication::topLevelWidgets()) {
       if (window->objectName() == "Workbench") workbench = window;
     }

@@ -132,7 +132,8 @@ void StationInfo::MakeTravelButtons() {
     button->setIcon(QIcon(travel.Picture));
     button->setIconSize(QSize(kTravelIconPixels, kTravelIconPixels));
     button->setGeometry(PixelRect(kSide, top, kButton, kButton));
-    QObject::connect(button, &QPushButton::clicked, this, [this, &act = travel.Act] { act(nick_); });
+    QObject::connect(button, &QPushButton::clicked, this,
+                     [this, &act = travel.Act] { act(nick_); });
     top += kModeStep;
   }
 }

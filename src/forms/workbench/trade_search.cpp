@@ -15,8 +15,8 @@ constexpr double kUsualHold = 100;
 
 TradeQuestion QuestionOf(const TradeWishes& wishes, const TradeWorld& world) {
   TradeQuestion question;
-  question.Hold = wishes.Hold ? static_cast<double>(*wishes.Hold)
-                              : world.Travel.ShipHold.value_or(kUsualHold);
+  question.Hold =
+      wishes.Hold ? static_cast<double>(*wishes.Hold) : world.Travel.ShipHold.value_or(kUsualHold);
   question.Credits = wishes.Credits;
   question.Loop = wishes.Loop;
   question.Hops = std::max(wishes.Hops, wishes.Loop ? 2 : 1);
@@ -94,8 +94,8 @@ std::vector<WayLegRow> LegsOf(const TradeWorld& world, const TradePlan& plan) {
   std::vector<WayLegRow> rows;
   const Travel& travel = world.Travel;
   for (const TradeLeg& leg : plan.Legs) {
-    const auto way = FastestWay(travel.Graph, travel.Model, travel.Limits, {{leg.From}, true},
-                                {{leg.To}, true});
+    const auto way =
+        FastestWay(travel.Graph, travel.Model, travel.Limits, {{leg.From}, true}, {{leg.To}, true});
     if (!way) continue;
     for (WayLegRow& row : RowsOf(travel, *way, CargoText(world.Market, leg.Cargo))) {
       rows.push_back(std::move(row));

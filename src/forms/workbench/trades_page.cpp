@@ -15,19 +15,17 @@ namespace {
 constexpr int kMostHops = 6;
 constexpr std::array kWidths = {155, 155, 190, 75, 75, 65, 65};
 
-constexpr std::array kSortings = {
-    std::pair(TextId::SortMinute, PlanSorting::Minute),
-    std::pair(TextId::SortProfit, PlanSorting::Profit),
-    std::pair(TextId::SortPercent, PlanSorting::Percent),
-    std::pair(TextId::SortRoundTrip, PlanSorting::Loop)};
+constexpr std::array kSortings = {std::pair(TextId::SortMinute, PlanSorting::Minute),
+                                  std::pair(TextId::SortProfit, PlanSorting::Profit),
+                                  std::pair(TextId::SortPercent, PlanSorting::Percent),
+                                  std::pair(TextId::SortRoundTrip, PlanSorting::Loop)};
 
 QLineEdit* NumberEdit(const char* name, const QString& withoutNumber, QWidget* parent) {
   auto* edit = new QLineEdit(parent);
   edit->setObjectName(name);
   edit->setPlaceholderText(withoutNumber);
   // Up to a thousand million, which every calculation bears.
-  edit->setValidator(
-      new QRegularExpressionValidator(QRegularExpression("[1-9][0-9]{0,8}"), edit));
+  edit->setValidator(new QRegularExpressionValidator(QRegularExpression("[1-9][0-9]{0,8}"), edit));
   return edit;
 }
 
@@ -129,6 +127,7 @@ void TradesPage::Start() {
 
 // The order of the answer, until a column is clicked.
 void TradesPage::Show(TradeOutcome outcome) {
+  legTask_.Cancel();
   outcome_ = std::move(outcome);
   legs_.Show({});
   table_->horizontalHeader()->setSortIndicator(-1, Qt::DescendingOrder);
@@ -143,10 +142,9 @@ void TradesPage::Show(TradeOutcome outcome) {
 void TradesPage::ShowChosen() {
   const QModelIndex chosen = filter_.mapToSource(table_->currentIndex());
   if (!chosen.isValid()) return legs_.Show({});
-  legTask_.Start(
-      [world = outcome_.World, plan = trades_.PlanAt(chosen.row())](
-          const BackgroundTask::IsCancelled&) { return LegsOf(*world, plan); },
-      [this](std::vector<WayLegRow> rows) { legs_.Show(std::move(rows)); });
+  legTask_.Start([world = outcome_.World, plan = trades_.PlanAt(chosen.row())](
+                     const BackgroundTask::IsCancelled&) { return LegsOf(*world, plan); },
+                 [this](std::vector<WayLegRow> rows) { legs_.Show(std::move(rows)); });
 }
 
 void TradesPage::Clear() {

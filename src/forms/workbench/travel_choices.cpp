@@ -20,8 +20,8 @@ QString TextOf(const std::string& name, const std::string& nickname) {
 }
 
 // The rows of a table that name something, the first of each nickname.
-std::vector<TravelChoice> NamedIn(Database& universe, std::string_view table,
-                                  std::string_view name, std::string_view needed) {
+std::vector<TravelChoice> NamedIn(Database& universe, std::string_view table, std::string_view name,
+                                  std::string_view needed) {
   ThrowFailures sink;
   std::vector<TravelChoice> choices;
   std::set<std::string> seen;

@@ -133,11 +133,9 @@ void TravelPage::UniverseChanged() {
 
 void TravelPage::ReadChoices() {
   choicesAreRead_ = true;
-  choices_.Start(
-      [file = host_.UniverseFile()](const BackgroundTask::IsCancelled&) {
-        return ReadTravelChoices(file);
-      },
-      [this](const TravelChoices& choices) { fields_->Offer(choices); });
+  choices_.Start([file = host_.UniverseFile()](
+                     const BackgroundTask::IsCancelled&) { return ReadTravelChoices(file); },
+                 [this](const TravelChoices& choices) { fields_->Offer(choices); });
 }
 
 TravelRequest TravelPage::Request() const {

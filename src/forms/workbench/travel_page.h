@@ -15,8 +15,8 @@
 
 namespace orrerix {
 
-// What the pages of ways and of trades have in common: fields at the left, what comes of them at the
-// right, and at the bottom the legs of a way that the map can show.
+// What the pages of ways and of trades have in common: fields at the left, what comes of them at
+// the right, and at the bottom the legs of a way that the map can show.
 class TravelPage : public WorkbenchPage {
  public:
   void Enter() override;

@@ -42,8 +42,8 @@ class WorkbenchHost {
   virtual bool ShowWay(const std::vector<ShownLeg>& legs) = 0;
   virtual void HideWay() = 0;
 
-  // Where a player is: the nickname of the system that the map shows alone, else of the station that
-  // was opened last, else nothing.
+  // Where a player is: the nickname of the system that the map shows alone, else of the station
+  // that was opened last, else nothing.
   virtual std::string StartPlace() = 0;
 
   // Reads the game folder anew. The universe that is shown stays where the import is given up.

@@ -27,7 +27,8 @@ class MapWayTest : public ::testing::Test {
     picture.fill(Qt::transparent);
     way.render(&picture, {}, {}, QWidget::DrawChildren);
     const double size = drawing.Cells.CellSize() / 15.0;
-    return picture.pixelColor(static_cast<int>((x + 0.5) * size), static_cast<int>((y + 0.5) * size));
+    return picture.pixelColor(static_cast<int>((x + 0.5) * size),
+                              static_cast<int>((y + 0.5) * size));
   }
 
   QGraphicsView frame;

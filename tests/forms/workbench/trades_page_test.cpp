@@ -169,10 +169,9 @@ TEST_F(TradesPageTest, ALoopHasTwoLegsOrMoreAndNoOtherEnd) {
   EXPECT_EQ(Find<QSpinBox>(page, "Hops").value(), 2);
   EXPECT_FALSE(Find(page, "To").isEnabled());
   ASSERT_EQ(Count(), 1);
-  EXPECT_THAT(RowOf(Trades(), 0),
-              ElementsAre("anvil, Liberty", "brook, Liberty → anvil, Liberty",
-                          "100 gold (100 → 130); 100 iron (50 → 60)", "4,000", "4,000", "27%",
-                          "1:00", ""));
+  EXPECT_THAT(RowOf(Trades(), 0), ElementsAre("anvil, Liberty", "brook, Liberty → anvil, Liberty",
+                                              "100 gold (100 → 130); 100 iron (50 → 60)", "4,000",
+                                              "4,000", "27%", "1:00", ""));
 }
 
 TEST_F(TradesPageTest, APlaceThatIsNotThereIsNamed) {

@@ -51,9 +51,11 @@ TEST_F(WayPageTest, ShowsTheLegsOfTheFastestWay) {
 
   EXPECT_EQ(State(page), "anvil to cliff: 1:10 min, 9,000 units, jumps: 1");
   ASSERT_EQ(Legs().model()->rowCount(), 5);
-  EXPECT_THAT(RowOf(Legs(), 1), ElementsAre("Free flight", "Liberty", "hole1", "", "3,000", "0:15"));
+  EXPECT_THAT(RowOf(Legs(), 1),
+              ElementsAre("Free flight", "Liberty", "hole1", "", "3,000", "0:15"));
   EXPECT_THAT(RowOf(Legs(), 2), ElementsAre("Jump hole", "Liberty", "hole2", "", "0", "0:15"));
-  EXPECT_THAT(RowOf(Legs(), 3), ElementsAre("Free flight", "Outback", "cliff", "", "6,000", "0:25"));
+  EXPECT_THAT(RowOf(Legs(), 3),
+              ElementsAre("Free flight", "Outback", "cliff", "", "6,000", "0:25"));
   Find<QPushButton>(page, "ShowWay").click();
   ASSERT_EQ(host.Way.size(), 5u);
   EXPECT_EQ(host.Way[2].Kind, LegKind::Hole);
