@@ -29,6 +29,10 @@ PlaceBox::PlaceBox(const char* name, const QString& caption, QWidget* parent) : 
   setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
   completer()->setCompletionMode(QCompleter::PopupCompletion);
   completer()->setFilterMode(Qt::MatchContains);
+  // A name is longer than the field: its beginning counts.
+  connect(
+      this, &QComboBox::currentIndexChanged, this, [this] { lineEdit()->setCursorPosition(0); },
+      Qt::QueuedConnection);
 }
 
 void PlaceBox::Offer(const std::vector<TravelChoice>& places) {

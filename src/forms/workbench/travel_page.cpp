@@ -31,6 +31,7 @@ TravelPage::TravelPage(TextId name, TextId find, WorkbenchHost& host, const Lang
   for (std::size_t column = 0; column < kLegWidths.size(); ++column) {
     legTable_->setColumnWidth(static_cast<int>(column), kLegWidths[column]);
   }
+  legTable_->horizontalHeader()->setSectionResizeMode(WayLegModel::ToColumn, QHeaderView::Stretch);
   MakeMapButtons();
 }
 

@@ -59,11 +59,14 @@ QString TextOf(Language language, const TravelGraph& graph, const WhyNoWay& why)
 }
 
 QString SumsOf(Language language, const Travel& travel, const Way& way) {
-  const auto& objects = travel.Graph.Objects;
-  return QString::fromStdString(
-      FormatIn(language, TextId::WaySums, objects[way.From].Nickname, objects[way.To].Nickname,
-               MinutesText(way.Time()).toStdString(),
-               NumberText(language, way.Distance()).toStdString(), way.Jumps()));
+  const auto name = [&](NodeIndex node) {
+    const TravelObject& object = travel.Graph.Objects[node];
+    return object.Name.empty() ? object.Nickname : object.Name;
+  };
+  return QString::fromStdString(FormatIn(language, TextId::WaySums, name(way.From), name(way.To),
+                                         MinutesText(way.Time()).toStdString(),
+                                         NumberText(language, way.Distance()).toStdString(),
+                                         way.Jumps()));
 }
 
 WayOutcome FindIn(const std::filesystem::path& universe, const TravelRequest& request,
