@@ -50,8 +50,8 @@ TEST_F(MapWayTest, ArrowsPointAlongTheWay) {
   way.Show({{LegKind::Lane, MiddleOf(2, 3), MiddleOf(6, 3)}});
   const double pixel = 15.0 / drawing.Cells.CellSize();
 
-  EXPECT_EQ(ColorAt(4 - 4 * pixel, 3 + 3 * pixel), QColor(0xFFFFC040));
-  EXPECT_NE(ColorAt(4 + 4 * pixel, 3 + 3 * pixel), QColor(0xFFFFC040));
+  EXPECT_EQ(ColorAt(4 - 4 * pixel, 3 + 2 * pixel), QColor(0xFFFFC040));
+  EXPECT_NE(ColorAt(4 + 4 * pixel, 3 + 2 * pixel), QColor(0xFFFFC040));
 }
 
 TEST_F(MapWayTest, StopsAreDiscs) {
