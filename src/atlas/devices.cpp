@@ -15,8 +15,7 @@ Column<Equipment> ShipsColumn() {
 std::string ShipsWith(const AtlasSource& source, std::string_view item) {
   std::string names;
   for (const SourceRow& part : source.Tables["Packages"].FindAll("NickName", item)) {
-    const SourceRow ship =
-        source.Tables["Ships"].Find("packagename", part.Text("PackageName"));
+    const SourceRow ship = source.Tables["Ships"].Find("packagename", part.Text("PackageName"));
     if (!ship.Exists()) continue;
     if (!names.empty()) names += "; ";
     names += ship.Text("RealName");
@@ -51,16 +50,14 @@ EquipmentColumns ShieldColumns() {
                        return Quotient(e.Number("max_capacity"), e.Number("regeneration_rate"));
                      }),
         FieldColumn("offline_time", "Offline time (s)", section, "offline_rebuild_time"),
-        FigureColumn("offline_below", "Offline below (% of capacity)", "100 * offline_threshold",
-                     [](const Equipment& e) {
-                       return Product(100.0, e.Number("offline_threshold"));
-                     }),
+        FigureColumn(
+            "offline_below", "Offline below (% of capacity)", "100 * offline_threshold",
+            [](const Equipment& e) { return Product(100.0, e.Number("offline_threshold")); }),
         FieldColumn("energy_second", "Energy (units/s)", section, "constant_power_draw"),
         FieldColumn("energy_rebuild", "Energy while rebuilding (units/s)", section,
                     "rebuild_power_draw"),
         FieldColumn("hit_points", "Hit points (points)", section, "hit_pts"),
-        FigureColumn("capacity_price", "Capacity per price (points/credit)",
-                     "max_capacity / price",
+        FigureColumn("capacity_price", "Capacity per price (points/credit)", "max_capacity / price",
                      [](const Equipment& e) {
                        return Quotient(e.Number("max_capacity"), e.Good.Number("price"));
                      })},
@@ -73,8 +70,7 @@ EquipmentColumns ThrusterColumns() {
        {HardpointColumn("hp_type of [Thruster], else hp_thruster"),
         FieldColumn("thrust", "Thrust (force)", "Thruster", "max_force"),
         FieldColumn("energy_second", "Energy (units/s)", "Thruster", "power_usage"),
-        FigureColumn("thrust_energy", "Thrust per energy (force/unit)",
-                     "max_force / power_usage",
+        FigureColumn("thrust_energy", "Thrust per energy (force/unit)", "max_force / power_usage",
                      [](const Equipment& e) {
                        return Quotient(e.Number("max_force"), e.Number("power_usage"));
                      }),
@@ -127,8 +123,7 @@ EquipmentColumns ScannerColumns() {
         FieldColumn("range", "Scan range (m)", "Scanner", "range"),
         FieldColumn("cargo_range", "Cargo scan range (m)", "Scanner", "cargo_scan_range"),
         FieldColumn("length", "Tractor length (m)", "Tractor", "max_length"),
-        FieldColumn("reach_speed", "Tractor speed (m/s)", "Tractor", "reach_speed"),
-        ShipsColumn()},
+        FieldColumn("reach_speed", "Tractor speed (m/s)", "Tractor", "reach_speed"), ShipsColumn()},
        MarketColumns()});
 }
 
@@ -152,10 +147,10 @@ AtlasTable ShieldsTable() {
 }
 
 AtlasTable ThrustersTable() {
-  return MakeTable<Equipment>(
-      {"thrusters", "Thrusters", "Thrusters."}, ThrusterColumns(), [](const AtlasSource& source) {
-        return ReadDevices(source, "thruster", "hp_type", "hp_thruster");
-      });
+  return MakeTable<Equipment>({"thrusters", "Thrusters", "Thrusters."}, ThrusterColumns(),
+                              [](const AtlasSource& source) {
+                                return ReadDevices(source, "thruster", "hp_type", "hp_thruster");
+                              });
 }
 
 AtlasTable EnginesTable() {

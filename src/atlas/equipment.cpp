@@ -104,17 +104,14 @@ EquipmentColumns MarketColumns() {
 }
 
 EquipmentColumns AmmoColumns(Figure (*damagePerShot)(const Equipment&)) {
-  const auto ammoPrice = [](const Equipment& e) {
-    return UnlessZero(e.AmmoGood.Number("price"));
-  };
-  return {FigureColumn("ammo_price", "Ammunition price (credits/shot)",
-                       "list price of the ammunition's good, where requires_ammo is true",
-                       ammoPrice),
-          FigureColumn("ammo_price_per_damage", "Ammunition price per hull damage (credits/point)",
-                       "ammunition price / hull damage of a shot",
-                       [=](const Equipment& e) {
-                         return Quotient(ammoPrice(e), UnlessZero(damagePerShot(e)));
-                       })};
+  const auto ammoPrice = [](const Equipment& e) { return UnlessZero(e.AmmoGood.Number("price")); };
+  return {
+      FigureColumn("ammo_price", "Ammunition price (credits/shot)",
+                   "list price of the ammunition's good, where requires_ammo is true", ammoPrice),
+      FigureColumn("ammo_price_per_damage", "Ammunition price per hull damage (credits/point)",
+                   "ammunition price / hull damage of a shot", [=](const Equipment& e) {
+                     return Quotient(ammoPrice(e), UnlessZero(damagePerShot(e)));
+                   })};
 }
 
 Figure ShieldDamage(const SourceRow& shot) {

@@ -11,9 +11,9 @@
 namespace orrerix {
 namespace {
 
-constexpr double kSteps = 10'000;       // 4 decimals
-constexpr double kMostRounded = 1e11;   // larger figures have no such decimals
-constexpr double kMostWhole = 9.0e15;   // below 2^53
+constexpr double kSteps = 10'000;      // 4 decimals
+constexpr double kMostRounded = 1e11;  // larger figures have no such decimals
+constexpr double kMostWhole = 9.0e15;  // below 2^53
 
 bool IsDigit(char c) {
   return c >= '0' && c <= '9';

@@ -24,8 +24,8 @@ Figure UnlessZero(Figure figure);
 // The number at the start of a text; missing where none is.
 Figure ParseFigure(std::string_view text);
 
-// A figure as a table shows it, rounded to 4 decimals: a whole number where it is one, Null where it
-// is missing or beyond all numbers.
+// A figure as a table shows it, rounded to 4 decimals: a whole number where it is one, Null where
+// it is missing or beyond all numbers.
 Value FigureValue(Figure figure);
 
 // A text as a table shows it: Null where it is empty.

@@ -17,27 +17,26 @@ Figure ShieldPerShot(const Equipment& gun) {
 }
 
 EquipmentColumns DamageColumns() {
-  return {
-      FigureColumn("hull_damage_shot", "Hull damage (points/shot)",
-                   "hull_damage of [Munition] * refire_delay", HullPerShot),
-      FigureColumn("shield_damage_shot", "Shield damage (points/shot)",
-                   "energy_damage * refire_delay; without energy damage half the hull damage",
-                   ShieldPerShot),
-      FigureColumn("hull_damage_second", "Hull damage (points/s)",
-                   "hull_damage of [Munition], which counts by the second",
-                   [](const Equipment& gun) { return gun.Shot.Number("hull_damage"); }),
-      FigureColumn("shield_damage_second", "Shield damage (points/s)",
-                   "energy_damage of [Munition]; without it half the hull damage",
-                   [](const Equipment& gun) { return ShieldDamage(gun.Shot); }),
-      FigureColumn("hull_damage_energy", "Hull damage per energy (points/unit)",
-                   "hull damage of a shot / power_usage",
-                   [](const Equipment& gun) {
-                     return Quotient(HullPerShot(gun), gun.Number("power_usage"));
-                   }),
-      FigureColumn("shield_damage_energy", "Shield damage per energy (points/unit)",
-                   "shield damage of a shot / power_usage", [](const Equipment& gun) {
-                     return Quotient(ShieldPerShot(gun), gun.Number("power_usage"));
-                   })};
+  return {FigureColumn("hull_damage_shot", "Hull damage (points/shot)",
+                       "hull_damage of [Munition] * refire_delay", HullPerShot),
+          FigureColumn("shield_damage_shot", "Shield damage (points/shot)",
+                       "energy_damage * refire_delay; without energy damage half the hull damage",
+                       ShieldPerShot),
+          FigureColumn("hull_damage_second", "Hull damage (points/s)",
+                       "hull_damage of [Munition], which counts by the second",
+                       [](const Equipment& gun) { return gun.Shot.Number("hull_damage"); }),
+          FigureColumn("shield_damage_second", "Shield damage (points/s)",
+                       "energy_damage of [Munition]; without it half the hull damage",
+                       [](const Equipment& gun) { return ShieldDamage(gun.Shot); }),
+          FigureColumn("hull_damage_energy", "Hull damage per energy (points/unit)",
+                       "hull damage of a shot / power_usage",
+                       [](const Equipment& gun) {
+                         return Quotient(HullPerShot(gun), gun.Number("power_usage"));
+                       }),
+          FigureColumn("shield_damage_energy", "Shield damage per energy (points/unit)",
+                       "shield damage of a shot / power_usage", [](const Equipment& gun) {
+                         return Quotient(ShieldPerShot(gun), gun.Number("power_usage"));
+                       })};
 }
 
 EquipmentColumns FiringColumns() {
@@ -66,7 +65,10 @@ EquipmentColumns GunColumns() {
        {HardpointColumn("hp_gun_type of [Gun]"),
         TextColumn("weapon_type", "Weapon type", "weapon_type of [Munition]",
                    [](const Equipment& gun) { return gun.Shot.Text("weapon_type"); })},
-       DamageColumns(), FiringColumns(), AmmoColumns(HullPerShot), MarketColumns()});
+       DamageColumns(),
+       FiringColumns(),
+       AmmoColumns(HullPerShot),
+       MarketColumns()});
 }
 
 // Without a hardpoint type a gun that turns by itself is one.

@@ -44,30 +44,26 @@ Column<Equipment> ShotColumn(std::string id, std::string head, std::string formu
 }
 
 EquipmentColumns BlastColumns() {
-  return {FigureColumn("hull_damage_shot", "Hull damage (points/shot)",
-                       "hull_damage of [Explosion]", BlastHull),
-          FigureColumn("shield_damage_shot", "Shield damage (points/shot)",
-                       "energy_damage of [Explosion]; without it half the hull damage",
-                       BlastShield),
-          FigureColumn("hull_damage_second", "Hull damage (points/s)",
-                       "hull damage of a shot / refire_delay",
-                       [](const Equipment& e) {
-                         return Quotient(BlastHull(e), e.Number("refire_delay"));
-                       }),
-          FigureColumn("shield_damage_second", "Shield damage (points/s)",
-                       "shield damage of a shot / refire_delay",
-                       [](const Equipment& e) {
-                         return Quotient(BlastShield(e), e.Number("refire_delay"));
-                       }),
-          FigureColumn("hull_damage_energy", "Hull damage per energy (points/unit)",
-                       "hull damage of a shot / power_usage",
-                       [](const Equipment& e) {
-                         return Quotient(BlastHull(e), e.Number("power_usage"));
-                       }),
-          FigureColumn("radius", "Blast radius (m)", "radius of [Explosion]",
-                       [](const Equipment& e) { return e.Blast.Number("radius"); }),
-          FigureColumn("refire_rate", "Refire rate (shots/s)", "1 / refire_delay",
-                       [](const Equipment& e) { return Quotient(1.0, e.Number("refire_delay")); })};
+  return {
+      FigureColumn("hull_damage_shot", "Hull damage (points/shot)", "hull_damage of [Explosion]",
+                   BlastHull),
+      FigureColumn("shield_damage_shot", "Shield damage (points/shot)",
+                   "energy_damage of [Explosion]; without it half the hull damage", BlastShield),
+      FigureColumn(
+          "hull_damage_second", "Hull damage (points/s)", "hull damage of a shot / refire_delay",
+          [](const Equipment& e) { return Quotient(BlastHull(e), e.Number("refire_delay")); }),
+      FigureColumn(
+          "shield_damage_second", "Shield damage (points/s)",
+          "shield damage of a shot / refire_delay",
+          [](const Equipment& e) { return Quotient(BlastShield(e), e.Number("refire_delay")); }),
+      FigureColumn(
+          "hull_damage_energy", "Hull damage per energy (points/unit)",
+          "hull damage of a shot / power_usage",
+          [](const Equipment& e) { return Quotient(BlastHull(e), e.Number("power_usage")); }),
+      FigureColumn("radius", "Blast radius (m)", "radius of [Explosion]",
+                   [](const Equipment& e) { return e.Blast.Number("radius"); }),
+      FigureColumn("refire_rate", "Refire rate (shots/s)", "1 / refire_delay",
+                   [](const Equipment& e) { return Quotient(1.0, e.Number("refire_delay")); })};
 }
 
 std::string MissileKind(const Equipment& missile) {
@@ -101,7 +97,8 @@ EquipmentColumns MissileColumns() {
                    "max_angular_velocity"),
         ShotColumn("ammo_limit", "Ammunition limit (shots)", "ammo_limit of [Munition]",
                    "ammo_limit")},
-       AmmoColumns(BlastHull), MarketColumns()});
+       AmmoColumns(BlastHull),
+       MarketColumns()});
 }
 
 EquipmentColumns MineColumns() {
@@ -117,9 +114,9 @@ EquipmentColumns MineColumns() {
         ShotColumn("lifetime", "Lifetime (s)", "lifetime of [Mine]", "lifetime"),
         ShotColumn("arming_time", "Safe for its owner (s)", "owner_safe_time of [Mine]",
                    "owner_safe_time"),
-        ShotColumn("ammo_limit", "Ammunition limit (shots)", "ammo_limit of [Mine]",
-                   "ammo_limit")},
-       AmmoColumns(BlastHull), MarketColumns()});
+        ShotColumn("ammo_limit", "Ammunition limit (shots)", "ammo_limit of [Mine]", "ammo_limit")},
+       AmmoColumns(BlastHull),
+       MarketColumns()});
 }
 
 EquipmentColumns CountermeasureColumns() {
@@ -138,7 +135,8 @@ EquipmentColumns CountermeasureColumns() {
         FieldColumn("energy_shot", "Energy (units/shot)", "CounterMeasureDropper", "power_usage"),
         ShotColumn("ammo_limit", "Ammunition limit (shots)", "ammo_limit of [CounterMeasure]",
                    "ammo_limit")},
-       ammo, MarketColumns()});
+       ammo,
+       MarketColumns()});
 }
 
 std::vector<Equipment> ReadMissiles(const AtlasSource& source) {
@@ -166,14 +164,14 @@ std::vector<Equipment> ReadDroppers(const AtlasSource& source, std::string_view 
 }  // namespace
 
 AtlasTable MissilesTable() {
-  return MakeTable<Equipment>({"missiles", "Missiles and torpedoes",
-                               "Guns whose munition has a motor or ends in a blast."},
-                              MissileColumns(), ReadMissiles);
+  return MakeTable<Equipment>(
+      {"missiles", "Missiles and torpedoes", "Guns whose munition has a motor or ends in a blast."},
+      MissileColumns(), ReadMissiles);
 }
 
 AtlasTable MinesTable() {
-  return MakeTable<Equipment>({"mines", "Mines", "Mine droppers with their mines."},
-                              MineColumns(), [](const AtlasSource& source) {
+  return MakeTable<Equipment>({"mines", "Mines", "Mine droppers with their mines."}, MineColumns(),
+                              [](const AtlasSource& source) {
                                 return ReadDroppers(source, "minedropper", "hp_mine_dropper",
                                                     "mine");
                               });
