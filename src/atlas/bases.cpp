@@ -5,6 +5,7 @@
 #include <set>
 
 #include "atlas/families.h"
+#include "atlas/packages.h"
 #include "atlas/sales.h"
 #include "db/text.h"
 
@@ -102,9 +103,8 @@ std::vector<BaseRow> ReadBases(const AtlasSource& source) {
     const Sellers& sellers = source.Sales.SellersOf(nickname);
     if (sellers.empty() || !seen.insert(FoldAscii(nickname)).second) continue;
     const Ware ware = WareOf(source, good);
-    const std::string ship =
-        ware == Ware::Ship ? source.Tables["Ships"].Find("packagename", nickname).Text("RealName")
-                           : std::string();
+    const SourceRow row = ware == Ware::Ship ? ShipOfPackage(source.Tables, good) : SourceRow();
+    const std::string ship = row.Exists() ? ShipName(row) : std::string();
     for (const std::size_t base : sellers) {
       ++rows[base].Wares[static_cast<std::size_t>(ware)];
       if (ship.empty()) continue;

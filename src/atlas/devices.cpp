@@ -2,6 +2,7 @@
 // Shields, thrusters, engines, power plants, scanners and tractors.
 #include "atlas/equipment.h"
 #include "atlas/families.h"
+#include "atlas/packages.h"
 
 namespace orrerix {
 namespace {
@@ -18,7 +19,7 @@ std::string ShipsWith(const AtlasSource& source, std::string_view item) {
     const SourceRow ship = source.Tables["Ships"].Find("packagename", part.Text("PackageName"));
     if (!ship.Exists()) continue;
     if (!names.empty()) names += "; ";
-    names += ship.Text("RealName");
+    names += ShipName(ship);
   }
   return names;
 }

@@ -13,13 +13,9 @@ SourceRow GoodOf(const AtlasSource& source, std::string_view item) {
   return good.Exists() ? good : goods.Find("nickname", item);
 }
 
-// The good's name counts only where it was found: else it is the nickname with a number.
 std::string NameOf(const AtlasSource& source, const SourceRow& item, const SourceRow& good) {
   std::string name = source.Tables.NameOf(item.Number("ids_name"));
-  if (!name.empty()) return name;
-  name = good.Text("realname");
-  const bool isMadeUp = name.starts_with(good.Text("nickname") + "(") && name.ends_with(")");
-  return isMadeUp ? std::string() : name;
+  return name.empty() ? GivenName(good.Text("realname"), good.Text("nickname")) : name;
 }
 
 }  // namespace
@@ -108,7 +104,7 @@ EquipmentColumns AmmoColumns(Figure (*damagePerShot)(const Equipment&)) {
   return {
       FigureColumn("ammo_price", "Ammunition price (credits/shot)",
                    "list price of the ammunition's good, where requires_ammo is true", ammoPrice),
-      FigureColumn("ammo_price_per_damage", "Ammunition price per hull damage (credits/point)",
+      FigureColumn("ammo_price_per_damage", "Ammunition per damage (credits/point)",
                    "ammunition price / hull damage of a shot", [=](const Equipment& e) {
                      return Quotient(ammoPrice(e), UnlessZero(damagePerShot(e)));
                    })};

@@ -27,11 +27,15 @@ std::string SectorOf(const SourceRow& dock) {
           static_cast<char>('1' + static_cast<int>(row))};
 }
 
+bool LetsNobodyIn(const SourceRow& object) {
+  return Contains(FoldAscii(object.Text("archetype")), "nodock");
+}
+
 std::string BaseName(const SourceTables& tables, const SourceRow& object,
                      const std::string& nickname) {
   const SourceRow base = tables["base"].Find("nickname", nickname);
   if (std::string name = tables.NameOf(base.Number("strid_name")); !name.empty()) return name;
-  std::string name = object.Text("realname");
+  std::string name = GivenName(object.Text("realname"), object.Text("nickname"));
   if (name.starts_with(kRingName)) name.erase(0, kRingName.size());
   return name.empty() ? nickname : name;
 }
@@ -51,7 +55,8 @@ BaseBook::BaseBook(const SourceTables& tables) {
   for (std::size_t i = 0; i < objects.RowCount(); ++i) {
     const SourceRow object = objects.Row(i);
     const std::string nickname = object.Text("dock_with");
-    if (nickname.empty()) continue;
+    const SourceRow dock = tables["DockObjects"].Find("nickname", object.Text("nickname"));
+    if (nickname.empty() || !dock.Exists() || LetsNobodyIn(object)) continue;
     const auto [place, isNew] = byNickname_.try_emplace(FoldAscii(nickname), bases_.size());
     if (isNew) {
       AtlasBase base;
@@ -59,7 +64,7 @@ BaseBook::BaseBook(const SourceTables& tables) {
       base.Name = BaseName(tables, object, nickname);
       base.System = object.Text("sys_nick");
       base.SystemName = SystemNameOf(tables, base.System);
-      base.Sector = SectorOf(tables["DockObjects"].Find("nickname", object.Text("nickname")));
+      base.Sector = SectorOf(dock);
       base.Owner = object.Text("reputation");
       base.OwnerName = FactionNameOf(tables, base.Owner);
       bases_.push_back(std::move(base));

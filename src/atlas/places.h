@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The bases that a ship can dock at.
+// The bases that a ship can dock at: those that objects of table DockObjects lead to, unless they
+// are made so that nobody docks ("nodock" in their archetype).
 #pragma once
 
 #include <optional>

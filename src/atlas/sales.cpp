@@ -27,6 +27,16 @@ const Sellers& SalesBook::SellersOf(std::string_view good) const {
   return found == sellers_.end() || good.empty() ? kNobody : found->second;
 }
 
+Sellers SalesBook::SellersOfAny(const std::vector<std::string>& goods) const {
+  Sellers all;
+  for (const std::string& good : goods) {
+    for (const std::size_t base : SellersOf(good)) {
+      if (std::find(all.begin(), all.end(), base) == all.end()) all.push_back(base);
+    }
+  }
+  return all;
+}
+
 std::string LabelsOf(const BaseBook& bases, const Sellers& sellers) {
   std::string labels;
   for (const std::size_t base : sellers) {

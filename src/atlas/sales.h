@@ -23,6 +23,9 @@ class SalesBook {
   // None for a good that nobody sells.
   const Sellers& SellersOf(std::string_view good) const;
 
+  // The bases that sell any of several goods, each once.
+  Sellers SellersOfAny(const std::vector<std::string>& goods) const;
+
  private:
   std::unordered_map<std::string, Sellers> sellers_;  // by good
 };

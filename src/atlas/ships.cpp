@@ -3,6 +3,7 @@
 
 #include "atlas/families.h"
 #include "atlas/hardpoints.h"
+#include "atlas/packages.h"
 #include "atlas/sales.h"
 
 namespace orrerix {
@@ -16,6 +17,7 @@ struct Ship {
   ShipMounts Mounts;
   SourceRow Engine;  // of its package
   SourceRow Power;
+  bool HasPackage = false;
   std::size_t Sellers = 0;
   std::string SoldAt;
 
@@ -61,7 +63,7 @@ ShipColumns NameColumns() {
 ShipColumns HoldColumns() {
   return {
       ShipFigure("price", "Price (credits)",
-                 "price of the hull and of the goods in its package; empty if it is 0",
+                 "price of the hull and of the goods in its own package; empty if it is 0",
                  [](const Ship& s) { return s.Known("price"); }),
       ShipFigure("hold", "Hold (units)", "hold_size of [Ship]",
                  [](const Ship& s) { return s.Number("hold_size"); }),
@@ -140,9 +142,9 @@ ShipColumns FlightColumns() {
 
 ShipColumns SaleColumns() {
   return {ShipFigure("sellers", "Sellers (bases)",
-                     "number of bases that sell its package; empty without a package",
+                     "number of bases that sell a package with its hull; empty without a package",
                      [](const Ship& s) -> Figure {
-                       if (s.Row.Text("packagename").empty()) return std::nullopt;
+                       if (!s.HasPackage) return std::nullopt;
                        return static_cast<double>(s.Sellers);
                      }),
           ShipText("sold_at", "Sold at", "these bases, with their systems",
@@ -164,11 +166,12 @@ std::vector<Ship> ReadShips(const AtlasSource& source) {
   for (std::size_t i = 0; i < rows.RowCount(); ++i) {
     const SourceRow row = rows.Row(i);
     const std::string package = row.Text("packagename");
-    const Sellers& sellers = source.Sales.SellersOf(package);
+    const std::vector<std::string> packages = PackagesOf(source.Tables, row);
+    const Sellers sellers = source.Sales.SellersOfAny(packages);
     ships.push_back({row, source.Tables.NameOf(row.Number("ids_name")),
                      ShipMounts(source.Tables, row.Text("NickName")),
                      PartOf(source, package, "engine"), PartOf(source, package, "power"),
-                     sellers.size(), LabelsOf(source.Bases, sellers)});
+                     !packages.empty(), sellers.size(), LabelsOf(source.Bases, sellers)});
   }
   return ships;
 }

@@ -76,4 +76,9 @@ void SourceTables::ReadNames() const {
   }
 }
 
+std::string GivenName(std::string name, std::string_view nickname) {
+  const bool isMadeUp = name.starts_with(std::string(nickname) + "(") && name.ends_with(")");
+  return isMadeUp ? std::string() : name;
+}
+
 }  // namespace orrerix

@@ -74,4 +74,8 @@ class SourceTables {
   mutable bool hasNames_ = false;
 };
 
+// A name of the import that is one: empty where it is the nickname with a number in brackets, which
+// stands for a name that is missing.
+std::string GivenName(std::string name, std::string_view nickname);
+
 }  // namespace orrerix
