@@ -68,6 +68,7 @@ int Run(int argc, char** argv) {
   app.fallthrough();
   AddImportVerb(app, options, run);
   AddTableVerbs(app, options, run);
+  AddAtlasVerb(app, options, run);
   AddDiffVerb(app, options, run);
   AddWatchVerb(app, options, run);
   AddSceneVerb(app, options, run);

@@ -47,6 +47,16 @@ CLI::Option* AddText(CLI::App& app, const std::string& name, std::optional<std::
       name, [&text](const std::string& given) { text = given; }, help);
 }
 
+CLI::Option* AddRepeated(CLI::App& app, const std::string& name, std::vector<std::string>& texts,
+                         const std::string& help) {
+  return app
+      .add_option_function<std::vector<std::string>>(
+          name, [&texts](const std::vector<std::string>& given) { texts = given; }, help)
+      ->type_size(1)
+      ->expected(1)
+      ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
+}
+
 MessageAnswer PolicyMessageBoxes::Show(const Message& message) {
   fmt::print(stderr, "{}{}{}\n", message.Title, message.Title.empty() ? "" : "\n", message.Text);
   if (message.Buttons == MessageButtons::AbortRetryIgnore) {

@@ -53,6 +53,10 @@ struct CommonOptions {
 CLI::Option* AddText(CLI::App& app, const std::string& name, std::optional<std::string>& text,
                      const std::string& help);
 
+// Adds an option that takes one text each time it is given; `texts` holds them all.
+CLI::Option* AddRepeated(CLI::App& app, const std::string& name, std::vector<std::string>& texts,
+                         const std::string& help);
+
 // Answers every failure question by the chosen policy and prints it to standard error, in the
 // dialog's own words. Other messages are printed, too.
 class PolicyMessageBoxes : public MessageBoxes {

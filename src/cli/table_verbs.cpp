@@ -122,17 +122,6 @@ int RunTable(const CommonOptions& options, const TableArguments& arguments) {
   return kDone;
 }
 
-// An option that takes one text each time it is given.
-CLI::Option* AddRepeated(CLI::App& verb, const std::string& name, std::vector<std::string>& texts,
-                         const std::string& help) {
-  return verb
-      .add_option_function<std::vector<std::string>>(
-          name, [&texts](const std::vector<std::string>& given) { texts = given; }, help)
-      ->type_size(1)
-      ->expected(1)
-      ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
-}
-
 }  // namespace
 
 void AddTableVerbs(CLI::App& app, const CommonOptions& options, Verb& run) {

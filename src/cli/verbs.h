@@ -24,6 +24,7 @@ const std::map<std::string, InfoType>& InfoKinds();
 // Each of these adds a verb to the command line; `run` is set to it when its word is parsed.
 using Verb = std::function<int()>;
 void AddCheckVerb(CLI::App& app, const CommonOptions& options, Verb& run);
+void AddAtlasVerb(CLI::App& app, const CommonOptions& options, Verb& run);
 void AddImportVerb(CLI::App& app, const CommonOptions& options, Verb& run);
 void AddTableVerbs(CLI::App& app, const CommonOptions& options, Verb& run);
 void AddDiffVerb(CLI::App& app, const CommonOptions& options, Verb& run);

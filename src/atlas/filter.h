@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: MIT
+// Conditions on the rows of a table, as a player writes them: "price<=5000", "name~laser".
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "db/value.h"
+
+namespace orrerix {
+
+enum class Comparison { Is, IsNot, Holds, HoldsNot, Less, LessOrEqual, Greater, GreaterOrEqual };
+
+// A condition before its column is looked up.
+struct Filter {
+  std::string Column;
+  Comparison How = Comparison::Is;
+  std::string Text;
+  double Number = 0;  // of the four that compare by size
+};
+
+// Splits COLUMN, one of = != ~ !~ < <= > >= and a text. Nothing if one of these is missing, or if
+// no number follows where sizes are compared. Blanks around column and text do not count.
+std::optional<Filter> ParseFilter(std::string_view text);
+
+// Whether a value meets a condition. Texts compare without regard to case, whole (=) or by a part
+// (~); an empty text is (=) Null and empty. By size only numbers compare: Null and texts are
+// neither less nor greater.
+bool Meets(const Value& value, const Filter& filter);
+
+}  // namespace orrerix
