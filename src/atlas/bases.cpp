@@ -4,6 +4,8 @@
 #include <array>
 #include <set>
 
+#include <fmt/format.h>
+
 #include "atlas/families.h"
 #include "atlas/packages.h"
 #include "atlas/sales.h"
@@ -19,7 +21,7 @@ constexpr std::size_t kWares = 9;
 struct BaseRow {
   AtlasBase Base;
   std::array<std::size_t, kWares> Wares{};
-  std::string ShipNames;
+  std::vector<std::string> ShipNames;
 };
 
 struct SystemRow {
@@ -79,7 +81,9 @@ ColumnList<BaseRow> BaseColumns() {
        [](const BaseRow& row) { return Value(static_cast<std::int64_t>(row.Base.Docks)); }},
       WareColumn("ships", "Ships", "ship packages", Ware::Ship),
       {"ship_names", "Ships", "the names of these ships",
-       [](const BaseRow& row) { return TextValueOf(row.ShipNames); }},
+       [](const BaseRow& row) {
+         return TextValueOf(fmt::format("{}", fmt::join(row.ShipNames, "; ")));
+       }},
       WareColumn("commodities", "Commodities", "commodities", Ware::Commodity),
       WareColumn("guns", "Guns and turrets", "guns and turrets", Ware::Gun),
       WareColumn("missiles", "Missiles", "missiles and torpedoes", Ware::Missile),
@@ -107,9 +111,9 @@ std::vector<BaseRow> ReadBases(const AtlasSource& source) {
     const std::string ship = row.Exists() ? ShipName(row) : std::string();
     for (const std::size_t base : sellers) {
       ++rows[base].Wares[static_cast<std::size_t>(ware)];
-      if (ship.empty()) continue;
-      std::string& names = rows[base].ShipNames;
-      names += names.empty() ? ship : "; " + ship;
+      std::vector<std::string>& names = rows[base].ShipNames;
+      const bool isNew = std::find(names.begin(), names.end(), ship) == names.end();
+      if (!ship.empty() && isNew) names.push_back(ship);
     }
   }
   return rows;
