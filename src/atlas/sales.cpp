@@ -12,11 +12,8 @@ SalesBook::SalesBook(const SourceTables& tables, const BaseBook& bases) {
   for (std::size_t i = 0; i < lines.RowCount(); ++i) {
     const SourceRow line = lines.Row(i);
     if (line.Number("val5") != 0.0) continue;
-    const auto base = bases.Find(line.Text("Base"));
-    if (!base) continue;
-    Sellers& sellers = sellers_[FoldAscii(line.Text("GoodNick"))];
-    if (std::find(sellers.begin(), sellers.end(), *base) == sellers.end()) {
-      sellers.push_back(*base);
+    if (const auto base = bases.Find(line.Text("Base"))) {
+      sellers_[FoldAscii(line.Text("GoodNick"))].push_back(*base);
     }
   }
 }

@@ -11,7 +11,7 @@
 
 namespace orrerix {
 
-// The bases that sell a good, by their places in the book of bases, each once.
+// The bases that sell a good, by their places in the book of bases.
 using Sellers = std::vector<std::size_t>;
 
 // What the markets of bases sell: lines of table BaseGoods whose fifth number is 0, at bases that a

@@ -21,8 +21,8 @@ class AtlasFixture : public UniverseFixture {
 
   AtlasFixture() { db.CreateTable(mustWork, DockObjectsTable()); }
 
-  // A row of a section's table, whose fields are all texts. The table has the fields of its first
-  // row.
+  // A row of a section's table, whose fields are all texts, Null where one is empty. The table has
+  // the fields of its first row.
   void Section(const std::string& table, Texts fields) {
     if (!db.HasTable(table)) {
       TableDef definition{table, {}, {}};
@@ -33,7 +33,9 @@ class AtlasFixture : public UniverseFixture {
     }
     Recordset rows = db.OpenTable(mustWork, table);
     rows.AddNew();
-    for (const auto& [name, text] : fields) rows[name] = text;
+    for (const auto& [name, text] : fields) {
+      if (!text.empty()) rows[name] = text;
+    }
     rows.Update();
   }
 

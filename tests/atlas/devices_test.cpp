@@ -88,8 +88,11 @@ TEST_F(Devices, ThatScanOrPullShareATable) {
 TEST_F(Devices, WithoutANameOfTheirOwnTakeThatOfTheirGoodUnlessItIsMadeUp) {
   Section("thruster", {{"nickname", "a"}});
   Section("thruster", {{"nickname", "b"}});
-  Add("Goods", {{"nickname", "good_a"}, {"equipment", "A"}, {"realname", "Thruster"}});
-  Add("Goods", {{"nickname", "b"}, {"realname", "b(0)"}});
+  Add("Goods", {{"nickname", "good_a"},
+                {"equipment", "A"},
+                {"category", "equipment"},
+                {"realname", "Thruster"}});
+  Add("Goods", {{"nickname", "b"}, {"category", "equipment"}, {"realname", "b(0)"}});
 
   ExpectFields(Atlas("thrusters")[0], {{"name", "Thruster"}, {"sellers", 0}});
   ExpectFields(Atlas("thrusters")[1], {{"name", {}}});
