@@ -92,7 +92,7 @@ ColumnList<BaseRow> BaseColumns() {
       WareColumn("thrusters", "Thrusters", "thrusters", Ware::Thruster),
       WareColumn("countermeasures", "Countermeasures", "countermeasure droppers",
                  Ware::Countermeasure),
-      WareColumn("others", "Other goods", "all other goods, ammunition among them", Ware::Other)};
+      WareColumn("others", "Other goods", "all other goods, with ammunition,", Ware::Other)};
 }
 
 // Which good each base sells, good by good; every base counts a good once.

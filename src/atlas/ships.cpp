@@ -22,6 +22,11 @@ struct Ship {
   std::string SoldAt;
 
   Figure Number(std::string_view field) const { return Row.Number(field); }
+  // A figure of which 0 may be true: of ships that nobody can buy it mostly stands for a missing
+  // one.
+  Figure Counted(std::string_view field) const {
+    return HasPackage ? Row.Number(field) : Known(field);
+  }
   // A figure that no ship lacks: the universe file holds 0 where a block has none.
   Figure Known(std::string_view field) const { return UnlessZero(Row.Number(field)); }
 };
@@ -43,7 +48,7 @@ Column<Ship> ShipText(std::string id, std::string head, std::string formula,
 std::string ClassName(const Ship& ship) {
   static const std::vector<std::string> kNames = {"light fighter", "heavy fighter", "freighter",
                                                   "very heavy fighter"};
-  const Figure number = ship.Number("ship_class");
+  const Figure number = ship.Counted("ship_class");
   if (!number || *number < 0 || *number >= static_cast<double>(kNames.size())) return {};
   return kNames[static_cast<std::size_t>(*number)];
 }
@@ -56,7 +61,7 @@ ShipColumns NameColumns() {
       ShipText("type", "Type", "type of [Ship]", [](const Ship& s) { return s.Row.Text("Type"); }),
       ShipText("class", "Class",
                "ship_class of [Ship]: 0 light fighter, 1 heavy fighter, 2 freighter, 3 very "
-               "heavy fighter. The universe file holds 0 where a ship has none",
+               "heavy fighter",
                ClassName)};
 }
 
@@ -66,15 +71,15 @@ ShipColumns HoldColumns() {
                  "price of the hull and of the goods in its own package; empty if it is 0",
                  [](const Ship& s) { return s.Known("price"); }),
       ShipFigure("hold", "Hold (units)", "hold_size of [Ship]",
-                 [](const Ship& s) { return s.Number("hold_size"); }),
+                 [](const Ship& s) { return s.Counted("hold_size"); }),
       ShipFigure("hold_price", "Hold per price (units/1000 credits)", "1000 * hold_size / price",
                  [](const Ship& s) {
-                   return Product(1000.0, Quotient(s.Number("hold_size"), s.Number("price")));
+                   return Product(1000.0, Quotient(s.Counted("hold_size"), s.Number("price")));
                  }),
       ShipFigure("nanobots", "Nanobots (pieces)", "nanobot_limit of [Ship]",
-                 [](const Ship& s) { return s.Number("nanobot_limit"); }),
+                 [](const Ship& s) { return s.Counted("nanobot_limit"); }),
       ShipFigure("batteries", "Shield batteries (pieces)", "shield_battery_limit of [Ship]",
-                 [](const Ship& s) { return s.Number("shield_battery_limit"); }),
+                 [](const Ship& s) { return s.Counted("shield_battery_limit"); }),
       ShipFigure("hit_points", "Hit points (points)", "hit_pts of [Ship]; empty if it is 0",
                  [](const Ship& s) { return s.Known("hit_pts"); }),
       ShipFigure("mass", "Mass (mass)", "mass of [Ship]; empty if it is 0",
@@ -182,7 +187,8 @@ AtlasTable ShipsTable() {
   return MakeTable<Ship>(
       {"ships", "Ships",
        "All ships; `--filter sellers>0` leaves those that can be bought. Hardpoints that take "
-       "several types count once for each kind."},
+       "several types count once for each kind. The universe file holds 0 where a ship has no "
+       "number: class, hold, nanobots and batteries of 0 are shown only for ships with a package."},
       Joined<Ship>({NameColumns(), HoldColumns(), MountColumns(), FlightColumns(), SaleColumns()}),
       ReadShips);
 }

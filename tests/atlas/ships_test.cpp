@@ -49,9 +49,18 @@ TEST_F(Ships, HaveTheirFigures) {
 }
 
 TEST_F(Ships, LeaveEmptyWhatNoShipIsWithout) {
-  Add("Ships", {{"NickName", "hulk"}, {"price", 0}, {"mass", 0.0}, {"hit_pts", 0}});
+  Add("Ships", {{"NickName", "hulk"},
+                {"ship_class", 0},
+                {"price", 0},
+                {"hold_size", 0},
+                {"nanobot_limit", 0},
+                {"mass", 0.0},
+                {"hit_pts", 0}});
 
   ExpectFields(TheOnly("ships"), {{"name", {}},
+                                  {"class", {}},
+                                  {"hold", {}},
+                                  {"nanobots", {}},
                                   {"price", {}},
                                   {"hold_price", {}},
                                   {"mass", {}},
