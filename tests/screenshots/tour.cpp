@@ -164,7 +164,7 @@ void Tour::TakeSpoiler() {
 }
 
 void Tour::TakeUpdate() {
-  Update update("Version 1.1 is there", pictures_);
+  Update update("Version 1.1 is there", pictures_, Language::English);
   update.show();
   PassEvents();
   album_.Take("update", update);
