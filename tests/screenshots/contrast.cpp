@@ -190,7 +190,8 @@ void ContrastReport::Measure(const QString& picture, QWidget& window) {
           white, grey, QRectF(place.topLeft() * ratio, place.size() * ratio).toAlignedRect());
       const auto contrast =
           RatioOn(std::move(grounds), ToQColor(label->ForeColor.value_or(Color{})));
-      if (contrast) Note(std::string(PrintedName(label->Id)), *contrast, name + ": " + *label->Caption);
+      if (contrast)
+        Note(std::string(PrintedName(label->Id)), *contrast, name + ": " + *label->Caption);
     }
   }
   for (const QTableView* table : window.findChildren<QTableView*>()) {
