@@ -18,7 +18,7 @@ constexpr double kStop = 5;         // radius
 struct WayColors {
   QColor Line;
   QColor Jump;
-  QColor Halo;  // parts the line from what is below it
+  QColor Halo;  // separates the line from what is below it
 };
 
 // Paper is white.
