@@ -8,7 +8,7 @@
 #include <sqlite3.h>
 
 #include "bench_games.h"
-#include "db/engine.h"
+#include "db/engine/engine.h"
 
 namespace orrerix {
 namespace fs = std::filesystem;

@@ -10,7 +10,7 @@
 #include <benchmark/benchmark.h>
 
 #include "bench_games.h"
-#include "db/working_copy.h"
+#include "db/engine/working_copy.h"
 #include "map/redraw.h"
 #include "picture/map_scene.h"
 #include "picture/picture_store.h"

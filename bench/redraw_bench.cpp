@@ -6,7 +6,7 @@
 #include <benchmark/benchmark.h>
 
 #include "bench_games.h"
-#include "db/working_copy.h"
+#include "db/engine/working_copy.h"
 #include "map/redraw.h"
 #include "shell/version.h"
 

@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
 # One library for each folder below src/. A folder's headers are reached only through the
-# libraries that it names, so that an include across a border does not compile.
+# libraries that src/folders.txt names for it, so that an include across a border does not compile.
 
 add_library(orrerix_options INTERFACE)
 target_compile_options(orrerix_options INTERFACE
@@ -19,18 +19,35 @@ set(orrerix_common_headers
   <algorithm> <filesystem> <functional> <map> <memory> <optional> <string> <string_view> <utility>
   <vector> <fmt/format.h>)
 
-# orrerix_library(<folder> SOURCES <files> [USES <folders>] [LINKS <other libraries>]
-#                 [PRECOMPILE <headers>])
+# orrerix_folder_uses(<folder> <variable>): what src/folders.txt lets a folder include, without the
+# folders that this build leaves out.
+set_property(DIRECTORY ${CMAKE_SOURCE_DIR} APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS
+             ${CMAKE_SOURCE_DIR}/src/folders.txt)
+function(orrerix_folder_uses folder variable)
+  file(STRINGS ${CMAKE_SOURCE_DIR}/src/folders.txt line REGEX "^${folder}:")
+  if(NOT line)
+    message(FATAL_ERROR "src/folders.txt has no line for ${folder}")
+  endif()
+  string(REGEX REPLACE "^[^:]*: *" "" uses "${line}")
+  separate_arguments(uses)
+  if(NOT ORRERIX_WITH_QT)
+    list(REMOVE_ITEM uses picture forms)
+  endif()
+  set(${variable} ${uses} PARENT_SCOPE)
+endfunction()
+
+# orrerix_library(<folder> SOURCES <files> [LINKS <other libraries>] [PRECOMPILE <headers>])
 function(orrerix_library folder)
-  cmake_parse_arguments(ARG "" "" "SOURCES;USES;LINKS;PRECOMPILE" ${ARGN})
+  cmake_parse_arguments(ARG "" "" "SOURCES;LINKS;PRECOMPILE" ${ARGN})
   set(target orrerix_${folder})
   set(includes ${CMAKE_BINARY_DIR}/include/${folder})
   file(MAKE_DIRECTORY ${includes})
   file(CREATE_LINK ${CMAKE_CURRENT_SOURCE_DIR} ${includes}/${folder} SYMBOLIC)
   add_library(${target} STATIC ${ARG_SOURCES})
   target_include_directories(${target} PUBLIC ${includes})
-  list(TRANSFORM ARG_USES PREPEND orrerix_)
-  target_link_libraries(${target} PUBLIC ${ARG_USES} ${ARG_LINKS} PRIVATE orrerix_options
+  orrerix_folder_uses(${folder} uses)
+  list(TRANSFORM uses PREPEND orrerix_)
+  target_link_libraries(${target} PUBLIC ${uses} ${ARG_LINKS} PRIVATE orrerix_options
                         fmt::fmt)
   target_precompile_headers(${target} PRIVATE ${orrerix_common_headers} ${ARG_PRECOMPILE})
 endfunction()

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "import/ini_reader.h"
+#include "import/ini/ini_reader.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -8,7 +8,7 @@
 #include <fstream>
 #include <string>
 
-#include "db/engine.h"
+#include "db/engine/engine.h"
 #include "db/schema.h"
 #include "import/import_state.h"
 #include "shell/error_log.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "import/packed_ini.h"
+#include "import/ini/packed_ini.h"
 
 #include <cstddef>
 #include <cstdint>

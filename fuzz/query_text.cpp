@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "db/query_text.h"
+#include "db/engine/query_text.h"
 
 #include <cstddef>
 #include <cstdint>
 #include <string_view>
 
-#include "db/engine.h"
+#include "db/engine/engine.h"
 
 namespace {
 

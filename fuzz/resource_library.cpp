@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "import/resource_library.h"
+#include "import/resources/resource_library.h"
 
 #include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
 
-#include "import/info_card.h"
+#include "import/resources/info_card.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const auto library = orrerix::ResourceLibrary::Open({reinterpret_cast<const char*>(data), size});

@@ -9,8 +9,8 @@
 #include <string_view>
 #include <vector>
 
-#include "db/text.h"
-#include "db/value.h"
+#include "db/values/text.h"
+#include "db/values/value.h"
 
 namespace orrerix {
 

@@ -9,7 +9,7 @@
 #include "atlas/families.h"
 #include "atlas/packages.h"
 #include "atlas/sales.h"
-#include "db/text.h"
+#include "db/values/text.h"
 
 namespace orrerix {
 namespace {

@@ -5,7 +5,7 @@
 
 #include "atlas/families.h"
 #include "atlas/sales.h"
-#include "db/text.h"
+#include "db/values/text.h"
 
 namespace orrerix {
 namespace {

@@ -5,8 +5,8 @@
 #include <cstdint>
 #include <string>
 
-#include "db/number_text.h"
-#include "db/text.h"
+#include "db/values/number_text.h"
+#include "db/values/text.h"
 
 namespace orrerix {
 namespace {

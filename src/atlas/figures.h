@@ -5,7 +5,7 @@
 #include <optional>
 #include <string_view>
 
-#include "db/value.h"
+#include "db/values/value.h"
 
 namespace orrerix {
 

@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "db/value.h"
+#include "db/values/value.h"
 
 namespace orrerix {
 

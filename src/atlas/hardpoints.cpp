@@ -5,7 +5,7 @@
 
 #include <fmt/format.h>
 
-#include "db/text.h"
+#include "db/values/text.h"
 
 namespace orrerix {
 namespace {

@@ -9,7 +9,7 @@
 
 namespace orrerix {
 
-// The packages of a row of Ships: its own one first, then all others whose hull is the ship's.
+// The packages of a row of Ships: first its own package, then all others with the ship's hull.
 std::vector<std::string> PackagesOf(const SourceTables& tables, const SourceRow& ship);
 
 // The row of Ships that a good of category ship stands for; none if there is none.

@@ -2,7 +2,7 @@
 #include "atlas/registry.h"
 
 #include "atlas/families.h"
-#include "db/text.h"
+#include "db/values/text.h"
 
 namespace orrerix {
 

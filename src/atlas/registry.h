@@ -9,7 +9,7 @@
 
 #include "atlas/atlas_table.h"
 #include "atlas/sales.h"
-#include "db/stored_table.h"
+#include "db/rows/stored_table.h"
 
 namespace orrerix {
 

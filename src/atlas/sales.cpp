@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-#include "db/text.h"
+#include "db/values/text.h"
 
 namespace orrerix {
 

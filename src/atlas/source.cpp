@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "atlas/source.h"
 
-#include "db/text.h"
+#include "db/values/text.h"
 
 namespace orrerix {
 

@@ -7,7 +7,7 @@
 #include <tuple>
 
 #include "check/sha256.h"
-#include "db/text.h"
+#include "db/values/text.h"
 
 namespace orrerix::check {
 namespace {

@@ -9,7 +9,7 @@
 #include "cli/temporary_folder.h"
 #include "cli/universe_import.h"
 #include "cli/verbs.h"
-#include "db/text.h"
+#include "db/values/text.h"
 #include "diff/report.h"
 
 namespace orrerix {

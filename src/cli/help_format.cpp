@@ -15,7 +15,7 @@ std::string ArgumentText(const CLI::Option& option) {
   std::string text = option.get_positional() ? option.get_name(true) : option.get_name();
   const std::string type = option.get_type_name();
   if (!option.get_positional() && !type.empty()) {
-    // Of a choice the words alone say enough.
+    // The values of a choice say enough by themselves.
     text += " " + type.substr(type.find('{') == std::string::npos ? 0 : type.find('{'));
   }
   if (!option.get_required()) text = "[" + text + "]";

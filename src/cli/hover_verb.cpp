@@ -3,7 +3,7 @@
 
 #include "cli/opened_universe.h"
 #include "cli/verbs.h"
-#include "info/hover_text.h"
+#include "info/texts/hover_text.h"
 
 namespace orrerix {
 namespace {

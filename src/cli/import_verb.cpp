@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// import: build the universe file anew.
+// import: build the universe file.
 #include <memory>
 #include <optional>
 

@@ -9,7 +9,7 @@
 namespace orrerix {
 
 // The finished universe file, open for reading, with the failure policy and the language that the
-// words ask for. Throws CouldNot if the file cannot be read.
+// arguments ask for. Throws CouldNot if the file cannot be read.
 class OpenedUniverse {
  public:
   explicit OpenedUniverse(const CommonOptions& options)

@@ -8,8 +8,8 @@
 #include <fmt/format.h>
 
 #include "cli/spelling.h"
-#include "db/text.h"
-#include "db/working_copy.h"
+#include "db/engine/working_copy.h"
+#include "db/values/text.h"
 #include "platform/native_registry.h"
 #include "shell/game_registry.h"
 #include "shell/startup.h"

@@ -13,7 +13,7 @@
 
 #include <CLI/CLI.hpp>
 
-#include "db/engine.h"
+#include "db/engine/engine.h"
 #include "platform/message_box.h"
 #include "shell/error_log.h"
 #include "shell/text_id.h"
@@ -32,7 +32,7 @@ struct CouldNot : std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
-// The words were wrong.
+// The arguments were wrong.
 struct WrongUsage : std::runtime_error {
   using std::runtime_error::runtime_error;
 };
@@ -58,7 +58,7 @@ CLI::Option* AddRepeated(CLI::App& app, const std::string& name, std::vector<std
                          const std::string& help);
 
 // Answers every failure question by the chosen policy and prints it to standard error, in the
-// dialog's own words. Other messages are printed, too.
+// dialog's own text. Other messages are printed, too.
 class PolicyMessageBoxes : public MessageBoxes {
  public:
   explicit PolicyMessageBoxes(const CommonOptions& options) : options_(options) {}

@@ -5,9 +5,9 @@
 #include <charconv>
 
 #include "cli/verbs.h"
-#include "db/text.h"
-#include "info/hover_box.h"
-#include "info/text_info_box.h"
+#include "db/values/text.h"
+#include "info/boxes/hover_box.h"
+#include "info/boxes/text_info_box.h"
 #include "map/gestures.h"
 
 namespace orrerix {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// One picture of the map as the command line's words ask for it.
+// One picture of the map as the command line's arguments ask for it.
 #pragma once
 
 #include <optional>

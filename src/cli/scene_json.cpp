@@ -7,15 +7,15 @@
 
 #include <fmt/format.h>
 
-#include "db/number_text.h"
-#include "map/system_pictures.h"
+#include "db/values/number_text.h"
+#include "map/layers/system_pictures.h"
 
 namespace orrerix {
 namespace {
 
 using Json = nlohmann::ordered_json;
 
-// Whole numbers are written as such.
+// Whole numbers are written without a fraction.
 Json Number(double number) {
   constexpr double largestExact = 9007199254740992.0;
   if (number == std::floor(number) && std::abs(number) < largestExact) {

@@ -5,7 +5,7 @@
 #include <nlohmann/json.hpp>
 
 #include "cli/scene.h"
-#include "info/price_table.h"
+#include "info/station/price_table.h"
 
 namespace orrerix {
 

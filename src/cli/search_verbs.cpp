@@ -11,8 +11,8 @@
 #include "cli/json_text.h"
 #include "cli/opened_universe.h"
 #include "cli/verbs.h"
-#include "db/text.h"
-#include "info/search.h"
+#include "db/values/text.h"
+#include "info/search/search.h"
 
 namespace orrerix {
 namespace {

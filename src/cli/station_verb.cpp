@@ -8,7 +8,7 @@
 #include "cli/scene.h"
 #include "cli/scene_json.h"
 #include "cli/verbs.h"
-#include "info/station_layout.h"
+#include "info/station/station_layout.h"
 
 namespace orrerix {
 namespace {

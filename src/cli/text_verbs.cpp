@@ -8,7 +8,7 @@
 #include "cli/json_text.h"
 #include "cli/opened_universe.h"
 #include "cli/verbs.h"
-#include "import/resource_strings.h"
+#include "import/resources/resource_strings.h"
 
 namespace orrerix {
 

@@ -8,7 +8,7 @@
 #include "cli/json_text.h"
 #include "cli/travel_options.h"
 #include "cli/verbs.h"
-#include "db/text.h"
+#include "db/values/text.h"
 #include "routes/places.h"
 #include "routes/trades.h"
 

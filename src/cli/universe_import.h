@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "cli/options.h"
-#include "import/crunching.h"
+#include "import/resources/crunching.h"
 #include "shell/error_log.h"
 
 namespace orrerix {

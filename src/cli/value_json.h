@@ -3,7 +3,7 @@
 
 #include <nlohmann/json.hpp>
 
-#include "db/value.h"
+#include "db/values/value.h"
 
 namespace orrerix {
 

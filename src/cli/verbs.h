@@ -10,7 +10,7 @@
 #include <CLI/CLI.hpp>
 
 #include "cli/options.h"
-#include "info/info_text.h"
+#include "info/texts/info_text.h"
 #include "map/drawing_list.h"
 
 namespace orrerix {
@@ -18,7 +18,7 @@ namespace orrerix {
 // Answers with one text: as it is, or as {"text": ...}.
 void AnswerText(const CommonOptions& options, const std::string& text);
 
-// The words for what info texts are about.
+// The names of the kinds of info texts.
 const std::map<std::string, InfoType>& InfoKinds();
 
 // Each of these adds a verb to the command line; `run` is set to it when its word is parsed.

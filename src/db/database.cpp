@@ -7,10 +7,10 @@
 
 #include <fmt/format.h>
 
-#include "db/connection.h"
-#include "db/query_text.h"
+#include "db/engine/connection.h"
+#include "db/engine/query_text.h"
 #include "db/schema_aside.h"
-#include "db/text.h"
+#include "db/values/text.h"
 
 namespace orrerix {
 namespace {

@@ -13,14 +13,14 @@
 #include <string_view>
 #include <vector>
 
-#include "db/appender.h"
 #include "db/failure.h"
-#include "db/held_rows.h"
-#include "db/recordset.h"
-#include "db/stored_table.h"
-#include "db/table_def.h"
-#include "db/unique_numbers.h"
-#include "db/value.h"
+#include "db/rows/appender.h"
+#include "db/rows/held_rows.h"
+#include "db/rows/recordset.h"
+#include "db/rows/stored_table.h"
+#include "db/rows/table_def.h"
+#include "db/rows/unique_numbers.h"
+#include "db/values/value.h"
 
 struct sqlite3;
 

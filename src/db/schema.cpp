@@ -6,7 +6,7 @@
 #include <set>
 #include <string>
 
-#include "db/text.h"
+#include "db/values/text.h"
 
 namespace orrerix {
 namespace {

@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "db/table_def.h"
+#include "db/rows/table_def.h"
 
 namespace orrerix {
 

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "db/connection.h"
+#include "db/engine/connection.h"
 
 namespace orrerix {
 

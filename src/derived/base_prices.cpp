@@ -3,7 +3,7 @@
 
 #include <cmath>
 
-#include "db/text.h"
+#include "db/values/text.h"
 #include "derived/lookup.h"
 #include "platform/tick_count.h"
 #include "shell/routine.h"

@@ -3,9 +3,9 @@
 
 #include <array>
 
-#include "db/text.h"
+#include "db/values/text.h"
 #include "derived/lookup.h"
-#include "import/resource_strings.h"
+#include "import/resources/resource_strings.h"
 #include "shell/routine.h"
 
 namespace orrerix {

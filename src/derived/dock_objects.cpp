@@ -2,7 +2,7 @@
 #include "derived/dock_objects.h"
 
 #include "db/schema.h"
-#include "db/text.h"
+#include "db/values/text.h"
 #include "derived/lookup.h"
 #include "derived/system_grid.h"
 #include "shell/routine.h"

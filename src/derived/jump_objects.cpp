@@ -4,10 +4,10 @@
 #include <fmt/format.h>
 
 #include "db/schema.h"
-#include "db/text.h"
+#include "db/values/text.h"
 #include "derived/lookup.h"
 #include "derived/system_grid.h"
-#include "import/block_text.h"
+#include "import/ini/block_text.h"
 #include "shell/routine.h"
 
 namespace orrerix {

@@ -3,7 +3,7 @@
 
 #include <fmt/format.h>
 
-#include "db/text.h"
+#include "db/values/text.h"
 
 namespace orrerix {
 

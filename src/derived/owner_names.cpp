@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "derived/owner_names.h"
 
-#include "db/text.h"
-#include "import/resource_strings.h"
+#include "db/values/text.h"
+#include "import/resources/resource_strings.h"
 #include "shell/routine.h"
 
 namespace orrerix {
 namespace {
 
-// The three lookups are alike but for their words, the number that they read and the text of it.
+// The three lookups are alike but for their messages, the number that they read and the text of it.
 template <typename TextOf>
 std::string LookUp(Universe& universe, std::string_view source, std::string_view what,
                    std::string_view preset, std::string_view field, std::string_view nickname,

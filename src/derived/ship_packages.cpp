@@ -3,7 +3,7 @@
 
 #include <fmt/format.h>
 
-#include "db/text.h"
+#include "db/values/text.h"
 #include "derived/lookup.h"
 #include "shell/routine.h"
 
@@ -34,8 +34,10 @@ class PackageStage {
 
  private:
   Recordset Goods(std::string_view condition, const std::string& nickname) {
-    return universe_.DB.OpenRecordset(
-        routine_, "SELECT * from Goods WHERE " + std::string(condition), {Ucase(nickname)});
+    return routine_.Or(Recordset(), [&] {
+      return universe_.DB.OpenRecordset(
+          routine_, "SELECT * from Goods WHERE " + std::string(condition), {Ucase(nickname)});
+    });
   }
 
   void TakeHull(Recordset& ship) {

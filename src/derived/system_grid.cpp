@@ -3,10 +3,10 @@
 
 #include <fmt/format.h>
 
-#include "db/number_text.h"
-#include "db/text.h"
-#include "import/block_text.h"
-#include "import/ini_text.h"
+#include "db/values/number_text.h"
+#include "db/values/text.h"
+#include "import/ini/block_text.h"
+#include "import/ini/ini_text.h"
 
 namespace orrerix {
 namespace {

@@ -6,7 +6,7 @@
 #include <fmt/format.h>
 
 #include "db/schema.h"
-#include "db/text.h"
+#include "db/values/text.h"
 #include "derived/lookup.h"
 #include "derived/system_grid.h"
 #include "shell/routine.h"
@@ -71,7 +71,8 @@ class LaneStage {
         break;
       }
       visited.insert(Ucase(target));
-      target = Trim(ring["next_ring"].Get().Text());
+      target =
+          routine_.Or(target, [&] { return std::string(Trim(ring["next_ring"].Get().Text())); });
       if (visited.contains(Ucase(target))) break;
     }
     return ring;

@@ -5,7 +5,7 @@
 #include <array>
 #include <optional>
 
-#include "db/text.h"
+#include "db/values/text.h"
 
 namespace orrerix {
 namespace {

@@ -7,7 +7,7 @@
 #include <unordered_map>
 #include <vector>
 
-#include "db/stored_table.h"
+#include "db/rows/stored_table.h"
 
 namespace orrerix {
 

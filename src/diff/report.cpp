@@ -6,7 +6,7 @@
 
 #include <fmt/format.h>
 
-#include "db/text.h"
+#include "db/values/text.h"
 
 namespace orrerix {
 namespace {
@@ -90,7 +90,7 @@ class SectionWriter {
     return things;
   }
 
-  // A row that has a name of its own tells it best.
+  // A name of its own identifies a row best.
   std::string NameIn(const Row& row, std::size_t column, const std::string& nickname) const {
     if (const std::string_view known = names_.NameOf(nickname); !known.empty()) {
       return std::string(known);

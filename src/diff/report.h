@@ -45,7 +45,7 @@ struct Report {
   std::vector<ReportSection> Sections;
 };
 
-// Puts differences into words. `old` and `now` name the two sides.
+// Writes differences as text. `old` and `now` name the two sides.
 Report MakeReport(const UniverseDiff& diff, const NameBook& names, std::string old,
                   std::string now);
 

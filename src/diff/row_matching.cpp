@@ -6,7 +6,7 @@
 #include <unordered_map>
 #include <unordered_set>
 
-#include "db/text.h"
+#include "db/values/text.h"
 
 namespace orrerix {
 namespace {
@@ -15,7 +15,7 @@ bool IsTableOfTexts(std::string_view table) {
   return EqualIgnoringCase(table, "ids_name") || EqualIgnoringCase(table, "ids_info");
 }
 
-// Numbers that each import draws or counts anew.
+// Numbers that each import draws or counts afresh.
 bool IsOfTheImport(std::string_view table, std::string_view column) {
   if (EqualIgnoringCase(column, "OX_ID")) return true;
   return EqualIgnoringCase(column, "ID") && !IsTableOfTexts(table);

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "db/stored_table.h"
+#include "db/rows/stored_table.h"
 
 namespace orrerix {
 
@@ -23,7 +23,7 @@ struct SharedColumn {
 // only the old one has.
 std::vector<SharedColumn> ColumnsThatCount(const TableDef& old, const TableDef& now);
 
-// The places of the columns that tell the rows of two tables apart.
+// The columns that identify a row in both tables, by position.
 std::vector<std::size_t> KeyColumns(const StoredTable& old, const StoredTable& now,
                                     const std::vector<SharedColumn>& columns);
 

@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <map>
 
-#include "db/text.h"
+#include "db/values/text.h"
 #include "diff/row_matching.h"
 #include "tables/value_order.h"
 

@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "db/database.h"
-#include "db/stored_table.h"
+#include "db/rows/stored_table.h"
 
 namespace orrerix {
 

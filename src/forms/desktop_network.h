@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// Fetches from the network for the windows.
 #pragma once
 
 #include <QNetworkAccessManager>

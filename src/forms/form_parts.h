@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// What the forms are handed at the start.
 #pragma once
 
 #include <filesystem>

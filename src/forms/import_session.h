@@ -11,7 +11,7 @@
 namespace orrerix {
 
 // Holds the folder of the universe file for as long as it lives. It runs in the form's own event
-// loop, so that the form stays alive meanwhile; whoever wants it to end calls End.
+// loop, so that the form stays alive meanwhile; End ends it.
 class ImportSession {
  public:
   enum class Result {

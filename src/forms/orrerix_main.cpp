@@ -11,14 +11,14 @@
 
 #include <fmt/format.h>
 
-#include "db/number_text.h"
+#include "db/values/number_text.h"
 #include "forms/controls/captions.h"
 #include "forms/controls/form_geometry.h"
 #include "forms/print_form.h"
 #include "forms/start/import_screen_layout.h"
 #include "import/log_entry.h"
 #include "map/game_sounds.h"
-#include "map/map_places.h"
+#include "map/grid/map_places.h"
 #include "online/web_pages.h"
 #include "platform/game_path.h"
 #include "shell/files.h"

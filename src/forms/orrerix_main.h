@@ -7,8 +7,8 @@
 #include <functional>
 #include <optional>
 
-#include "db/engine.h"
-#include "db/working_copy.h"
+#include "db/engine/engine.h"
+#include "db/engine/working_copy.h"
 #include "forms/form_parts.h"
 #include "forms/import_session.h"
 #include "forms/map/map_controller.h"
@@ -21,14 +21,14 @@
 #include "forms/map/tools_entry.h"
 #include "forms/reentry.h"
 #include "forms/start/import_screen.h"
-#include "forms/station/station_windows.h"
+#include "forms/station/station_info.h"
 #include "forms/workbench/tools.h"
 #include "online/news.h"
 #include "shell/startup.h"
 
 namespace orrerix {
 
-// The main form. It shows one of three screens, decided anew by every redraw: first run, importing,
+// The main form. It shows one of three screens, chosen by every redraw: first run, importing,
 // or the map.
 class OrrerixMain : public QWidget, public WorkbenchHost, private MapHost {
  public:
@@ -47,7 +47,7 @@ class OrrerixMain : public QWidget, public WorkbenchHost, private MapHost {
   // Shows it over the whole screen.
   void ShowMaximised();
 
-  // The one redraw of the form; whoever changes what the map shows calls it.
+  // The one redraw of the form; everything that changes what the map shows calls it.
   void Redraw() override;
 
   // Prints the map as it is shown, on white paper: the form is a square of the screen's height

@@ -4,7 +4,7 @@
 #include <QApplication>
 #include <QScreen>
 
-#include "db/number_text.h"
+#include "db/values/number_text.h"
 #include "forms/start/spoiler.h"
 #include "map/game_sounds.h"
 #include "online/news_loader.h"

@@ -42,7 +42,7 @@ QMessageBox::StandardButtons ButtonsOf(MessageButtons buttons) {
   return QMessageBox::Ok;
 }
 
-// The drawing for a sign; none for a message without one.
+// The drawing of an icon; none for a message without one.
 QString FileOf(MessageIcon icon) {
   switch (icon) {
     case MessageIcon::Critical:

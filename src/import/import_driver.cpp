@@ -6,10 +6,10 @@
 #include <fmt/format.h>
 
 #include "db/schema.h"
-#include "db/text.h"
-#include "import/crunching.h"
-#include "import/ini_reader.h"
-#include "import/resource_strings.h"
+#include "db/values/text.h"
+#include "import/ini/ini_reader.h"
+#include "import/resources/crunching.h"
+#include "import/resources/resource_strings.h"
 #include "shell/files.h"
 #include "shell/language_texts.h"
 #include "shell/routine.h"
@@ -156,7 +156,9 @@ class ImportRun {
       if (k + 1 < count) CleanUp();
     }
     import_.ProgressIt(count, count);
-    host_.AppendText("\r\n\r\n" + std::string(TextIn(host_.Speech(), TextId::ImportDone)));
+    routine_.Try([&] {
+      host_.AppendText("\r\n\r\n" + std::string(TextIn(host_.Speech(), TextId::ImportDone)));
+    });
     host_.Yield();
   }
 

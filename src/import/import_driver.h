@@ -7,9 +7,9 @@
 #include <string_view>
 #include <vector>
 
-#include "db/engine.h"
-#include "import/crunching.h"
+#include "db/engine/engine.h"
 #include "import/import_state.h"
+#include "import/resources/crunching.h"
 #include "shell/version.h"
 
 namespace orrerix {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What long work asks of whoever runs it: the window or the command line.
+// What long work asks of its host: the window or the command line.
 #pragma once
 
 #include <cstdint>

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "import/import_host.h"
-#include "import/section_tables.h"
+#include "import/sections/section_tables.h"
 #include "import/universe.h"
 #include "platform/game_path.h"
 #include "shell/routine.h"

@@ -4,8 +4,8 @@
 #include <fstream>
 #include <sstream>
 
-#include "db/text.h"
-#include "import/ini_text.h"
+#include "db/values/text.h"
+#include "import/ini/ini_text.h"
 
 namespace orrerix {
 namespace fs = std::filesystem;

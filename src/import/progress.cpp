@@ -5,7 +5,7 @@
 
 #include <fmt/format.h>
 
-#include "db/number_text.h"
+#include "db/values/number_text.h"
 
 namespace orrerix {
 namespace {

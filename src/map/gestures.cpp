@@ -5,7 +5,7 @@
 #include <cmath>
 
 #include "map/game_sounds.h"
-#include "map/numeric.h"
+#include "map/grid/numeric.h"
 
 namespace orrerix {
 namespace {

@@ -4,10 +4,10 @@
 #include <algorithm>
 #include <utility>
 
-#include "map/borders.h"
-#include "map/cell_layers.h"
-#include "map/map_layers.h"
-#include "map/numeric.h"
+#include "map/grid/numeric.h"
+#include "map/layers/borders.h"
+#include "map/layers/cell_layers.h"
+#include "map/layers/map_layers.h"
 #include "shell/routine.h"
 
 namespace orrerix {

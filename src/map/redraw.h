@@ -7,13 +7,13 @@
 #include <vector>
 
 #include "import/universe.h"
-#include "map/cell_geometry.h"
 #include "map/drawing_list.h"
-#include "map/map_coords.h"
-#include "map/map_options.h"
-#include "map/side_panel.h"
-#include "map/text_measure.h"
-#include "map/zoom.h"
+#include "map/grid/cell_geometry.h"
+#include "map/grid/map_coords.h"
+#include "map/grid/text_measure.h"
+#include "map/grid/zoom.h"
+#include "map/panel/map_options.h"
+#include "map/panel/side_panel.h"
 
 namespace orrerix {
 

@@ -3,8 +3,8 @@
 
 #include <fmt/format.h>
 
-#include "db/number_text.h"
-#include "db/text.h"
+#include "db/values/number_text.h"
+#include "db/values/text.h"
 
 namespace orrerix {
 namespace {

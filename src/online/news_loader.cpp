@@ -6,7 +6,7 @@
 
 #include <fmt/format.h>
 
-#include "import/windows1252.h"
+#include "import/resources/windows1252.h"
 #include "shell/language_texts.h"
 #include "shell/routine.h"
 

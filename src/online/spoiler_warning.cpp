@@ -5,10 +5,10 @@
 #include <fstream>
 #include <iterator>
 
-#include "db/engine.h"
-#include "db/text.h"
-#include "import/ini_text.h"
-#include "import/windows1252.h"
+#include "db/engine/engine.h"
+#include "db/values/text.h"
+#include "import/ini/ini_text.h"
+#include "import/resources/windows1252.h"
 #include "shell/language_texts.h"
 
 namespace orrerix {

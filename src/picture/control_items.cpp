@@ -157,9 +157,9 @@ class LineItem : public ControlItem {
     painter.drawLine(part);
   }
 
-  // Pure blue is hardly seen on a dark sky. Between two light edges it is, and whoever sees no
-  // blue can tell a lane from a gate's line by them. Grey dots need a dark background on bright
-  // gas.
+  // Pure blue is hardly visible on a dark sky, so it is drawn between two light edges, by which
+  // colour-blind players can tell a lane from a gate's line as well. Grey dots get a dark edge
+  // for bright gas.
   static void DrawUnder(QPainter& painter, const QLineF& part, const QColor& color, double ratio) {
     QPen pen(color, 3 * ratio);
     pen.setCosmetic(true);

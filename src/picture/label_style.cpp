@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "picture/label_style.h"
 
-#include "map/map_options.h"
+#include "map/panel/map_options.h"
 
 namespace orrerix {
 namespace {

@@ -31,8 +31,8 @@ QRectF MapScene::OpenPart(const MapDrawing& drawing) {
   return open;
 }
 
-// Drops the items from the first control on that the next drawing does not begin with too, and
-// tells how many are left. What the panel leaves open is part of an item.
+// Drops the items from the first control on in which the next drawing differs, and returns how
+// many are left. The area that the panel leaves open belongs to an item.
 std::size_t MapScene::KeepItems(const MapDrawing& next) {
   std::size_t kept = 0;
   if (OpenPart(next) == OpenPart(drawing_) && next.PrintMode == drawing_.PrintMode) {

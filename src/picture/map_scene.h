@@ -30,7 +30,7 @@ class MapScene : public QGraphicsScene {
   explicit MapScene(PictureStore& pictures, QObject* parent = nullptr);
   ~MapScene() override;
 
-  // Shows a new list in the place of the one before; what both begin with is not painted anew.
+  // Shows a new list in the place of the one before; what both begin with is not painted again.
   // What stands in front stays.
   void Show(MapDrawing drawing);
 

@@ -50,8 +50,8 @@ class PictureStore {
   // Its own size, or that of the drawing in its place; empty if the file is no picture.
   QSize NaturalSize(const QString& file);
 
-  // Called when a file is wanted and none was before. ReadWanted reads one of them, for whoever
-  // draws next.
+  // Called when a file is wanted and none was before. ReadWanted reads one of them, for callers
+  // that draws next.
   std::function<void()> OnWanted;
   bool IsWanting() const { return !wanted_.empty(); }
   void ReadWanted();

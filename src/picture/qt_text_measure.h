@@ -6,7 +6,7 @@
 #include <string>
 #include <utility>
 
-#include "map/text_measure.h"
+#include "map/grid/text_measure.h"
 #include "picture/form_font.h"
 
 namespace orrerix {

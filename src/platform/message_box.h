@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// Questions and remarks to the user.
 #pragma once
 
 #include <string>

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// What is fetched from the network.
 #pragma once
 
 #include <stdexcept>
@@ -6,7 +7,7 @@
 
 namespace orrerix {
 
-// Why nothing was fetched, in words for the player.
+// Why nothing was fetched, as a message for the player.
 struct NetworkError : std::runtime_error {
   using std::runtime_error::runtime_error;
 };

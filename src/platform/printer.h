@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// The printers of the machine.
 #pragma once
 
 #include <filesystem>

@@ -5,7 +5,7 @@
 #include <iterator>
 #include <optional>
 
-#include "import/packed_ini.h"
+#include "import/ini/packed_ini.h"
 
 namespace orrerix {
 namespace {

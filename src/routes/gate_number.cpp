@@ -3,8 +3,8 @@
 
 #include <array>
 
-#include "db/text.h"
-#include "import/windows1252.h"
+#include "db/values/text.h"
+#include "import/resources/windows1252.h"
 
 namespace orrerix {
 namespace {

@@ -6,7 +6,7 @@
 #include <map>
 #include <unordered_map>
 
-#include "db/text.h"
+#include "db/values/text.h"
 #include "routes/table_rows.h"
 
 namespace orrerix {

@@ -4,8 +4,8 @@
 #include <algorithm>
 #include <string>
 
-#include "db/number_text.h"
-#include "db/text.h"
+#include "db/values/number_text.h"
+#include "db/values/text.h"
 #include "routes/game_lines.h"
 #include "routes/table_rows.h"
 

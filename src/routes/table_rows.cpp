@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "routes/table_rows.h"
 
-#include "db/table_def.h"
+#include "db/rows/table_def.h"
 
 namespace orrerix {
 

@@ -5,8 +5,8 @@
 #include <cmath>
 #include <unordered_map>
 
-#include "db/number_text.h"
-#include "db/text.h"
+#include "db/values/number_text.h"
+#include "db/values/text.h"
 #include "routes/gate_number.h"
 #include "routes/table_rows.h"
 

@@ -5,7 +5,7 @@
 #include <cmath>
 #include <tuple>
 
-#include "db/text.h"
+#include "db/values/text.h"
 
 namespace orrerix {
 namespace {

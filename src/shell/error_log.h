@@ -58,7 +58,7 @@ class ErrorLog {
   const std::string& DataLog() const { return dataLog_; }
   const std::string& ProgramLog() const { return programLog_; }
 
-  // How often the texts have begun anew; in between they only grow.
+  // How often the texts were restarted; in between they only grow.
   int Loads() const { return loads_; }
 
   // What came in since the program started, whatever became of the window.

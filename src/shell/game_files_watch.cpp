@@ -5,7 +5,7 @@
 #include <set>
 #include <utility>
 
-#include "db/text.h"
+#include "db/values/text.h"
 
 namespace orrerix {
 namespace fs = std::filesystem;

@@ -3,7 +3,7 @@
 
 #include <fmt/format.h>
 
-#include "db/number_text.h"
+#include "db/values/number_text.h"
 #include "shell/files.h"
 #include "shell/routine.h"
 

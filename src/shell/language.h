@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-#include "db/engine.h"
+#include "db/engine/engine.h"
 #include "shell/error_log.h"
 #include "shell/language_texts.h"
 
@@ -35,7 +35,7 @@ class FixedLanguage : public TextSource {
 };
 
 // Texts read from "FLOX-Language.mdb" in the application folder: tables "Lang0" to "Lang9", of
-// which the program fills one for each language. A missing file is made anew.
+// which the program fills one for each language. A missing file is created.
 class LanguageFile : public TextSource {
  public:
   // `choice` must outlive this.

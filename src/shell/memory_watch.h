@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <string>
 
-#include "db/number_text.h"
+#include "db/values/number_text.h"
 #include "platform/memory_status.h"
 #include "shell/text_id.h"
 

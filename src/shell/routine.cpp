@@ -3,7 +3,7 @@
 
 #include <utility>
 
-#include "db/number_text.h"
+#include "db/values/number_text.h"
 
 namespace orrerix {
 

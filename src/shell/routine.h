@@ -2,6 +2,7 @@
 // The frame of every function of substance: where a failure stops, and what the user decides.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <optional>
@@ -24,6 +25,11 @@ class Routine : public FailureSink {
   // reads beside it, made only if something fails.
   Routine(ErrorLog& log, std::string_view source, InfoText info);
   Routine(ErrorLog& log, std::string_view source, std::string_view info = {});
+  // A literal needs no memory, for there is no frame yet that would report a lack of it.
+  template <std::size_t N>
+  Routine(ErrorLog& log, std::string_view source, const char (&info)[N])
+      : Routine(log, source,
+                [text = static_cast<const char*>(info)] { return std::string(text); }) {}
   Routine(const Routine&) = delete;
   Routine& operator=(const Routine&) = delete;
 

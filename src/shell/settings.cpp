@@ -43,7 +43,7 @@ Settings::Settings(ErrorLog& log, const fs::path& applicationFolder, JetVersionO
     : log_(log), path_(applicationFolder / "FLOX-Settings.mdb"), option_(option) {}
 
 std::string Settings::ReadSetting(const std::string& key) {
-  // A file made anew holds all keys; one that still lacks this key will never have it.
+  // A new file holds all keys; one that still lacks this key will never have it.
   for (int attempt = 0; attempt < 2; ++attempt) {
     std::optional<std::string> found;
     Routine routine(log_, "Settings.ReadSetting", "While reading setting: " + key);

@@ -5,13 +5,13 @@
 #include <filesystem>
 #include <string>
 
-#include "db/engine.h"
+#include "db/engine/engine.h"
 #include "shell/error_log.h"
 
 namespace orrerix {
 
-// Rows of "FLOX-Settings.mdb" in the application folder, opened anew for each call. A missing file,
-// or one that lacks a key, is made again with the defaults.
+// Rows of "FLOX-Settings.mdb" in the application folder, opened again for each call. A missing
+// file, or one that lacks a key, is made again with the defaults.
 class Settings {
  public:
   Settings(ErrorLog& log, const std::filesystem::path& applicationFolder, JetVersionOption option);

@@ -6,7 +6,7 @@
 #include <optional>
 #include <string>
 
-#include "db/engine.h"
+#include "db/engine/engine.h"
 #include "platform/message_box.h"
 #include "shell/error_log.h"
 #include "shell/game_registry.h"

@@ -136,6 +136,7 @@ enum class TextId : int {
   SeverityWarning,
   SeverityNote,
   HeadPlace,
+  HeadLine,
   HeadSeverity,
   HeadMessage,
   HeadNickname,
@@ -253,7 +254,7 @@ enum class TextId : int {
 inline constexpr int kStoredTexts = 29;
 inline constexpr int kTexts = static_cast<int>(TextId::WayToHere) + 1;
 
-// The language in use. It belongs to the program; whoever speaks looks here.
+// The language in use. Owned by the program; everything that shows a text reads it here.
 struct LanguageChoice {
   Language Current = Language::English;
 };

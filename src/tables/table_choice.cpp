@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <numeric>
 
-#include "db/text.h"
+#include "db/values/text.h"
 #include "tables/value_order.h"
 
 namespace orrerix {

@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "db/stored_table.h"
+#include "db/rows/stored_table.h"
 
 namespace orrerix {
 

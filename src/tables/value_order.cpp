@@ -6,7 +6,7 @@
 #include <compare>
 #include <optional>
 
-#include "db/text.h"
+#include "db/values/text.h"
 
 namespace orrerix {
 namespace {

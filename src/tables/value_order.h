@@ -4,7 +4,7 @@
 
 #include <string_view>
 
-#include "db/value.h"
+#include "db/values/value.h"
 
 namespace orrerix {
 

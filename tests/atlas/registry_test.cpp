@@ -62,7 +62,7 @@ TEST(AtlasRegistry, ReadsAnEmptyUniverse) {
   }
 }
 
-// To write the page anew: orrerix-cli atlas --explain > docs/atlas.md
+// To regenerate the page: orrerix-cli atlas --explain > docs/atlas.md
 TEST(AtlasRegistry, IsThePageInTheDocuments) {
   std::ifstream stream(ORRERIX_ATLAS_PAGE, std::ios::binary);
   const std::string page(std::istreambuf_iterator<char>(stream), {});

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "cli/command_line_fixture.h"
-#include "db/engine.h"
+#include "db/engine/engine.h"
 #include "support/failure_sinks.h"
 
 namespace orrerix {

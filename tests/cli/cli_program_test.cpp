@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-// The command line as a script meets it: words in, answer and exit code out.
+// The command line as a script sees it: arguments in, answer and exit code out.
 #include <cctype>
 
 #include "cli/command_line_fixture.h"
-#include "db/engine.h"
+#include "db/engine/engine.h"
 #include "map/control_id.h"
 #include "platform/folder_lock.h"
 #include "support/failure_sinks.h"

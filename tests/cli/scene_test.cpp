@@ -24,7 +24,7 @@ TEST(SceneWords, AnythingElseIsWrongUsage) {
   }
 }
 
-// The gestures of a verb that was given these words.
+// The gestures of a verb that was given these arguments.
 std::vector<Gesture> GesturesOf(std::vector<std::string> words) {
   CLI::App verb;
   SceneOptions scene;

@@ -7,7 +7,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "db/engine.h"
+#include "db/engine/engine.h"
 #include "support/failure_sinks.h"
 #include "support/temp_folder.h"
 

@@ -178,7 +178,7 @@ TEST_F(ProgramRunTest, TheCheckBoxIsForThisUniverseOnly) {
     ASSERT_TRUE(WaitUntil([&] { return next.Main() && next.Main()->Map().Frame().isVisible(); }));
     EXPECT_EQ(warnings, 1);
   }
-  std::filesystem::remove(UniverseFile());  // the next start imports anew
+  std::filesystem::remove(UniverseFile());  // the next start imports again
   ProgramRun anew(parts);
   anew.OnEnd = [] {};
   anew.Start();

@@ -11,7 +11,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "db/working_copy.h"
+#include "db/engine/working_copy.h"
 #include "demo/format/bini_writer.h"
 #include "demo/format/pe_writer.h"
 #include "shell/routine.h"

@@ -3,7 +3,7 @@
 
 #include <gmock/gmock.h>
 
-#include "db/engine.h"
+#include "db/engine/engine.h"
 #include "db/schema.h"
 #include "shell/startup.h"
 #include "support/failure_sinks.h"

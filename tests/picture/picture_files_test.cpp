@@ -9,10 +9,10 @@
 
 #include <gtest/gtest.h>
 
-#include "map/borders.h"
-#include "map/object_classes.h"
-#include "map/side_panel.h"
-#include "map/system_pictures.h"
+#include "map/layers/borders.h"
+#include "map/layers/object_classes.h"
+#include "map/layers/system_pictures.h"
+#include "map/panel/side_panel.h"
 #include "picture/picture_store.h"
 #include "picture/twips.h"
 

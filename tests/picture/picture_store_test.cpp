@@ -101,7 +101,7 @@ TEST_F(PictureStoreTest, DrawingsHaveTheSizeTheyAreAskedFor) {
   EXPECT_EQ(store.Scaled(":/pictures/icons/jumpgate.svg", {13, 13}).size(), QSize(13, 13));
 }
 
-// Points of a fine pattern would be missed by whoever looks at four of them only.
+// Points of a fine pattern would be missed by a sample of four.
 TEST_F(PictureStoreTest, AMuchSmallerPictureIsTheAverageOfAllItsPoints) {
   QImage checked(256, 256, QImage::Format_RGB32);
   for (int y = 0; y < checked.height(); ++y) {

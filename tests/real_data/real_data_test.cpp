@@ -4,11 +4,11 @@
 
 #include <gmock/gmock.h>
 
-#include "db/working_copy.h"
+#include "db/engine/working_copy.h"
 #include "derived/stages.h"
 #include "import/import_driver.h"
-#include "info/search.h"
-#include "info/station_data.h"
+#include "info/search/search.h"
+#include "info/station/station_data.h"
 #include "map/redraw.h"
 #include "support/temp_folder.h"
 #include "support/universe_fixture.h"

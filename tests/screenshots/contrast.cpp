@@ -40,7 +40,7 @@ double Ratio(double one, double other) {
   return (std::max(one, other) + 0.05) / (std::min(one, other) + 0.05);
 }
 
-// --- Labels on the map: their ground is a picture.
+// --- Labels on the map: their background is a picture.
 
 struct PlacedLabel {
   const Control* Label;
@@ -57,7 +57,7 @@ void Collect(const ControlList& controls, QPointF parent, std::vector<PlacedLabe
   }
 }
 
-// Lines in front of letters would pass for their ground.
+// Lines in front of letters would pass for their background.
 void Ink(ControlList& controls, Color ink) {
   std::erase_if(controls, [](const Control& c) { return c.Kind == ControlKind::Line; });
   for (Control& control : controls) {
@@ -78,8 +78,8 @@ QImage Inked(MapDrawing drawing, Color ink, const QSize& size, double ratio) {
   return image;
 }
 
-// Luminance of the ground round the letters in a place. A pixel that the ink covers in part is what
-// the ink leaves of the ground, which two inks betray.
+// Luminance of the background round the letters in a place. A pixel that the ink covers in part
+// mixes both; drawing with two inks gives the shares.
 std::vector<double> GroundOf(const QImage& white, const QImage& grey, const QRect& place) {
   constexpr double between = 255 - 128;
   constexpr double mostly = 0.35;
@@ -99,7 +99,7 @@ std::vector<double> GroundOf(const QImage& white, const QImage& grey, const QRec
   return grounds;
 }
 
-// The contrast of letters on the brightest tenth of their ground: most are to be easy to read.
+// The contrast of letters on the brightest tenth of their background: most should be easy to read.
 std::optional<double> RatioOn(std::vector<double> grounds, const QColor& letters) {
   if (grounds.empty()) return std::nullopt;
   const double ink = Luminance(letters.rgb());
@@ -129,9 +129,9 @@ std::optional<double> LabelRatio(QLabel& label) {
                  label.palette().color(label.foregroundRole()));
 }
 
-// --- Other controls, which have a ground of one colour.
+// --- Other controls, whose background has one colour.
 
-// The ground is the colour that there is most of; the letters are what differs from it most.
+// The background is the most frequent colour; the letters are what differs from it most.
 double PlainRatio(const QImage& image) {
   std::map<QRgb, int> counts;
   for (int y = 0; y < image.height(); ++y) {

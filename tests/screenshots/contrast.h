@@ -9,8 +9,8 @@
 
 namespace orrerix {
 
-// Contrast of the texts in windows on what is really behind them, 1 to 21: the letters' colour
-// against the ground that touches the letters.
+// Contrast of the texts in windows against what they are drawn on, 1 to 21: the letters' colour
+// against the background that touches the letters.
 class ContrastReport {
  public:
   // Measures all texts of a window.

@@ -18,8 +18,8 @@
 #include "forms/controls/control_name.h"
 #include "forms/start/spoiler.h"
 #include "forms/start/update.h"
-#include "map/map_coords.h"
-#include "map/system_pictures.h"
+#include "map/grid/map_coords.h"
+#include "map/layers/system_pictures.h"
 #include "picture/control_items.h"
 #include "picture/twips.h"
 

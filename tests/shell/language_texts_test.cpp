@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-#include "db/text.h"
+#include "db/values/text.h"
 
 namespace orrerix {
 namespace {

@@ -9,7 +9,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "db/engine.h"
+#include "db/engine/engine.h"
 #include "db/schema.h"
 #include "support/fake_message_boxes.h"
 

@@ -60,10 +60,18 @@ void* operator new(std::size_t size) {
   return memory;
 }
 
+void* operator new(std::size_t size, const std::nothrow_t&) noexcept {
+  return orrerix::lack.Refuses(size) ? nullptr : std::malloc(size > 0 ? size : 1);
+}
+
 void operator delete(void* memory) noexcept {
   std::free(memory);
 }
 
 void operator delete(void* memory, std::size_t) noexcept {
+  std::free(memory);
+}
+
+void operator delete(void* memory, const std::nothrow_t&) noexcept {
   std::free(memory);
 }

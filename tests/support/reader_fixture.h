@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "import/import_state.h"
-#include "import/ini_reader.h"
+#include "import/ini/ini_reader.h"
 #include "support/temp_folder.h"
 #include "support/universe_fixture.h"
 

@@ -2,7 +2,7 @@
 // A universe with places, markets and prices for the tests of the station window.
 #pragma once
 
-#include "info/station_data.h"
+#include "info/station/station_data.h"
 #include "support/universe_fixture.h"
 
 namespace orrerix {

@@ -7,7 +7,7 @@
 #include <utility>
 #include <vector>
 
-#include "db/stored_table.h"
+#include "db/rows/stored_table.h"
 
 namespace orrerix {
 

@@ -11,7 +11,7 @@
 
 #include <gtest/gtest.h>
 
-#include "db/engine.h"
+#include "db/engine/engine.h"
 #include "db/schema.h"
 #include "import/import_state.h"
 #include "shell/error_log.h"

@@ -10,7 +10,7 @@
 #include <vector>
 
 #include "check/finding.h"
-#include "db/text.h"
+#include "db/values/text.h"
 
 namespace orrerix::check {
 

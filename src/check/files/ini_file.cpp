@@ -4,8 +4,8 @@
 #include <algorithm>
 
 #include "check/files/text_bytes.h"
-#include "import/packed_ini.h"
-#include "import/windows1252.h"
+#include "import/ini/packed_ini.h"
+#include "import/resources/windows1252.h"
 
 namespace orrerix::check {
 namespace {

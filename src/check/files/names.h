@@ -8,7 +8,7 @@
 #include <unordered_map>
 #include <vector>
 
-#include "db/text.h"
+#include "db/values/text.h"
 
 namespace orrerix::check {
 

@@ -3,7 +3,7 @@
 
 #include <vector>
 
-#include "db/text.h"
+#include "db/values/text.h"
 
 namespace orrerix::check {
 

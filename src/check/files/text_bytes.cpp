@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <cstring>
 
-#include "db/text.h"
+#include "db/values/text.h"
 
 namespace orrerix::check {
 namespace {

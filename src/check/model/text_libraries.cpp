@@ -2,7 +2,7 @@
 #include "check/model/text_libraries.h"
 
 #include "check/files/paths.h"
-#include "import/resource_library.h"
+#include "import/resources/resource_library.h"
 
 namespace orrerix::check {
 namespace {

@@ -5,7 +5,7 @@
 
 #include "check/model/numbers.h"
 #include "check/rules/card_markup.h"
-#include "import/resource_library.h"
+#include "import/resources/resource_library.h"
 
 namespace orrerix::check {
 

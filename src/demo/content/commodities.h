@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// The goods that the demo game trades in.
 #pragma once
 
 #include <string>

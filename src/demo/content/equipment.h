@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// What can be mounted on the demo game's ships.
 #pragma once
 
 #include <string>

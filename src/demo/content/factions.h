@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// Who owns what in the demo game.
 #pragma once
 
 #include <string>

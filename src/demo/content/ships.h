@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// The ships of the demo game.
 #pragma once
 
 #include <string>

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// The kinds of stations and planets in the demo game.
 #pragma once
 
 #include <string>

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// The texts of the demo game and their numbers.
 #pragma once
 
 #include <array>

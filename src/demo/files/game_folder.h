@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// The folder that the demo game is written to.
 #pragma once
 
 #include <filesystem>
@@ -8,14 +9,14 @@
 
 namespace orrerix::demo {
 
-// Why a game cannot be written to a folder, in words for the user.
+// Why a game cannot be written to a folder, as a message for the user.
 class FolderRefused : public std::runtime_error {
  public:
   using std::runtime_error::runtime_error;
 };
 
 // The folder that a demo game is written to. It carries a marker file, by which a later run knows
-// that the folder is its own and may be written anew; a folder of anything else is refused.
+// that the folder is its own and may be overwritten; a folder of anything else is refused.
 class GameFolder {
  public:
   // Makes the folder, or empties one that carries the marker. Throws FolderRefused where something

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// Packed ini files, as the game ships them.
 #pragma once
 
 #include <cstdint>
@@ -29,7 +30,7 @@ struct PackedSection {
 std::vector<PackedSection> SectionsOfIni(std::string_view ini);
 
 // The packed form. The string table holds section names and keys first, in order of appearance,
-// since their offsets have 16 bits only; each text stands once. Throws std::length_error where a
+// since their offsets have 16 bits only; each text is stored once. Throws std::length_error where a
 // count or an offset does not fit its field.
 std::string PackSections(const std::vector<PackedSection>& sections);
 

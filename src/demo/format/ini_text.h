@@ -15,7 +15,7 @@ class IniText {
   IniText& Line(std::string_view key, int value);
   // A real with up to `digits` decimals and no trailing zeros; a whole one gets no point.
   IniText& Line(std::string_view key, double value, int digits = 3);
-  // A line without a sign, or any other text, as it stands.
+  // A line without "=", or any other text, as it stands.
   IniText& Raw(std::string_view line);
   IniText& Comment(std::string_view text);
 

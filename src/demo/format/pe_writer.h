@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// Resource libraries: DLL files that hold nothing but texts.
 #pragma once
 
 #include <array>

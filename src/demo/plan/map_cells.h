@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// Where the systems of the demo game stand on the universe map.
 #pragma once
 
 #include <compare>

@@ -20,21 +20,22 @@ constexpr double SunClearance = 14000;
 // Lays out one system; holds what all steps of it share.
 class Layout {
  public:
-  Layout(PlannedSystem& system, Names& names, int& stationCount)
+  Layout(PlannedSystem& system, Names& names, int stationsBefore)
       : system_(system),
         names_(names),
-        stationCount_(stationCount),
+        stationCount_(stationsBefore),
         random_(SeedOf("layout of " + system.Nickname)),
         nation_(Nations()[static_cast<std::size_t>(system.Nation)]) {
     for (const JumpPoint& jump : system.Jumps) taken_.push_back(jump.Place);
   }
 
-  void Run() {
+  int Run() {
     PlacePlanets();
     PlaceStations();
     PlaceBarePlanets();
     PlaceWrecks();
     PlaceFields();
+    return stationCount_;
   }
 
  private:
@@ -146,7 +147,7 @@ class Layout {
 
   PlannedSystem& system_;
   Names& names_;
-  int& stationCount_;
+  int stationCount_;
   Random random_;
   const Nation& nation_;
   std::vector<PlanePoint> taken_;
@@ -189,8 +190,8 @@ std::vector<const PlannedBase*> BasesByDistance(const PlannedSystem& system, Pla
 
 }  // namespace
 
-void LayOutSystem(PlannedSystem& system, Names& names, int& stationCount) {
-  Layout(system, names, stationCount).Run();
+int LayOutSystem(PlannedSystem& system, Names& names, int stationsBefore) {
+  return Layout(system, names, stationsBefore).Run();
 }
 
 void LayLanes(PlannedSystem& system, const std::vector<std::string>& targetNames) {

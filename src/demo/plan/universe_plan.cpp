@@ -111,7 +111,7 @@ UniversePlan PlanUniverse(int systemCount) {
   }
   int stationCount = 0;
   for (PlannedSystem& system : plan.Systems) {
-    LayOutSystem(system, names, stationCount);
+    stationCount = LayOutSystem(system, names, stationCount);
     LayLanes(system, TargetNames(plan, system));
   }
   PlantMissingRing(plan);

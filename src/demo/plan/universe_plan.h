@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// The demo game as a plan: what is where, before any file is written.
 #pragma once
 
 #include <string>

@@ -10,7 +10,7 @@
 namespace orrerix {
 
 // The large info box on the map: a shape with its text, as a widget, so that its text can be
-// scrolled and copied, and the map below is not painted anew with each text.
+// scrolled and copied, and the map below is not painted again with each text.
 class InfoBox : public QFrame {
  public:
   // `name` is what a screen reader calls it.

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "info/hover_box.h"
+#include "info/boxes/hover_box.h"
 #include "picture/map_scene.h"
 
 namespace orrerix {
@@ -31,8 +31,8 @@ class MapBox {
   // Hides a hover box and gives its icon its own size again.
   void EndHover();
 
-  // The map was drawn anew, with all icons in their own size. A hover goes on: its icon is enlarged
-  // again with the box beside it. A box whose icon is no longer there stays where it is.
+  // The map was drawn again, with all icons in their own size. A hover goes on: its icon is
+  // enlarged again with the box beside it. A box whose icon is no longer there stays where it is.
   void MapRedrawn();
 
  private:

@@ -100,7 +100,7 @@ void MapController::HoverIcon(int index) {
 void MapController::OpenStationOf(int index) {
   const Control* icon = screen_.Scene().Find(ControlId::MapIcon, index);
   if (icon == nullptr) return;
-  // The map may be drawn anew while the window opens.
+  // The map may be drawn again while the window opens.
   const std::string nickname = IconText(*icon);
   const std::string picture = icon->Picture.value_or("");
   Routine routine(log_, "OrrerixMain.Image1_Click");

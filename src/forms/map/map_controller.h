@@ -11,9 +11,9 @@
 #include "forms/map/map_mouse.h"
 #include "forms/map/map_screen.h"
 #include "forms/map/panel_keys.h"
-#include "map/cell_cursor.h"
 #include "map/gestures.h"
-#include "map/option_switches.h"
+#include "map/grid/cell_cursor.h"
+#include "map/panel/option_switches.h"
 #include "platform/sound.h"
 
 namespace orrerix {

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// The keyboard on the map frame.
 #pragma once
 
 namespace orrerix {

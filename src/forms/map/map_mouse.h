@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
+// The mouse on the map frame.
 #pragma once
 
 #include "map/gestures.h"
 
 namespace orrerix {
 
-// The mouse on the map frame.
+// Where the mouse is, and with what.
 struct MapPointer {
   double X = 0;  // twips from the frame's top left corner
   double Y = 0;
@@ -15,7 +16,7 @@ struct MapPointer {
   bool OnPanel = false;            // that control is the panel, or a part of it
 };
 
-// Whoever acts on the mouse. The map as such only shows.
+// Receives mouse events on the map. The map itself only displays.
 class MapMouse {
  public:
   virtual ~MapMouse() = default;

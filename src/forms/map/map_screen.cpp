@@ -5,8 +5,8 @@
 
 #include <fmt/format.h>
 
-#include "map/option_switches.h"
-#include "map/system_pictures.h"
+#include "map/layers/system_pictures.h"
+#include "map/panel/option_switches.h"
 #include "online/web_pages.h"
 #include "picture/picture_files.h"
 #include "picture/twips.h"

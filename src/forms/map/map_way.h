@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
+// A way that was searched for, drawn over the map.
 #pragma once
 
 #include <QGraphicsView>
 #include <QWidget>
 #include <vector>
 
-#include "map/map_places.h"
+#include "map/grid/map_places.h"
 #include "map/redraw.h"
 #include "routes/fastest_way.h"
 

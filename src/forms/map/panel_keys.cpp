@@ -7,7 +7,7 @@
 #include <utility>
 
 #include "forms/controls/control_name.h"
-#include "map/map_options.h"
+#include "map/panel/map_options.h"
 #include "picture/twips.h"
 
 namespace orrerix {

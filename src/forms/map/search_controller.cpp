@@ -6,7 +6,7 @@
 
 #include <fmt/format.h>
 
-#include "forms/controls/locale_signs.h"
+#include "forms/controls/locale_separators.h"
 #include "shell/routine.h"
 
 namespace orrerix {

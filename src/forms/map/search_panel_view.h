@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// The search panel on the map: its controls and its events.
 #pragma once
 
 #include <QFrame>
@@ -7,7 +8,7 @@
 #include <QListWidget>
 #include <QToolButton>
 
-#include "info/search_panel.h"
+#include "info/search/search_panel.h"
 #include "shell/language.h"
 
 namespace orrerix {

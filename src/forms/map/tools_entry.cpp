@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "forms/controls/captions.h"
-#include "map/map_options.h"
+#include "map/panel/map_options.h"
 #include "picture/form_font.h"
 #include "picture/twips.h"
 

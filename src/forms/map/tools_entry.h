@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// What leads from the map to the tools.
 #pragma once
 
 #include <QAbstractScrollArea>

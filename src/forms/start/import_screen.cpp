@@ -5,9 +5,10 @@
 
 #include "forms/controls/captions.h"
 #include "forms/controls/form_geometry.h"
-#include "forms/controls/tiled_ground.h"
+#include "forms/controls/painted_ground.h"
 #include "forms/start/import_screen_layout.h"
 #include "picture/form_font.h"
+#include "picture/twips.h"
 
 namespace orrerix {
 namespace {
@@ -115,6 +116,18 @@ void ImportScreen::HideProgress() {
 void ImportScreen::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   PaintTiles(painter, rect(), pictures_);
+}
+
+ProgressShape::ProgressShape(Color border, Color fill, QWidget* parent)
+    : QWidget(parent), border_(ToQColor(border)), fill_(ToQColor(fill)) {
+  setAttribute(Qt::WA_OpaquePaintEvent);
+  setAttribute(Qt::WA_TransparentForMouseEvents);
+}
+
+void ProgressShape::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.fillRect(rect(), border_);
+  painter.fillRect(rect().adjusted(1, 1, -1, -1), fill_);
 }
 
 }  // namespace orrerix

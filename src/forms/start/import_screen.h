@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// What the main form shows before there is a map.
 #pragma once
 
 #include <QLineEdit>
@@ -8,11 +9,24 @@
 #include <array>
 
 #include "forms/start/memory_frame.h"
-#include "forms/start/progress_shape.h"
 #include "import/progress.h"
+#include "map/drawing_list.h"
 #include "picture/picture_store.h"
 
 namespace orrerix {
+
+// One of the three rectangles of the progress picture.
+class ProgressShape : public QWidget {
+ public:
+  ProgressShape(Color border, Color fill, QWidget* parent);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  QColor border_;
+  QColor fill_;
+};
 
 // The main form before there is a map. First run: the text, the path box and the button.
 // Importing: the text in the left half, the progress picture in the right one, the memory watch

@@ -8,7 +8,7 @@
 #include <utility>
 
 #include "forms/controls/captions.h"
-#include "forms/controls/tiled_ground.h"
+#include "forms/controls/painted_ground.h"
 #include "picture/form_font.h"
 
 namespace orrerix {

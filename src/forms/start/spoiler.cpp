@@ -10,10 +10,9 @@
 #include "forms/controls/captions.h"
 #include "forms/controls/fitted_button.h"
 #include "forms/controls/form_geometry.h"
-#include "forms/controls/painted_border.h"
-#include "forms/controls/tiled_ground.h"
+#include "forms/controls/painted_ground.h"
 #include "forms/start/spoiler_layout.h"
-#include "map/opt_font_size.h"
+#include "map/grid/opt_font_size.h"
 
 namespace orrerix {
 namespace {

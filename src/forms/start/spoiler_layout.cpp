@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-#include "map/numeric.h"
+#include "map/grid/numeric.h"
 
 namespace orrerix {
 namespace {

@@ -8,8 +8,7 @@
 #include <QVBoxLayout>
 
 #include "forms/controls/captions.h"
-#include "forms/controls/painted_border.h"
-#include "forms/controls/tiled_ground.h"
+#include "forms/controls/painted_ground.h"
 #include "picture/form_font.h"
 #include "picture/plain_tool_tip.h"
 

@@ -6,7 +6,7 @@
 #include <QTableView>
 #include <vector>
 
-#include "info/price_table.h"
+#include "info/station/price_table.h"
 
 namespace orrerix {
 

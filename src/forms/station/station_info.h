@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// The station windows.
 #pragma once
 
 #include <QAbstractButton>
@@ -7,12 +8,15 @@
 #include <QWidget>
 #include <array>
 #include <functional>
+#include <memory>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "forms/controls/text_box.h"
 #include "forms/station/price_table_view.h"
-#include "info/station_layout.h"
-#include "info/station_modes.h"
+#include "info/station/station_layout.h"
+#include "info/station/station_modes.h"
 #include "picture/picture_store.h"
 #include "picture/qt_text_measure.h"
 #include "platform/sound.h"
@@ -89,6 +93,26 @@ class StationInfo : public QWidget {
   PriceTableView* prices_;
   QGroupBox* searchFrame_;
   QListWidget* searchList_;
+};
+
+// The station windows that stand open, any number side by side.
+class StationWindows {
+ public:
+  explicit StationWindows(StationParts parts) : parts_(std::move(parts)) {}
+
+  // Shows one more. It is freed when it is closed, or with this.
+  void Open(const std::string& nickname, const std::string& picture);
+
+  void CloseAll() { windows_.clear(); }
+
+  // Those that are open, the oldest first.
+  const std::vector<std::unique_ptr<StationInfo>>& Windows() const { return windows_; }
+
+ private:
+  void Forget(const StationInfo* window);
+
+  const StationParts parts_;
+  std::vector<std::unique_ptr<StationInfo>> windows_;
 };
 
 }  // namespace orrerix

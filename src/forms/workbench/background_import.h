@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// An import that runs while the map stays in use.
 #pragma once
 
 #include <filesystem>
@@ -6,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "db/engine.h"
+#include "db/engine/engine.h"
 #include "forms/workbench/background_task.h"
 #include "platform/folder_watch.h"
 #include "shell/version.h"

@@ -26,6 +26,7 @@ using check::Severity;
 
 constexpr int kWatchInterval = 200;  // milliseconds
 constexpr int kFont = 9;
+constexpr int kProgressWidth = 120;
 constexpr int kPlaceWidth = 330;
 constexpr int kMessageWidth = 380;
 
@@ -89,11 +90,19 @@ QWidget* CheckPage::MakeBar() {
   row->addWidget(check_);
   row->addWidget(cancel_);
   row->addWidget(again_);
+  progress_ = new QProgressBar(bar);
+  progress_->setObjectName("Progress");
+  progress_->setAccessibleName(Caption(TextId::Checking));
+  progress_->setRange(0, 0);  // its end is not known
+  progress_->setFixedWidth(kProgressWidth);
+  progress_->setTextVisible(false);
+  progress_->hide();
   row->addWidget(state_, 1);
+  row->addWidget(progress_);
   connect(check_, &QPushButton::clicked, this, [this] { Check(); });
   connect(cancel_, &QPushButton::clicked, this, [this] {
     task_.Cancel();
-    cancel_->setEnabled(false);
+    ShowRunning(false);
     ShowSums();
   });
   connect(again_, &QCheckBox::toggled, this, [this](bool on) { Watch(on); });
@@ -162,7 +171,7 @@ void CheckPage::UniverseChanged() {
 
 void CheckPage::Check() {
   game_ = host_.GameText();
-  cancel_->setEnabled(true);
+  ShowRunning(true);
   state_->setText(Caption(TextId::Checking));
   task_.Start(
       [game = game_](const BackgroundTask::IsCancelled& isCancelled) {
@@ -179,8 +188,13 @@ void CheckPage::Check() {
       [this](Outcome outcome) { ShowOutcome(std::move(outcome)); });
 }
 
+void CheckPage::ShowRunning(bool running) {
+  cancel_->setEnabled(running);
+  progress_->setVisible(running);
+}
+
 void CheckPage::ShowOutcome(Outcome outcome) {
-  cancel_->setEnabled(false);
+  ShowRunning(false);
   answer_ = std::move(outcome.Answer);
   findings_.Show(answer_.Findings);
   if (outcome.Error.empty()) {

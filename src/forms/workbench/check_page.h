@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QTimer>
 #include <QTreeView>
@@ -51,6 +52,7 @@ class CheckPage : public WorkbenchPage {
   void ShowExplanation();
   const check::Finding* Chosen() const;
   void OpenChosen();
+  void ShowRunning(bool running);
   void ShowChosenOnMap();
   void CopyChosen();
   void Export();
@@ -66,6 +68,7 @@ class CheckPage : public WorkbenchPage {
   QPushButton* check_;
   QPushButton* cancel_;
   QLabel* state_;
+  QProgressBar* progress_;
   QTreeView* tree_;
   QPlainTextEdit* explanation_;
   QPushButton* onMap_;

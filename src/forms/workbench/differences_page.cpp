@@ -13,8 +13,8 @@
 
 #include <fmt/format.h>
 
-#include "db/engine.h"
-#include "db/text.h"
+#include "db/engine/engine.h"
+#include "db/values/text.h"
 #include "forms/controls/captions.h"
 #include "forms/workbench/background_import.h"
 #include "forms/workbench/throw_failures.h"

@@ -8,7 +8,7 @@
 namespace orrerix {
 namespace {
 
-constexpr int kColumns = 4;
+constexpr int kColumns = 5;
 
 TextId NameOf(LogKind kind) {
   switch (kind) {
@@ -29,17 +29,27 @@ TextId NameOf(LogKind kind) {
   }
 }
 
+// As on disk, or as the entry names it where it is not there.
+QString FileOf(const LogEntry& entry, const check::LogPlace& place) {
+  if (!place.File.empty()) return QString::fromStdString(place.File);
+  return QString::fromStdString(entry.File).replace('\\', '/');
+}
+
 }  // namespace
 
-void LogModel::Show(const std::vector<std::string>& entries) {
+void LogModel::Show(std::vector<LogEntry> entries, std::vector<check::LogPlace> places) {
   beginResetModel();
-  entries_.clear();
-  for (const std::string& entry : entries) entries_.push_back(ParseLogEntry(entry));
+  entries_ = std::move(entries);
+  places_ = std::move(places);
   endResetModel();
 }
 
 const LogEntry* LogModel::EntryAt(const QModelIndex& index) const {
   return index.isValid() ? &entries_[static_cast<std::size_t>(index.row())] : nullptr;
+}
+
+check::LogPlace LogModel::PlaceAt(const QModelIndex& index) const {
+  return index.isValid() ? places_[static_cast<std::size_t>(index.row())] : check::LogPlace{};
 }
 
 int LogModel::rowCount(const QModelIndex& parent) const {
@@ -59,7 +69,9 @@ QVariant LogModel::data(const QModelIndex& index, int role) const {
     case KindColumn:
       return CaptionIn(choice_.Current, NameOf(entry->Kind));
     case FileColumn:
-      return QString::fromStdString(entry->File).replace('\\', '/');
+      return FileOf(*entry, PlaceAt(index));
+    case LineColumn:
+      return PlaceAt(index).Line > 0 ? QVariant(PlaceAt(index).Line) : QVariant();
     case NicknameColumn:
       return QString::fromStdString(entry->Nickname);
     default:
@@ -69,8 +81,8 @@ QVariant LogModel::data(const QModelIndex& index, int role) const {
 
 QVariant LogModel::headerData(int section, Qt::Orientation orientation, int role) const {
   if (orientation != Qt::Horizontal || role != Qt::DisplayRole) return {};
-  constexpr std::array<TextId, kColumns> heads = {TextId::HeadKind, TextId::HeadFile,
-                                                  TextId::HeadNickname, TextId::HeadText};
+  constexpr std::array<TextId, kColumns> heads = {
+      TextId::HeadKind, TextId::HeadFile, TextId::HeadLine, TextId::HeadNickname, TextId::HeadText};
   return CaptionIn(choice_.Current, heads[static_cast<std::size_t>(section)]);
 }
 

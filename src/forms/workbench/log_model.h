@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "check/log_places.h"
 #include "import/log_entry.h"
 #include "shell/text_id.h"
 
@@ -13,14 +14,16 @@ namespace orrerix {
 // The data log as a table, one entry a row.
 class LogModel : public QAbstractTableModel {
  public:
-  enum Column { KindColumn, FileColumn, NicknameColumn, TextColumn };
+  enum Column { KindColumn, FileColumn, LineColumn, NicknameColumn, TextColumn };
 
   explicit LogModel(const LanguageChoice& choice) : choice_(choice) {}
 
-  void Show(const std::vector<std::string>& entries);
+  // `places` has one for each entry.
+  void Show(std::vector<LogEntry> entries, std::vector<check::LogPlace> places);
 
   // Null for an index of no row.
   const LogEntry* EntryAt(const QModelIndex& index) const;
+  check::LogPlace PlaceAt(const QModelIndex& index) const;
 
   int rowCount(const QModelIndex& parent = {}) const override;
   int columnCount(const QModelIndex& parent = {}) const override;
@@ -30,6 +33,7 @@ class LogModel : public QAbstractTableModel {
  private:
   const LanguageChoice& choice_;
   std::vector<LogEntry> entries_;
+  std::vector<check::LogPlace> places_;
 };
 
 }  // namespace orrerix

@@ -24,8 +24,12 @@ constexpr int kNicknameWidth = 160;
 
 }  // namespace
 
-LogPage::LogPage(WorkbenchHost& host, const LanguageChoice& choice)
-    : WorkbenchPage(TextId::LogPage), host_(host), choice_(choice), model_(choice) {
+LogPage::LogPage(WorkbenchHost& host, const LanguageChoice& choice, OpenFile open)
+    : WorkbenchPage(TextId::LogPage),
+      host_(host),
+      choice_(choice),
+      open_(std::move(open)),
+      model_(choice) {
   filter_.setSourceModel(&model_);
   filter_.setFilterKeyColumn(-1);
   filter_.setFilterCaseSensitivity(Qt::CaseInsensitive);
@@ -55,6 +59,7 @@ LogPage::LogPage(WorkbenchHost& host, const LanguageChoice& choice)
   layout->addWidget(split, 1);
   connect(table_->selectionModel(), &QItemSelectionModel::currentChanged, this,
           [this] { ShowChosen(); });
+  connect(table_, &QTableView::doubleClicked, this, [this] { OpenChosen(); });
 }
 
 QWidget* LogPage::MakeBar() {
@@ -71,6 +76,10 @@ QWidget* LogPage::MakeBar() {
   row->addWidget(text, 1);
   sums_ = new QLabel(bar);
   row->addWidget(sums_);
+  openFile_ = new QPushButton(CaptionIn(choice_.Current, TextId::OpenFile), bar);
+  openFile_->setObjectName("OpenFile");
+  connect(openFile_, &QPushButton::clicked, this, [this] { OpenChosen(); });
+  row->addWidget(openFile_);
   auto* copy = new QPushButton(CaptionIn(choice_.Current, TextId::Copy), bar);
   auto* save = new QPushButton(CaptionIn(choice_.Current, TextId::SaveLog), bar);
   connect(copy, &QPushButton::clicked, this, [this] { Copy(); });
@@ -90,15 +99,25 @@ void LogPage::UniverseChanged() {
 
 void LogPage::Read() {
   entries_ = ReadSavedLog(host_.UniverseFile());
-  model_.Show(entries_);
+  std::vector<LogEntry> parsed;
+  for (const std::string& entry : entries_) parsed.push_back(ParseLogEntry(entry));
+  std::vector<check::LogPlace> places = check::PlacesOfLog(host_.GameText(), parsed);
+  model_.Show(std::move(parsed), std::move(places));
   sums_->setText(
       QString::fromStdString(FormatIn(choice_.Current, TextId::LogSums, entries_.size())));
   if (!entries_.empty()) table_->setCurrentIndex(filter_.index(0, 0));
   ShowChosen();
 }
 
+void LogPage::OpenChosen() {
+  const check::LogPlace place = model_.PlaceAt(filter_.mapToSource(table_->currentIndex()));
+  if (!place.File.empty()) open_(std::filesystem::path(host_.GameText()) / place.File, place.Line);
+}
+
 void LogPage::ShowChosen() {
-  const LogEntry* entry = model_.EntryAt(filter_.mapToSource(table_->currentIndex()));
+  const QModelIndex chosen = filter_.mapToSource(table_->currentIndex());
+  const LogEntry* entry = model_.EntryAt(chosen);
+  openFile_->setEnabled(!model_.PlaceAt(chosen).File.empty());
   entry_->setPlainText(entry == nullptr ? QString()
                                         : QString::fromStdString(entry->Text).remove('\r'));
 }

@@ -4,8 +4,11 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QPushButton>
 #include <QSortFilterProxyModel>
 #include <QTableView>
+#include <filesystem>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -19,7 +22,9 @@ namespace orrerix {
 // beginning.
 class LogPage : public WorkbenchPage {
  public:
-  LogPage(WorkbenchHost& host, const LanguageChoice& choice);
+  // `open` opens a file at a line in the editor.
+  using OpenFile = std::function<void(const std::filesystem::path&, int line)>;
+  LogPage(WorkbenchHost& host, const LanguageChoice& choice, OpenFile open);
 
   void Enter() override;
   void UniverseChanged() override;
@@ -28,17 +33,20 @@ class LogPage : public WorkbenchPage {
   QWidget* MakeBar();
   void Read();
   void ShowChosen();
+  void OpenChosen();
   void Copy();
   void Save();
 
   WorkbenchHost& host_;
   const LanguageChoice& choice_;
+  OpenFile open_;
   LogModel model_;
   QSortFilterProxyModel filter_;
   std::vector<std::string> entries_;
   QTableView* table_;
   QPlainTextEdit* entry_;
   QLabel* sums_;
+  QPushButton* openFile_;
 };
 
 }  // namespace orrerix

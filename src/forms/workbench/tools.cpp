@@ -54,7 +54,8 @@ Workbench& Tools::Window() {
   auto game = std::make_unique<GamePage>(host_, settings_, parts_.Speech);
   gamePage_ = game.get();
   window_->Add(std::move(game));
-  window_->Add(std::make_unique<LogPage>(host_, parts_.Speech));
+  window_->Add(std::make_unique<LogPage>(
+      host_, parts_.Speech, [this](const fs::path& file, int line) { OpenInEditor(file, line); }));
   return *window_;
 }
 
@@ -126,7 +127,7 @@ void Tools::UniverseShown() {
       });
 }
 
-// The command's words may name the file and the line.
+// The command's arguments may name the file and the line.
 void Tools::OpenInEditor(const fs::path& file, int line) {
   const QString name = QString::fromStdString(file.string());
   QStringList words = QProcess::splitCommand(settings_.value(setting_key::kEditor).toString());

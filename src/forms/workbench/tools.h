@@ -40,7 +40,7 @@ class Tools {
   void ShowTradesFrom(const std::string& place);
   void ShowWayTo(const std::string& place);
 
-  // Imports the game that is shown anew, while the map stays.
+  // Imports the shown game again, while the map stays.
   void ImportAgain();
 
   // Follows changes of the game's files; each is imported at once.

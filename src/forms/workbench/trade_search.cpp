@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-#include "db/working_copy.h"
+#include "db/engine/working_copy.h"
 #include "forms/controls/captions.h"
 #include "forms/workbench/throw_failures.h"
 

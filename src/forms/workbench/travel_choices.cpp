@@ -4,8 +4,8 @@
 #include <algorithm>
 #include <set>
 
-#include "db/text.h"
-#include "db/working_copy.h"
+#include "db/engine/working_copy.h"
+#include "db/values/text.h"
 #include "forms/workbench/throw_failures.h"
 #include "routes/table_rows.h"
 #include "routes/travel_graph.h"

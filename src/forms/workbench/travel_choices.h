@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// The places, ships and factions that the travel pages offer.
 #pragma once
 
 #include <QString>

@@ -13,7 +13,7 @@
 
 namespace orrerix {
 
-// A leg with the words that a table shows.
+// A leg with the texts that a table shows.
 struct WayLegRow {
   ShownLeg Leg;
   QString System;

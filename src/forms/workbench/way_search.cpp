@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/workbench/way_search.h"
 
-#include "db/working_copy.h"
+#include "db/engine/working_copy.h"
 #include "forms/controls/captions.h"
 #include "forms/workbench/throw_failures.h"
 #include "forms/workbench/trade_search.h"

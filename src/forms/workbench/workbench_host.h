@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// The main form, as the workbench sees it.
 #pragma once
 
 #include <filesystem>
@@ -46,7 +47,7 @@ class WorkbenchHost {
   // that was opened last, else nothing.
   virtual std::string StartPlace() = 0;
 
-  // Reads the game folder anew. The universe that is shown stays where the import is given up.
+  // Imports the game folder again. The universe that is shown stays where the import is given up.
   virtual void ImportAgain() = 0;
 
   // Follows changes of its files, or no more.

@@ -37,7 +37,7 @@ std::optional<FolderIdentity> IdentityOf(const fs::path& folder) {
   return FolderIdentity{status.st_dev, status.st_ino};
 }
 
-// Whatever happens to a folder itself makes all watches anew: simpler than to follow each move, and
+// Whatever happens to a folder itself rebuilds all watches: simpler than following each move, and
 // as the caller looks at the files themselves nothing is missed.
 class InotifyWatch : public FolderWatch {
  public:

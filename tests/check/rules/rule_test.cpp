@@ -35,7 +35,7 @@ TEST(RuleTable, ExplainsARule) {
             "The first value of MarketGood names no good.\n");
 }
 
-// To write the page anew: orrerix-cli check --explain all --output docs/rules.md
+// To regenerate the page: orrerix-cli check --explain all --output docs/rules.md
 TEST(RuleTable, IsThePageInTheDocuments) {
   std::ifstream stream(ORRERIX_RULES_PAGE, std::ios::binary);
   const std::string page(std::istreambuf_iterator<char>(stream), {});

@@ -11,7 +11,7 @@
 #include <gtest/gtest.h>
 
 #include "forms/controls/control_name.h"
-#include "info/box_controls.h"
+#include "info/boxes/box_controls.h"
 #include "picture/qt_text_measure.h"
 
 namespace orrerix {

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "forms/start/progress_shape.h"
-
 #include <QImage>
 #include <QPainter>
 
 #include <gtest/gtest.h>
+
+#include "forms/start/import_screen.h"
 
 namespace orrerix {
 namespace {

@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "forms/station/station_windows.h"
-
 #include <QPointer>
 #include <QScreen>
 
-#include "db/engine.h"
+#include "db/engine/engine.h"
 #include "db/schema.h"
 #include "forms/form_fixture.h"
+#include "forms/station/station_info.h"
 #include "support/failure_sinks.h"
 
 namespace orrerix {

@@ -9,7 +9,7 @@
 #include <QTableView>
 
 #include "../form_fixture.h"
-#include "db/engine.h"
+#include "db/engine/engine.h"
 #include "db/schema.h"
 #include "fake_workbench_host.h"
 #include "forms/workbench/travel_page.h"

@@ -4,7 +4,7 @@
 #include <QTest>
 
 #include "../form_fixture.h"
-#include "db/engine.h"
+#include "db/engine/engine.h"
 #include "demo/demo_game.h"
 #include "fake_workbench_host.h"
 #include "forms/workbench/check_page.h"
@@ -28,13 +28,13 @@ TEST_F(WorkbenchTest, ComesBackWithThePageItWasClosedWith) {
   {
     Workbench first(settings, choice);
     first.Add(std::make_unique<GamePage>(host, settings, choice));
-    first.Add(std::make_unique<LogPage>(host, choice));
+    first.Add(std::make_unique<LogPage>(host, choice, nullptr));
     first.Open(TextId::LogPage);
     first.close();
   }
   Workbench again(settings, choice);
   again.Add(std::make_unique<GamePage>(host, settings, choice));
-  again.Add(std::make_unique<LogPage>(host, choice));
+  again.Add(std::make_unique<LogPage>(host, choice, nullptr));
   again.Open();
 
   EXPECT_EQ(Find<QListWidget>(again, "PageList").currentRow(), 1);
@@ -43,7 +43,7 @@ TEST_F(WorkbenchTest, ComesBackWithThePageItWasClosedWith) {
 
 TEST_F(WorkbenchTest, F1ListsTheKeysAndEscapeClosesTheWindow) {
   Workbench window(settings, choice);
-  window.Add(std::make_unique<LogPage>(host, choice));
+  window.Add(std::make_unique<LogPage>(host, choice, nullptr));
   window.Open();
 
   QTest::keyClick(&window, Qt::Key_F1);
@@ -56,7 +56,7 @@ TEST_F(WorkbenchTest, F1ListsTheKeysAndEscapeClosesTheWindow) {
 
 TEST_F(WorkbenchTest, TheLogOfAnEarlierImportIsShownFromItsBeginning) {
   SaveLog(host.UniverseFile(), {"Cant find file: [/game\\a.ini]", "something else"});
-  LogPage page(host, choice);
+  LogPage page(host, choice, nullptr);
 
   page.Enter();
 
@@ -67,6 +67,27 @@ TEST_F(WorkbenchTest, TheLogOfAnEarlierImportIsShownFromItsBeginning) {
   EXPECT_EQ(table.model()->index(0, LogModel::FileColumn).data(), "/game/a.ini");
   Find<QLineEdit>(page, "Filter").setText("ELSE");
   EXPECT_EQ(table.model()->rowCount(), 1);
+}
+
+TEST_F(WorkbenchTest, AnEntryOfTheLogOpensItsFileAtItsLine) {
+  const TempFolder game;
+  game.Write("DATA/goods.ini", "[Good]\nnickname = gold\n[Good]\nnickname = gold\n");
+  host.Game = game.Path().string();
+  SaveLog(host.UniverseFile(), {"#--- Error in FL-MOD-File:\r\n" + host.Game +
+                                "\\data\\goods.ini\r\nCant add to Database (cause of allready "
+                                "exist):\r\n[Good]\r\nnickname = gold\r\n---."});
+  std::vector<std::string> opened;
+  LogPage page(host, choice, [&](const std::filesystem::path& file, int line) {
+    opened.push_back(file.string() + ":" + std::to_string(line));
+  });
+
+  page.Enter();
+  Find<QPushButton>(page, "OpenFile").click();
+
+  auto& table = Find<QTableView>(page, "LogTable");
+  EXPECT_EQ(table.model()->index(0, LogModel::FileColumn).data(), "DATA/goods.ini");
+  EXPECT_EQ(table.model()->index(0, LogModel::LineColumn).data(), 3);
+  EXPECT_EQ(opened, std::vector<std::string>{host.Game + "/DATA/goods.ini:3"});
 }
 
 TEST_F(WorkbenchTest, TheGamePageAsksForWhatItsButtonsSay) {

@@ -1,0 +1,117 @@
+// SPDX-License-Identifier: MIT
+#include "db/engine/engine.h"
+
+#include <memory>
+
+#include <fmt/format.h>
+#include <sqlite3.h>
+
+#include "db/engine/connection.h"
+#include "db/engine/engine_functions.h"
+
+namespace orrerix {
+namespace fs = std::filesystem;
+namespace {
+
+// The engine counts its memory under a lock that one thread has no use for.
+bool ConfigureEngine() {
+  return sqlite3_config(SQLITE_CONFIG_MEMSTATUS, 0) == SQLITE_OK;
+}
+
+std::shared_ptr<Connection> Connect(const fs::path& path, int flags) {
+  [[maybe_unused]] static const bool kConfigured = ConfigureEngine();
+  sqlite3* handle = nullptr;
+  const int result =
+      sqlite3_open_v2(path.string().c_str(), &handle, flags | SQLITE_OPEN_NOMUTEX, nullptr);
+  auto connection = std::make_shared<Connection>(handle, path);
+  if (result != SQLITE_OK) {
+    throw EngineFailure(failure_number::kCannotOpenFile,
+                        fmt::format("Could not open file '{}'.", path.string()));
+  }
+  sqlite3_extended_result_codes(handle, 1);
+  RegisterEngineFunctions(handle);
+  return connection;
+}
+
+void Run(Connection& connection, const std::string& statement) {
+  if (sqlite3_exec(connection.Handle(), statement.c_str(), nullptr, nullptr, nullptr) !=
+      SQLITE_OK) {
+    throw connection.LastFailure();
+  }
+}
+
+// A text in the quotes of the engine's language, inner quotes doubled.
+std::string TextLiteral(const std::string& text) {
+  std::string literal = "'";
+  for (char c : text) {
+    if (c == '\'') literal += c;
+    literal += c;
+  }
+  return literal + "'";
+}
+
+template <typename Open>
+Database Guarded(FailureSink& sink, Open&& open) {
+  std::optional<Failure> failed;
+  try {
+    return Database(open());
+  } catch (...) {
+    failed = CaughtFailure();
+  }
+  sink.Fail(*failed);
+  return Database();
+}
+
+}  // namespace
+
+Database DBEngine::CreateDatabase(FailureSink& sink, const fs::path& path,
+                                  JetVersionOption option) {
+  return Guarded(sink, [&] {
+    std::error_code ignored;
+    if (fs::exists(path, ignored)) {
+      throw EngineFailure(failure_number::kDatabaseExists,
+                          fmt::format("Database '{}' already exists.", path.string()));
+    }
+    auto connection = Connect(path, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
+    // A file that holds nothing yet has nothing to lose with the power.
+    Run(*connection, fmt::format("PRAGMA synchronous = OFF; PRAGMA user_version = {}; "
+                                 "PRAGMA synchronous = FULL",
+                                 static_cast<int>(option)));
+    return connection;
+  });
+}
+
+Database DBEngine::OpenDatabase(FailureSink& sink, const fs::path& path) {
+  return Guarded(sink, [&] {
+    auto connection = Connect(path, SQLITE_OPEN_READWRITE);
+    // SQLite opens anything; reading the head of the file shows whether it is a database, and takes
+    // the same time for any number of tables.
+    Run(*connection, "PRAGMA schema_version");
+    return connection;
+  });
+}
+
+Database DBEngine::CreateInMemory(FailureSink& sink) {
+  return Guarded(sink, [] {
+    return Connect(":memory:", SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_MEMORY);
+  });
+}
+
+void DBEngine::CompactDatabase(FailureSink& sink, const fs::path& from, const fs::path& to) {
+  Database source = OpenDatabase(sink, from);
+  if (!source.IsOpen()) return;
+  if (source.FreePages(sink) > 0) {
+    source.ExecuteNative(sink, "VACUUM INTO " + TextLiteral(to.string()));
+    return;
+  }
+  source.Close();
+  std::error_code error;
+  fs::rename(from, to, error);
+  if (error) {
+    sink.Fail(EngineFailure(failure_number::kCannotOpenFile,
+                            fmt::format("Could not rename '{}' to '{}': {}.", from.string(),
+                                        to.string(), error.message())));
+  }
+}
+
+}  // namespace orrerix

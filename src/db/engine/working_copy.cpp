@@ -1,0 +1,107 @@
+// SPDX-License-Identifier: MIT
+#include "db/engine/working_copy.h"
+
+#include <array>
+#include <string_view>
+
+#include <fmt/format.h>
+#include <sqlite3.h>
+
+#include "db/engine/engine.h"
+
+namespace orrerix {
+namespace fs = std::filesystem;
+namespace {
+
+struct Lookup {
+  std::string_view Table;
+  std::string_view Expression;
+};
+
+// What the readers' queries look up.
+constexpr std::array kLookups = {
+    Lookup{"Systems", "pos"},
+    Lookup{"Systems", "ucase(nickname) COLLATE NOCASE"},
+    Lookup{"Objects", "ucase(nickname) COLLATE NOCASE"},
+    Lookup{"Objects", "ucase(dock_with) COLLATE NOCASE"},
+    Lookup{"DockObjects", "ucase(nickname) COLLATE NOCASE"},
+    Lookup{"DockObjects", "realname"},
+    Lookup{"commodity", "ucase(nickname) COLLATE NOCASE"},
+    Lookup{"Goods", "ucase(nickname) COLLATE NOCASE"},
+    Lookup{"Goods", "realname"},
+    Lookup{"Goods", "ucase(hull) COLLATE NOCASE"},
+    Lookup{"Goods", "ucase(ship) COLLATE NOCASE"},
+    Lookup{"BaseGoods", "ucase(Base) COLLATE NOCASE"},
+    Lookup{"BaseGoods", "ucase(GoodNick) COLLATE NOCASE"},
+    Lookup{"BaseGoodPrices", "ucase(BaseNick) COLLATE NOCASE"},
+    Lookup{"BaseGoodPrices", "ucase(GoodNick) COLLATE NOCASE, Price"},
+    Lookup{"Groups", "ucase(NickName) COLLATE NOCASE"},
+    Lookup{"Ships", "ucase(NickName) COLLATE NOCASE"},
+    Lookup{"Ships", "ucase(packagename) COLLATE NOCASE"},
+    Lookup{"Ships", "RealName"},
+    Lookup{"Loadout_Cargo", "ucase(NickName) COLLATE NOCASE"},
+    Lookup{"GF_NPC", "ucase(BaseNick) COLLATE NOCASE"},
+    Lookup{"GF_NPC", "ucase(bribe) COLLATE NOCASE"},
+    Lookup{"ids_name", "ID"},
+    Lookup{"ids_info", "ID"},
+    Lookup{"gun", "ucase(nickname) COLLATE NOCASE"},
+    Lookup{"munition", "ucase(nickname) COLLATE NOCASE"},
+    Lookup{"shieldgenerator", "ucase(nickname) COLLATE NOCASE"},
+};
+
+bool CopyPages(sqlite3* from, sqlite3* to) {
+  sqlite3_backup* backup = sqlite3_backup_init(to, "main", from, "main");
+  if (backup == nullptr) return false;
+  sqlite3_backup_step(backup, -1);
+  return sqlite3_backup_finish(backup) == SQLITE_OK;
+}
+
+bool HasColumn(const Database& database, std::string_view table, std::string_view expression) {
+  if (!database.HasTable(table)) return false;
+  const std::size_t open = expression.find('(');
+  const std::string_view column =
+      open == std::string_view::npos ? expression
+                                     : expression.substr(open + 1, expression.find(')') - open - 1);
+  return database.HasField(table, column);
+}
+
+}  // namespace
+
+WorkingCopy::Stamp WorkingCopy::StampOf(const fs::path& path) {
+  Stamp stamp;
+  std::error_code error;
+  stamp.Path = path;
+  stamp.Size = fs::file_size(path, error);
+  stamp.Changed = fs::last_write_time(path, error);
+  return stamp;
+}
+
+Database& WorkingCopy::Of(FailureSink& sink, const fs::path& path) {
+  const Stamp stamp = StampOf(path);
+  if (copy_.IsOpen() && stamp == stamp_) return copy_;
+  Drop();
+  Database file = DBEngine::OpenDatabase(sink, path);
+  if (!file.IsOpen()) return copy_;
+  copy_ = DBEngine::CreateInMemory(sink);
+  if (!CopyPages(file.Native(), copy_.Native())) {
+    Drop();
+    sink.Fail(EngineFailure(failure_number::kUnrecognizedFormat,
+                            fmt::format("Unrecognized database format '{}'.", path.string())));
+    return copy_;
+  }
+  for (std::size_t i = 0; i < kLookups.size(); ++i) {
+    const Lookup& lookup = kLookups[i];
+    if (!HasColumn(copy_, lookup.Table, lookup.Expression)) continue;
+    copy_.ExecuteNative(
+        sink, fmt::format("CREATE INDEX lookup_{} ON {} ({})", i, lookup.Table, lookup.Expression));
+  }
+  stamp_ = stamp;
+  return copy_;
+}
+
+void WorkingCopy::Drop() {
+  copy_.Close();
+  stamp_ = {};
+}
+
+}  // namespace orrerix

@@ -1,0 +1,153 @@
+// SPDX-License-Identifier: MIT
+// The rows of a query or a table, one of them current, edited field by field.
+#pragma once
+
+#include <concepts>
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "db/failure.h"
+#include "db/rows/table_def.h"
+#include "db/values/value.h"
+
+struct sqlite3_stmt;
+
+namespace orrerix {
+
+class Connection;
+class Recordset;
+
+// Whether the rows of a recordset can be edited and added to.
+enum class RecordsetType { Snapshot, Dynaset };
+
+// One field of the current row, or of the row being edited.
+class FieldRef {
+ public:
+  // Reading fails with 3021 where no row is and with 3265 where no such field is; both give Null.
+  Value Get() const;
+
+  // The content where Null will not do: all throw failure 94 on Null, and RequireLong throws 6
+  // outside 32 bits.
+  std::string RequireText() const;
+  std::int32_t RequireLong() const;
+  double RequireNumber() const;
+
+  bool IsNull() const { return Get().IsNull(); }
+
+  // Assigns to the row being edited. Fails with 3163 (text too long), 3315 (empty text in a field
+  // that takes none), 6 (number outside the type) and 3020 (no row is edited); the field then
+  // keeps its content. A real number in an integer field is rounded, ties to even.
+  const FieldRef& operator=(Value value) const;
+
+  // Assigns what a step returns. What the step throws is the assignment's failure.
+  template <std::invocable Step>
+  const FieldRef& operator=(const Step& step) const;
+
+  // The same for what needs memory to be copied: a text, or another field's content.
+  template <typename Text>
+  requires std::convertible_to<Text, std::string_view> &&
+      (!std::same_as<Text, std::string>) const FieldRef&
+      operator=(Text&& text) const {
+    return *this = [&text] { return Value(std::string_view(text)); };
+  }
+  const FieldRef& operator=(const FieldRef& other) const {
+    return *this = [&other] { return other.Get(); };
+  }
+  FieldRef(const FieldRef&) = default;
+
+ private:
+  friend class Recordset;
+  FieldRef(Recordset& recordset, std::optional<std::size_t> field)
+      : recordset_(recordset), field_(field) {}
+
+  Recordset& recordset_;
+  std::optional<std::size_t> field_;
+};
+
+// Makes a value what a field of this definition keeps of it, or says why the field takes none;
+// the value is then of no use.
+std::optional<Failure> FitInto(const Field& field, std::string_view table, Value& value);
+
+// All rows are read when the recordset is opened, so that stages may change tables while they walk
+// them. Every failed operation goes to the sink of the routine that opened the recordset. Once
+// its database is closed a recordset can still be read; its edits fail with 3420.
+class Recordset {
+ public:
+  Recordset() = default;
+  Recordset(Recordset&&) noexcept = default;
+  Recordset& operator=(Recordset&&) noexcept = default;
+
+  bool AtEnd() const { return current_ >= rowCount_; }
+  bool Empty() const { return rowCount_ == 0; }
+  std::size_t RecordCount() const { return rowCount_; }
+  void MoveNext();
+  void MoveFirst() { current_ = 0; }
+
+  FieldRef operator[](std::string_view field);
+  FieldRef operator[](std::size_t field);
+
+  // Assigns a text to the row being edited. A Text field that is too small for it grows first, for
+  // this recordset; a file does not mind. Whatever else is wrong is passed over.
+  void SetFieldText(std::string_view field, std::string_view text);
+
+  // Begins a new row, or the change of the current one. An edit that is open is dropped.
+  void AddNew();
+  void Edit();
+
+  // Writes the row. Fails with 3022 (key exists) and 3058 (Null in a key). Failed or not, the
+  // recordset is no longer being edited.
+  void Update();
+  void CancelUpdate();
+  void Close();
+
+ private:
+  friend class Database;
+  friend class FieldRef;
+  enum class Editing { None, Added, Changed };
+
+  void ReadRows(std::shared_ptr<const TableDef> columns, sqlite3_stmt* statement,
+                RecordsetType type);
+  Value Read(std::optional<std::size_t> field) const;
+  void Fail(const Failure& failure) const;
+  void Assign(std::optional<std::size_t> field, Value& value);
+  void GrowField(std::size_t field, std::size_t size);
+  std::optional<std::size_t> FindField(std::string_view name);
+  bool KeyHoldsNull() const;
+  void Insert();
+  void Rewrite();
+
+  FailureSink* sink_ = nullptr;
+  std::shared_ptr<Connection> connection_;
+  std::shared_ptr<const TableDef> table_;  // definition of the fields; of one table if editable
+  bool editable_ = false;
+  std::vector<Value> cells_;  // row by row
+  std::vector<std::int64_t> rowids_;
+  std::size_t rowCount_ = 0;
+  std::size_t current_ = 0;
+  Editing editing_ = Editing::None;
+  std::vector<Value> edited_;
+  std::vector<bool> assigned_;
+  std::size_t nextField_ = 0;  // after the one asked for last: fields are mostly used in order
+  sqlite3_stmt* insert_ = nullptr;
+};
+
+template <std::invocable Step>
+const FieldRef& FieldRef::operator=(const Step& step) const {
+  std::optional<Failure> failed;
+  try {
+    Value value = step();
+    recordset_.Assign(field_, value);
+    return *this;
+  } catch (...) {
+    failed = CaughtFailure();
+  }
+  recordset_.Fail(*failed);
+  return *this;
+}
+
+}  // namespace orrerix

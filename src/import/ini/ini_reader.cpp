@@ -1,0 +1,129 @@
+// SPDX-License-Identifier: MIT
+#include "import/ini/ini_reader.h"
+
+#include <algorithm>
+#include <fstream>
+#include <optional>
+
+#include <fmt/format.h>
+
+#include "import/ini/block_cutter.h"
+#include "import/ini/ini_text.h"
+#include "import/ini/packed_ini.h"
+#include "import/resources/windows1252.h"
+#include "import/sections/generic_section.h"
+#include "import/sections/known_sections.h"
+#include "platform/tick_count.h"
+#include "shell/language_texts.h"
+
+namespace orrerix {
+namespace fs = std::filesystem;
+namespace {
+
+Failure CannotRead(const std::string& file, std::string_view why) {
+  return {failure_number::kPathFileAccess,
+          fmt::format("Path/File access error: {} ({})", file, why)};
+}
+
+std::string ReadBytes(const fs::path& path, const std::string& file) {
+  std::ifstream stream(path, std::ios::binary | std::ios::ate);
+  std::string bytes;
+  if (stream) {
+    bytes.resize(static_cast<std::size_t>(std::max<std::streamoff>(0, stream.tellg())));
+    stream.seekg(0);
+    stream.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+  }
+  if (!stream) throw CannotRead(file, "it cannot be read");
+  return bytes;
+}
+
+// The file's text, unpacked if it is packed.
+std::string ReadText(const fs::path& path, const std::string& file) {
+  std::string bytes = ReadBytes(path, file);
+  if (!IsPackedIni(bytes)) return bytes;
+  auto text = UnpackIni(bytes);
+  if (!text) throw CannotRead(file, "this packed file is damaged");
+  return std::move(*text);
+}
+
+// One call of the reader on a file's text.
+class Reader {
+ public:
+  Reader(Import& import, ReaderRoutine& routine, const std::string& file,
+         const std::string& systemNickname)
+      : import_(import), routine_(routine), file_(file), known_(import, routine, systemNickname) {}
+
+  void Read(std::string_view text) {
+    const auto length = static_cast<std::int32_t>(text.size());
+    import_.ProgressIt(length, 0);
+    lastTick_ = import_.Host.TickCount();
+    BlockCutter cutter(text);
+    while (const auto block = cutter.Next()) {
+      if (block->empty()) continue;
+      routine_.BeginBlock(*block);
+      const auto consumed = static_cast<std::int32_t>(cutter.Consumed());
+      routine_.Try([&] { ShowProgress(length, consumed); });
+      ReadBlock(*block);
+    }
+    import_.ProgressIt(length, length);
+  }
+
+ private:
+  void ShowProgress(std::int32_t length, std::int32_t consumed) {
+    const std::uint32_t now = import_.Host.TickCount();
+    if (!IsDue(now, lastTick_) && !import_.Host.IsDebugging()) return;
+    if (!import_.Host.IsMinimised()) {
+      import_.Host.ShowText(FormatIn(import_.Host.Speech(), TextId::ReadingFile, file_) +
+                            "\r\n\r\n" + FromWindows1252(routine_.BlockCopy()));
+    }
+    import_.ProgressIt(length, std::min(length, consumed));
+    lastTick_ = import_.Host.TickCount();
+    import_.Host.Yield();
+  }
+
+  // A block whose statements do not stop a failure themselves is one step.
+  void ReadBlock(std::string_view block) {
+    try {
+      routine_.Try([&] { ReadSection(block); });
+    } catch (const NextBlock&) {
+      // The failure stands in the data log; its row was dropped.
+    }
+  }
+
+  void ReadSection(std::string_view block) {
+    std::string text = RemoveComments(block);
+    if (const std::size_t header = text.find('['); header != std::string::npos) {
+      text.erase(0, header);
+    }
+    text = FixCrLf(std::move(text));
+    if (known_.Read(text)) return;
+    routine_.SetInGeneric(true);
+    ReadGenericSection(import_, routine_, file_, text);
+  }
+
+  Import& import_;
+  ReaderRoutine& routine_;
+  const std::string& file_;
+  KnownSections known_;
+  std::uint32_t lastTick_ = 0;
+};
+
+}  // namespace
+
+void ReadINI(Import& import, const std::string& file, const std::string& systemNickname) {
+  ReaderRoutine routine(import, file);
+  routine.Run([&] {
+    ++import.Progress.ImportDone;
+    const auto path = file.ends_with('\\') ? std::nullopt : import.Game.FindFile(file);
+    if (!path) {
+      import.Target.Log.AddErrorLine("Cant find file: [" + file + "]");
+      return;
+    }
+    std::string text;
+    if (!routine.Try([&] { text = ReadText(*path, file); })) return;
+    if (text.empty()) return;
+    Reader(import, routine, file, systemNickname).Read(text);
+  });
+}
+
+}  // namespace orrerix

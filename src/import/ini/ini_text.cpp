@@ -1,0 +1,119 @@
+// SPDX-License-Identifier: MIT
+#include "import/ini/ini_text.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <optional>
+
+#include "db/values/text.h"
+
+namespace orrerix {
+namespace {
+
+std::string_view UpToCarriageReturn(std::string_view text) {
+  return Trim(text.substr(0, text.find('\r')));
+}
+
+// The next two have no way out of their loops, and count in bytes, so that the compiler lets them
+// take many characters at a time.
+
+// Whether each CR or LF between the first and the last character has its partner.
+bool LineEndsAreWhole(std::string_view text) {
+  std::uint8_t broken = 0;
+  for (std::size_t i = 1; i + 1 < text.size(); ++i) {
+    broken |= std::uint8_t(int(text[i] == '\n') & int(text[i - 1] != '\r'));
+    broken |= std::uint8_t(int(text[i] == '\r') & int(text[i + 1] != '\n'));
+  }
+  return broken == 0;
+}
+
+// Whether two blanks stand before a "=" somewhere.
+bool HasBlanksBeforeSigns(std::string_view text) {
+  std::uint8_t found = 0;
+  for (std::size_t i = 2; i < text.size(); ++i) {
+    found |= std::uint8_t(int(text[i] == '=') & int(text[i - 1] == ' ') & int(text[i - 2] == ' '));
+  }
+  return found != 0;
+}
+
+// Line ends only; blanks before "=" come later.
+std::string WithLineEnds(std::string_view text) {
+  std::string fixed;
+  fixed.reserve(text.size() + text.size() / 16);
+  fixed.push_back(text.front());
+  for (std::size_t i = 1; i + 1 < text.size(); ++i) {
+    const char c = text[i];
+    if (c == '\n' && fixed.back() != '\r') fixed.push_back('\r');
+    fixed.push_back(c);
+    if (c == '\r' && text[i + 1] != '\n') fixed.push_back('\n');
+  }
+  if (text.size() > 1) fixed.push_back(text.back());
+  return fixed;
+}
+
+// Leaves one blank of each run before "=".
+void ShrinkBlanksBeforeSigns(std::string& text) {
+  auto end = text.begin();
+  for (const char c : text) {
+    if (c == '=') {
+      while (end - text.begin() > 1 && *(end - 1) == ' ' && *(end - 2) == ' ') --end;
+    }
+    *end++ = c;
+  }
+  text.erase(end, text.end());
+}
+
+}  // namespace
+
+std::string UpperAscii(std::string_view text) {
+  std::string upper(text);
+  for (char& c : upper) c = static_cast<char>(c >= 'a' && c <= 'z' ? c - 32 : c);
+  return upper;
+}
+
+std::size_t FindText(std::string_view text, std::string_view part) {
+  return text.find(part);
+}
+
+std::string_view FindINIValue(std::string_view text, std::string_view upperText,
+                              std::string_view upperKey) {
+  std::optional<std::size_t> tight;
+  for (std::size_t from = 0; from < upperText.size();) {
+    const std::size_t found = FindText(upperText.substr(from), upperKey);
+    if (found == std::string_view::npos) break;
+    const std::size_t sign = from + found + upperKey.size();
+    const std::string_view behind = upperText.substr(sign);
+    if (behind.starts_with(" =")) {
+      const std::size_t start = sign + 3;
+      return start < text.size() ? UpToCarriageReturn(text.substr(start)) : std::string_view();
+    }
+    if (!tight && behind.starts_with("=")) tight = sign + 1;
+    from += found + 1;
+  }
+  return tight ? UpToCarriageReturn(text.substr(*tight)) : std::string_view();
+}
+
+std::string_view GetINIValue(std::string_view text, std::string_view key) {
+  return FindINIValue(text, UpperAscii(text), UpperAscii(key));
+}
+
+std::string RemoveComments(std::string_view text) {
+  std::string clean;
+  clean.reserve(text.size());
+  while (true) {
+    const std::size_t comment = text.find(';');
+    clean.append(text.substr(0, comment));
+    if (comment == std::string_view::npos) return clean;
+    const std::size_t lineEnd = text.find('\r', comment);
+    if (lineEnd == std::string_view::npos) return clean;
+    text.remove_prefix(lineEnd);
+  }
+}
+
+std::string FixCrLf(std::string text) {
+  if (text.size() > 2 && !LineEndsAreWhole(text)) text = WithLineEnds(text);
+  if (HasBlanksBeforeSigns(text)) ShrinkBlanksBeforeSigns(text);
+  return text;
+}
+
+}  // namespace orrerix

@@ -1,0 +1,199 @@
+// SPDX-License-Identifier: MIT
+#include "import/sections/section_tables.h"
+
+#include <algorithm>
+#include <new>
+
+#include <fmt/format.h>
+
+#include "db/schema.h"
+#include "db/values/text.h"
+
+namespace orrerix {
+namespace {
+
+// The engine's limit of 2,000 columns, less the row number.
+constexpr std::size_t kMostFields = 1999;
+
+constexpr std::string_view kSourceFileName = "SourceFileName";
+
+void RequireName(std::string_view name) {
+  if (name.find('\0') == std::string_view::npos) return;
+  throw EngineFailure(failure_number::kInvalidName,
+                      "A name with a character of code 0 is not a valid name.");
+}
+
+}  // namespace
+
+SectionTable::SectionTable(std::string name) : name_(std::move(name)) {
+  fields_.emplace_back(kSourceFileName);
+  places_.emplace(kSourceFileName, 0);
+}
+
+std::optional<SectionTable::FieldIndex> SectionTable::FindField(std::string_view name,
+                                                                FieldIndex guess) const {
+  if (guess < fields_.size() && fields_[guess] == name) return guess;
+  const auto found = places_.find(name);
+  return found == places_.end() ? std::nullopt : std::optional(found->second);
+}
+
+SectionTable::FieldIndex SectionTable::AddField(std::string_view name) {
+  if (EqualIgnoringCase(name, kSourceFileName) || EqualIgnoringCase(name, "OX_ID")) {
+    throw EngineFailure(failure_number::kFieldDefinedTwice, "Can't define field more than once.");
+  }
+  RequireName(name);
+  if (fields_.size() >= kMostFields) {
+    throw EngineFailure(failure_number::kTooManyFields, "Too many fields defined.");
+  }
+  const FieldIndex place = fields_.size();
+  fields_.emplace_back(name);
+  try {
+    places_.emplace(name, place);
+  } catch (const std::bad_alloc&) {
+    fields_.pop_back();
+    throw;
+  }
+  return place;
+}
+
+const std::string_view* SectionTable::Row::Find(FieldIndex field) const {
+  for (const Cell& cell : Cells) {
+    if (cell.Field == field) return &cell.Text;
+  }
+  return nullptr;
+}
+
+std::optional<std::string> SectionTable::KeyOf(const Row& row) const {
+  const std::string_view* key = row.Find(*keyField_);
+  return key == nullptr ? std::nullopt : std::optional(FoldAscii(*key));
+}
+
+void SectionTable::MakeNicknameKey() {
+  keyField_ = FindField("nickname");
+  keys_.clear();
+  for (const Row& row : rows_) {
+    const auto key = KeyOf(row);
+    if (!key || !keys_.insert(texts_.Keep(*key)).second) {
+      keyField_.reset();
+      throw key ? DuplicateKey() : NullInKey();
+    }
+  }
+}
+
+void SectionTable::AddNew() {
+  rowID_ = ++lastID_;
+  edited_ = Row{rowID_, {}};
+  // Rows of one section are mostly alike.
+  if (!rows_.empty()) edited_->Cells.reserve(rows_.back().Cells.size());
+  editedPlace_.reset();
+}
+
+void SectionTable::Edit(std::int32_t rowID) {
+  // The row in question is the last one written, if it was written at all.
+  const auto found = std::find_if(rows_.rbegin(), rows_.rend(),
+                                  [rowID](const Row& row) { return row.ID <= rowID; });
+  if (found == rows_.rend() || found->ID != rowID) {
+    throw EngineFailure(failure_number::kNoCurrentRecord, "No current record.");
+  }
+  edited_ = *found;
+  editedPlace_ = static_cast<std::size_t>(rows_.rend() - found) - 1;
+  rowID_ = rowID;
+}
+
+const std::string_view* SectionTable::Get(FieldIndex field) const {
+  return edited_ ? edited_->Find(field) : nullptr;
+}
+
+void SectionTable::Set(FieldIndex field, std::string_view text) {
+  // Most texts are short and full; the others are for the engine's own rules to judge.
+  if (text.empty() || text.size() > kDefaultTextSize) {
+    Value value = text;
+    if (const auto refused = FitInto(Field{fields_[field]}, name_, value)) throw *refused;
+  }
+  for (Cell& cell : edited_->Cells) {
+    if (cell.Field == field) {
+      cell.Text = texts_.Keep(text);
+      return;
+    }
+  }
+  edited_->Cells.push_back({field, texts_.Keep(text)});
+}
+
+void SectionTable::CheckKey(const Row& row) {
+  const auto key = KeyOf(row);
+  if (!key) throw NullInKey();
+  const auto before = editedPlace_ ? KeyOf(rows_[*editedPlace_]) : std::nullopt;
+  if (before == key) return;
+  if (!keys_.insert(texts_.Keep(*key)).second) throw DuplicateKey();
+  if (before) keys_.erase(*before);
+}
+
+void SectionTable::Update() {
+  Row row = std::move(*edited_);
+  edited_.reset();
+  // Room first: a row without memory must not leave its key behind.
+  if (rows_.size() == rows_.capacity()) rows_.reserve(2 * rows_.size() + 1);
+  if (keyField_) CheckKey(row);
+  if (editedPlace_) {
+    rows_[*editedPlace_] = std::move(row);
+  } else {
+    rows_.push_back(std::move(row));
+  }
+}
+
+void SectionTable::CancelUpdate() {
+  edited_.reset();
+}
+
+TableDef SectionTable::Definition() const {
+  TableDef table = GenericTable(name_);
+  for (const std::string& field : fields_) {
+    if (field != kSourceFileName) table.Fields.push_back(Field{field});
+  }
+  return table;
+}
+
+std::vector<std::size_t> SectionTable::LongestTexts() const {
+  std::vector<std::size_t> longest(fields_.size() + 1, 0);
+  for (const Row& row : rows_) {
+    for (const Cell& cell : row.Cells) {
+      std::size_t& most = longest[cell.Field + 1];
+      // There are no more characters than bytes.
+      if (cell.Text.size() > most) most = std::max(most, Len(cell.Text));
+    }
+  }
+  return longest;
+}
+
+void SectionTable::AppendTo(FailureSink& sink, Database& database,
+                            const TableDef& definition) const {
+  Appender appender = database.OpenAppender(sink, definition, rows_.size());
+  for (const Row& row : rows_) {
+    appender.Set(0, row.ID);
+    for (const Cell& cell : row.Cells) appender.Set(cell.Field + 1, cell.Text);
+    appender.Append();
+  }
+}
+
+SectionTable& SectionTables::Open(std::string_view name) {
+  if (const auto found = byName_.find(name); found != byName_.end()) {
+    return *found->second;
+  }
+  RequireName(name);
+  if (IsOwnTable(name)) {
+    throw EngineFailure(failure_number::kTableExists,
+                        fmt::format("Table '{}' already exists.", name));
+  }
+  auto table = std::make_unique<SectionTable>(std::string(name));
+  if (tables_.size() == tables_.capacity()) tables_.reserve(2 * tables_.size() + 1);
+  byName_.emplace(name, table.get());
+  tables_.push_back(std::move(table));
+  return *tables_.back();
+}
+
+const SectionTable* SectionTables::Find(std::string_view name) const {
+  const auto found = byName_.find(name);
+  return found == byName_.end() ? nullptr : found->second;
+}
+
+}  // namespace orrerix
