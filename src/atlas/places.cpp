@@ -41,7 +41,8 @@ std::string BaseName(const SourceTables& tables, const SourceRow& object,
 }
 
 std::string NameOr(std::string name, std::string_view nickname) {
-  return name.empty() ? std::string(nickname) : name;
+  if (name.empty()) name = nickname;
+  return name;
 }
 
 }  // namespace

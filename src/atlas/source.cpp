@@ -77,8 +77,8 @@ void SourceTables::ReadNames() const {
 }
 
 std::string GivenName(std::string name, std::string_view nickname) {
-  const bool isMadeUp = name.starts_with(std::string(nickname) + "(") && name.ends_with(")");
-  return isMadeUp ? std::string() : name;
+  if (name.starts_with(std::string(nickname) + "(") && name.ends_with(")")) name.clear();
+  return name;
 }
 
 }  // namespace orrerix

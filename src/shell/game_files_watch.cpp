@@ -24,20 +24,22 @@ std::set<std::string> FoldedNames(const std::vector<fs::path>& folders) {
 
 }  // namespace
 
-GameFilesWatch::GameFilesWatch(fs::path game, std::vector<fs::path> except)
-    : GameFilesWatch(WatchFolders(game, WatchedNames()), game, std::move(except)) {}
+GameFilesWatch::GameFilesWatch(fs::path game, std::vector<fs::path> except,
+                               std::chrono::milliseconds quiet)
+    : GameFilesWatch(WatchFolders(game, WatchedNames()), game, std::move(except), quiet) {}
 
 GameFilesWatch::GameFilesWatch(std::unique_ptr<FolderWatch> watch, fs::path game,
-                               std::vector<fs::path> except)
+                               std::vector<fs::path> except, std::chrono::milliseconds quiet)
     : watch_(std::move(watch)),
       game_(std::move(game)),
       except_(std::move(except)),
+      quiet_(quiet),
       folders_(Folders()),
       known_(folders_, except_) {}
 
 std::optional<std::vector<fs::path>> GameFilesWatch::TakeRound(Time now) {
   if (watch_->HasStirred()) stirred_ = now;
-  if (!stirred_ || now - *stirred_ < kQuiet) return std::nullopt;
+  if (!stirred_ || now - *stirred_ < quiet_) return std::nullopt;
   const std::vector<fs::path> folders = Folders();
   stirred_.reset();
   if (!HasAll(folders)) return std::nullopt;

@@ -18,17 +18,21 @@ class GameFilesWatch {
  public:
   using Time = std::chrono::steady_clock::time_point;
 
-  // Changes are one round if none of them comes later than this after the one before.
+  // Where an early answer matters more than a single one, and elsewhere.
+  static constexpr std::chrono::milliseconds kShortQuiet{150};
   static constexpr std::chrono::milliseconds kQuiet{300};
 
   // Watches the folders "exe" and "data" of a game. Files named like one of `except`, with whatever
-  // follows, do not count.
+  // follows, do not count. Changes are one round if none of them comes later than `quiet` after the
+  // one before.
   explicit GameFilesWatch(std::filesystem::path game,
-                          std::vector<std::filesystem::path> except = {});
+                          std::vector<std::filesystem::path> except = {},
+                          std::chrono::milliseconds quiet = kQuiet);
 
   // The same with a watch of the caller's own.
   GameFilesWatch(std::unique_ptr<FolderWatch> watch, std::filesystem::path game,
-                 std::vector<std::filesystem::path> except = {});
+                 std::vector<std::filesystem::path> except = {},
+                 std::chrono::milliseconds quiet = kQuiet);
 
   // The files that came, went or were written, once a round is over; nothing while none is, and
   // never an empty list. While a folder that was there is missing no round ends. Does not block.
@@ -44,6 +48,7 @@ class GameFilesWatch {
   std::unique_ptr<FolderWatch> watch_;
   std::filesystem::path game_;
   std::vector<std::filesystem::path> except_;
+  std::chrono::milliseconds quiet_;
   std::vector<std::filesystem::path> folders_;  // that there were when a round last ended
   FileSnapshot known_;
   std::optional<Time> stirred_;  // when something last happened that no round has told yet

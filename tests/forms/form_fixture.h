@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QApplication>
+#include <QEventLoop>
 #include <QWidget>
 #include <chrono>
 #include <functional>
@@ -102,9 +103,11 @@ inline bool WaitUntil(const std::function<bool()>& isSo) {
   return true;
 }
 
-// Lets everything through that is pending.
+// Lets events through until none is pending.
 inline void PassEvents() {
-  for (int i = 0; i < 5; ++i) QCoreApplication::processEvents();
+  QEventLoop loop;
+  while (loop.processEvents()) {
+  }
 }
 
 class FormFixture : public ::testing::Test {

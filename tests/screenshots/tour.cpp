@@ -27,7 +27,9 @@ namespace orrerix {
 namespace {
 
 void PassEvents() {
-  for (int i = 0; i < 5; ++i) QCoreApplication::processEvents();
+  QEventLoop loop;
+  while (loop.processEvents()) {
+  }
 }
 
 template <typename Child>

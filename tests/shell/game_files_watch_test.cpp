@@ -75,6 +75,17 @@ TEST_F(GameFiles, ThatChangeSoonAfterAnotherAreTheSameRound) {
   EXPECT_THAT(At(550), Optional(ElementsAre(ships, ini)));
 }
 
+TEST_F(GameFiles, ThatChangeAreToldSoonerWithAShorterQuiet) {
+  watch =
+      std::make_unique<GameFilesWatch>(std::make_unique<FakeWatch>(stirs), folder.Path() / "game",
+                                       std::vector<fs::path>(), GameFilesWatch::kShortQuiet);
+  Write(ini, "xy");
+  EXPECT_FALSE(At(0));
+  EXPECT_FALSE(At(149));
+
+  EXPECT_THAT(At(150), Optional(ElementsAre(ini)));
+}
+
 TEST_F(GameFiles, ThatChangeLaterAreAnotherRound) {
   Write(ini, "xy");
   At(0);
