@@ -91,6 +91,9 @@ struct TravelGraph {
 // within a thousand million units do not take part; of several with a nickname the first does.
 TravelGraph ReadTravelGraph(FailureSink& sink, Database& universe);
 
+// The target that a `goto` names, between its first comma and the next; empty without a comma.
+std::string_view GotoTarget(std::string_view text);
+
 // What a player wants to keep away from, and what is locked.
 struct TravelLimits {
   std::vector<bool> Closed;     // by node: it is not in the graph
