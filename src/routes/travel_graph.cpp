@@ -96,6 +96,7 @@ class GraphReader {
       if (!known.insert(row.Object.Key).second) continue;
       row.Object.Point = *point;
       row.Object.Name = rows.Text("realname");
+      row.Object.NameId = static_cast<std::int64_t>(rows.Number("ids_name"));
       row.Object.GotoText = rows.Text("goto");
       row.Archetype = FoldAscii(rows.Text("archetype"));
       row.JumpEffect = FoldAscii(rows.Text("jump_effect"));

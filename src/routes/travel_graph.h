@@ -45,6 +45,7 @@ struct TravelObject {
   std::string Nickname;
   std::string Key;   // the nickname in lower case (ASCII), by which objects are found and ordered
   std::string Name;  // what people call it
+  std::int64_t NameId = 0;  // of the game's text for it
   SystemIndex System = 0;
   SpacePoint Point;
   std::string Base;   // of a dock: the base that it belongs to
