@@ -264,6 +264,7 @@ enum class TextId : int {
   HeadPrice,
   BuyPrice,
   SellPrice,
+  HeadWhere,
   HeadUnitProfit,
   HeadOffer,
   OfferSells,

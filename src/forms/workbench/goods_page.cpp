@@ -11,8 +11,8 @@
 namespace orrerix {
 namespace {
 
-constexpr std::array kGoodWidths = {150, 170, 170, 65, 65, 80, 55, 60, 80};
-constexpr std::array kPlaceWidths = {220, 170, 120, 70, 80, 55, 60};
+constexpr std::array kGoodWidths = {150, 170, 170, 65, 65, 75, 65, 65, 80};
+constexpr std::array kPlaceWidths = {240, 180, 130, 70, 75, 65, 65};
 
 }  // namespace
 
@@ -90,6 +90,7 @@ void GoodsPage::Enter() {
 void GoodsPage::ShowGoodsFrom(const std::string& place) {
   fields_->StandAt(place);
   name_->clear();
+  goodTable_->setCurrentIndex({});  // so that the best one is chosen
   Start();
 }
 

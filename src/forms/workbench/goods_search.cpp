@@ -118,7 +118,7 @@ std::vector<std::vector<Cell>> RowsOf(const GoodsOutcome& outcome, Language lang
 }
 
 std::vector<TextId> OfferHeads() {
-  return {TextId::HeadPlace,      TextId::HeadSystem, TextId::HeadOffer,  TextId::HeadPrice,
+  return {TextId::HeadWhere,      TextId::HeadSystem, TextId::HeadOffer,  TextId::HeadPrice,
           TextId::HeadUnitProfit, TextId::HeadJumps,  TextId::HeadMinutes};
 }
 

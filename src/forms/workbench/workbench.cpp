@@ -38,6 +38,7 @@ Workbench::Workbench(QSettings& settings, const LanguageChoice& choice)
   setWindowIcon(QIcon(":/pictures/application.svg"));
   list_->setObjectName("PageList");
   list_->setAccessibleName(CaptionIn(choice.Current, TextId::Tools));
+  stack_->setObjectName("PageStack");
   list_->setFixedWidth(kListWidth);
   auto* layout = new QHBoxLayout(this);
   layout->setContentsMargins(8, 8, 8, 8);

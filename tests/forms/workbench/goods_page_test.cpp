@@ -48,11 +48,13 @@ TEST_F(GoodsPageTest, ListsWhatEachGoodBringsTheMostByTimeFirst) {
 
 TEST_F(GoodsPageTest, AtAStationOnlyWhatItSellsBringsAProfit) {
   List();
+  Choose(0);
 
   page.ShowGoodsFrom("brook");
 
   ASSERT_TRUE(WaitUntil([&] { return State(page) == "2 commodities, 1 of them bring a profit"; }));
   EXPECT_EQ(RowOf(Goods(), 0).front(), "iron");
+  EXPECT_EQ(Goods().currentIndex().row(), 0);
   EXPECT_THAT(RowOf(Goods(), 1), ElementsAre("gold", "", "", "", "", "", "", "", ""));
 }
 
