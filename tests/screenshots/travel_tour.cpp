@@ -14,6 +14,7 @@
 #include <fmt/format.h>
 
 #include "forms/controls/captions.h"
+#include "forms/workbench/trade_model.h"
 
 namespace orrerix {
 namespace {
@@ -60,6 +61,21 @@ void TravelTour::Find(QWidget& page) {
   wait_("an answer", [&] { return !ChildOf<QPushButton>(page, "Cancel").isEnabled(); });
 }
 
+void TravelTour::ChooseFarthest(QWidget& page) {
+  auto& table = ChildOf<QTableView>(page, "Trades");
+  const auto jumps = [&] { return table.model()->index(0, TradeModel::JumpsColumn).data(); };
+  wait_("the jumps of the trades", [&] { return !jumps().toString().isEmpty(); });
+  table.sortByColumn(TradeModel::JumpsColumn, Qt::DescendingOrder);
+  table.selectRow(0);
+  // The legs of the trade that was chosen before may still stand there.
+  const QString goods = table.model()->index(0, TradeModel::GoodsColumn).data().toString();
+  wait_("the legs of a trade", [&] {
+    const QAbstractItemModel& legs = *ChildOf<QTableView>(page, "Legs").model();
+    return goods.startsWith(legs.index(0, WayLegModel::GoodsColumn).data().toString()) &&
+           legs.rowCount() > 0;
+  });
+}
+
 void TravelTour::ShowWay(QWidget& page, const QString& name) {
   wait_("the legs of a way", [&] { return RowsIn(page, "Legs") > 0; });
   ChildOf<QPushButton>(page, "ShowWay").click();
@@ -83,10 +99,12 @@ void TravelTour::TakeCommodities() {
   album_.Take("tools-commodities", Window());
 }
 
+// The trade of the list that leads farthest.
 void TravelTour::TakeTrades() {
   QWidget& page = Page(TextId::TradesPage);
   ChildOf<QComboBox>(page, "From").setEditText("");
   Find(page);
+  ChooseFarthest(page);
   ShowWay(page, "map-way");
   album_.Take("tools-trades", Window());
 }
@@ -95,6 +113,7 @@ void TravelTour::TakeLoop() {
   QWidget& page = Page(TextId::TradesPage);
   ChildOf<QCheckBox>(page, "Loop").click();
   Find(page);
+  ChooseFarthest(page);
   ShowWay(page, "map-loop");
   ChildOf<QCheckBox>(page, "Loop").click();
 }
@@ -104,6 +123,7 @@ void TravelTour::TakeNoWay() {
   QWidget& page = Page(TextId::WayPage);
   auto& from = ChildOf<QComboBox>(page, "From");
   auto& to = ChildOf<QComboBox>(page, "To");
+  wait_("the places", [&] { return to.count() > 0; });
   from.setCurrentIndex(0);
   to.setCurrentIndex(to.count() - 1);
   for (const char* without : {"NoGates", "NoHoles"}) ChildOf<QCheckBox>(page, without).click();

@@ -29,6 +29,7 @@ class TravelTour {
   QWidget& Window() const;
   QWidget& Page(TextId name);
   void Find(QWidget& page);
+  void ChooseFarthest(QWidget& page);
   void ShowWay(QWidget& page, const QString& name);
 
   OrrerixMain& main_;

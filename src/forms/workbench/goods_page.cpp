@@ -11,8 +11,8 @@
 namespace orrerix {
 namespace {
 
-constexpr std::array kGoodWidths = {150, 170, 170, 65, 65, 75, 65, 65, 80};
-constexpr std::array kPlaceWidths = {240, 180, 130, 70, 75, 65, 65};
+constexpr std::array kGoodWidths = {125, 135, 135, 58, 58, 66, 54, 60, 76};
+constexpr std::array kPlaceWidths = {220, 140, 120, 70, 70, 56, 65};
 
 }  // namespace
 

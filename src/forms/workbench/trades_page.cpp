@@ -15,7 +15,7 @@ namespace orrerix {
 namespace {
 
 constexpr int kMostHops = 6;
-constexpr std::array kWidths = {150, 150, 180, 75, 75, 60, 55, 60};
+constexpr std::array kWidths = {128, 128, 172, 64, 72, 56, 50, 56};
 
 constexpr std::array kSortings = {std::pair(TextId::SortMinute, PlanSorting::Minute),
                                   std::pair(TextId::SortProfit, PlanSorting::Profit),
