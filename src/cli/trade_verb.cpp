@@ -135,14 +135,7 @@ class TradeVerb {
   void RestrictNear() {
     if (!arguments_.Near) return;
     const TravelGraph& graph = travel_.Graph;
-    std::set<SystemIndex> centres;
-    if (const auto system = graph.FindSystem(*arguments_.Near)) {
-      centres.insert(*system);
-    } else {
-      for (SystemIndex i = 0; i < graph.Systems.size(); ++i) {
-        if (EqualIgnoringCase(graph.Systems[i].Name, *arguments_.Near)) centres.insert(i);
-      }
-    }
+    const std::set<SystemIndex> centres = SystemsCalled(graph, *arguments_.Near);
     if (centres.empty()) {
       throw CouldNot(fmt::format("there is no system '{}'", *arguments_.Near));
     }

@@ -59,6 +59,7 @@ OrrerixMain::OrrerixMain(const FormParts& parts, Settings& settings, LanguageFil
       stations_({parts.Log, parts.Pictures, parts.Sound, language, map_.State().Names,
                  [this](Routine& routine) { return OpenUniverse(routine); },
                  [this] { return frameGeometry().size() - size(); },
+                 [this](const std::string& place) { tools_.ShowGoodsFrom(place); },
                  [this](const std::string& place) { tools_.ShowTradesFrom(place); },
                  [this](const std::string& place) { tools_.ShowWayTo(place); }}),
       tools_(*this, parts, format),
@@ -454,6 +455,10 @@ void OrrerixMain::MakeTools() {
   onKey(QKeySequence::Find, [this] {
     if (phase_ == Phase::Map) search_.OpenSearch(SearchType::Place);
   });
+  onKey(Qt::CTRL | Qt::Key_G, [this] {
+    if (phase_ == Phase::Map) tools_.FindGood(search_.Text());
+  });
+  search_.OnFindGood = [this](const std::string& text) { tools_.FindGood(text); };
   tools_.OnReplaced = [this] {
     changeNotice_.Hide();
     way_->Hide();

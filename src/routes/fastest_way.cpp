@@ -2,6 +2,7 @@
 #include "routes/fastest_way.h"
 
 #include <algorithm>
+#include <map>
 
 #include "routes/leg_search.h"
 
@@ -77,6 +78,50 @@ std::vector<NodeIndex> Enterable(const TravelLimits& limits, const TravelPlace& 
   return nodes;
 }
 
+// The ways to one place; what is left to it is found once.
+class WaysTo {
+ public:
+  // `from` holds all the places that are asked for and are no nodes of every way.
+  WaysTo(const TravelGraph& graph, const TravelModel& model, const TravelLimits& limits,
+         const TravelPlace& from, const TravelPlace& to)
+      : model_(model),
+        search_(graph, model, limits, from, to),
+        left_(search_.CostsTo(Enterable(limits, to))),
+        docks_(to.AreDocks) {}
+
+  std::optional<Way> From(const TravelPlace& from) const {
+    const auto start = BestStart(from);
+    if (!start) return std::nullopt;
+    Way way{*start, *start, {}};
+    if (left_[{*start, false}].Legs == 0) return way;
+    way.Legs = WayWalk(search_, left_).From(*start);
+    way.To = way.Legs.back().To;
+    if (from.AreDocks) {
+      way.Legs.insert(way.Legs.begin(),
+                      {LegKind::Launch, way.From, way.From, 0, Milliseconds(model_.LaunchSeconds)});
+    }
+    if (docks_) {
+      way.Legs.push_back({LegKind::Dock, way.To, way.To, 0, Milliseconds(model_.DockSeconds)});
+    }
+    return way;
+  }
+
+ private:
+  std::optional<NodeIndex> BestStart(const TravelPlace& from) const {
+    std::optional<NodeIndex> start;
+    for (const NodeIndex node : from.Nodes) {
+      if (!search_.IsOpen(node) || left_[{node, false}] == kNoWay) continue;
+      if (!start || left_[{node, false}] < left_[{*start, false}]) start = node;
+    }
+    return start;
+  }
+
+  const TravelModel& model_;
+  LegSearch search_;
+  LegSearch::CostTable left_;
+  bool docks_;
+};
+
 }  // namespace
 
 std::int64_t Way::Time() const {
@@ -100,26 +145,24 @@ int Way::Jumps() const {
 std::optional<Way> FastestWay(const TravelGraph& graph, const TravelModel& model,
                               const TravelLimits& limits, const TravelPlace& from,
                               const TravelPlace& to) {
-  const LegSearch search(graph, model, limits, from, to);
-  const LegSearch::CostTable left = search.CostsTo(Enterable(limits, to));
-  std::optional<NodeIndex> start;
-  for (const NodeIndex node : from.Nodes) {
-    if (!search.IsOpen(node) || left[{node, false}] == kNoWay) continue;
-    if (!start || left[{node, false}] < left[{*start, false}]) start = node;
+  return WaysTo(graph, model, limits, from, to).From(from);
+}
+
+std::vector<int> JumpsOf(const TravelGraph& graph, const TravelModel& model,
+                         const TravelLimits& limits, const std::vector<DockTrip>& trips,
+                         const std::function<bool()>& goesOn) {
+  std::vector<int> jumps(trips.size());
+  std::map<NodeIndex, std::vector<std::size_t>> tripsTo;
+  for (std::size_t i = 0; i < trips.size(); ++i) tripsTo[trips[i].To].push_back(i);
+  for (const auto& [to, indexes] : tripsTo) {
+    if (!goesOn()) break;
+    const WaysTo ways(graph, model, limits, {}, {{to}, true});
+    for (const std::size_t i : indexes) {
+      const auto way = ways.From({{trips[i].From}, true});
+      if (way) jumps[i] = way->Jumps();
+    }
   }
-  if (!start) return std::nullopt;
-  Way way{*start, *start, {}};
-  if (left[{*start, false}].Legs == 0) return way;
-  way.Legs = WayWalk(search, left).From(*start);
-  way.To = way.Legs.back().To;
-  if (from.AreDocks) {
-    way.Legs.insert(way.Legs.begin(),
-                    {LegKind::Launch, way.From, way.From, 0, Milliseconds(model.LaunchSeconds)});
-  }
-  if (to.AreDocks) {
-    way.Legs.push_back({LegKind::Dock, way.To, way.To, 0, Milliseconds(model.DockSeconds)});
-  }
-  return way;
+  return jumps;
 }
 
 std::vector<std::optional<std::int64_t>> TimesFrom(const TravelGraph& graph,

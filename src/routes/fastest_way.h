@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -40,6 +41,18 @@ struct Way {
 std::optional<Way> FastestWay(const TravelGraph& graph, const TravelModel& model,
                               const TravelLimits& limits, const TravelPlace& from,
                               const TravelPlace& to);
+
+// A trip from one dock to another.
+struct DockTrip {
+  NodeIndex From = 0;
+  NodeIndex To = 0;
+};
+
+// How many jumps the fastest way of each trip has; 0 where there is none. Trips to one dock are
+// found together. `goesOn` is asked between docks; once it answers false the rest stays 0.
+std::vector<int> JumpsOf(
+    const TravelGraph& graph, const TravelModel& model, const TravelLimits& limits,
+    const std::vector<DockTrip>& trips, const std::function<bool()>& goesOn = [] { return true; });
 
 // How soon each node is reached from a place, launch included where it is docks (a node of the
 // place itself takes no time); nothing where it is not reached. By node.

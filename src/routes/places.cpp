@@ -70,10 +70,12 @@ std::uint32_t LockedNumber(std::string_view text) {
 
 }  // namespace
 
+std::string_view NicknameOfRow(std::string_view row) {
+  return row.substr(0, row.find('\t'));
+}
+
 TravelPlace PlaceOfWay(const TravelGraph& graph, std::string_view name) {
-  if (const std::size_t tab = name.find('\t'); tab != std::string_view::npos) {
-    return PlaceOfWay(graph, name.substr(0, tab));
-  }
+  name = NicknameOfRow(name);
   if (const auto object = graph.FindObject(name)) {
     return {{*object}, graph.Objects[*object].IsDock};
   }
@@ -93,12 +95,14 @@ std::vector<NodeIndex> DocksOfTrade(const TravelGraph& graph, std::string_view n
 }
 
 std::vector<NodeIndex> NodesToAvoid(const TravelGraph& graph, std::string_view name) {
+  name = NicknameOfRow(name);
   if (const auto system = graph.FindSystem(name)) return graph.Systems[*system].Objects;
   if (const auto object = graph.FindObject(name)) return {*object};
   return DocksOfBase(graph, name);
 }
 
 std::vector<NodeIndex> DocksOfFaction(const TravelGraph& graph, std::string_view faction) {
+  faction = NicknameOfRow(faction);
   return ObjectsThat(graph, [&](const TravelObject& object) {
     return object.IsDock && EqualIgnoringCase(object.Owner, faction);
   });
@@ -106,10 +110,21 @@ std::vector<NodeIndex> DocksOfFaction(const TravelGraph& graph, std::string_view
 
 bool IsFaction(FailureSink& sink, Database& universe, const TravelGraph& graph,
                std::string_view faction) {
+  faction = NicknameOfRow(faction);
   for (TableRows groups(sink, universe, "Groups"); !groups.AtEnd(); groups.MoveNext()) {
     if (EqualIgnoringCase(groups.Text("NickName"), faction)) return true;
   }
   return !DocksOfFaction(graph, faction).empty();
+}
+
+std::set<SystemIndex> SystemsCalled(const TravelGraph& graph, std::string_view name) {
+  name = NicknameOfRow(name);
+  if (const auto system = graph.FindSystem(name)) return {*system};
+  std::set<SystemIndex> systems;
+  for (SystemIndex i = 0; i < graph.Systems.size(); ++i) {
+    if (!name.empty() && EqualIgnoringCase(graph.Systems[i].Name, name)) systems.insert(i);
+  }
+  return systems;
 }
 
 std::set<SystemIndex> SystemsOf(const TravelGraph& graph, const std::vector<NodeIndex>& nodes) {

@@ -15,10 +15,14 @@ struct TravelPlace {
   bool AreDocks = false;         // one launches from them and docks at them
 };
 
+// The nickname of a row as a search prints it, nickname, tab and name; a text without a tab as it
+// is. All names below may be such rows.
+std::string_view NicknameOfRow(std::string_view row);
+
 // A place of a way, the first that fits: an object by its nickname; the docks of a base; all nodes
 // of a system by its nickname; docks by their name, also where "Dockring: " stands before it;
-// systems by their name; other objects by theirs. Of a row as a search prints it, nickname, tab and
-// name, the nickname counts. Systems, and an object that is no dock, are reached without docking.
+// systems by their name; other objects by theirs. Systems, and an object that is no dock, are
+// reached without docking.
 TravelPlace PlaceOfWay(const TravelGraph& graph, std::string_view name);
 
 // A place of a trade, found in the same order: only docks count, those of a system if it is one.
@@ -34,6 +38,9 @@ std::vector<NodeIndex> DocksOfFaction(const TravelGraph& graph, std::string_view
 // Whether a faction is known: in table Groups, or as an owner of a dock.
 bool IsFaction(FailureSink& sink, Database& universe, const TravelGraph& graph,
                std::string_view faction);
+
+// The systems with a nickname, else with a name.
+std::set<SystemIndex> SystemsCalled(const TravelGraph& graph, std::string_view name);
 
 // The systems in which nodes are.
 std::set<SystemIndex> SystemsOf(const TravelGraph& graph, const std::vector<NodeIndex>& nodes);

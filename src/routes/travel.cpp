@@ -38,7 +38,7 @@ std::optional<double> ApplyShip(FailureSink& sink, Database& universe, const std
 void RequireKnown(FailureSink& sink, Database& universe, const TravelGraph& graph,
                   const TravelWishes& wishes) {
   for (const std::string& name : wishes.Avoid) {
-    if (NodesToAvoid(graph, name).empty() && !graph.FindSystem(name)) {
+    if (NodesToAvoid(graph, name).empty() && !graph.FindSystem(NicknameOfRow(name))) {
       throw UnknownName(NameKind::PlaceToAvoid, name);
     }
   }

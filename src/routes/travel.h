@@ -22,6 +22,8 @@ struct TravelRequest {
   std::optional<std::string> Ship;  // whose speeds and hold count
   std::optional<std::string> Game;  // folder, for its cruise speed and all its locked gates
   TravelWishes Wishes;
+
+  bool operator==(const TravelRequest&) const = default;
 };
 
 // The travel graph of a universe with the speeds and limits of a request.

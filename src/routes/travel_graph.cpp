@@ -40,14 +40,6 @@ std::optional<SpacePoint> PointOf(std::string_view text) {
   return point;
 }
 
-// The target that a `goto` names, between its first comma and the next.
-std::string_view GotoTarget(std::string_view text) {
-  const std::size_t first = text.find(',');
-  if (first == std::string_view::npos) return {};
-  text.remove_prefix(first + 1);
-  return Trim(text.substr(0, text.find(',')));
-}
-
 class GraphReader {
  public:
   GraphReader(FailureSink& sink, Database& universe) : sink_(sink), universe_(universe) {}
@@ -104,6 +96,7 @@ class GraphReader {
       if (!known.insert(row.Object.Key).second) continue;
       row.Object.Point = *point;
       row.Object.Name = rows.Text("realname");
+      row.Object.NameId = static_cast<std::int64_t>(rows.Number("ids_name"));
       row.Object.GotoText = rows.Text("goto");
       row.Archetype = FoldAscii(rows.Text("archetype"));
       row.JumpEffect = FoldAscii(rows.Text("jump_effect"));
@@ -203,6 +196,13 @@ class GraphReader {
 };
 
 }  // namespace
+
+std::string_view GotoTarget(std::string_view text) {
+  const std::size_t first = text.find(',');
+  if (first == std::string_view::npos) return {};
+  text.remove_prefix(first + 1);
+  return Trim(text.substr(0, text.find(',')));
+}
 
 double Distance(const SpacePoint& a, const SpacePoint& b) {
   const double x = a.X - b.X;

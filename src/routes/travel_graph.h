@@ -45,6 +45,7 @@ struct TravelObject {
   std::string Nickname;
   std::string Key;   // the nickname in lower case (ASCII), by which objects are found and ordered
   std::string Name;  // what people call it
+  std::int64_t NameId = 0;  // of the game's text for it
   SystemIndex System = 0;
   SpacePoint Point;
   std::string Base;   // of a dock: the base that it belongs to
@@ -90,6 +91,9 @@ struct TravelGraph {
 // Reads the graph out of a finished universe. Objects with a position of other than three numbers
 // within a thousand million units do not take part; of several with a nickname the first does.
 TravelGraph ReadTravelGraph(FailureSink& sink, Database& universe);
+
+// The target that a `goto` names, between its first comma and the next; empty without a comma.
+std::string_view GotoTarget(std::string_view text);
 
 // What a player wants to keep away from, and what is locked.
 struct TravelLimits {

@@ -5,23 +5,8 @@
 #include <cmath>
 #include <tuple>
 
-#include "db/values/text.h"
-
 namespace orrerix {
 namespace {
-
-// The system that a `goto` names and the target in it, both as written.
-struct GotoText {
-  std::string_view System;
-  std::string_view Target;
-};
-
-GotoText PartsOf(std::string_view text) {
-  const std::size_t first = text.find(',');
-  if (first == std::string_view::npos) return {Trim(text), {}};
-  const std::string_view rest = text.substr(first + 1);
-  return {Trim(text.substr(0, first)), Trim(rest.substr(0, rest.find(',')))};
-}
 
 class Explanation {
  public:
@@ -85,11 +70,10 @@ class Explanation {
     return items;
   }
 
-  // The system that an object's `goto` leads into: that of its target, or the one that is written
-  // where there is no such target.
-  std::optional<SystemIndex> SystemAfter(const GotoText& text) const {
-    if (const auto target = graph_.FindObject(text.Target)) return graph_.Objects[*target].System;
-    return graph_.FindSystem(text.System);
+  // A target that is not there is in no system, whatever system is written beside it.
+  bool LeadsToReachedSystem(std::string_view target) const {
+    const auto object = graph_.FindObject(target);
+    return object && reached_.contains(graph_.Objects[*object].System);
   }
 
   std::vector<BlockedJump> Blocked() const {
@@ -98,10 +82,9 @@ class Explanation {
       const TravelObject& object = graph_.Objects[i];
       if (object.GotoText.empty() || !reached_.contains(object.System)) continue;
       const auto obstacle = ObstacleOf(graph_, limits_, i);
-      const GotoText text = PartsOf(object.GotoText);
-      const auto behind = SystemAfter(text);
-      if (!obstacle || (behind && reached_.contains(*behind))) continue;
-      blocked.push_back({i, std::string(text.Target), *obstacle});
+      const std::string_view target = GotoTarget(object.GotoText);
+      if (!obstacle || LeadsToReachedSystem(target)) continue;
+      blocked.push_back({i, std::string(target), *obstacle});
     }
     return blocked;
   }

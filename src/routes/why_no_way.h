@@ -18,6 +18,8 @@ struct TravelWishes {
   bool NoGates = false;
   bool NoHoles = false;
   bool NoLocked = false;
+
+  bool operator==(const TravelWishes&) const = default;
 };
 
 // The limits that wishes come to. A name that stands for nothing closes nothing. `locked` are the

@@ -250,9 +250,31 @@ enum class TextId : int {
   CopyCoordinates,
   TradesFromHere,
   WayToHere,
+  HeadJumps,
+  CopyWaypoint,
+  CopyWaypointTip,
+  GoodsPage,
+  FindGood,
+  FindGoods,
+  GoodSums,
+  PlacesOfGood,
+  HeadGood,
+  HeadBuyAt,
+  HeadSellAt,
+  HeadPrice,
+  BuyPrice,
+  SellPrice,
+  HeadWhere,
+  HeadUnitProfit,
+  HeadOffer,
+  OfferSells,
+  OfferTakes,
+  BuyHere,
+  SearchGoods,
+  SearchGoodsTip,
 };
 inline constexpr int kStoredTexts = 29;
-inline constexpr int kTexts = static_cast<int>(TextId::WayToHere) + 1;
+inline constexpr int kTexts = static_cast<int>(TextId::SearchGoodsTip) + 1;
 
 // The language in use. Owned by the program; everything that shows a text reads it here.
 struct LanguageChoice {

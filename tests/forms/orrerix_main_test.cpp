@@ -254,6 +254,25 @@ TEST_F(OrrerixMainTest, AFinishedFileIsShownWithoutAnImport) {
   EXPECT_EQ(std::filesystem::last_write_time(UniverseFile()), written);
 }
 
+TEST_F(OrrerixMainTest, ControlAndGOpenTheCommoditiesWithWhatIsSearchedFor) {
+  WriteGame();
+  Load();
+  ASSERT_TRUE(WaitUntil([&] { return ShowsMap(); }));
+  QTest::keyClick(&*form, Qt::Key_F, Qt::ControlModifier);
+  Find<QLineEdit>(*form, ControlId::SearchText).setText("ore");
+
+  QTest::keyClick(&*form, Qt::Key_G, Qt::ControlModifier);
+
+  const QWidgetList windows = QApplication::topLevelWidgets();
+  const auto tools = std::find_if(windows.begin(), windows.end(), [](const QWidget* window) {
+    return window->objectName() == "Workbench";
+  });
+  ASSERT_NE(tools, windows.end());
+  EXPECT_TRUE((*tools)->isVisible());
+  EXPECT_EQ(Find<QLineEdit>(**tools, "FindGood").text(), "ore");
+  EXPECT_TRUE(Find(**tools, "FindGood").isVisible());
+}
+
 TEST_F(OrrerixMainTest, AnImportAgainReplacesTheUniverseWhileTheMapStays) {
   WriteGame();
   Load();

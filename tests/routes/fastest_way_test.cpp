@@ -147,5 +147,24 @@ TEST_F(FastestWayTest, OfSeveralDocksOfABaseTheNearestIsTaken) {
               ElementsAre("launch pier", "fly ring_near", "dock ring_near"));
 }
 
+TEST_F(FastestWayTest, JumpsAreCountedForManyTripsAtOnce) {
+  Dock("pier", "li01", "0, 0, 0");
+  Dock("quay", "li02", "0, 0, 0");
+  Dock("rock", "li03", "0, 0, 0");
+  Dock("isle", "li04", "0, 0, 0");
+  Jump("a", "li01", "3000, 0, 0", "li02, b");
+  Jump("b", "li02", "0, 300, 0", "li01, a");
+  Jump("c", "li02", "3000, 0, 0", "li03, d", true);
+  Jump("d", "li03", "0, 300, 0", "li02, c", true);
+  const auto node = [&](std::string_view nickname) { return *Graph().FindObject(nickname); };
+  const std::vector<DockTrip> trips = {{node("pier"), node("rock")},
+                                       {node("quay"), node("rock")},
+                                       {node("pier"), node("quay")},
+                                       {node("pier"), node("isle")},
+                                       {node("pier"), node("pier")}};
+
+  EXPECT_THAT(JumpsOf(Graph(), model, Limits(), trips), ElementsAre(2, 1, 1, 0, 0));
+}
+
 }  // namespace
 }  // namespace orrerix

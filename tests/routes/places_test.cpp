@@ -40,5 +40,24 @@ TEST_F(Places, AreTakenAsASearchPrintsThem) {
   EXPECT_THAT(Nicknames("nowhere\tpier"), IsEmpty());
 }
 
+TEST_F(Places, SystemsAreCalledByNicknameOrName) {
+  Add("Systems", {{"nickname", "ku"}, {"realname", "Kusari"}, {"pos", "2, 2"}});
+  Add("Systems", {{"nickname", "bw"}, {"realname", "ku"}, {"pos", "3, 3"}});
+  Dock("port", "ku", "0, 0, 0");
+  Dock("wharf", "bw", "0, 0, 0");
+  const auto called = [&](std::string_view name) {
+    std::vector<std::string> nicknames;
+    for (const SystemIndex system : SystemsCalled(Graph(), name)) {
+      nicknames.push_back(Graph().Systems[system].Nickname);
+    }
+    return nicknames;
+  };
+
+  EXPECT_THAT(called("KU"), ElementsAre("ku"));
+  EXPECT_THAT(called("kusari"), ElementsAre("ku"));
+  EXPECT_THAT(called("hb\tHarbour"), ElementsAre("hb"));
+  EXPECT_THAT(called("nowhere"), IsEmpty());
+}
+
 }  // namespace
 }  // namespace orrerix

@@ -60,6 +60,17 @@ TEST_F(TravelTest, NamesThatStandForNothingAreRefused) {
   EXPECT_EQ(Unknown(), std::pair(NameKind::Faction, std::string("nobody")));
 }
 
+TEST_F(TravelTest, WishesMayBeRowsOfASearch) {
+  request.Wishes.Avoid = {"brook\tSome name", "li01\tLiberty"};
+  request.Wishes.AvoidFactions = {"traders\tTraders"};
+
+  const Travel travel = Read();
+
+  EXPECT_TRUE(travel.Limits.Closed[*travel.Graph.FindObject("anvil")]);
+  EXPECT_TRUE(travel.Limits.Closed[*travel.Graph.FindObject("brook")]);
+  EXPECT_TRUE(travel.Limits.Forbidden[*travel.Graph.FindObject("anvil")]);
+}
+
 TEST_F(TravelTest, StopsAreOpenDocksWithAMarket) {
   const Travel travel = Read();
   const Market market = ReadMarket(mustWork, db, travel.Graph, travel.Limits);

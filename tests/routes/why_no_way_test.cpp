@@ -99,6 +99,17 @@ TEST_F(WhyNoWayTest, AJumpToNowhereIsMissing) {
   EXPECT_EQ(why.Blocked[1].Because, JumpObstacle::Missing);
 }
 
+TEST_F(WhyNoWayTest, AMissingTargetIsInNoSystemEvenIfAReachedOneIsWritten) {
+  Jump("lost", "li01", "900, 0, 0", "li01, no_such_gate, tunnel");
+  wishes.NoHoles = true;
+
+  const WhyNoWay why = Why();
+
+  ASSERT_THAT(why.Blocked, SizeIs(2));
+  EXPECT_EQ(Nickname(why.Blocked[1].Object), "lost");
+  EXPECT_EQ(why.Blocked[1].Because, JumpObstacle::Missing);
+}
+
 TEST_F(WhyNoWayTest, ATargetThatLetsNobodyInIsReachedAsASystem) {
   wishes.AvoidFactions = {"li_grp"};
 

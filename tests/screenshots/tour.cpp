@@ -22,6 +22,7 @@
 #include "map/layers/system_pictures.h"
 #include "picture/control_items.h"
 #include "picture/twips.h"
+#include "travel_tour.h"
 
 namespace orrerix {
 namespace {
@@ -111,6 +112,7 @@ bool Tour::Go() {
     TakeSearch();
     TakeStation();
     TakeTools();
+    TakeTravel();
     TakeUpdate();
     TakeErrorLog();
     TakeFailure();
@@ -308,6 +310,15 @@ void Tour::TakeTools() {
   PassEvents();
   album_.Take("tools-log", *window);
   window->close();
+}
+
+void Tour::TakeTravel() {
+  ZoomOut();
+  TravelTour(
+      *run_.Main(), album_,
+      [this](const char* what, const std::function<bool()>& isSo) { Wait(what, isSo); },
+      [this](const QString& name) { TakeMain(name); })
+      .Go();
 }
 
 void Tour::TakeErrorLog() {

@@ -29,6 +29,7 @@ class Tour {
   void TakeSearch();
   void TakeStation();
   void TakeTools();
+  void TakeTravel();
   void TakeUpdate();
   void TakeErrorLog();
   void TakeFailure();

@@ -66,6 +66,10 @@ void SearchController::CloseSearch() {
   screen_.Frame().setFocus();
 }
 
+void SearchController::FindGood() {
+  if (OnFindGood) OnFindGood(panel_.Text());
+}
+
 bool SearchController::MoveKey(int by) {
   SearchAnswer answer = Ask("OrrerixMain.StSearchText_KeyDown", "", [&](const SearchScope& scope) {
     return panel_.MoveSelection(scope, by);

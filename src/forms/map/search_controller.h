@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -29,12 +30,20 @@ class SearchController : private SearchEvents {
 
   bool Visible() const { return panel_.Visible(); }
 
+  // What stands in the text box; empty while the panel is closed.
+  std::string Text() const { return Visible() ? panel_.Text() : std::string(); }
+
+  // Called with that text by the panel's entry for commodities, which the panel itself does not
+  // list.
+  std::function<void(const std::string&)> OnFindGood;
+
  private:
   void ChangeSearchText(const std::string& text) override;
   void ChooseFound(std::size_t row) override;
   void ChoosePlace(std::size_t row) override;
   void GoToPlace() override;
   void CloseSearch() override;
+  void FindGood() override;
   bool MoveKey(int by) override;
   void EnterKey(SearchControl in) override;
 

@@ -72,6 +72,12 @@ SearchPanelView::SearchPanelView(SearchEvents& events, QWidget* map)
   close_->setText("\u00D7");
   close_->setAutoRaise(true);
   QObject::connect(close_, &QToolButton::clicked, this, [this] { events_.CloseSearch(); });
+  goods_ = new QToolButton(this);
+  goods_->setObjectName("FindGood");
+  goods_->setFont(FormFont(kCaptionFont));
+  goods_->setAutoRaise(true);
+  goods_->setCursor(Qt::PointingHandCursor);
+  QObject::connect(goods_, &QToolButton::clicked, this, [this] { events_.FindGood(); });
   subSearch_ = AddList(ControlId::FoundList);
   QObject::connect(subSearch_, &QListWidget::currentRowChanged, this, [this](int row) {
     if (row >= 0) events_.ChooseFound(static_cast<std::size_t>(row));
@@ -96,6 +102,9 @@ void SearchPanelView::ShowCaptions(TextSource& texts) {
   caption_->setText(caption(TextId::SearchHead));
   text_->setAccessibleName(caption(TextId::SearchTextName));
   close_->setAccessibleName(caption(TextId::SearchCloseName));
+  goods_->setText(caption(TextId::SearchGoods));
+  goods_->setToolTip(caption(TextId::SearchGoodsTip));
+  goods_->setAccessibleName(caption(TextId::SearchGoodsTip));
   subSearch_->setAccessibleName(caption(TextId::SearchFoundName));
   list_->setAccessibleName(caption(TextId::SearchPlacesName));
 }
@@ -107,6 +116,7 @@ void SearchPanelView::Show(const SearchPanel& panel, TextSource& texts) {
   const QRect textRect = PixelRect(panel.TextBox());
   caption_->setGeometry(textRect.left(), 0, width() - 2 * textRect.left(), textRect.top());
   text_->setGeometry(textRect);
+  PlaceGoods(textRect.top());
   const int gap = static_cast<int>(Pixels(kGap));
   close_->setGeometry(textRect.right() + gap, textRect.top(), width() - textRect.right() - 2 * gap,
                       textRect.height());
@@ -127,6 +137,12 @@ void SearchPanelView::Show(const SearchPanel& panel, TextSource& texts) {
   Fill(*list_, shownList_, panel.List());
   show();
   raise();
+}
+
+// At the right of the panel's caption.
+void SearchPanelView::PlaceGoods(int height) {
+  const int wide = goods_->sizeHint().width();
+  goods_->setGeometry(width() - wide - 1, 1, wide, height - 1);
 }
 
 void SearchPanelView::Fill(QListWidget& list, SearchList& shown, const SearchList& wanted) {

@@ -22,6 +22,7 @@ class SearchEvents {
   virtual void ChoosePlace(std::size_t row) = 0;
   virtual void GoToPlace() = 0;
   virtual void CloseSearch() = 0;
+  virtual void FindGood() = 0;
 
   // Keys of the three controls. True if the key means nothing else.
   virtual bool MoveKey(int by) = 0;
@@ -44,6 +45,7 @@ class SearchPanelView : public QFrame {
 
  private:
   void ShowCaptions(TextSource& texts);
+  void PlaceGoods(int height);
   QListWidget* AddList(ControlId id);
   void Fill(QListWidget& list, SearchList& shown, const SearchList& wanted);
   bool KeyPress(QObject* control, int key);
@@ -54,6 +56,7 @@ class SearchPanelView : public QFrame {
   QListWidget* subSearch_;
   QListWidget* list_;
   QToolButton* close_;
+  QToolButton* goods_;
   SearchList shownSubSearch_;
   SearchList shownList_;
 };

@@ -120,6 +120,7 @@ void StationInfo::MakeTravelButtons() {
     const std::function<void(const std::string&)>& Act;
   };
   const TravelButton buttons[] = {
+      {"BuyHere", TextId::BuyHere, ":/pictures/tools/goods.svg", parts_.OnGoods},
       {"TradesFromHere", TextId::TradesFromHere, ":/pictures/tools/trades.svg", parts_.OnTrades},
       {"WayToHere", TextId::WayToHere, ":/pictures/tools/way.svg", parts_.OnWay}};
   int top = kOrnamentTop + kModeStep + 300;

@@ -34,8 +34,9 @@ struct StationParts {
   std::function<Universe(Routine&)> OpenUniverse;
   std::function<QSize()> Decoration;  // what the desktop adds to a window's size, pixels
 
-  // Called with the station's nickname by the buttons for its trades and the way to it; without
-  // them there are no such buttons.
+  // Called with the station's nickname by the buttons for what to buy at it, for its trades and for
+  // the way to it; without them there are no such buttons.
+  std::function<void(const std::string&)> OnGoods = nullptr;
   std::function<void(const std::string&)> OnTrades = nullptr;
   std::function<void(const std::string&)> OnWay = nullptr;
 };

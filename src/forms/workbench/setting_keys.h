@@ -10,4 +10,21 @@ inline constexpr const char* kWatch = "game/watch";
 inline constexpr const char* kRecentGames = "game/recent";
 inline constexpr const char* kEditor = "editor/command";
 
+// What the pages of travel share. `kFrom` is there only if the player chose a start.
+inline constexpr const char* kFrom = "travel/from";
+inline constexpr const char* kShip = "travel/ship";
+inline constexpr const char* kHold = "travel/hold";
+inline constexpr const char* kMoney = "travel/money";
+inline constexpr const char* kEnemies = "travel/enemies";
+inline constexpr const char* kKeepAway = "travel/keep_away";
+inline constexpr const char* kNoGates = "travel/no_gates";
+inline constexpr const char* kNoHoles = "travel/no_holes";
+inline constexpr const char* kNoLocked = "travel/no_locked";
+inline constexpr const char* kHops = "trades/hops";
+inline constexpr const char* kLoop = "trades/loop";
+inline constexpr const char* kSorting = "trades/sorting";
+
+// Widths of the columns of a table, by its object name, are below this and the page's name.
+inline constexpr const char* kWidths = "widths";
+
 }  // namespace orrerix::setting_key

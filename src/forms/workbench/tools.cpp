@@ -9,6 +9,7 @@
 #include "forms/controls/captions.h"
 #include "forms/workbench/check_page.h"
 #include "forms/workbench/differences_page.h"
+#include "forms/workbench/goods_page.h"
 #include "forms/workbench/log_page.h"
 #include "forms/workbench/setting_keys.h"
 #include "forms/workbench/trades_page.h"
@@ -45,12 +46,16 @@ Workbench& Tools::Window() {
   window_->Add(std::make_unique<CheckPage>(
       host_, parts_.Speech, [this](const fs::path& file, int line) { OpenInEditor(file, line); }));
   window_->Add(std::make_unique<DifferencesPage>(host_, parts_.Speech, parts_.Version));
-  auto trades = std::make_unique<TradesPage>(host_, parts_.Speech);
-  auto way = std::make_unique<WayPage>(host_, parts_.Speech);
+  const TravelParts travel{host_, parts_.Speech, settings_, worlds_};
+  auto goods = std::make_unique<GoodsPage>(travel);
+  auto trades = std::make_unique<TradesPage>(travel);
+  auto way = std::make_unique<WayPage>(travel);
+  goodsPage_ = goods.get();
   tradesPage_ = trades.get();
   wayPage_ = way.get();
   window_->Add(std::move(trades));
   window_->Add(std::move(way));
+  window_->Add(std::move(goods));
   auto game = std::make_unique<GamePage>(host_, settings_, parts_.Speech);
   gamePage_ = game.get();
   window_->Add(std::move(game));
@@ -75,6 +80,16 @@ void Tools::ShowTradesFrom(const std::string& place) {
 void Tools::ShowWayTo(const std::string& place) {
   Window().Open(TextId::WayPage);
   wayPage_->ShowWayTo(place);
+}
+
+void Tools::ShowGoodsFrom(const std::string& place) {
+  Window().Open(TextId::GoodsPage);
+  goodsPage_->ShowGoodsFrom(place);
+}
+
+void Tools::FindGood(const std::string& text) {
+  Window().Open(TextId::GoodsPage);
+  goodsPage_->FindGood(QString::fromStdString(text));
 }
 
 void Tools::ShowState(const QString& text) {

@@ -10,12 +10,14 @@
 #include "forms/form_parts.h"
 #include "forms/workbench/background_import.h"
 #include "forms/workbench/game_page.h"
+#include "forms/workbench/trade_worlds.h"
 #include "forms/workbench/workbench.h"
 #include "forms/workbench/workbench_host.h"
 #include "shell/game_files_watch.h"
 
 namespace orrerix {
 
+class GoodsPage;
 class TradesPage;
 class WayPage;
 
@@ -39,6 +41,12 @@ class Tools {
   // Open the window with the trades from a place, or the way to it from where the player is.
   void ShowTradesFrom(const std::string& place);
   void ShowWayTo(const std::string& place);
+
+  // Opens the window with what commodities bring that are bought at a place.
+  void ShowGoodsFrom(const std::string& place);
+
+  // Opens the window with the commodities whose name holds a text.
+  void FindGood(const std::string& text);
 
   // Imports the shown game again, while the map stays.
   void ImportAgain();
@@ -65,7 +73,9 @@ class Tools {
   const FormParts& parts_;
   JetVersionOption format_;
   QSettings settings_;
+  TradeWorlds worlds_;
   std::unique_ptr<Workbench> window_;  // made when it is first wanted
+  GoodsPage* goodsPage_ = nullptr;
   TradesPage* tradesPage_ = nullptr;
   WayPage* wayPage_ = nullptr;
   GamePage* gamePage_ = nullptr;

@@ -2,6 +2,7 @@
 #include "forms/workbench/trade_model.h"
 
 #include <QLocale>
+#include <algorithm>
 #include <array>
 
 #include "forms/controls/captions.h"
@@ -9,9 +10,9 @@
 namespace orrerix {
 namespace {
 
-constexpr std::array kHeads = {TextId::HeadFrom,    TextId::HeadTo,        TextId::HeadGoods,
-                               TextId::HeadProfit,  TextId::HeadPerMinute, TextId::HeadPercent,
-                               TextId::HeadMinutes, TextId::HeadRoundTrip};
+constexpr std::array kHeads = {TextId::HeadFrom,   TextId::HeadTo,        TextId::HeadGoods,
+                               TextId::HeadProfit, TextId::HeadPerMinute, TextId::HeadPercent,
+                               TextId::HeadJumps,  TextId::HeadMinutes,   TextId::HeadRoundTrip};
 
 QString StopText(const TravelGraph& graph, NodeIndex dock) {
   const TravelObject& object = graph.Objects[dock];
@@ -57,6 +58,12 @@ void TradeModel::Show(const TradeOutcome& outcome) {
   endResetModel();
 }
 
+void TradeModel::ShowJumps(const std::vector<int>& jumps) {
+  for (std::size_t i = 0; i < std::min(jumps.size(), rows_.size()); ++i) rows_[i].Jumps = jumps[i];
+  if (rows_.empty()) return;
+  emit dataChanged(index(0, JumpsColumn), index(rowCount() - 1, JumpsColumn));
+}
+
 int TradeModel::rowCount(const QModelIndex& parent) const {
   return parent.isValid() ? 0 : static_cast<int>(rows_.size());
 }
@@ -72,7 +79,7 @@ QVariant TradeModel::data(const QModelIndex& index, int role) const {
     case Qt::DisplayRole:
     case Qt::ToolTipRole:
       return TextOf(row, index.column());
-    case SortRole:
+    case kSortRole:
       return ValueOf(row, index.column());
     case Qt::TextAlignmentRole:
       return int((index.column() >= ProfitColumn ? Qt::AlignRight : Qt::AlignLeft) |
@@ -97,6 +104,8 @@ QVariant TradeModel::TextOf(const Row& row, int column) const {
       return whole(row.Minute);
     case PercentColumn:
       return row.Percent ? whole(*row.Percent) + "%" : QString();
+    case JumpsColumn:
+      return row.Jumps ? QString::number(*row.Jumps) : QString();
     case TimeColumn:
       return MinutesText(row.Time);
     default:
@@ -105,9 +114,7 @@ QVariant TradeModel::TextOf(const Row& row, int column) const {
 }
 
 QVariant TradeModel::ValueOf(const Row& row, int column) {
-  const auto orNone = [](const std::optional<double>& number) {
-    return number ? QVariant(*number) : QVariant();
-  };
+  const auto orNone = [](const auto& number) { return number ? QVariant(*number) : QVariant(); };
   switch (column) {
     case FromColumn:
       return row.From;
@@ -121,6 +128,8 @@ QVariant TradeModel::ValueOf(const Row& row, int column) {
       return row.Minute;
     case PercentColumn:
       return orNone(row.Percent);
+    case JumpsColumn:
+      return orNone(row.Jumps);
     case TimeColumn:
       return static_cast<qlonglong>(row.Time);
     default:
@@ -135,22 +144,6 @@ QVariant TradeModel::headerData(int section, Qt::Orientation orientation, int ro
   }
   if (role != Qt::DisplayRole && role != Qt::ToolTipRole) return {};
   return CaptionIn(choice_.Current, kHeads[static_cast<std::size_t>(section)]);
-}
-
-TradeFilter::TradeFilter(TradeModel& trades) {
-  setSourceModel(&trades);
-  setSortRole(TradeModel::SortRole);
-  setFilterKeyColumn(-1);
-  setFilterCaseSensitivity(Qt::CaseInsensitive);
-  setSortCaseSensitivity(Qt::CaseInsensitive);
-}
-
-// The order is turned round for a descending one, so rows without a value turn with it.
-bool TradeFilter::lessThan(const QModelIndex& left, const QModelIndex& right) const {
-  const bool leftHas = left.data(TradeModel::SortRole).isValid();
-  const bool rightHas = right.data(TradeModel::SortRole).isValid();
-  if (leftHas != rightHas) return leftHas == (sortOrder() == Qt::AscendingOrder);
-  return QSortFilterProxyModel::lessThan(left, right);
 }
 
 }  // namespace orrerix

@@ -3,11 +3,11 @@
 #pragma once
 
 #include <QAbstractTableModel>
-#include <QSortFilterProxyModel>
 #include <optional>
 #include <vector>
 
 #include "forms/workbench/trade_search.h"
+#include "forms/workbench/value_filter.h"
 #include "shell/text_id.h"
 
 namespace orrerix {
@@ -21,17 +21,18 @@ class TradeModel : public QAbstractTableModel {
     ProfitColumn,
     MinuteColumn,
     PercentColumn,
+    JumpsColumn,
     TimeColumn,
     RoundTripColumn
   };
-
-  // Cells give the value by which they are sorted under this role.
-  static constexpr int SortRole = Qt::UserRole;
 
   explicit TradeModel(const LanguageChoice& choice) : choice_(choice) {}
 
   // Shows the plans of an answer, the best first; none if it has no world.
   void Show(const TradeOutcome& outcome);
+
+  // The jumps of each plan, which take longer to find than the plans.
+  void ShowJumps(const std::vector<int>& jumps);
 
   const TradePlan& PlanAt(int row) const { return plans_[static_cast<std::size_t>(row)]; }
 
@@ -48,6 +49,7 @@ class TradeModel : public QAbstractTableModel {
     double Profit = 0;
     double Minute = 0;
     std::optional<double> Percent;
+    std::optional<int> Jumps;
     std::int64_t Time = 0;
     std::optional<double> RoundTrip;  // credits a minute, there and back
   };
@@ -59,15 +61,6 @@ class TradeModel : public QAbstractTableModel {
   const LanguageChoice& choice_;
   std::vector<TradePlan> plans_;
   std::vector<Row> rows_;
-};
-
-// Sorts by value, with rows that have none last, and leaves rows with a text in any cell.
-class TradeFilter : public QSortFilterProxyModel {
- public:
-  explicit TradeFilter(TradeModel& trades);
-
- protected:
-  bool lessThan(const QModelIndex& left, const QModelIndex& right) const override;
 };
 
 }  // namespace orrerix

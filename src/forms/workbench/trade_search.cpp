@@ -2,10 +2,10 @@
 #include "forms/workbench/trade_search.h"
 
 #include <algorithm>
+#include <numeric>
 
-#include "db/engine/working_copy.h"
+#include "db/failure.h"
 #include "forms/controls/captions.h"
-#include "forms/workbench/throw_failures.h"
 
 namespace orrerix {
 namespace {
@@ -15,8 +15,7 @@ constexpr double kUsualHold = 100;
 
 TradeQuestion QuestionOf(const TradeWishes& wishes, const TradeWorld& world) {
   TradeQuestion question;
-  question.Hold =
-      wishes.Hold ? static_cast<double>(*wishes.Hold) : world.Travel.ShipHold.value_or(kUsualHold);
+  question.Hold = HoldOf(wishes.Hold, world.Travel);
   question.Credits = wishes.Credits;
   question.Loop = wishes.Loop;
   question.Hops = std::max(wishes.Hops, wishes.Loop ? 2 : 1);
@@ -31,25 +30,15 @@ TradeQuestion QuestionOf(const TradeWishes& wishes, const TradeWorld& world) {
   return question;
 }
 
-TradeOutcome FindIn(const std::filesystem::path& universe, const TradeWishes& wishes,
-                    const BackgroundTask::IsCancelled& isCancelled) {
-  ThrowFailures sink;
-  WorkingCopy copy;
-  Database& data = copy.Of(sink, universe);
-  auto world = std::make_shared<TradeWorld>();
-  world->Travel = ReadTravel(sink, data, wishes.Travel);
-  world->Market = ReadMarket(sink, data, world->Travel.Graph, world->Travel.Limits);
-  const TradeQuestion question = QuestionOf(wishes, *world);
-  const auto goesOn = [&] { return !isCancelled(); };
-  const TravelTimes times(world->Travel.Graph, world->Travel.Model, world->Travel.Limits, goesOn);
+TradeOutcome FindIn(TradeWorlds& worlds, const std::filesystem::path& universe,
+                    const TradeWishes& wishes, const BackgroundTask::IsCancelled& isCancelled) {
   TradeOutcome outcome;
-  if (times.IsComplete()) outcome.Answer = FindTrades(world->Market, times, question, goesOn);
-  outcome.World = std::move(world);
+  outcome.World = worlds.Of(universe, wishes.Travel, isCancelled);
+  if (!outcome.World) return outcome;
+  const TradeQuestion question = QuestionOf(wishes, *outcome.World);
+  const auto goesOn = [&] { return !isCancelled(); };
+  outcome.Answer = FindTrades(outcome.World->Market, *outcome.World->Times, question, goesOn);
   return outcome;
-}
-
-TradeOutcome Impossible(QString error) {
-  return {nullptr, {}, std::move(error)};
 }
 
 TextId TextOf(NameKind kind) {
@@ -67,17 +56,37 @@ TextId TextOf(NameKind kind) {
 
 }  // namespace
 
-TradeOutcome SearchTrades(const std::filesystem::path& universe, const TradeWishes& wishes,
-                          Language language, const BackgroundTask::IsCancelled& isCancelled) {
+TradeOutcome SearchTrades(TradeWorlds& worlds, const std::filesystem::path& universe,
+                          const TradeWishes& wishes, Language language,
+                          const BackgroundTask::IsCancelled& isCancelled) {
   try {
-    return FindIn(universe, wishes, isCancelled);
-  } catch (const UnknownName& error) {
-    return Impossible(ErrorText(language, error));
-  } catch (const std::exception& error) {
-    return Impossible(error.what());
-  } catch (const Failure& failure) {
-    return Impossible(QString::fromStdString(failure.Description));
+    return FindIn(worlds, universe, wishes, isCancelled);
+  } catch (...) {
+    return {nullptr, {}, ErrorText(language, std::current_exception())};
   }
+}
+
+std::vector<int> JumpsOf(const TradeOutcome& outcome,
+                         const BackgroundTask::IsCancelled& isCancelled) {
+  std::vector<DockTrip> trips;
+  for (const TradePlan& plan : outcome.Answer.Plans) {
+    for (const TradeLeg& leg : plan.Legs) trips.push_back({leg.From, leg.To});
+  }
+  const Travel& travel = outcome.World->Travel;
+  const std::vector<int> ofLegs =
+      JumpsOf(travel.Graph, travel.Model, travel.Limits, trips, [&] { return !isCancelled(); });
+  std::vector<int> jumps;
+  auto leg = ofLegs.begin();
+  for (const TradePlan& plan : outcome.Answer.Plans) {
+    const auto next = leg + static_cast<std::ptrdiff_t>(plan.Legs.size());
+    jumps.push_back(std::accumulate(leg, next, 0));
+    leg = next;
+  }
+  return jumps;
+}
+
+double HoldOf(const std::optional<std::int64_t>& wished, const Travel& travel) {
+  return wished ? static_cast<double>(*wished) : travel.ShipHold.value_or(kUsualHold);
 }
 
 QString CargoText(const Market& market, const std::optional<Load>& cargo) {
@@ -104,8 +113,16 @@ std::vector<WayLegRow> LegsOf(const TradeWorld& world, const TradePlan& plan) {
   return rows;
 }
 
-QString ErrorText(Language language, const UnknownName& error) {
-  return QString::fromStdString(FormatIn(language, TextOf(error.Kind), error.Name));
+QString ErrorText(Language language, const std::exception_ptr& error) {
+  try {
+    std::rethrow_exception(error);
+  } catch (const UnknownName& unknown) {
+    return QString::fromStdString(FormatIn(language, TextOf(unknown.Kind), unknown.Name));
+  } catch (const std::exception& other) {
+    return other.what();
+  } catch (const Failure& failure) {
+    return QString::fromStdString(failure.Description);
+  }
 }
 
 }  // namespace orrerix

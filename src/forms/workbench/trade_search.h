@@ -3,13 +3,14 @@
 #pragma once
 
 #include <QString>
+#include <exception>
 #include <filesystem>
 #include <memory>
 #include <optional>
 #include <string>
 #include <vector>
 
-#include "forms/workbench/background_task.h"
+#include "forms/workbench/trade_worlds.h"
 #include "forms/workbench/way_leg_model.h"
 #include "routes/travel.h"
 
@@ -27,11 +28,6 @@ struct TradeWishes {
   PlanSorting Sorting = PlanSorting::Minute;
 };
 
-struct TradeWorld {
-  orrerix::Travel Travel;
-  orrerix::Market Market;
-};
-
 struct TradeOutcome {
   std::shared_ptr<const TradeWorld> World;
   TradeAnswer Answer;
@@ -39,8 +35,9 @@ struct TradeOutcome {
 };
 
 // The trades in a universe file.
-TradeOutcome SearchTrades(const std::filesystem::path& universe, const TradeWishes& wishes,
-                          Language language, const BackgroundTask::IsCancelled& isCancelled);
+TradeOutcome SearchTrades(TradeWorlds& worlds, const std::filesystem::path& universe,
+                          const TradeWishes& wishes, Language language,
+                          const BackgroundTask::IsCancelled& isCancelled);
 
 // What a leg of a plan carries: units, name and both prices; empty if nothing.
 QString CargoText(const Market& market, const std::optional<Load>& cargo);
@@ -48,7 +45,14 @@ QString CargoText(const Market& market, const std::optional<Load>& cargo);
 // The ways of all legs of a plan, one after the other.
 std::vector<WayLegRow> LegsOf(const TradeWorld& world, const TradePlan& plan);
 
-// That a name stands for nothing.
-QString ErrorText(Language language, const UnknownName& error);
+// The jumps of each plan of an answer, summed over its legs.
+std::vector<int> JumpsOf(const TradeOutcome& outcome,
+                         const BackgroundTask::IsCancelled& isCancelled);
+
+// What is aboard at most: the hold that is wished for, else that of the ship, else 100.
+double HoldOf(const std::optional<std::int64_t>& wished, const Travel& travel);
+
+// Why background work came to nothing: the words for what it threw.
+QString ErrorText(Language language, const std::exception_ptr& error);
 
 }  // namespace orrerix

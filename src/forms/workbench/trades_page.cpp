@@ -2,44 +2,31 @@
 #include "forms/workbench/trades_page.h"
 
 #include <QHeaderView>
-#include <QRegularExpressionValidator>
 #include <QSplitter>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <array>
+#include <utility>
 
 #include "forms/controls/captions.h"
+#include "forms/workbench/setting_keys.h"
 
 namespace orrerix {
 namespace {
 
 constexpr int kMostHops = 6;
-constexpr std::array kWidths = {155, 155, 190, 75, 75, 65, 65};
+constexpr std::array kWidths = {128, 128, 172, 64, 72, 56, 50, 56};
 
 constexpr std::array kSortings = {std::pair(TextId::SortMinute, PlanSorting::Minute),
                                   std::pair(TextId::SortProfit, PlanSorting::Profit),
                                   std::pair(TextId::SortPercent, PlanSorting::Percent),
                                   std::pair(TextId::SortRoundTrip, PlanSorting::Loop)};
 
-QLineEdit* NumberEdit(const char* name, const QString& withoutNumber, QWidget* parent) {
-  auto* edit = new QLineEdit(parent);
-  edit->setObjectName(name);
-  edit->setPlaceholderText(withoutNumber);
-  // Up to a thousand million, which every calculation bears.
-  edit->setValidator(new QRegularExpressionValidator(QRegularExpression("[1-9][0-9]{0,8}"), edit));
-  return edit;
-}
-
-std::optional<std::int64_t> NumberIn(const QLineEdit& edit) {
-  bool isNumber = false;
-  const qlonglong number = edit.text().toLongLong(&isNumber);
-  return isNumber ? std::optional<std::int64_t>(number) : std::nullopt;
-}
-
 }  // namespace
 
-TradesPage::TradesPage(WorkbenchHost& host, const LanguageChoice& choice)
-    : TravelPage(TextId::TradesPage, TextId::FindTrades, host, choice),
-      trades_(choice),
+TradesPage::TradesPage(const TravelParts& parts)
+    : TravelPage(TextId::TradesPage, TextId::FindTrades, "trades", parts),
+      trades_(parts.Choice),
       filter_(trades_) {
   AddFields();
   auto* filter = new QLineEdit(this);
@@ -60,8 +47,6 @@ TradesPage::TradesPage(WorkbenchHost& host, const LanguageChoice& choice)
 }
 
 void TradesPage::AddFields() {
-  hold_ = NumberEdit("Hold", Caption(TextId::HoldOfShip), this);
-  money_ = NumberEdit("Money", Caption(TextId::MoneyWithoutLimit), this);
   hops_ = new QSpinBox(this);
   hops_->setObjectName("Hops");
   hops_->setRange(1, kMostHops);
@@ -70,8 +55,7 @@ void TradesPage::AddFields() {
   sorting_ = new QComboBox(this);
   sorting_->setObjectName("Sorting");
   for (const auto& [caption, sorting] : kSortings) sorting_->addItem(Caption(caption));
-  fields_->Add(TextId::TravelHold, hold_);
-  fields_->Add(TextId::TravelMoney, money_);
+  fields_->AddLoad();
   fields_->Add(TextId::TradeHops, hops_);
   fields_->Add(loop_);
   fields_->Add(TextId::SortedBy, sorting_);
@@ -88,9 +72,7 @@ void TradesPage::MakeTradeTable() {
   table_->setSortingEnabled(true);
   table_->horizontalHeader()->setStretchLastSection(true);
   table_->horizontalHeader()->setSortIndicator(-1, Qt::DescendingOrder);
-  for (std::size_t column = 0; column < kWidths.size(); ++column) {
-    table_->setColumnWidth(static_cast<int>(column), kWidths[column]);
-  }
+  RecallWidths(*table_, kWidths);
   connect(table_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
           [this] { ShowChosen(); });
 }
@@ -98,8 +80,8 @@ void TradesPage::MakeTradeTable() {
 TradeWishes TradesPage::Wishes() const {
   TradeWishes wishes;
   wishes.Travel = Request();
-  wishes.Hold = NumberIn(*hold_);
-  wishes.Credits = NumberIn(*money_);
+  wishes.Hold = fields_->Hold();
+  wishes.Credits = fields_->Money();
   wishes.From = fields_->From();
   wishes.To = fields_->To();
   wishes.Hops = hops_->value();
@@ -108,19 +90,34 @@ TradeWishes TradesPage::Wishes() const {
   return wishes;
 }
 
+// Its own fields come back once; the shared ones with every entering.
+void TradesPage::Enter() {
+  TravelPage::Enter();
+  if (std::exchange(isRecalled_, true)) return;
+  loop_->setChecked(settings_.value(setting_key::kLoop).toBool());
+  hops_->setValue(settings_.value(setting_key::kHops, 1).toInt());
+  sorting_->setCurrentIndex(
+      std::clamp(settings_.value(setting_key::kSorting).toInt(), 0, sorting_->count() - 1));
+}
+
+void TradesPage::Leave() {
+  TravelPage::Leave();
+  settings_.setValue(setting_key::kLoop, loop_->isChecked());
+  settings_.setValue(setting_key::kHops, hops_->value());
+  settings_.setValue(setting_key::kSorting, sorting_->currentIndex());
+}
+
 void TradesPage::ShowTradesFrom(const std::string& place) {
-  fields_->ShowFrom(place);
+  fields_->StandAt(place);
   fields_->ShowTo({});
   Start();
 }
 
-void TradesPage::Start() {
-  CancelWork();
-  ShowRunning();
+void TradesPage::Run() {
   task_.Start(
-      [file = host_.UniverseFile(), wishes = Wishes(),
+      [&worlds = worlds_, file = host_.UniverseFile(), wishes = Wishes(),
        language = choice_.Current](const BackgroundTask::IsCancelled& isCancelled) {
-        return SearchTrades(file, wishes, language, isCancelled);
+        return SearchTrades(worlds, file, wishes, language, isCancelled);
       },
       [this](TradeOutcome outcome) { Show(std::move(outcome)); });
 }
@@ -128,6 +125,7 @@ void TradesPage::Start() {
 // The order of the answer, until a column is clicked.
 void TradesPage::Show(TradeOutcome outcome) {
   legTask_.Cancel();
+  jumpTask_.Cancel();
   outcome_ = std::move(outcome);
   legs_.Show({});
   table_->horizontalHeader()->setSortIndicator(-1, Qt::DescendingOrder);
@@ -136,7 +134,13 @@ void TradesPage::Show(TradeOutcome outcome) {
                ? QString::fromStdString(FormatIn(choice_.Current, TextId::TradeSums,
                                                  outcome_.Answer.Count, trades_.rowCount()))
                : outcome_.Error);
-  if (filter_.rowCount() > 0) table_->selectRow(0);
+  if (filter_.rowCount() == 0) return;
+  table_->selectRow(0);
+  jumpTask_.Start(
+      [outcome = outcome_](const BackgroundTask::IsCancelled& isCancelled) {
+        return JumpsOf(outcome, isCancelled);
+      },
+      [this](const std::vector<int>& jumps) { trades_.ShowJumps(jumps); });
 }
 
 void TradesPage::ShowChosen() {
@@ -154,6 +158,7 @@ void TradesPage::Clear() {
 
 void TradesPage::CancelWork() {
   task_.Cancel();
+  jumpTask_.Cancel();
   legTask_.Cancel();
 }
 

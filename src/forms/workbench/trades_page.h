@@ -14,15 +14,16 @@ namespace orrerix {
 // Looks for the trades that pay most, and lists them with the ways of the chosen one.
 class TradesPage : public TravelPage {
  public:
-  // Both outlive the page.
-  TradesPage(WorkbenchHost& host, const LanguageChoice& choice);
+  explicit TradesPage(const TravelParts& parts);
 
-  void Start() override;
+  void Enter() override;
+  void Leave() override;
 
   // Looks for the trades from a place to any other.
   void ShowTradesFrom(const std::string& place);
 
  private:
+  void Run() override;
   void Clear() override;
   void CancelWork() override;
   void AddFields();
@@ -31,16 +32,16 @@ class TradesPage : public TravelPage {
   void Show(TradeOutcome outcome);
   void ShowChosen();
 
-  QLineEdit* hold_;
-  QLineEdit* money_;
   QSpinBox* hops_;
   QCheckBox* loop_;
   QComboBox* sorting_;
   QTableView* table_;
   TradeModel trades_;
-  TradeFilter filter_;
+  ValueFilter filter_;
   TradeOutcome outcome_;
+  bool isRecalled_ = false;
   BackgroundTask legTask_;  // last: they refer to the others
+  BackgroundTask jumpTask_;
   BackgroundTask task_;
 };
 

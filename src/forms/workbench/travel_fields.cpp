@@ -3,9 +3,12 @@
 
 #include <QCompleter>
 #include <QLabel>
+#include <QRegularExpressionValidator>
+#include <algorithm>
 #include <set>
 
 #include "forms/controls/captions.h"
+#include "forms/workbench/setting_keys.h"
 
 namespace orrerix {
 namespace {
@@ -16,6 +19,21 @@ constexpr int kShortestText = 12;   // characters that a closed list has room fo
 
 QString NicknameOf(const QListWidgetItem& item) {
   return item.data(Qt::UserRole).toString();
+}
+
+QLineEdit* NumberEdit(const char* name, const QString& withoutNumber, QWidget* parent) {
+  auto* edit = new QLineEdit(parent);
+  edit->setObjectName(name);
+  edit->setPlaceholderText(withoutNumber);
+  // Up to a thousand million, which every calculation bears.
+  edit->setValidator(new QRegularExpressionValidator(QRegularExpression("[1-9][0-9]{0,8}"), edit));
+  return edit;
+}
+
+std::optional<std::int64_t> NumberIn(const QLineEdit& edit) {
+  bool isNumber = false;
+  const qlonglong number = edit.text().toLongLong(&isNumber);
+  return isNumber ? std::optional<std::int64_t>(number) : std::nullopt;
 }
 
 }  // namespace
@@ -118,23 +136,72 @@ void TravelFields::AllowAnyPlace() {
   }
 }
 
+void TravelFields::AddLoad() {
+  hold_ = NumberEdit("Hold", Caption(TextId::HoldOfShip), this);
+  money_ = NumberEdit("Money", Caption(TextId::MoneyWithoutLimit), this);
+  Add(TextId::TravelHold, hold_);
+  Add(TextId::TravelMoney, money_);
+}
+
+std::optional<std::int64_t> TravelFields::Hold() const {
+  return NumberIn(*hold_);
+}
+
+std::optional<std::int64_t> TravelFields::Money() const {
+  return NumberIn(*money_);
+}
+
+void TravelFields::HideTo() {
+  rows_->setRowVisible(to_, false);
+}
+
 void TravelFields::Offer(const TravelChoices& choices) {
   from_->Offer(choices.Places);
   to_->Offer(choices.Places);
-  const QString ship = ship_->currentData().toString();
+  const std::string ship = Ship();
+  const std::vector<std::string> enemies = Enemies();
+  isOffered_ = true;
   while (ship_->count() > 1) ship_->removeItem(1);
   for (const TravelChoice& item : choices.Ships) {
     ship_->addItem(item.Text, QString::fromStdString(item.Nickname));
   }
-  ship_->setCurrentIndex(ship.isEmpty() ? 0 : std::max(0, ship_->findData(ship)));
-  const std::vector<std::string> enemies = Request().Wishes.AvoidFactions;
-  const std::set<std::string> checked(enemies.begin(), enemies.end());
+  ChooseShip(ship);
   factions_->clear();
   for (const TravelChoice& faction : choices.Factions) {
     auto* item = new QListWidgetItem(faction.Text, factions_);
     item->setData(Qt::UserRole, QString::fromStdString(faction.Nickname));
     item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
-    item->setCheckState(checked.contains(faction.Nickname) ? Qt::Checked : Qt::Unchecked);
+  }
+  CheckEnemies(enemies);
+}
+
+std::string TravelFields::Ship() const {
+  return isOffered_ ? ship_->currentData().toString().toStdString() : wantedShip_;
+}
+
+void TravelFields::ChooseShip(const std::string& nickname) {
+  wantedShip_ = nickname;
+  const int found = nickname.empty() ? 0 : ship_->findData(QString::fromStdString(nickname));
+  ship_->setCurrentIndex(std::max(0, found));
+}
+
+std::vector<std::string> TravelFields::Enemies() const {
+  if (!isOffered_) return wantedEnemies_;
+  std::vector<std::string> enemies;
+  for (int i = 0; i < factions_->count(); ++i) {
+    const QListWidgetItem& item = *factions_->item(i);
+    if (item.checkState() == Qt::Checked) enemies.push_back(NicknameOf(item).toStdString());
+  }
+  return enemies;
+}
+
+void TravelFields::CheckEnemies(const std::vector<std::string>& nicknames) {
+  wantedEnemies_ = nicknames;
+  const std::set<std::string> checked(nicknames.begin(), nicknames.end());
+  for (int i = 0; i < factions_->count(); ++i) {
+    QListWidgetItem& item = *factions_->item(i);
+    item.setCheckState(checked.contains(NicknameOf(item).toStdString()) ? Qt::Checked
+                                                                        : Qt::Unchecked);
   }
 }
 
@@ -143,18 +210,56 @@ void TravelFields::StartAt(const std::string& place) {
   startedAt_ = place;
 }
 
+void TravelFields::StandAt(const std::string& place) {
+  from_->ShowPlace(place);
+  startedAt_ = place;
+}
+
+void TravelFields::Recall(const QSettings& settings) {
+  const auto text = [&](const char* key) { return settings.value(key).toString(); };
+  from_->ShowPlace(settings.contains(setting_key::kFrom) ? text(setting_key::kFrom).toStdString()
+                                                         : startedAt_);
+  ChooseShip(text(setting_key::kShip).toStdString());
+  std::vector<std::string> enemies;
+  for (const QString& enemy : text(setting_key::kEnemies).split(',', Qt::SkipEmptyParts)) {
+    enemies.push_back(enemy.toStdString());
+  }
+  CheckEnemies(enemies);
+  avoid_->setText(text(setting_key::kKeepAway));
+  noGates_->setChecked(settings.value(setting_key::kNoGates).toBool());
+  noHoles_->setChecked(settings.value(setting_key::kNoHoles).toBool());
+  noLocked_->setChecked(settings.value(setting_key::kNoLocked).toBool());
+  if (hold_ == nullptr) return;
+  hold_->setText(text(setting_key::kHold));
+  money_->setText(text(setting_key::kMoney));
+}
+
+void TravelFields::Remember(QSettings& settings) const {
+  if (From() == startedAt_) {
+    settings.remove(setting_key::kFrom);
+  } else {
+    settings.setValue(setting_key::kFrom, QString::fromStdString(From()));
+  }
+  settings.setValue(setting_key::kShip, QString::fromStdString(Ship()));
+  QStringList enemies;
+  for (const std::string& enemy : Enemies()) enemies.append(QString::fromStdString(enemy));
+  settings.setValue(setting_key::kEnemies, enemies.join(','));
+  settings.setValue(setting_key::kKeepAway, avoid_->text());
+  settings.setValue(setting_key::kNoGates, noGates_->isChecked());
+  settings.setValue(setting_key::kNoHoles, noHoles_->isChecked());
+  settings.setValue(setting_key::kNoLocked, noLocked_->isChecked());
+  if (hold_ == nullptr) return;
+  settings.setValue(setting_key::kHold, hold_->text());
+  settings.setValue(setting_key::kMoney, money_->text());
+}
+
 TravelRequest TravelFields::Request() const {
   TravelRequest request;
-  const QString ship = ship_->currentData().toString();
-  if (!ship.isEmpty()) request.Ship = ship.toStdString();
+  if (const std::string ship = Ship(); !ship.empty()) request.Ship = ship;
   for (const QString& name : avoid_->text().split(',')) {
     if (!name.trimmed().isEmpty()) request.Wishes.Avoid.push_back(name.trimmed().toStdString());
   }
-  for (int i = 0; i < factions_->count(); ++i) {
-    const QListWidgetItem& item = *factions_->item(i);
-    if (item.checkState() != Qt::Checked) continue;
-    request.Wishes.AvoidFactions.push_back(NicknameOf(item).toStdString());
-  }
+  request.Wishes.AvoidFactions = Enemies();
   request.Wishes.NoGates = noGates_->isChecked();
   request.Wishes.NoHoles = noHoles_->isChecked();
   request.Wishes.NoLocked = noLocked_->isChecked();

@@ -7,6 +7,9 @@
 #include <QFormLayout>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QSettings>
+#include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -41,12 +44,24 @@ class TravelFields : public QWidget {
   // Where the player is now: taken over while the field still says where they were.
   void StartAt(const std::string& place);
 
+  // The player stands at a place, until they choose another or are somewhere else.
+  void StandAt(const std::string& place);
+
+  // What all pages share, from page to page and from run to run. A start is remembered only if the
+  // player chose it.
+  void Recall(const QSettings& settings);
+  void Remember(QSettings& settings) const;
+
   std::string From() const { return from_->Place(); }
   std::string To() const { return to_->Place(); }
   TravelRequest Request() const;  // without a game
 
-  void ShowFrom(const std::string& place) { from_->ShowPlace(place); }
   void ShowTo(const std::string& place) { to_->ShowPlace(place); }
+
+  // Adds hold and money; without a number the ship's hold counts, and the money has no limit.
+  void AddLoad();
+  std::optional<std::int64_t> Hold() const;  // nothing without a number
+  std::optional<std::int64_t> Money() const;
 
   // The first of both that is empty gets the keyboard.
   void FocusEmpty() { (From().empty() ? from_ : to_)->setFocus(); }
@@ -60,10 +75,15 @@ class TravelFields : public QWidget {
   void AllowAnyPlace();
 
   void EnableTo(bool on) { to_->setEnabled(on); }
+  void HideTo();
 
  private:
   QString Caption(TextId id) const;
   QCheckBox* MakeSwitch(TextId caption, const char* name);
+  std::string Ship() const;
+  std::vector<std::string> Enemies() const;
+  void ChooseShip(const std::string& nickname);
+  void CheckEnemies(const std::vector<std::string>& nicknames);
 
   const LanguageChoice& choice_;
   QFormLayout* rows_;
@@ -75,8 +95,13 @@ class TravelFields : public QWidget {
   QCheckBox* noGates_;
   QCheckBox* noHoles_;
   QCheckBox* noLocked_;
+  QLineEdit* hold_ = nullptr;
+  QLineEdit* money_ = nullptr;
   int added_ = 0;
   std::string startedAt_;
+  bool isOffered_ = false;
+  std::string wantedShip_;  // until ships and factions are offered
+  std::vector<std::string> wantedEnemies_;
 };
 
 }  // namespace orrerix

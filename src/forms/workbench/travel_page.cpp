@@ -6,8 +6,10 @@
 #include <QHeaderView>
 #include <QVBoxLayout>
 #include <array>
+#include <utility>
 
 #include "forms/controls/captions.h"
+#include "forms/workbench/setting_keys.h"
 
 namespace orrerix {
 namespace {
@@ -15,12 +17,18 @@ namespace {
 constexpr int kFieldsWidth = 300;
 constexpr int kProgressWidth = 120;
 constexpr int kRowPadding = 6;
-constexpr std::array kLegWidths = {110, 140, 260, 220, 80, 70};
+constexpr std::array kLegWidths = {110, 140, 260, 220, 60, 80, 70};
 
 }  // namespace
 
-TravelPage::TravelPage(TextId name, TextId find, WorkbenchHost& host, const LanguageChoice& choice)
-    : WorkbenchPage(name), host_(host), choice_(choice), legs_(choice) {
+TravelPage::TravelPage(TextId name, TextId find, const char* key, const TravelParts& parts)
+    : WorkbenchPage(name),
+      host_(parts.Host),
+      choice_(parts.Choice),
+      settings_(parts.Settings),
+      worlds_(parts.Worlds),
+      legs_(parts.Choice),
+      key_(key) {
   auto* columns = new QHBoxLayout(this);
   columns->setContentsMargins(0, 0, 0, 0);
   columns->addWidget(MakeFields(find));
@@ -28,9 +36,7 @@ TravelPage::TravelPage(TextId name, TextId find, WorkbenchHost& host, const Lang
   results_->addWidget(MakeBar());
   columns->addLayout(results_, 1);
   legTable_ = MakeTable("Legs", TextId::WayPage, legs_);
-  for (std::size_t column = 0; column < kLegWidths.size(); ++column) {
-    legTable_->setColumnWidth(static_cast<int>(column), kLegWidths[column]);
-  }
+  RecallWidths(*legTable_, kLegWidths);
   legTable_->horizontalHeader()->setSectionResizeMode(WayLegModel::ToColumn, QHeaderView::Stretch);
   MakeMapButtons();
 }
@@ -57,6 +63,7 @@ QWidget* TravelPage::MakeFields(TextId find) {
   layout->addLayout(buttons);
   connect(find_, &QPushButton::clicked, this, [this] { Start(); });
   connect(cancel_, &QPushButton::clicked, this, [this] {
+    startsWhenRead_ = false;
     CancelWork();
     ShowDone({});
   });
@@ -109,9 +116,13 @@ void TravelPage::MakeMapButtons() {
   hide->setObjectName("HideWay");
   auto* copy = new QPushButton(Caption(TextId::CopyCoordinates), mapButtons_);
   copy->setObjectName("CopyCoordinates");
-  for (QPushButton* button : {show, hide, copy}) row->addWidget(button);
+  auto* waypoint = new QPushButton(Caption(TextId::CopyWaypoint), mapButtons_);
+  waypoint->setObjectName("CopyWaypoint");
+  waypoint->setToolTip(Caption(TextId::CopyWaypointTip));
+  for (QPushButton* button : {show, hide, copy, waypoint}) row->addWidget(button);
   row->addStretch(1);
-  connect(copy, &QPushButton::clicked, this, [this] { CopyCoordinates(); });
+  connect(copy, &QPushButton::clicked, this, [this] { CopyOfChosen(&WayLegRow::Coordinates); });
+  connect(waypoint, &QPushButton::clicked, this, [this] { CopyOfChosen(&WayLegRow::Waypoint); });
   connect(show, &QPushButton::clicked, this, [this] { ShowOnMap(); });
   connect(hide, &QPushButton::clicked, this, [this] { host_.HideWay(); });
   connect(&legs_, &QAbstractItemModel::modelReset, show,
@@ -119,11 +130,48 @@ void TravelPage::MakeMapButtons() {
 }
 
 void TravelPage::Enter() {
+  if (!std::exchange(isInFront_, true)) fields_->Recall(settings_);
   fields_->StartAt(host_.StartPlace());
   if (!choicesAreRead_) ReadChoices();
 }
 
+void TravelPage::Leave() {
+  isInFront_ = false;
+  fields_->Remember(settings_);
+  for (const QTableView* table : remembered_) {
+    QStringList widths;
+    for (int column = 0; column < table->model()->columnCount(); ++column) {
+      widths.append(QString::number(table->columnWidth(column)));
+    }
+    settings_.setValue(WidthsKey(*table), widths.join(' '));
+  }
+}
+
+QString TravelPage::WidthsKey(const QTableView& table) const {
+  return QString("%1/%2/%3").arg(key_, setting_key::kWidths, table.objectName());
+}
+
+// Widths of another number of columns are those of another version.
+void TravelPage::RecallWidths(QTableView& table, std::span<const int> widths) {
+  remembered_.push_back(&table);
+  const QStringList known = settings_.value(WidthsKey(table)).toString().split(' ');
+  const bool isKnown = known.size() == table.model()->columnCount();
+  for (std::size_t i = 0; i < widths.size(); ++i) {
+    const auto column = static_cast<int>(i);
+    const int width = isKnown ? known[column].toInt() : widths[i];
+    if (width > 0) table.setColumnWidth(column, width);
+  }
+}
+
+void TravelPage::Start() {
+  CancelWork();
+  ShowRunning();
+  startsWhenRead_ = choices_.IsRunning();
+  if (!startsWhenRead_) Run();
+}
+
 void TravelPage::UniverseChanged() {
+  startsWhenRead_ = false;
   CancelWork();
   ShowDone({});
   Clear();
@@ -136,7 +184,10 @@ void TravelPage::ReadChoices() {
   choicesAreRead_ = true;
   choices_.Start([file = host_.UniverseFile()](
                      const BackgroundTask::IsCancelled&) { return ReadTravelChoices(file); },
-                 [this](const TravelChoices& choices) { fields_->Offer(choices); });
+                 [this](const TravelChoices& choices) {
+                   fields_->Offer(choices);
+                   if (std::exchange(startsWhenRead_, false)) Run();
+                 });
 }
 
 TravelRequest TravelPage::Request() const {
@@ -158,11 +209,10 @@ void TravelPage::ShowDone(const QString& state) {
 }
 
 // Of the chosen leg's end.
-void TravelPage::CopyCoordinates() {
+void TravelPage::CopyOfChosen(QString WayLegRow::*text) {
   const QModelIndex chosen = legTable_->currentIndex();
   if (!chosen.isValid()) return;
-  QApplication::clipboard()->setText(
-      legs_.Rows()[static_cast<std::size_t>(chosen.row())].Coordinates);
+  QApplication::clipboard()->setText(legs_.Rows()[static_cast<std::size_t>(chosen.row())].*text);
 }
 
 void TravelPage::ShowOnMap() {

@@ -9,8 +9,9 @@
 namespace orrerix {
 namespace {
 
-constexpr std::array kHeads = {TextId::HeadLeg,   TextId::HeadSystem,   TextId::HeadTo,
-                               TextId::HeadGoods, TextId::HeadDistance, TextId::HeadTime};
+constexpr std::array kHeads = {TextId::HeadLeg,   TextId::HeadSystem, TextId::HeadTo,
+                               TextId::HeadGoods, TextId::HeadJumps,  TextId::HeadDistance,
+                               TextId::HeadTime};
 constexpr std::array kKinds = {TextId::LegLaunch, TextId::LegGate, TextId::LegHole,
                                TextId::LegLane,   TextId::LegFly,  TextId::LegDock};
 
@@ -27,6 +28,21 @@ QString CoordinatesOf(const Travel& travel, const TravelObject& object) {
       .arg(object.Point.Z, 0, 'f', 0);
 }
 
+// The game's own objectives name a marker by system, two texts and position. The place's name
+// stands for both texts, since its info card is none.
+QString WaypointOf(const Travel& travel, const TravelObject& object) {
+  return QString("type = navmarker, %1, %2, %2, %3, %4, %5")
+      .arg(QString::fromStdString(travel.Graph.Systems[object.System].Nickname))
+      .arg(object.NameId)
+      .arg(object.Point.X, 0, 'f', 0)
+      .arg(object.Point.Y, 0, 'f', 0)
+      .arg(object.Point.Z, 0, 'f', 0);
+}
+
+bool IsJump(const WayLegRow& row) {
+  return row.Leg.Kind == LegKind::Gate || row.Leg.Kind == LegKind::Hole;
+}
+
 }  // namespace
 
 std::vector<WayLegRow> RowsOf(const Travel& travel, const Way& way, const QString& goods) {
@@ -41,7 +57,8 @@ std::vector<WayLegRow> RowsOf(const Travel& travel, const Way& way, const QStrin
                     goods,
                     leg.Distance,
                     leg.Time,
-                    CoordinatesOf(travel, to)});
+                    CoordinatesOf(travel, to),
+                    WaypointOf(travel, to)});
   }
   return rows;
 }
@@ -61,6 +78,10 @@ QString NumberText(Language language, double number) {
 void WayLegModel::Show(std::vector<WayLegRow> rows) {
   beginResetModel();
   rows_ = std::move(rows);
+  jumps_.clear();
+  for (const WayLegRow& row : rows_) {
+    jumps_.push_back((jumps_.empty() ? 0 : jumps_.back()) + (IsJump(row) ? 1 : 0));
+  }
   endResetModel();
 }
 
@@ -80,18 +101,19 @@ int WayLegModel::columnCount(const QModelIndex& parent) const {
 
 QVariant WayLegModel::data(const QModelIndex& index, int role) const {
   if (!index.isValid()) return {};
-  if (role == Qt::TextAlignmentRole && index.column() >= DistanceColumn) {
+  if (role == Qt::TextAlignmentRole && index.column() >= JumpsColumn) {
     return int(Qt::AlignRight | Qt::AlignVCenter);
   }
-  const WayLegRow& row = rows_[static_cast<std::size_t>(index.row())];
+  const auto row = static_cast<std::size_t>(index.row());
   if (role == Qt::ToolTipRole && index.column() == ToColumn) {
-    return QString::fromStdString(row.Leg.To);
+    return QString::fromStdString(rows_[row].Leg.To);
   }
   if (role != Qt::DisplayRole && role != Qt::ToolTipRole) return {};
   return TextOf(row, index.column());
 }
 
-QString WayLegModel::TextOf(const WayLegRow& row, int column) const {
+QString WayLegModel::TextOf(std::size_t index, int column) const {
+  const WayLegRow& row = rows_[index];
   switch (column) {
     case LegColumn:
       return CaptionIn(choice_.Current, kKinds[static_cast<std::size_t>(row.Leg.Kind)]);
@@ -101,6 +123,8 @@ QString WayLegModel::TextOf(const WayLegRow& row, int column) const {
       return row.To;
     case GoodsColumn:
       return row.Goods;
+    case JumpsColumn:
+      return QString::number(jumps_[index]);
     case DistanceColumn:
       return NumberText(choice_.Current, row.Distance);
     default:
@@ -110,7 +134,7 @@ QString WayLegModel::TextOf(const WayLegRow& row, int column) const {
 
 QVariant WayLegModel::headerData(int section, Qt::Orientation orientation, int role) const {
   if (orientation != Qt::Horizontal) return {};
-  if (role == Qt::TextAlignmentRole && section >= DistanceColumn) {
+  if (role == Qt::TextAlignmentRole && section >= JumpsColumn) {
     return int(Qt::AlignRight | Qt::AlignVCenter);
   }
   if (role != Qt::DisplayRole) return {};

@@ -22,6 +22,7 @@ struct WayLegRow {
   double Distance = 0;  // game units
   std::int64_t Time = 0;
   QString Coordinates;  // of its end: name, system and position in game units
+  QString Waypoint;     // of its end, as a line of a mission script's objective
 };
 
 std::vector<WayLegRow> RowsOf(const Travel& travel, const Way& way, const QString& goods = {});
@@ -34,7 +35,15 @@ QString NumberText(Language language, double number);
 
 class WayLegModel : public QAbstractTableModel {
  public:
-  enum Column { LegColumn, SystemColumn, ToColumn, GoodsColumn, DistanceColumn, TimeColumn };
+  enum Column {
+    LegColumn,
+    SystemColumn,
+    ToColumn,
+    GoodsColumn,
+    JumpsColumn,
+    DistanceColumn,
+    TimeColumn
+  };
 
   explicit WayLegModel(const LanguageChoice& choice) : choice_(choice) {}
 
@@ -50,10 +59,11 @@ class WayLegModel : public QAbstractTableModel {
   QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
  private:
-  QString TextOf(const WayLegRow& row, int column) const;
+  QString TextOf(std::size_t row, int column) const;
 
   const LanguageChoice& choice_;
   std::vector<WayLegRow> rows_;
+  std::vector<int> jumps_;  // up to the end of each row
 };
 
 }  // namespace orrerix

@@ -5,8 +5,8 @@
 
 namespace orrerix {
 
-WayPage::WayPage(WorkbenchHost& host, const LanguageChoice& choice)
-    : TravelPage(TextId::WayPage, TextId::FindWay, host, choice) {
+WayPage::WayPage(const TravelParts& parts)
+    : TravelPage(TextId::WayPage, TextId::FindWay, "way", parts) {
   legTable_->setColumnHidden(WayLegModel::GoodsColumn, true);
   reasons_ = new QPlainTextEdit(this);
   reasons_->setObjectName("Reasons");
@@ -20,11 +20,11 @@ WayPage::WayPage(WorkbenchHost& host, const LanguageChoice& choice)
 // A player who stands at the place itself says from where.
 void WayPage::ShowWayTo(const std::string& place) {
   fields_->ShowTo(place);
-  if (fields_->From() == fields_->To()) fields_->ShowFrom({});
+  if (fields_->From() == fields_->To()) fields_->StandAt({});
   Start();
 }
 
-void WayPage::Start() {
+void WayPage::Run() {
   const std::string from = fields_->From();
   const std::string to = fields_->To();
   if (from.empty() || to.empty()) {
@@ -32,7 +32,6 @@ void WayPage::Start() {
     fields_->FocusEmpty();
     return;
   }
-  ShowRunning();
   task_.Start(
       [file = host_.UniverseFile(), request = Request(), from, to,
        language = choice_.Current](const BackgroundTask::IsCancelled&) {

@@ -11,15 +11,13 @@ namespace orrerix {
 // Looks for the fastest way between two places, or says why there is none.
 class WayPage : public TravelPage {
  public:
-  // Both outlive the page.
-  WayPage(WorkbenchHost& host, const LanguageChoice& choice);
-
-  void Start() override;
+  explicit WayPage(const TravelParts& parts);
 
   // Looks for the way to a place from where the player is.
   void ShowWayTo(const std::string& place);
 
  private:
+  void Run() override;
   void Clear() override;
   void CancelWork() override;
   void Show(WayOutcome outcome);

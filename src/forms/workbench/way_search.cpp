@@ -91,12 +91,8 @@ WayOutcome SearchWay(const std::filesystem::path& universe, const TravelRequest&
                      const std::string& from, const std::string& to, Language language) {
   try {
     return FindIn(universe, request, from, to, language);
-  } catch (const UnknownName& error) {
-    return {{}, ErrorText(language, error), {}};
-  } catch (const std::exception& error) {
-    return {{}, error.what(), {}};
-  } catch (const Failure& failure) {
-    return {{}, QString::fromStdString(failure.Description), {}};
+  } catch (...) {
+    return {{}, ErrorText(language, std::current_exception()), {}};
   }
 }
 

@@ -38,6 +38,7 @@ Workbench::Workbench(QSettings& settings, const LanguageChoice& choice)
   setWindowIcon(QIcon(":/pictures/application.svg"));
   list_->setObjectName("PageList");
   list_->setAccessibleName(CaptionIn(choice.Current, TextId::Tools));
+  stack_->setObjectName("PageStack");
   list_->setFixedWidth(kListWidth);
   auto* layout = new QHBoxLayout(this);
   layout->setContentsMargins(8, 8, 8, 8);
@@ -48,7 +49,9 @@ Workbench::Workbench(QSettings& settings, const LanguageChoice& choice)
   restoreGeometry(settings_.value(setting_key::kGeometry).toByteArray());
 }
 
-Workbench::~Workbench() = default;
+Workbench::~Workbench() {
+  LeavePage();
+}
 
 void Workbench::Add(std::unique_ptr<WorkbenchPage> page) {
   list_->addItem(CaptionIn(choice_.Current, page->Name()));
@@ -59,7 +62,15 @@ void Workbench::Add(std::unique_ptr<WorkbenchPage> page) {
 void Workbench::Open() {
   const int last = settings_.value(setting_key::kPage, 0).toInt();
   const int count = static_cast<int>(pages_.size());
-  if (list_->currentRow() < 0 && count > 0) list_->setCurrentRow(std::clamp(last, 0, count - 1));
+  const int chosen = list_->currentRow();
+  Bring(chosen < 0 && count > 0 ? std::clamp(last, 0, count - 1) : chosen);
+}
+
+// A page that was in front when the window was closed comes back to it.
+void Workbench::Bring(int row) {
+  const bool comesBack = row == list_->currentRow() && !isVisible() && front_ != nullptr;
+  list_->setCurrentRow(row);
+  if (comesBack) front_->Enter();
   show();
   raise();
   activateWindow();
@@ -67,15 +78,21 @@ void Workbench::Open() {
 
 void Workbench::Open(TextId page) {
   for (std::size_t i = 0; i < pages_.size(); ++i) {
-    if (pages_[i]->Name() == page) list_->setCurrentRow(static_cast<int>(i));
+    if (pages_[i]->Name() == page) return Bring(static_cast<int>(i));
   }
   Open();
 }
 
 void Workbench::Choose(int row) {
   if (row < 0) return;
+  LeavePage();
   stack_->setCurrentIndex(row);
-  pages_[static_cast<std::size_t>(row)]->Enter();
+  front_ = pages_[static_cast<std::size_t>(row)];
+  front_->Enter();
+}
+
+void Workbench::LeavePage() {
+  if (front_ != nullptr) front_->Leave();
 }
 
 void Workbench::UniverseChanged() {
@@ -96,6 +113,7 @@ void Workbench::ShowKeys() {
 void Workbench::closeEvent(QCloseEvent* event) {
   settings_.setValue(setting_key::kGeometry, saveGeometry());
   settings_.setValue(setting_key::kPage, list_->currentRow());
+  LeavePage();
   QWidget::closeEvent(event);
 }
 

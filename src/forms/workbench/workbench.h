@@ -39,12 +39,15 @@ class Workbench : public QWidget {
 
  private:
   void Choose(int row);
+  void Bring(int row);
+  void LeavePage();
 
   QSettings& settings_;
   const LanguageChoice& choice_;
   QListWidget* list_;
   QStackedWidget* stack_;
   std::vector<WorkbenchPage*> pages_;  // owned by the stack
+  WorkbenchPage* front_ = nullptr;
 };
 
 }  // namespace orrerix

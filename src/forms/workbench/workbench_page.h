@@ -18,6 +18,9 @@ class WorkbenchPage : public QWidget {
   // The page comes to the front.
   virtual void Enter() {}
 
+  // The page goes to the back, or the window closes: what is to be remembered is stored now.
+  virtual void Leave() {}
+
   // Another universe is shown, or the same one after an import.
   virtual void UniverseChanged() {}
 

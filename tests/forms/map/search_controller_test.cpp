@@ -243,5 +243,17 @@ TEST_F(SearchControllerTest, EveryControlHasAnAccessibleName) {
   }
 }
 
+TEST_F(SearchControllerTest, ItsEntryForCommoditiesHandsTheTextOn) {
+  std::string sought = "nothing";
+  search.OnFindGood = [&](const std::string& text) { sought = text; };
+  search.OpenSearch(SearchType::Place);
+  QTest::keyClicks(&Text(), "gold");
+
+  Find<QToolButton>(map.Frame(), "FindGood").click();
+
+  EXPECT_EQ(sought, "gold");
+  EXPECT_EQ(search.Text(), "gold");
+}
+
 }  // namespace
 }  // namespace orrerix

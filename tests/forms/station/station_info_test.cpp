@@ -35,6 +35,7 @@ class StationInfoTest : public StationFixture {
       window_ = std::make_unique<StationInfo>(
           StationParts{log, pictures, sound, texts, names, [this](Routine&) { return universe; },
                        [this] { return decoration; },
+                       [this](const std::string& place) { goodsFrom = place; },
                        [this](const std::string& place) { tradesFrom = place; },
                        [this](const std::string& place) { wayTo = place; }},
           "pier", "Outpost");
@@ -53,6 +54,7 @@ class StationInfoTest : public StationFixture {
   PictureStore pictures;
   FakeSound sound;
   QSize decoration{0, 0};
+  std::string goodsFrom;
   std::string tradesFrom;
   std::string wayTo;
   // A player who changes the language while the window is open.
@@ -65,10 +67,12 @@ class StationInfoTest : public StationFixture {
   std::unique_ptr<StationInfo> window_;
 };
 
-TEST_F(StationInfoTest, ItsButtonsAskForItsTradesAndTheWayToIt) {
+TEST_F(StationInfoTest, ItsButtonsAskForItsGoodsItsTradesAndTheWayToIt) {
+  Find<QPushButton>(Window(), "BuyHere").click();
   Find<QPushButton>(Window(), "TradesFromHere").click();
   Find<QPushButton>(Window(), "WayToHere").click();
 
+  EXPECT_EQ(goodsFrom, "pier");
   EXPECT_EQ(tradesFrom, "pier");
   EXPECT_EQ(wayTo, "pier");
 }

@@ -33,7 +33,7 @@ class TradeModelTest : public ::testing::Test {
   LanguageChoice choice;
   TradeOutcome outcome;
   TradeModel model{choice};
-  TradeFilter filter{model};
+  ValueFilter filter{model};
 };
 
 TEST_F(TradeModelTest, RowsWithoutAValueStandLastInBothOrders) {

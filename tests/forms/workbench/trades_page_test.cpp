@@ -12,6 +12,7 @@
 namespace orrerix {
 namespace {
 
+using ::testing::_;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 
@@ -25,7 +26,7 @@ class TradesPageTest : public TravelPageFixture {
     ASSERT_TRUE(WaitUntil([&] { return Legs().model()->rowCount() > 0; }));
   }
 
-  TradesPage page{host, choice};
+  TradesPage page{travel};
 };
 
 // A hundred of gold: 3000 in 30 s, 6000 a minute, 30 of 100 spent; with 1000 for the iron that goes
@@ -38,10 +39,10 @@ TEST_F(TradesPageTest, ListsTradesByProfitPerMinute) {
   ASSERT_EQ(Count(), 2);
   EXPECT_THAT(RowOf(Trades(), 0),
               ElementsAre("anvil, Liberty", "brook, Liberty", "100 gold (100 → 130)", "3,000",
-                          "6,000", "30%", "0:30", "4,000"));
+                          "6,000", "30%", _, "0:30", "4,000"));
   EXPECT_THAT(RowOf(Trades(), 1),
               ElementsAre("brook, Liberty", "anvil, Liberty", "100 iron (50 → 60)", "1,000",
-                          "2,000", "20%", "0:30", "4,000"));
+                          "2,000", "20%", _, "0:30", "4,000"));
   EXPECT_EQ(State(page), "2 trades, the best 2 are shown");
 }
 
@@ -63,11 +64,11 @@ TEST_F(TradesPageTest, TheChosenTradeShowsItsLegsAndPutsThemOnTheMap) {
   ShowLegs();
 
   EXPECT_THAT(RowOf(Legs(), 0),
-              ElementsAre("Launch", "Liberty", "anvil", "100 gold (100 → 130)", "0", "0:05"));
+              ElementsAre("Launch", "Liberty", "anvil", "100 gold (100 → 130)", "0", "0", "0:05"));
   EXPECT_THAT(RowOf(Legs(), 1), ElementsAre("Free flight", "Liberty", "brook",
-                                            "100 gold (100 → 130)", "3,000", "0:15"));
+                                            "100 gold (100 → 130)", "0", "3,000", "0:15"));
   EXPECT_THAT(RowOf(Legs(), 2),
-              ElementsAre("Dock", "Liberty", "brook", "100 gold (100 → 130)", "0", "0:10"));
+              ElementsAre("Dock", "Liberty", "brook", "100 gold (100 → 130)", "0", "0", "0:10"));
   Find<QPushButton>(page, "ShowWay").click();
   ASSERT_EQ(host.Way.size(), 3u);
   EXPECT_EQ(host.Way[1].Kind, LegKind::Fly);
@@ -172,7 +173,7 @@ TEST_F(TradesPageTest, ALoopHasTwoLegsOrMoreAndNoOtherEnd) {
   ASSERT_EQ(Count(), 1);
   EXPECT_THAT(RowOf(Trades(), 0), ElementsAre("anvil, Liberty", "brook, Liberty → anvil, Liberty",
                                               "100 gold (100 → 130); 100 iron (50 → 60)", "4,000",
-                                              "4,000", "27%", "1:00", ""));
+                                              "4,000", "27%", _, "1:00", ""));
 }
 
 TEST_F(TradesPageTest, APlaceThatIsNotThereIsNamed) {
@@ -204,6 +205,86 @@ TEST_F(TradesPageTest, AnotherUniverseHasNoneOfTheOldTrades) {
   EXPECT_EQ(Count(), 0);
   EXPECT_EQ(Legs().model()->rowCount(), 0);
   EXPECT_TRUE(State(page).empty());
+}
+
+// In another system, behind a hole: sorted by jumps these trades come last.
+TEST_F(TradesPageTest, TheJumpsOfEachTradeAreCounted) {
+  Add("Systems", {{"nickname", "li02"}, {"realname", "Outback"}, {"pos", "5, 4"}});
+  for (const auto& [hole, system, other] :
+       {std::tuple("hole1", "li01", "li02, hole2"), std::tuple("hole2", "li02", "li01, hole1")}) {
+    Add("Objects", {{"nickname", hole},
+                    {"sys_nick", system},
+                    {"pos", "0, 0, 3000"},
+                    {"goto", other},
+                    {"jump_effect", "jump_effect_hole"}});
+  }
+  Dock("cliff", "li02", "6000, 0, 0", "");
+  Price("cliff", "gold", 900, 2);
+  Open(page);
+
+  Search(page);
+
+  const auto jumps = [&](int row) { return RowOf(Trades(), row)[TradeModel::JumpsColumn]; };
+  ASSERT_TRUE(WaitUntil([&] { return !jumps(0).empty(); }));
+  Trades().sortByColumn(TradeModel::JumpsColumn, Qt::AscendingOrder);
+  ASSERT_EQ(Count(), 3);
+  EXPECT_EQ(jumps(0), "0");
+  EXPECT_EQ(jumps(2), "1");
+  EXPECT_EQ(RowOf(Trades(), 2)[TradeModel::ToColumn], "cliff, Outback");
+}
+
+// The fixture's objects have no text of the game.
+TEST_F(TradesPageTest, AWaypointIsALineOfAMissionScript) {
+  Open(page);
+  Search(page);
+  ShowLegs();
+  Legs().selectRow(1);
+
+  Find<QPushButton>(page, "CopyWaypoint").click();
+
+  EXPECT_EQ(QApplication::clipboard()->text(), "type = navmarker, li01, 0, 0, 3000, 0, 0");
+}
+
+TEST_F(TradesPageTest, FieldsComeBackInTheNextRun) {
+  Open(page);
+  Find<QComboBox>(page, "From").setEditText("brook");
+  Type("Hold", "30");
+  Type("Money", "500");
+  Type("KeepAway", "anvil, li02");
+  Find<QCheckBox>(page, "NoHoles").click();
+  Find<QListWidget>(page, "EnemyFactions").item(0)->setCheckState(Qt::Checked);
+  Find<QCheckBox>(page, "Loop").click();
+  Find<QSpinBox>(page, "Hops").setValue(4);
+  Find<QComboBox>(page, "Sorting").setCurrentIndex(2);
+  Trades().setColumnWidth(TradeModel::GoodsColumn, 234);
+  page.Leave();
+
+  TradesPage next(travel);
+  Open(next);
+
+  EXPECT_EQ(Find<QComboBox>(next, "From").currentText(), "brook, Liberty (brook)");
+  EXPECT_EQ(Find<QLineEdit>(next, "Hold").text(), "30");
+  EXPECT_EQ(Find<QLineEdit>(next, "Money").text(), "500");
+  EXPECT_EQ(Find<QLineEdit>(next, "KeepAway").text(), "anvil, li02");
+  EXPECT_TRUE(Find<QCheckBox>(next, "NoHoles").isChecked());
+  EXPECT_FALSE(Find<QCheckBox>(next, "NoGates").isChecked());
+  EXPECT_EQ(Find<QListWidget>(next, "EnemyFactions").item(0)->checkState(), Qt::Checked);
+  EXPECT_TRUE(Find<QCheckBox>(next, "Loop").isChecked());
+  EXPECT_EQ(Find<QSpinBox>(next, "Hops").value(), 4);
+  EXPECT_EQ(Find<QComboBox>(next, "Sorting").currentIndex(), 2);
+  EXPECT_EQ(Find<QTableView>(next, "Trades").columnWidth(TradeModel::GoodsColumn), 234);
+}
+
+TEST_F(TradesPageTest, AStartThatFollowsThePlayerIsNotRemembered) {
+  host.Start = "brook";
+  Open(page);
+  page.Leave();
+  host.Start = "anvil";
+
+  TradesPage next(travel);
+  Open(next);
+
+  EXPECT_EQ(Find<QComboBox>(next, "From").currentText(), "anvil, Liberty (anvil)");
 }
 
 }  // namespace

@@ -85,6 +85,10 @@ class TravelPageFixture : public FormFixture {
   }
 
   FakeWorkbenchHost host{log, folder.Path()};
+  QSettings settings{QString::fromStdString((folder.Path() / "tools.ini").string()),
+                     QSettings::IniFormat};
+  TradeWorlds worlds;
+  TravelParts travel{host, choice, settings, worlds};
 
  private:
   FailTest mustWork_;

@@ -40,7 +40,7 @@ class WayPageTest : public TravelPageFixture {
     return Find<QPlainTextEdit>(page, "Reasons").toPlainText().toStdString();
   }
 
-  WayPage page{host, choice};
+  WayPage page{travel};
 };
 
 // 5 s launch, 15 s to the hole, 15 s through it, 5 + 6000 / 300 = 25 s to the dock, 10 s docking.
@@ -52,10 +52,10 @@ TEST_F(WayPageTest, ShowsTheLegsOfTheFastestWay) {
   EXPECT_EQ(State(page), "anvil to cliff: 1:10 min, 9,000 units, jumps: 1");
   ASSERT_EQ(Legs().model()->rowCount(), 5);
   EXPECT_THAT(RowOf(Legs(), 1),
-              ElementsAre("Free flight", "Liberty", "hole1", "", "3,000", "0:15"));
-  EXPECT_THAT(RowOf(Legs(), 2), ElementsAre("Jump hole", "Liberty", "hole2", "", "0", "0:15"));
+              ElementsAre("Free flight", "Liberty", "hole1", "", "0", "3,000", "0:15"));
+  EXPECT_THAT(RowOf(Legs(), 2), ElementsAre("Jump hole", "Liberty", "hole2", "", "1", "0", "0:15"));
   EXPECT_THAT(RowOf(Legs(), 3),
-              ElementsAre("Free flight", "Outback", "cliff", "", "6,000", "0:25"));
+              ElementsAre("Free flight", "Outback", "cliff", "", "1", "6,000", "0:25"));
   Find<QPushButton>(page, "ShowWay").click();
   ASSERT_EQ(host.Way.size(), 5u);
   EXPECT_EQ(host.Way[2].Kind, LegKind::Hole);

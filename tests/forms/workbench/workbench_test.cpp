@@ -41,6 +41,43 @@ TEST_F(WorkbenchTest, ComesBackWithThePageItWasClosedWith) {
   EXPECT_TRUE(Find(again, "LogTable").isVisible());
 }
 
+// A page that counts how often it came to the front and went to the back.
+struct Counts {
+  int Entered = 0;
+  int Left = 0;
+};
+class CountingPage : public WorkbenchPage {
+ public:
+  CountingPage(TextId name, Counts& counts) : WorkbenchPage(name), counts_(counts) {}
+  void Enter() override { ++counts_.Entered; }
+  void Leave() override { ++counts_.Left; }
+
+ private:
+  Counts& counts_;
+};
+
+TEST_F(WorkbenchTest, APageIsLeftForAnotherWhenTheWindowClosesAndAtTheEnd) {
+  Counts first;
+  Counts second;
+  {
+    Workbench window(settings, choice);
+    window.Add(std::make_unique<CountingPage>(TextId::TradesPage, first));
+    window.Add(std::make_unique<CountingPage>(TextId::WayPage, second));
+    window.Open(TextId::TradesPage);
+
+    window.Open(TextId::WayPage);
+    EXPECT_EQ(first.Left, 1);
+    EXPECT_EQ(second.Left, 0);
+    window.close();
+    EXPECT_EQ(second.Left, 1);
+    window.Open();
+    EXPECT_EQ(second.Entered, 2);
+  }
+  EXPECT_EQ(first.Entered, 1);
+  EXPECT_EQ(first.Left, 1);
+  EXPECT_EQ(second.Left, 2);
+}
+
 TEST_F(WorkbenchTest, F1ListsTheKeysAndEscapeClosesTheWindow) {
   Workbench window(settings, choice);
   window.Add(std::make_unique<LogPage>(host, choice, nullptr));
