@@ -7,6 +7,9 @@ target_compile_options(orrerix_options INTERFACE
   -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wno-sign-conversion -Wnon-virtual-dtor -Werror
   # GCC 12 sees overlapping and outsized copies in the string operators of its own library.
   $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict -Wno-array-bounds -Wno-stringop-overflow>)
+if(WIN32)
+  target_compile_definitions(orrerix_options INTERFACE UNICODE _UNICODE NOMINMAX)
+endif()
 if(ORRERIX_SANITIZE)
   target_compile_options(orrerix_options INTERFACE
     -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
@@ -64,4 +67,8 @@ function(orrerix_program name)
   list(TRANSFORM ARG_USES PREPEND orrerix_)
   target_link_libraries(${name} PRIVATE ${ARG_USES} ${ARG_LINKS} orrerix_options)
   set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR})
+  if(WIN32)
+    configure_file(${CMAKE_SOURCE_DIR}/packaging/windows/program.rc.in ${name}.rc @ONLY)
+    target_sources(${name} PRIVATE ${CMAKE_CURRENT_BINARY_DIR}/${name}.rc)
+  endif()
 endfunction()

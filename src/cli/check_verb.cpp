@@ -14,6 +14,7 @@
 #include "check/report/reports.h"
 #include "check/rules/rule.h"
 #include "cli/verbs.h"
+#include "platform/path_text.h"
 
 namespace orrerix {
 namespace {
@@ -79,8 +80,8 @@ class CheckVerb {
 
   check::CheckOptions ReadOptions() const {
     check::CheckOptions wanted;
-    wanted.Game = *arguments_.Game;
-    if (arguments_.Base) wanted.Base = *arguments_.Base;
+    wanted.Game = PathOf(*arguments_.Game);
+    if (arguments_.Base) wanted.Base = PathOf(*arguments_.Base);
     wanted.Only = RequireRules(arguments_.Only);
     wanted.Skip = RequireRules(arguments_.Skip);
     if (!arguments_.Baseline) return wanted;
@@ -94,7 +95,7 @@ class CheckVerb {
   }
 
   std::vector<check::BaselineEntry> ReadBaseline() const {
-    std::ifstream stream(*arguments_.Baseline, std::ios::binary);
+    std::ifstream stream(SystemPath(PathOf(*arguments_.Baseline)), std::ios::binary);
     const std::string text(std::istreambuf_iterator<char>(stream), {});
     if (!stream) throw CouldNot(fmt::format("cannot read '{}'", *arguments_.Baseline));
     return check::ParseBaseline(text, *arguments_.Baseline);
@@ -113,7 +114,7 @@ class CheckVerb {
   }
 
   static void WriteFile(const std::string& file, const std::string& text) {
-    std::ofstream stream(file, std::ios::binary | std::ios::trunc);
+    std::ofstream stream(SystemPath(PathOf(file)), std::ios::binary | std::ios::trunc);
     stream << text;
     if (!stream.flush()) throw CouldNot(fmt::format("cannot write '{}'", file));
   }

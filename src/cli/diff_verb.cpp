@@ -11,6 +11,7 @@
 #include "cli/verbs.h"
 #include "db/values/text.h"
 #include "diff/report.h"
+#include "platform/path_text.h"
 
 namespace orrerix {
 namespace fs = std::filesystem;
@@ -33,7 +34,7 @@ std::vector<StoredTable> ReadFile(const fs::path& path) {
 // A game folder is imported first, whatever fails in it.
 std::vector<StoredTable> ReadSide(const CommonOptions& options, const std::string& path) {
   std::error_code error;
-  if (!fs::is_directory(path, error)) return ReadFile(path);
+  if (!fs::is_directory(PathOf(path), error)) return ReadFile(PathOf(path));
   CommonOptions answeredOk = options;
   answeredOk.OnFailure = "ok";
   const TemporaryFolder folder;
@@ -67,8 +68,8 @@ std::optional<std::set<std::string>> WantedTables(const DiffArguments& arguments
 
 // The last part of a path, as people call a file or folder.
 std::string TitleOf(const std::string& path) {
-  const fs::path absolute = fs::absolute(path).lexically_normal();
-  return (absolute.has_filename() ? absolute : absolute.parent_path()).filename().string();
+  const fs::path absolute = fs::absolute(PathOf(path)).lexically_normal();
+  return TextOf((absolute.has_filename() ? absolute : absolute.parent_path()).filename());
 }
 
 std::string ReportText(const DiffArguments& arguments, const UniverseDiff& diff,

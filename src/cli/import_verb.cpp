@@ -8,6 +8,7 @@
 #include "cli/json_text.h"
 #include "cli/universe_import.h"
 #include "cli/verbs.h"
+#include "platform/path_text.h"
 
 namespace orrerix {
 namespace {
@@ -66,7 +67,7 @@ int RunImport(const CommonOptions& options, const ImportOptions& import) {
   if (!result.IsFinished) {
     throw CouldNot("the import was given up; the universe file is not usable");
   }
-  const std::string target = universe.Target().string();
+  const std::string target = TextOf(universe.Target());
   if (options.Json) {
     PrintJson(AnswerJson(target, result));
   } else if (!import.Quiet) {

@@ -8,6 +8,7 @@
 #include "cli/help_format.h"
 #include "cli/spelling.h"
 #include "cli/verbs.h"
+#include "platform/console.h"
 #include "shell/version.h"
 
 namespace {
@@ -50,7 +51,7 @@ int ExitOnParseError(const CLI::App& app, const CLI::ParseError& error) {
   return kWrongUsage;
 }
 
-int Run(int argc, char** argv) {
+int Run(const ProgramArguments& arguments) {
   CLI::App app("The universe of a game folder, for scripts");
   CommonOptions options;
   Verb run;
@@ -85,7 +86,7 @@ int Run(int argc, char** argv) {
   AddRenderVerb(app, options, run);
 #endif
   try {
-    app.parse(argc, argv);
+    app.parse(arguments.Count(), arguments.Texts());
   } catch (const CLI::ParseError& error) {
     return ExitOnParseError(app, error);
   }
@@ -96,7 +97,8 @@ int Run(int argc, char** argv) {
 
 int main(int argc, char** argv) {
   try {
-    return Run(argc, argv);
+    UseUtf8Output();
+    return Run(ProgramArguments(argc, argv));
   } catch (const WrongUsage& error) {
     fmt::print(stderr, "orrerix-cli: {}\n", error.what());
     return kWrongUsage;

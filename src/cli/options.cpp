@@ -11,6 +11,7 @@
 #include "db/engine/working_copy.h"
 #include "db/values/text.h"
 #include "platform/native_registry.h"
+#include "platform/path_text.h"
 #include "shell/game_registry.h"
 #include "shell/startup.h"
 #include "shell/version.h"
@@ -29,13 +30,13 @@ std::optional<std::string> StampOf(Database& universe) {
 
 void RequireFile(const fs::path& path) {
   std::error_code error;
-  if (fs::exists(path, error)) return;
-  throw CouldNot(fmt::format("there is no universe file '{}'; 'import' makes one", path.string()));
+  if (fs::exists(SystemPath(path), error)) return;
+  throw CouldNot(fmt::format("there is no universe file '{}'; 'import' makes one", TextOf(path)));
 }
 
 std::string RequireStamp(Database& universe, const fs::path& path) {
   if (const auto stamp = StampOf(universe)) return *stamp;
-  throw CouldNot(fmt::format("'{}' is no finished universe file; import it anew", path.string()));
+  throw CouldNot(fmt::format("'{}' is no finished universe file; import it anew", TextOf(path)));
 }
 
 }  // namespace
@@ -67,11 +68,11 @@ MessageAnswer PolicyMessageBoxes::Show(const Message& message) {
 }
 
 fs::path CommonOptions::DatabasePath() const {
-  if (Database) return *Database;
+  if (Database) return PathOf(*Database);
   PolicyMessageBoxes messages(*this);
   ErrorLog log(messages, CurrentVersion());
   const auto registry = NativeRegistry();
-  return UniverseFileIn(SaveFolderBelow(GameRegistry(log, *registry).GetPersonalFolder()));
+  return UniverseFileIn(SaveFolderBelow(PathOf(GameRegistry(log, *registry).GetPersonalFolder())));
 }
 
 orrerix::Language CommonOptions::CaptionLanguage() const {
@@ -89,7 +90,7 @@ Database OpenUniverse(const CommonOptions& options) {
   Database universe = copy.Of(stop, path);
   if (RequireStamp(universe, path) != CurrentVersion().Stamp()) {
     throw CouldNot(
-        fmt::format("the universe file '{}' is of another version; import it anew", path.string()));
+        fmt::format("the universe file '{}' is of another version; import it anew", TextOf(path)));
   }
   return universe;
 }

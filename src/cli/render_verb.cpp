@@ -5,8 +5,11 @@
 #include <QImage>
 #include <QPainter>
 #include <QPdfWriter>
-#include <QSvgGenerator>
 #include <memory>
+
+#ifdef ORRERIX_WITH_SVG_OUTPUT
+#include <QSvgGenerator>
+#endif
 
 #include <fmt/format.h>
 
@@ -76,6 +79,7 @@ void WritePng(MapScene& scene, const QString& file, QSize size) {
   if (!image.save(file, "PNG")) throw CouldNot("cannot write '" + file.toStdString() + "'");
 }
 
+#ifdef ORRERIX_WITH_SVG_OUTPUT
 void WriteSvg(MapScene& scene, const QString& file, QSize size) {
   QSvgGenerator generator;
   generator.setFileName(file);
@@ -84,6 +88,7 @@ void WriteSvg(MapScene& scene, const QString& file, QSize size) {
   generator.setTitle("FL Orrerix");
   Paint(scene, generator, size);
 }
+#endif
 
 void WritePdf(MapScene& scene, const QString& file, QSize size) {
   constexpr int dotsPerInch = 96;  // a logical pixel is 15 twips of 1440 an inch
@@ -106,9 +111,17 @@ void RequireWritable(const QString& file) {
 
 using Writer = void (*)(MapScene&, const QString&, QSize);
 
+Writer SvgWriter() {
+#ifdef ORRERIX_WITH_SVG_OUTPUT
+  return WriteSvg;
+#else
+  throw CouldNot("this program was built without Qt Svg and writes no .svg; .pdf is as sharp");
+#endif
+}
+
 Writer WriterOf(const QString& file) {
   if (file.endsWith(".png", Qt::CaseInsensitive)) return WritePng;
-  if (file.endsWith(".svg", Qt::CaseInsensitive)) return WriteSvg;
+  if (file.endsWith(".svg", Qt::CaseInsensitive)) return SvgWriter();
   if (file.endsWith(".pdf", Qt::CaseInsensitive)) return WritePdf;
   throw WrongUsage(fmt::format("'{}' ends neither in .png, .svg nor .pdf", file.toStdString()));
 }

@@ -6,6 +6,7 @@
 #include <fmt/format.h>
 
 #include "cli/options.h"
+#include "platform/path_text.h"
 
 namespace orrerix {
 namespace fs = std::filesystem;
@@ -16,12 +17,12 @@ TemporaryFolder::TemporaryFolder() {
   const fs::path base = fs::temp_directory_path(error);
   std::random_device random;
   for (int i = 0; !error && i < attempts; ++i) {
-    path_ = base / fmt::format("orrerix-{:08x}", random());
+    path_ = base / PathOf(fmt::format("orrerix-{:08x}", random()));
     if (!fs::create_directory(path_, error) || error) continue;
     fs::permissions(path_, fs::perms::owner_all, error);
     return;
   }
-  throw CouldNot(fmt::format("cannot make a temporary folder in '{}'", base.string()));
+  throw CouldNot(fmt::format("cannot make a temporary folder in '{}'", TextOf(base)));
 }
 
 TemporaryFolder::~TemporaryFolder() {

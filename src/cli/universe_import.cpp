@@ -10,6 +10,7 @@
 #include "cli/cli_host.h"
 #include "derived/stages.h"
 #include "import/replacing_import.h"
+#include "platform/path_text.h"
 
 namespace orrerix {
 namespace fs = std::filesystem;
@@ -26,7 +27,7 @@ std::string WithSameLineEnds(std::string_view text) {
 }
 
 std::ofstream OpenFile(const std::string& path, std::ios::openmode mode) {
-  std::ofstream file(path, std::ios::binary | mode);
+  std::ofstream file(SystemPath(PathOf(path)), std::ios::binary | mode);
   if (!file) throw CouldNot(fmt::format("cannot write '{}'", path));
   return file;
 }
@@ -44,9 +45,9 @@ UniverseImport::UniverseImport(const CommonOptions& options, std::string game,
   }
   target_ = fs::absolute(universeFile).lexically_normal();
   std::error_code error;
-  fs::create_directories(target_.parent_path(), error);
-  if (!fs::is_directory(target_.parent_path(), error)) {
-    throw CouldNot(fmt::format("cannot make the folder '{}'", target_.parent_path().string()));
+  fs::create_directories(SystemPath(target_.parent_path()), error);
+  if (!fs::is_directory(SystemPath(target_.parent_path()), error)) {
+    throw CouldNot(fmt::format("cannot make the folder '{}'", TextOf(target_.parent_path())));
   }
 }
 

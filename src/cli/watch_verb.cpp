@@ -15,6 +15,7 @@
 #include "cli/json_text.h"
 #include "cli/universe_import.h"
 #include "cli/verbs.h"
+#include "platform/path_text.h"
 #include "shell/game_files_watch.h"
 
 namespace orrerix {
@@ -52,7 +53,7 @@ struct Round {
 FindingCounts CheckGame(const std::string& game) {
   using check::Severity;
   check::CheckOptions options;
-  options.Game = game;
+  options.Game = PathOf(game);
   try {
     const check::CheckAnswer answer =
         check::RunCheck(options, [](std::size_t) { return !Interruption::IsAsked(); });
@@ -109,7 +110,7 @@ std::string TimeOfDay() {
 // Files below the game folder that the program itself writes.
 std::vector<fs::path> OwnFiles(const CommonOptions& options, const WatchArguments& arguments) {
   std::vector<fs::path> files = {fs::absolute(options.DatabasePath()).lexically_normal()};
-  if (arguments.Log) files.push_back(fs::absolute(*arguments.Log).lexically_normal());
+  if (arguments.Log) files.push_back(fs::absolute(PathOf(*arguments.Log)).lexically_normal());
   return files;
 }
 
@@ -118,7 +119,8 @@ class WatchVerb {
   WatchVerb(const CommonOptions& options, const WatchArguments& arguments)
       : options_(options),
         arguments_(arguments),
-        watch_(fs::absolute(arguments.Game).lexically_normal(), OwnFiles(options, arguments)) {}
+        watch_(fs::absolute(PathOf(arguments.Game)).lexically_normal(),
+               OwnFiles(options, arguments)) {}
 
   // The first round must do; what hinders a later one is waited out.
   void Run() {

@@ -11,6 +11,7 @@
 #include "db/engine/query_text.h"
 #include "db/schema_aside.h"
 #include "db/values/text.h"
+#include "platform/path_text.h"
 
 namespace orrerix {
 namespace {
@@ -272,7 +273,7 @@ StoredTable Database::ReadTable(FailureSink& sink, std::string_view table) const
     const int width = sqlite3_column_count(rows.get());
     if (definition == nullptr || definition->Fields.size() != static_cast<std::size_t>(width)) {
       throw EngineFailure(failure_number::kUnrecognizedFormat,
-                          fmt::format("Unrecognized database format '{}'.", Path().string()));
+                          fmt::format("Unrecognized database format '{}'.", TextOf(Path())));
     }
     std::vector<Value> cells;
     int result = sqlite3_step(rows.get());
@@ -307,7 +308,7 @@ void Database::Attach(FailureSink& sink, const std::filesystem::path& path) {
   Guard(sink, [&] {
     RequireOpen();
     StatementLoan attach(connection_->Prepare("ATTACH ?1 AS attached"));
-    Bind(attach.get(), 1, path.string());
+    Bind(attach.get(), 1, TextOf(SystemPath(path)));
     StepToEnd(*connection_, attach.get());
   });
 }

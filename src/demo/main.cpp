@@ -7,6 +7,8 @@
 #include <fmt/core.h>
 
 #include "demo/demo_game.h"
+#include "platform/console.h"
+#include "platform/path_text.h"
 
 namespace {
 
@@ -29,7 +31,7 @@ void Describe(CLI::App& app, Request& request) {
 
 int Write(const Request& request) {
   try {
-    orrerix::WriteDemoGame(request.Folder, request.Systems);
+    orrerix::WriteDemoGame(orrerix::PathOf(request.Folder), request.Systems);
   } catch (const std::exception& error) {
     fmt::print(stderr, "orrerix-demo: {}\n", error.what());
     return Failed;
@@ -44,10 +46,12 @@ int main(int argc, char** argv) {
   CLI::App app(
       "Writes a made-up game with everything that Orrerix reads, for demonstrations and tests.",
       "orrerix-demo");
+  orrerix::UseUtf8Output();
+  const orrerix::ProgramArguments arguments(argc, argv);
   Request request;
   try {
     Describe(app, request);
-    app.parse(argc, argv);
+    app.parse(arguments.Count(), arguments.Texts());
   } catch (const CLI::ParseError& error) {
     return app.exit(error) == 0 ? 0 : WrongUsage;
   }

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 // orrerix: the window.
 #include <QApplication>
-#include <QIcon>
 #include <algorithm>
 #include <string>
 #include <vector>
@@ -10,12 +9,16 @@
 #include <fmt/format.h>
 
 #include "forms/desktop_network.h"
+#include "forms/desktop_sound.h"
 #include "forms/program_run.h"
 #include "forms/program_style.h"
 #include "forms/qt_services.h"
+#include "picture/application_icon.h"
 #include "platform/application_folder.h"
+#include "platform/console.h"
 #include "platform/game_path.h"
 #include "platform/native_registry.h"
+#include "platform/path_text.h"
 #include "shell/version.h"
 
 namespace {
@@ -45,7 +48,7 @@ void AddWords(CLI::App& app, Words& words) {
 // A folder given by name is made if it is not there; those found by themselves are others' work.
 std::filesystem::path MadeFolder(const std::string& name) {
   std::error_code ignored;
-  const std::filesystem::path folder = std::filesystem::absolute(name, ignored);
+  const std::filesystem::path folder = std::filesystem::absolute(PathOf(name), ignored);
   std::filesystem::create_directories(folder, ignored);
   return folder;
 }
@@ -85,10 +88,10 @@ int RunProgram(int argc, char** argv, const StartPaths& paths) {
   QApplication::setApplicationDisplayName("");
   QApplication::setQuitOnLastWindowClosed(false);
   SetProgramStyle();
-  QApplication::setWindowIcon(QIcon(":/pictures/application.svg"));
+  QApplication::setWindowIcon(ApplicationIcon());
   LanguageChoice choice;
   DesktopMessageBoxes messages(choice);
-  DesktopSound sound;
+  const auto sound = MakeDesktopSound();
   DesktopLinks links;
   DesktopPrinters printers;
   DesktopNetwork network;
@@ -96,7 +99,7 @@ int RunProgram(int argc, char** argv, const StartPaths& paths) {
   const auto native = NativeRegistry();
   const GameRegistry registry(log, *native);
   PictureStore pictures;
-  const FormParts parts{paths, CurrentVersion(), log,     registry, messages, sound,
+  const FormParts parts{paths, CurrentVersion(), log,     registry, messages, *sound,
                         links, printers,         network, pictures, choice};
   ProgramRun run(parts);
   run.Start();
@@ -107,10 +110,11 @@ int RunProgram(int argc, char** argv, const StartPaths& paths) {
 
 int main(int argc, char** argv) {
   CLI::App app("The universe of a game folder as a star map");
+  const ProgramArguments arguments(argc, argv);
   Words words;
   AddWords(app, words);
   try {
-    app.parse(argc, argv);
+    app.parse(arguments.Count(), arguments.Texts());
   } catch (const CLI::ParseError& error) {
     return app.exit(error) == 0 ? 0 : 2;
   }

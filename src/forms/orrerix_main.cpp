@@ -21,6 +21,7 @@
 #include "map/grid/map_places.h"
 #include "online/web_pages.h"
 #include "platform/game_path.h"
+#include "platform/path_text.h"
 #include "shell/files.h"
 #include "shell/game_record.h"
 #include "shell/routine.h"
@@ -91,7 +92,7 @@ bool OrrerixMain::Load() {
     const StartPaths& paths = parts_.Paths;
     routine.Try([&] {
       saveFolder_ = paths.SaveFolder ? *paths.SaveFolder
-                                     : SaveFolderBelow(parts_.Registry.GetPersonalFolder());
+                                     : SaveFolderBelow(PathOf(parts_.Registry.GetPersonalFolder()));
     });
     MakeShortcuts(parts_.Log, routine, parts_.Registry, paths.ApplicationFolder, paths.Executable,
                   parts_.Version);
@@ -302,7 +303,7 @@ void OrrerixMain::RunImport(FolderLock lock) {
 }
 
 void OrrerixMain::ShowMap() {
-  const std::string gameName = fs::path(GameFolderText()).filename().string();
+  const std::string gameName = TextOf(PathOf(GameFolderText()).filename());
   setWindowTitle(QString::fromStdString(MapCaption(parts_.Version) + " - " + gameName));
   importScreen_->HideProgress();
   importScreen_->hide();

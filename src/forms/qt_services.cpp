@@ -3,21 +3,16 @@
 
 #include <QAbstractButton>
 #include <QApplication>
-#include <QAudioDevice>
 #include <QDesktopServices>
 #include <QDir>
-#include <QEventLoop>
 #include <QFileInfo>
 #include <QFontMetrics>
 #include <QGridLayout>
 #include <QGuiApplication>
-#include <QMediaDevices>
 #include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QPrinterInfo>
 #include <QScreen>
-#include <QSoundEffect>
-#include <QTimer>
 #include <QUrl>
 #include <algorithm>
 #include <utility>
@@ -189,8 +184,8 @@ void DesktopLinks::Open(const std::string& address) {
 
 // Installed beside the program, or in the folder that it was built in.
 void DesktopLinks::OpenManual() {
-  for (const char* place : {"../share/doc/orrerix/manual.md", "docs/manual.md", "../docs/manual.md",
-                            "../../docs/manual.md"}) {
+  for (const char* place : {"../share/doc/orrerix/manual.md", "docs/manual.html", "docs/manual.md",
+                            "../docs/manual.md", "../../docs/manual.md"}) {
     const QFileInfo manual(QDir(QCoreApplication::applicationDirPath()), place);
     if (!manual.exists()) continue;
     QDesktopServices::openUrl(QUrl::fromLocalFile(manual.canonicalFilePath()));
@@ -202,47 +197,6 @@ std::optional<PrintTarget> DesktopPrinters::DefaultPrinter() {
   const QString printer = QPrinterInfo::defaultPrinterName();
   if (printer.isEmpty()) return std::nullopt;
   return PrintTarget{printer.toStdString(), {}};
-}
-
-DesktopSound::DesktopSound() = default;
-DesktopSound::~DesktopSound() = default;
-
-QSoundEffect& DesktopSound::EffectOf(const std::filesystem::path& file) {
-  auto& effect = effects_[file];
-  if (!effect) {
-    effect = std::make_unique<QSoundEffect>();
-    effect->setSource(QUrl::fromLocalFile(QString::fromStdString(file.string())));
-  }
-  return *effect;
-}
-
-void DesktopSound::Play(const std::filesystem::path& file) {
-  const QAudioDevice device = QMediaDevices::defaultAudioOutput();
-  if (device.isNull()) return;
-  if (last_ != nullptr) last_->stop();
-  last_ = &EffectOf(file);
-  if (last_->audioDevice() != device) last_->setAudioDevice(device);
-  last_->play();
-}
-
-void DesktopSound::WaitForEnd() {
-  constexpr int longest = 3000;  // milliseconds
-  if (last_ == nullptr) return;
-  const auto isSounding = [this] {
-    return last_->isPlaying() || last_->status() == QSoundEffect::Loading;
-  };
-  QEventLoop loop;
-  QTimer::singleShot(longest, &loop, &QEventLoop::quit);
-  const auto quitOnceSilent = [&] {
-    if (!isSounding()) loop.quit();
-  };
-  QObject::connect(last_, &QSoundEffect::playingChanged, &loop, quitOnceSilent);
-  QObject::connect(last_, &QSoundEffect::statusChanged, &loop, quitOnceSilent);
-  if (isSounding()) loop.exec(QEventLoop::ExcludeUserInputEvents);
-}
-
-void DesktopSound::Beep() {
-  QApplication::beep();
 }
 
 }  // namespace orrerix

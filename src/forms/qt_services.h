@@ -1,17 +1,11 @@
 // SPDX-License-Identifier: MIT
-// Questions, links, printers and sounds, done by the desktop.
+// Questions, links and printers, done by the desktop.
 #pragma once
-
-#include <map>
-#include <memory>
 
 #include "platform/links.h"
 #include "platform/message_box.h"
 #include "platform/printer.h"
-#include "platform/sound.h"
 #include "shell/text_id.h"
-
-class QSoundEffect;
 
 namespace orrerix {
 
@@ -36,22 +30,6 @@ class DesktopLinks : public LinkOpener {
 class DesktopPrinters : public Printers {
  public:
   std::optional<PrintTarget> DefaultPrinter() override;
-};
-
-class DesktopSound : public SoundPlayer {
- public:
-  DesktopSound();
-  ~DesktopSound() override;
-
-  void Play(const std::filesystem::path& file) override;
-  void WaitForEnd() override;
-  void Beep() override;
-
- private:
-  QSoundEffect& EffectOf(const std::filesystem::path& file);
-
-  std::map<std::filesystem::path, std::unique_ptr<QSoundEffect>> effects_;  // read once
-  QSoundEffect* last_ = nullptr;
 };
 
 }  // namespace orrerix

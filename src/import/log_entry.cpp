@@ -6,6 +6,7 @@
 
 #include "db/values/text.h"
 #include "import/ini/ini_text.h"
+#include "platform/path_text.h"
 
 namespace orrerix {
 namespace fs = std::filesystem;
@@ -68,7 +69,8 @@ LogEntry ParseLogEntry(std::string_view entry) {
 }
 
 fs::path LogFileOf(const fs::path& universeFile) {
-  return universeFile.string() + ".log";
+  fs::path log = universeFile;
+  return SystemPath(log += ".log");
 }
 
 bool SaveLog(const fs::path& universeFile, const std::vector<std::string>& entries) {

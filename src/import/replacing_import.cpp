@@ -8,25 +8,31 @@
 #include <fmt/format.h>
 
 #include "platform/folder_lock.h"
+#include "platform/path_text.h"
 #include "shell/startup.h"
 
 namespace orrerix {
 namespace fs = std::filesystem;
 namespace {
 
+fs::path BesideOf(const fs::path& target) {
+  fs::path folder = target;
+  return SystemPath(folder += ".import");
+}
+
 // A folder beside a universe file that an import works in; it goes with everything in it.
 class WorkFolder {
  public:
-  explicit WorkFolder(const fs::path& target) : path_(target.string() + ".import") {
+  explicit WorkFolder(const fs::path& target) : path_(BesideOf(target)) {
     std::error_code error;
     fs::create_directory(path_, error);
     lock_ = FolderLock::TryHold(path_);
     if (!lock_) {
       throw CannotReplace(fmt::format("the universe file '{}' is being imported by another process",
-                                      target.string()));
+                                      TextOf(target)));
     }
     if (!fs::is_directory(path_, error)) {
-      throw CannotReplace(fmt::format("cannot make the folder '{}'", path_.string()));
+      throw CannotReplace(fmt::format("cannot make the folder '{}'", TextOf(path_)));
     }
     // What a killed import left.
     for (const auto& entry : fs::directory_iterator(path_, error)) {
@@ -51,7 +57,7 @@ class WorkFolder {
 FolderLock RequireUnused(const fs::path& target) {
   const auto inUse = [&target] {
     return CannotReplace(
-        fmt::format("the universe file '{}' is being used by another process", target.string()));
+        fmt::format("the universe file '{}' is being used by another process", TextOf(target)));
   };
   FolderLock unlocked;
   if (target == UniverseFileIn(target.parent_path())) {

@@ -81,8 +81,7 @@ const PictureStore::Source& PictureStore::SourceOf(const QString& file) {
   if (found != sources_.end()) return found->second;
   Source source;
   if (file.endsWith(".svg", Qt::CaseInsensitive)) {
-    source.Drawing = std::make_unique<QSvgRenderer>(file);
-    if (!source.Drawing->isValid()) source.Drawing.reset();
+    source.Drawing = VectorDrawing::Read(file);
   } else if (QImage image(file); !image.isNull()) {
     // The formats that the painter blends without a conversion.
     source.Levels = LevelsOf(image.convertToFormat(
@@ -93,7 +92,7 @@ const PictureStore::Source& PictureStore::SourceOf(const QString& file) {
 
 QSize PictureStore::NaturalSize(const QString& file) {
   const Source& source = SourceOf(QFile::exists(file) ? file : DrawingName(file));
-  if (source.Drawing) return source.Drawing->defaultSize();
+  if (source.Drawing) return source.Drawing->Size();
   return source.Levels.empty() ? QSize() : source.Levels.front().size();
 }
 
@@ -154,7 +153,7 @@ QPixmap PictureStore::Render(const QString& file, QSize size) {
     QImage image(size, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
     QPainter painter(&image);
-    source.Drawing->render(&painter, QRectF(QPointF(0, 0), size));
+    source.Drawing->Paint(painter, QRectF(QPointF(0, 0), size));
     painter.end();
     return QPixmap::fromImage(std::move(image));
   }
@@ -184,7 +183,7 @@ QPixmap PictureStore::ScaledOf(const QString& file, QSize size) {
 void PictureStore::DrawSource(QPainter& painter, const QString& file, const QRectF& place) {
   const Source& source = SourceOf(file);
   if (source.Drawing) {
-    source.Drawing->render(&painter, place);
+    source.Drawing->Paint(painter, place);
   } else if (!source.Levels.empty()) {
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     painter.drawImage(place, source.Levels.front());

@@ -7,12 +7,13 @@
 #include <QPainter>
 #include <QPixmap>
 #include <QString>
-#include <QSvgRenderer>
 #include <deque>
 #include <functional>
 #include <memory>
 #include <unordered_map>
 #include <vector>
+
+#include "picture/vector_drawing.h"
 
 namespace orrerix {
 
@@ -66,7 +67,7 @@ class PictureStore {
   // One of the two, or neither for a file that is no picture.
   struct Source {
     std::vector<QImage> Levels;  // the picture itself, then each in half the size of the one before
-    std::unique_ptr<QSvgRenderer> Drawing;
+    std::unique_ptr<VectorDrawing> Drawing;
 
     // The smallest level that need not be enlarged to this size; the picture itself if all must be.
     const QImage& LevelFor(QSize size) const;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
 #include <optional>
 #include <utility>
@@ -25,10 +26,10 @@ class FolderLock {
   ~FolderLock();
 
  private:
-  static constexpr int kNone = -1;
-  explicit FolderLock(int handle) : handle_(handle) {}
+  static constexpr std::intptr_t kNone = -1;
+  explicit FolderLock(std::intptr_t handle) : handle_(handle) {}
 
-  int handle_ = kNone;
+  std::intptr_t handle_ = kNone;  // the system's own
 };
 
 }  // namespace orrerix

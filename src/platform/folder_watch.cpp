@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <set>
 
+#include "platform/path_text.h"
+
 namespace orrerix {
 namespace fs = std::filesystem;
 namespace {
@@ -37,7 +39,7 @@ std::vector<fs::path> FoldersNamed(const fs::path& above, const std::vector<std:
   for (fs::directory_iterator entry(above, error), end; !error && entry != end;
        entry.increment(error)) {
     std::error_code ignored;
-    const std::string name = LowerAscii(entry->path().filename().string());
+    const std::string name = LowerAscii(TextOf(entry->path().filename()));
     const bool isWanted = std::find(names.begin(), names.end(), name) != names.end();
     if (isWanted && entry->is_directory(ignored)) folders.push_back(entry->path());
   }

@@ -21,8 +21,8 @@ class FolderWatch {
   // Whether files or folders may have come, gone or changed since the last call. Does not block.
   virtual bool HasStirred() = 0;
 
-  // Waits until HasStirred would be true, a signal comes, or so much time has passed. Programs with
-  // an event loop ask HasStirred from a timer instead.
+  // Waits until HasStirred would be true, a signal comes (which ends no wait on Windows), or so
+  // much time has passed. Programs with an event loop ask HasStirred from a timer instead.
   virtual void Wait(std::chrono::milliseconds longest) = 0;
 };
 

@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <vector>
 
+#include "platform/path_text.h"
+
 namespace orrerix {
 namespace fs = std::filesystem;
 namespace {
@@ -36,7 +38,7 @@ std::vector<std::string> NamesIn(const fs::path& folder) {
   std::error_code error;
   for (fs::directory_iterator entry(folder, error), end; !error && entry != end;
        entry.increment(error)) {
-    names.push_back(entry->path().filename().string());
+    names.push_back(TextOf(entry->path().filename()));
   }
   std::sort(names.begin(), names.end());
   return names;
@@ -50,11 +52,12 @@ std::optional<fs::path> Find(FolderListings& listings, const fs::path& folder,
   if (at == components.size()) return accept(folder) ? std::optional(folder) : std::nullopt;
   const std::string& name = components[at];
   if (name == "..") return Find(listings, folder.parent_path(), components, at + 1, accept);
-  const fs::path exact = folder / name;
+  const fs::path exact = SystemPath(folder / PathOf(name));
   std::error_code error;
   if (fs::exists(exact, error)) {
     if (auto found = Find(listings, exact, components, at + 1, accept)) return found;
   }
+  if (kFileNamesIgnoreCase) return std::nullopt;
   for (const fs::path& other : listings.OtherSpellings(folder, name)) {
     if (auto found = Find(listings, other, components, at + 1, accept)) return found;
   }
@@ -79,7 +82,7 @@ std::vector<fs::path> FolderListings::OtherSpellings(const fs::path& folder,
   if (known == names_.end()) known = names_.emplace(folder, NamesIn(folder)).first;
   std::vector<fs::path> others;
   for (const std::string& other : known->second) {
-    if (other != name && EqualIgnoringCase(other, name)) others.push_back(folder / other);
+    if (other != name && EqualIgnoringCase(other, name)) others.push_back(folder / PathOf(other));
   }
   return others;
 }
@@ -91,7 +94,7 @@ std::optional<fs::path> FindFolder(const fs::path& below, std::string_view path)
 
 std::optional<fs::path> GameFolder::FindFile(std::string_view path) const {
   if (!path.starts_with(text_) || path.find('\0') != std::string_view::npos) return std::nullopt;
-  return Find(listings_, fs::path(text_), Components(path.substr(text_.size())), 0, IsFile);
+  return Find(listings_, PathOf(text_), Components(path.substr(text_.size())), 0, IsFile);
 }
 
 }  // namespace orrerix

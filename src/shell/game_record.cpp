@@ -8,6 +8,7 @@
 #include <fmt/format.h>
 
 #include "platform/folder_watch.h"
+#include "platform/path_text.h"
 #include "shell/file_snapshot.h"
 #include "shell/startup.h"
 
@@ -27,13 +28,14 @@ std::uint64_t Hashed(std::uint64_t hash, std::string_view bytes) {
 }
 
 fs::path RecordOf(const fs::path& universeFile) {
-  return universeFile.string() + ".game";
+  fs::path record = universeFile;
+  return SystemPath(record += ".game");
 }
 
 std::string WholePath(const std::string& folder) {
   std::error_code error;
-  const fs::path path = fs::weakly_canonical(folder, error);
-  return error ? folder : path.string();
+  const fs::path path = fs::weakly_canonical(PathOf(folder), error);
+  return error ? folder : TextOf(path);
 }
 
 }  // namespace
@@ -61,7 +63,8 @@ bool WriteGameRecord(const fs::path& universeFile, const GameRecord& record) {
 
 bool IsSameFolder(const std::string& one, const std::string& other) {
   std::error_code error;
-  return one == other || fs::equivalent(one, other, error) || WholePath(one) == WholePath(other);
+  return one == other || fs::equivalent(PathOf(one), PathOf(other), error) ||
+         WholePath(one) == WholePath(other);
 }
 
 fs::path SaveFolderOfGame(const fs::path& saveFolder, const std::string& game) {
@@ -69,7 +72,8 @@ fs::path SaveFolderOfGame(const fs::path& saveFolder, const std::string& game) {
   if (!record || IsSameFolder(record->Game, game)) return saveFolder;
   const std::string whole = WholePath(game);
   return saveFolder / "Orrerix Games" /
-         fmt::format("{} {:016x}", fs::path(whole).filename().string(), Hashed(kFirstHash, whole));
+         PathOf(fmt::format("{} {:016x}", TextOf(PathOf(whole).filename()),
+                            Hashed(kFirstHash, whole)));
 }
 
 }  // namespace orrerix

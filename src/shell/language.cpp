@@ -81,7 +81,8 @@ void LanguageFile::InitLanguages() {
   routine.Run([&] {
     if (FileExists(routine, path_)) return Fill(routine, path_);
     // A program that dies here leaves no file that looks finished.
-    const fs::path begun = path_.string() + ".new";
+    fs::path begun = path_;
+    begun += ".new";
     DeleteFile(routine, begun);
     CreateFile(begun);
     Fill(routine, begun);

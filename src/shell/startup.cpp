@@ -5,6 +5,7 @@
 
 #include "platform/folder_lock.h"
 #include "platform/game_path.h"
+#include "platform/path_text.h"
 #include "platform/shortcut.h"
 #include "shell/files.h"
 #include "shell/language_texts.h"
@@ -69,7 +70,8 @@ UniverseState ExamineUniverse(FailureSink& routine, const fs::path& saveFolder,
   if (probe.InUse()) return UniverseState::InUse;
   DeleteFile(routine, file);
   // A journal of the deleted file must not be taken for one of the next.
-  DeleteFile(routine, file.string() + "-journal");
+  fs::path journal = file;
+  DeleteFile(routine, journal += "-journal");
   return FileExists(routine, file) ? UniverseState::Undeletable : UniverseState::Absent;
 }
 
@@ -100,7 +102,7 @@ void CreateLink(ErrorLog& log, const fs::path& target, const fs::path& link) {
   routine.Run([&] {
     if (!WriteShortcut(target, link)) {
       routine.Fail({failure_number::kPathFileAccess,
-                    fmt::format("Path/File access error: cannot write '{}'", link.string())});
+                    fmt::format("Path/File access error: cannot write '{}'", TextOf(link))});
     }
   });
 }
@@ -111,20 +113,20 @@ void MakeShortcuts(ErrorLog& log, FailureSink& routine, const GameRegistry& regi
   const fs::path marker = applicationFolder / "CopyLnk";
   if (!FileExists(routine, marker)) return;
   const std::string name = fmt::format("FL Orrerix v{}.{}.lnk", version.Major, version.Minor);
-  CreateLink(log, program, fs::path(registry.GetDesktopFolder()) / name);
-  const fs::path programs = fs::path(registry.GetProgramsFolder()) / "FL Orrerix";
+  CreateLink(log, program, PathOf(registry.GetDesktopFolder()) / name);
+  const fs::path programs = PathOf(registry.GetProgramsFolder()) / "FL Orrerix";
   MakeFolder(routine, programs);
   CreateLink(log, program, programs / name);
   DeleteFile(routine, marker);
 }
 
 Message UniverseInUseQuestion(Language language, const fs::path& file, const AppVersion& version) {
-  return {FormatIn(language, TextId::UniverseInUse, file.string()), MapCaption(version),
+  return {FormatIn(language, TextId::UniverseInUse, TextOf(file)), MapCaption(version),
           MessageButtons::RetryLeave, MessageIcon::Exclamation};
 }
 
 Message FolderMissingMessage(Language language, const fs::path& folder, const AppVersion& version) {
-  return {FormatIn(language, TextId::SaveFolderMissing, folder.string()), MapCaption(version),
+  return {FormatIn(language, TextId::SaveFolderMissing, TextOf(folder)), MapCaption(version),
           MessageButtons::Ok, MessageIcon::Exclamation};
 }
 

@@ -14,6 +14,7 @@
 
 #include "demo/demo_game.h"
 #include "map/control_id.h"
+#include "support/pipe.h"
 #include "support/temp_folder.h"
 
 namespace orrerix {
@@ -34,16 +35,21 @@ inline std::string Content(const std::filesystem::path& file) {
 
 class CommandLine : public ::testing::Test {
  protected:
+  // In quotes, and with the system's own separators.
+  static std::string Program() {
+    return '"' + std::filesystem::absolute(ORRERIX_CLI).make_preferred().string() + '"';
+  }
+
   Answer Run(const std::string& words) {
     const std::filesystem::path errors = folder.Path() / "errors.txt";
-    const std::string command = std::string(ORRERIX_CLI) + " " + words + " 2>" + errors.string();
+    const std::string command = Program() + " " + words + " 2>" + errors.string();
     Answer answer;
-    FILE* pipe = popen(command.c_str(), "r");
+    FILE* pipe = OpenPipe(command);
     std::array<char, 4096> buffer{};
     while (const std::size_t read = fread(buffer.data(), 1, buffer.size(), pipe)) {
       answer.Output.append(buffer.data(), read);
     }
-    answer.ExitCode = WEXITSTATUS(pclose(pipe));
+    answer.ExitCode = ClosePipe(pipe);
     answer.Errors = Content(errors);
     return answer;
   }

@@ -13,13 +13,13 @@ using ::testing::MatchesRegex;
 class Watching : public CommandLine {
  protected:
   ~Watching() override {
-    if (lines_ != nullptr) pclose(lines_);
+    if (lines_ != nullptr) ClosePipe(lines_);
   }
 
   void Start(const std::string& more) {
-    const std::string command = "echo $$; exec " + std::string(ORRERIX_CLI) + " watch --game " +
-                                Game().string() + " " + Database() + " " + more + " 2>&1";
-    lines_ = popen(command.c_str(), "r");
+    const std::string command = "echo $$; exec " + Program() + " watch --game " + Game().string() +
+                                " " + Database() + " " + more + " 2>&1";
+    lines_ = OpenPipe(command);
     process_ = std::stoi(Line());
   }
 
@@ -35,7 +35,7 @@ class Watching : public CommandLine {
 
   int End(int signal) {
     kill(process_, signal);
-    return WEXITSTATUS(pclose(std::exchange(lines_, nullptr)));
+    return ClosePipe(std::exchange(lines_, nullptr));
   }
 
   FILE* lines_ = nullptr;

@@ -7,7 +7,7 @@ namespace orrerix {
 namespace {
 
 TEST(ExecutablePath, IsThisProgram) {
-  EXPECT_EQ(ExecutablePath().filename(), "platform_tests");
+  EXPECT_EQ(ExecutablePath().stem(), "platform_tests");
 }
 
 TEST(ApplicationFolder, IsAFolderThatIsThere) {

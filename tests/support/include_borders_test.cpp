@@ -42,9 +42,10 @@ bool IsOfQt(std::string_view header) {
 }
 
 bool MayUseLinux(std::string_view file) {
-  return file.starts_with("platform/linux/");
+  return file.starts_with("platform/linux/") || file.starts_with("platform/windows/console");
 }
 
+// "fcntl.h" is one of both systems.
 bool IsOfLinux(std::string_view header) {
   static const std::set<std::string_view> headers = {"unistd.h", "dirent.h", "fcntl.h", "pwd.h",
                                                      "dlfcn.h",  "poll.h",   "glob.h",  "ftw.h",

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <random>
 #include <string>
 #include <string_view>
 
@@ -13,8 +13,11 @@ namespace orrerix {
 class TempFolder {
  public:
   TempFolder() {
-    std::string pattern = (std::filesystem::temp_directory_path() / "orrerix-XXXXXX").string();
-    path_ = mkdtemp(pattern.data());
+    const std::filesystem::path base = std::filesystem::temp_directory_path();
+    std::random_device random;
+    do {
+      path_ = base / ("orrerix-" + std::to_string(random()));
+    } while (!std::filesystem::create_directory(path_));
   }
   TempFolder(const TempFolder&) = delete;
   TempFolder& operator=(const TempFolder&) = delete;
@@ -26,7 +29,7 @@ class TempFolder {
   const std::filesystem::path& Path() const { return path_; }
 
   // Writes a file below the folder, with the folders on its way.
-  std::filesystem::path Write(const std::string& name, std::string_view content) const {
+  std::filesystem::path Write(const std::filesystem::path& name, std::string_view content) const {
     const std::filesystem::path file = path_ / name;
     std::filesystem::create_directories(file.parent_path());
     std::ofstream(file, std::ios::binary)

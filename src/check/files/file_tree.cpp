@@ -6,6 +6,7 @@
 #include <set>
 
 #include "check/files/paths.h"
+#include "platform/path_text.h"
 
 namespace orrerix::check {
 namespace fs = std::filesystem;
@@ -29,7 +30,7 @@ class FolderWalk {
     for (fs::directory_iterator each(folder, error), end; !error && each != end;
          each.increment(error)) {
       std::error_code unknown;
-      const std::string path = prefix + each->path().filename().string();
+      const std::string path = prefix + TextOf(each->path().filename());
       if (each->is_directory(unknown)) {
         if (depth < kMostFolders && IsNewFolder(*each)) Visit(each->path(), path + '/', depth + 1);
       } else if (each->is_regular_file(unknown)) {
@@ -77,11 +78,11 @@ const DiskFile* FileTree::Find(std::string_view key) const {
 }
 
 fs::path FileTree::FullPath(const DiskFile& file) const {
-  return (file.Layer == Layer::Game ? game_ : base_) / file.Path;
+  return (file.Layer == Layer::Game ? game_ : base_) / PathOf(file.Path);
 }
 
 std::optional<std::string> FileTree::ReadBytes(const DiskFile& file) const {
-  std::ifstream stream(FullPath(file), std::ios::binary | std::ios::ate);
+  std::ifstream stream(SystemPath(FullPath(file)), std::ios::binary | std::ios::ate);
   if (!stream) return std::nullopt;
   const std::streamoff size = stream.tellg();
   if (size < 0) return std::nullopt;

@@ -6,6 +6,7 @@
 
 #include "check/report/reports.h"
 #include "check/rules/rule.h"
+#include "platform/path_text.h"
 #include "shell/version.h"
 
 namespace orrerix::check {
@@ -35,7 +36,7 @@ std::string PercentEncoded(std::string_view path) {
 
 std::string FolderUri(const std::string& folder) {
   std::error_code error;
-  std::string path = fs::absolute(folder, error).lexically_normal().generic_string();
+  std::string path = fs::absolute(PathOf(folder), error).lexically_normal().generic_string();
   if (!path.starts_with('/')) path.insert(0, "/");
   if (!path.ends_with('/')) path += '/';
   return "file://" + PercentEncoded(path);

@@ -9,6 +9,7 @@
 #include "db/engine/engine_functions.h"
 #include "db/rows/row_inserter.h"
 #include "db/values/text.h"
+#include "platform/path_text.h"
 
 namespace orrerix {
 Connection::Connection(sqlite3* handle, std::filesystem::path path)
@@ -272,7 +273,7 @@ std::shared_ptr<const TableDef> Connection::ColumnsOf(sqlite3_stmt* statement) {
 Failure Connection::LastFailure() const {
   const int code = sqlite3_extended_errcode(handle_);
   const std::string message = sqlite3_errmsg(handle_);
-  const std::string file = path_.string();
+  const std::string file = TextOf(path_);
   if (code == SQLITE_CONSTRAINT_UNIQUE || code == SQLITE_CONSTRAINT_PRIMARYKEY) {
     return DuplicateKey();
   }

@@ -8,6 +8,7 @@
 
 #include "db/engine/connection.h"
 #include "db/engine/engine_functions.h"
+#include "platform/path_text.h"
 
 namespace orrerix {
 namespace fs = std::filesystem;
@@ -18,15 +19,21 @@ bool ConfigureEngine() {
   return sqlite3_config(SQLITE_CONFIG_MEMSTATUS, 0) == SQLITE_OK;
 }
 
+// The engine's layer for paths of any length, where there is more than one layer.
+const char* FileLayer() {
+  constexpr const char* longPaths = "win32-longpath";
+  return sqlite3_vfs_find(longPaths) == nullptr ? nullptr : longPaths;
+}
+
 std::shared_ptr<Connection> Connect(const fs::path& path, int flags) {
   [[maybe_unused]] static const bool kConfigured = ConfigureEngine();
   sqlite3* handle = nullptr;
-  const int result =
-      sqlite3_open_v2(path.string().c_str(), &handle, flags | SQLITE_OPEN_NOMUTEX, nullptr);
+  const int result = sqlite3_open_v2(TextOf(SystemPath(path)).c_str(), &handle,
+                                     flags | SQLITE_OPEN_NOMUTEX, FileLayer());
   auto connection = std::make_shared<Connection>(handle, path);
   if (result != SQLITE_OK) {
     throw EngineFailure(failure_number::kCannotOpenFile,
-                        fmt::format("Could not open file '{}'.", path.string()));
+                        fmt::format("Could not open file '{}'.", TextOf(path)));
   }
   sqlite3_extended_result_codes(handle, 1);
   RegisterEngineFunctions(handle);
@@ -70,7 +77,7 @@ Database DBEngine::CreateDatabase(FailureSink& sink, const fs::path& path,
     std::error_code ignored;
     if (fs::exists(path, ignored)) {
       throw EngineFailure(failure_number::kDatabaseExists,
-                          fmt::format("Database '{}' already exists.", path.string()));
+                          fmt::format("Database '{}' already exists.", TextOf(path)));
     }
     auto connection = Connect(path, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
     // A file that holds nothing yet has nothing to lose with the power.
@@ -101,16 +108,16 @@ void DBEngine::CompactDatabase(FailureSink& sink, const fs::path& from, const fs
   Database source = OpenDatabase(sink, from);
   if (!source.IsOpen()) return;
   if (source.FreePages(sink) > 0) {
-    source.ExecuteNative(sink, "VACUUM INTO " + TextLiteral(to.string()));
+    source.ExecuteNative(sink, "VACUUM INTO " + TextLiteral(TextOf(SystemPath(to))));
     return;
   }
   source.Close();
   std::error_code error;
-  fs::rename(from, to, error);
+  fs::rename(SystemPath(from), SystemPath(to), error);
   if (error) {
     sink.Fail(EngineFailure(failure_number::kCannotOpenFile,
-                            fmt::format("Could not rename '{}' to '{}': {}.", from.string(),
-                                        to.string(), error.message())));
+                            fmt::format("Could not rename '{}' to '{}': {}.", TextOf(from),
+                                        TextOf(to), error.message())));
   }
 }
 

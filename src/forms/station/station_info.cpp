@@ -93,10 +93,15 @@ void StationInfo::ShowPicture(ControlId id, const QString& file, const QRect& pl
   label->setObjectName(NameOf(id));
   label->setGeometry(place);
   label->setAttribute(Qt::WA_TransparentForMouseEvents);
+  label->setPixmap(SharpPixmap(file, place.size()));
+}
+
+// A picture in a size in logical pixels, made for this screen's own.
+QPixmap StationInfo::SharpPixmap(const QString& file, QSize size) {
   const double ratio = devicePixelRatioF();
-  QPixmap pixmap = parts_.Pictures.Scaled(file, place.size() * ratio);
+  QPixmap pixmap = parts_.Pictures.Scaled(file, size * ratio);
   pixmap.setDevicePixelRatio(ratio);
-  label->setPixmap(pixmap);
+  return pixmap;
 }
 
 void StationInfo::MakeModes() {
@@ -130,7 +135,7 @@ void StationInfo::MakeTravelButtons() {
     button->setObjectName(travel.Name);
     button->setAccessibleName(Caption(travel.Caption));
     button->setToolTip(Caption(travel.Caption));
-    button->setIcon(QIcon(travel.Picture));
+    button->setIcon(SharpPixmap(travel.Picture, QSize(kTravelIconPixels, kTravelIconPixels)));
     button->setIconSize(QSize(kTravelIconPixels, kTravelIconPixels));
     button->setGeometry(PixelRect(kSide, top, kButton, kButton));
     QObject::connect(button, &QPushButton::clicked, this,

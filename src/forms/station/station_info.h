@@ -61,6 +61,7 @@ class StationInfo : public QWidget {
 
  private:
   void MakeDecoration();
+  QPixmap SharpPixmap(const QString& file, QSize size);
   void ShowPicture(ControlId id, const QString& file, const QRect& place);
   void MakeModes();
   void MakeTravelButtons();

@@ -16,6 +16,7 @@
 #include "check/rules/rule.h"
 #include "forms/controls/captions.h"
 #include "picture/form_font.h"
+#include "platform/path_text.h"
 
 namespace orrerix {
 namespace {
@@ -177,7 +178,7 @@ void CheckPage::Check() {
       [game = game_](const BackgroundTask::IsCancelled& isCancelled) {
         Outcome outcome;
         check::CheckOptions options;
-        options.Game = game;
+        options.Game = PathOf(game);
         try {
           outcome.Answer = check::RunCheck(options, [&](std::size_t) { return !isCancelled(); });
         } catch (const std::exception& error) {
@@ -229,7 +230,8 @@ void CheckPage::ShowExplanation() {
 }
 
 void CheckPage::OpenChosen() {
-  if (const Finding* finding = Chosen()) open_(fs::path(game_) / finding->File, finding->Line);
+  if (const Finding* finding = Chosen())
+    open_(PathOf(game_) / PathOf(finding->File), finding->Line);
 }
 
 void CheckPage::ShowChosenOnMap() {
@@ -266,7 +268,7 @@ void CheckPage::Export() {
 
 void CheckPage::Watch(bool on) {
   watch_.reset();
-  if (on) watch_ = std::make_unique<GameFilesWatch>(fs::path(host_.GameText()));
+  if (on) watch_ = std::make_unique<GameFilesWatch>(PathOf(host_.GameText()));
   on ? watchTimer_.start() : watchTimer_.stop();
 }
 

@@ -18,6 +18,7 @@
 #include "forms/controls/captions.h"
 #include "forms/workbench/background_import.h"
 #include "forms/workbench/throw_failures.h"
+#include "platform/path_text.h"
 #include "shell/startup.h"
 
 namespace orrerix {
@@ -76,7 +77,7 @@ std::vector<MapCell> CellsOf(const std::set<std::string>& systems,
 }
 
 std::string NameOfSide(const fs::path& path) {
-  return (path.has_filename() ? path : path.parent_path()).filename().string();
+  return TextOf((path.has_filename() ? path : path.parent_path()).filename());
 }
 
 }  // namespace
@@ -171,12 +172,12 @@ DifferencesPage::Comparison DifferencesPage::Compare(
     const std::string& old, const fs::path& now, AppVersion version,
     const BackgroundTask::IsCancelled& isCancelled) {
   Comparison comparison;
-  comparison.Old = NameOfSide(old);
+  comparison.Old = NameOfSide(PathOf(old));
   try {
     const QTemporaryDir work;
-    fs::path file = old;
+    fs::path file = PathOf(old);
     if (fs::is_directory(file)) {
-      file = UniverseFileIn(work.path().toStdString());
+      file = UniverseFileIn(PathOf(work.path().toStdString()));
       const ImportOutcome outcome =
           BackgroundImport::Run({old, file, JetVersionOption::Version30, version}, isCancelled);
       if (!outcome.Error.empty()) throw std::runtime_error(outcome.Error);

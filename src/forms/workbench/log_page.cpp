@@ -13,6 +13,7 @@
 
 #include "forms/controls/captions.h"
 #include "picture/form_font.h"
+#include "platform/path_text.h"
 
 namespace orrerix {
 namespace {
@@ -101,7 +102,7 @@ void LogPage::Read() {
   entries_ = ReadSavedLog(host_.UniverseFile());
   std::vector<LogEntry> parsed;
   for (const std::string& entry : entries_) parsed.push_back(ParseLogEntry(entry));
-  std::vector<check::LogPlace> places = check::PlacesOfLog(host_.GameText(), parsed);
+  std::vector<check::LogPlace> places = check::PlacesOfLog(PathOf(host_.GameText()), parsed);
   model_.Show(std::move(parsed), std::move(places));
   sums_->setText(
       QString::fromStdString(FormatIn(choice_.Current, TextId::LogSums, entries_.size())));
@@ -111,7 +112,7 @@ void LogPage::Read() {
 
 void LogPage::OpenChosen() {
   const check::LogPlace place = model_.PlaceAt(filter_.mapToSource(table_->currentIndex()));
-  if (!place.File.empty()) open_(std::filesystem::path(host_.GameText()) / place.File, place.Line);
+  if (!place.File.empty()) open_(PathOf(host_.GameText()) / PathOf(place.File), place.Line);
 }
 
 void LogPage::ShowChosen() {

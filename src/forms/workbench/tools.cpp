@@ -14,6 +14,7 @@
 #include "forms/workbench/setting_keys.h"
 #include "forms/workbench/trades_page.h"
 #include "forms/workbench/way_page.h"
+#include "platform/path_text.h"
 #include "shell/game_record.h"
 
 namespace orrerix {
@@ -121,7 +122,7 @@ void Tools::FinishImport(const ImportOutcome& outcome) {
 
 void Tools::WatchGame(bool on) {
   watch_.reset();
-  if (on) watch_ = std::make_unique<GameFilesWatch>(fs::path(host_.GameText()));
+  if (on) watch_ = std::make_unique<GameFilesWatch>(PathOf(host_.GameText()));
   on ? watchTimer_.start() : watchTimer_.stop();
 }
 

@@ -12,6 +12,7 @@
 
 #include "forms/controls/captions.h"
 #include "forms/workbench/setting_keys.h"
+#include "picture/application_icon.h"
 
 namespace orrerix {
 namespace {
@@ -21,9 +22,9 @@ constexpr int kListWidth = 150;
 // The style's own boxes do not show on the dark background while they are empty.
 constexpr const char* kStyle =
     "QCheckBox::indicator, QListView::indicator { width: 15px; height: 15px;"
-    " image: url(:/pictures/tools/check_off.svg); }"
+    " image: url(:/pictures/tools/check_off.png); }"
     "QCheckBox::indicator:checked, QListView::indicator:checked {"
-    " image: url(:/pictures/tools/check_on.svg); }";
+    " image: url(:/pictures/tools/check_on.png); }";
 
 }  // namespace
 
@@ -35,7 +36,7 @@ Workbench::Workbench(QSettings& settings, const LanguageChoice& choice)
   setObjectName("Workbench");
   setWindowTitle(CaptionIn(choice.Current, TextId::Tools));
   setStyleSheet(kStyle);
-  setWindowIcon(QIcon(":/pictures/application.svg"));
+  setWindowIcon(ApplicationIcon());
   list_->setObjectName("PageList");
   list_->setAccessibleName(CaptionIn(choice.Current, TextId::Tools));
   stack_->setObjectName("PageStack");

@@ -11,7 +11,7 @@ namespace orrerix {
 
 std::optional<FolderLock> FolderLock::TryHold(const std::filesystem::path& folder) {
   FolderLock lock(open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-  if (lock.handle_ != kNone && flock(lock.handle_, LOCK_EX | LOCK_NB) != 0 &&
+  if (lock.handle_ != kNone && flock(static_cast<int>(lock.handle_), LOCK_EX | LOCK_NB) != 0 &&
       errno == EWOULDBLOCK) {
     return std::nullopt;
   }
@@ -19,7 +19,7 @@ std::optional<FolderLock> FolderLock::TryHold(const std::filesystem::path& folde
 }
 
 FolderLock::~FolderLock() {
-  if (handle_ != kNone) close(handle_);
+  if (handle_ != kNone) close(static_cast<int>(handle_));
 }
 
 }  // namespace orrerix
