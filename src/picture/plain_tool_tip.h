@@ -6,11 +6,14 @@
 
 namespace orrerix {
 
-// A tool tip that is shown as it stands, whatever it looks like: texts come from the net and from
-// mods.
+// A tool tip that shows a text literally, even if it looks like markup: texts come from the net and
+// from mods. Line feeds stay.
+inline QString PlainToolTip(const QString& text) {
+  if (text.isEmpty()) return {};
+  return "<span>" + text.toHtmlEscaped().replace('\n', "<br>") + "</span>";
+}
 inline QString PlainToolTip(const std::string& text) {
-  if (text.empty()) return {};
-  return "<span>" + QString::fromStdString(text).toHtmlEscaped() + "</span>";
+  return PlainToolTip(QString::fromStdString(text));
 }
 
 }  // namespace orrerix

@@ -9,6 +9,7 @@
 
 #include "forms/controls/control_name.h"
 #include "forms/controls/form_geometry.h"
+#include "forms/controls/plain_label.h"
 #include "forms/controls/row_list.h"
 #include "picture/form_font.h"
 
@@ -58,7 +59,7 @@ SearchPanelView::SearchPanelView(SearchEvents& events, QWidget* map)
   setFrameShape(QFrame::StyledPanel);
   setStyleSheet(QString(kStyle).arg(NameOf(ControlId::SearchFrame)));
   setFont(FormFont(kFont));
-  caption_ = new QLabel(this);
+  caption_ = new PlainLabel(this);
   caption_->setObjectName(NameOf(ControlId::SearchCaption));
   caption_->setFont(FormFont(kCaptionFont));
   new EscapeKey(*this, [this] { events_.CloseSearch(); });

@@ -9,6 +9,7 @@
 
 #include "forms/controls/captions.h"
 #include "forms/controls/painted_ground.h"
+#include "forms/controls/plain_label.h"
 #include "picture/form_font.h"
 
 namespace orrerix {
@@ -26,7 +27,7 @@ Loading::Loading(PictureStore& pictures, const LanguageChoice& choice)
   setObjectName("loading");
   setWindowTitle(CaptionIn(choice_.Current, TextId::LoadingTitle));
   setFixedSize(kFormSize);
-  auto* logo = new QLabel(this);
+  auto* logo = new PlainLabel(this);
   logo->setObjectName("Image_Clan");
   logo->setGeometry(QRect({(kFormSize.width() - kLogoSize.width()) / 2, kLogoTop}, kLogoSize));
   QPixmap picture = pictures.Scaled(":/pictures/logo.png", kLogoSize * devicePixelRatioF());
@@ -39,7 +40,7 @@ Loading::Loading(PictureStore& pictures, const LanguageChoice& choice)
 }
 
 QLabel* Loading::AddLabel(const char* name, const QString& text, int points, int top) {
-  auto* label = new QLabel(text, this);
+  auto* label = new PlainLabel(text, this);
   label->setObjectName(name);
   label->setFont(FormFont(points));
   label->setAlignment(Qt::AlignCenter);

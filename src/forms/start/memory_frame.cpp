@@ -6,6 +6,7 @@
 
 #include "forms/controls/captions.h"
 #include "forms/controls/form_geometry.h"
+#include "forms/controls/plain_label.h"
 #include "picture/form_font.h"
 #include "shell/memory_watch.h"
 #include "shell/routine.h"
@@ -67,7 +68,7 @@ NumberSeparators SeparatorsOf(const QLocale& locale) {
 }  // namespace
 
 MemFrame::MemFrame(const LanguageChoice& choice, QWidget* parent)
-    : QWidget(parent), choice_(choice), headLab_(new QLabel(this)) {
+    : QWidget(parent), choice_(choice), headLab_(new PlainLabel(this)) {
   setObjectName("MemFrame");
   setGeometry(PixelRect(0, 0, 0, DesignHeight));
   headLab_->setObjectName("MemHeadLab0");
@@ -80,7 +81,7 @@ MemFrame::MemFrame(const LanguageChoice& choice, QWidget* parent)
 void MemFrame::MakeBars() {
   for (int bar = 0; bar < kBars; ++bar) {
     auto* name =
-        new QLabel(CaptionIn(choice_.Current, kBarNames[static_cast<std::size_t>(bar)]), this);
+        new PlainLabel(CaptionIn(choice_.Current, kBarNames[static_cast<std::size_t>(bar)]), this);
     name->setFont(FormFont(kCaptionFont));
     name->setGeometry(PixelRect(100, kBarsTop + bar * kBarStep, kBarsLeft - 200, kBarHeight));
     SetColors(*name, Qt::transparent, QColor(0xFF9FB4DC));

@@ -11,8 +11,10 @@
 #include "forms/controls/fitted_button.h"
 #include "forms/controls/form_geometry.h"
 #include "forms/controls/painted_ground.h"
+#include "forms/controls/plain_label.h"
 #include "forms/start/spoiler_layout.h"
 #include "map/grid/opt_font_size.h"
+#include "picture/plain_tool_tip.h"
 
 namespace orrerix {
 namespace {
@@ -48,9 +50,8 @@ Spoiler::Spoiler(const SpoilerTexts& texts, PictureStore& pictures, Language lan
   setWindowTitle(caption(TextId::SpoilerTitle));
   setModal(true);
   setStyleSheet(kStyle);
-  headLine_ = new QLabel(QString::fromStdString(texts.HeadLine), this);
+  headLine_ = new PlainLabel(QString::fromStdString(texts.HeadLine), this);
   headLine_->setObjectName("HeadLine");
-  headLine_->setTextFormat(Qt::PlainText);
   headLine_->setAlignment(Qt::AlignCenter);
   text_ = new QPlainTextEdit(QString::fromStdString(texts.Text).remove('\r'), this);
   text_->setObjectName("Text");
@@ -77,7 +78,7 @@ QPushButton* Spoiler::AddButton(const char* name, const std::string& caption,
                                 const QString& toolTip) {
   auto* button = new FittedButton(QString::fromStdString(caption), this);
   button->setObjectName(name);
-  button->setToolTip(toolTip);
+  button->setToolTip(PlainToolTip(toolTip));
   return button;
 }
 

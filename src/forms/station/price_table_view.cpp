@@ -14,6 +14,7 @@
 #include "forms/controls/control_name.h"
 #include "forms/controls/form_geometry.h"
 #include "picture/form_font.h"
+#include "picture/plain_tool_tip.h"
 
 namespace orrerix {
 namespace {
@@ -108,7 +109,7 @@ QVariant PriceTableModel::data(const QModelIndex& index, int role) const {
     case Qt::ToolTipRole: {
       // The name of a trade may be cut off in its label.
       const bool isTradeName = index.column() == 0 && line.Row != nullptr && line.Row->IsTrade;
-      return isTradeName ? QString::fromStdString(label->Caption) : QVariant();
+      return isTradeName ? PlainToolTip(label->Caption) : QVariant();
     }
     default:
       return {};

@@ -15,6 +15,7 @@
 #include "forms/controls/control_name.h"
 #include "forms/controls/form_geometry.h"
 #include "forms/controls/locale_separators.h"
+#include "forms/controls/plain_label.h"
 #include "forms/controls/row_list.h"
 #include "picture/picture_files.h"
 
@@ -89,7 +90,7 @@ void StationInfo::MakeDecoration() {
 
 // A picture in front of those before it; the mouse goes through it.
 void StationInfo::ShowPicture(ControlId id, const QString& file, const QRect& place) {
-  auto* label = new QLabel(this);
+  auto* label = new PlainLabel(this);
   label->setObjectName(NameOf(id));
   label->setGeometry(place);
   label->setAttribute(Qt::WA_TransparentForMouseEvents);

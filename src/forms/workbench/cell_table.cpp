@@ -2,6 +2,7 @@
 #include "forms/workbench/cell_table.h"
 
 #include "forms/controls/captions.h"
+#include "picture/plain_tool_tip.h"
 
 namespace orrerix {
 
@@ -29,8 +30,9 @@ QVariant CellTable::data(const QModelIndex& index, int role) const {
       rows_[static_cast<std::size_t>(index.row())][static_cast<std::size_t>(index.column())];
   switch (role) {
     case Qt::DisplayRole:
-    case Qt::ToolTipRole:
       return cell.Text;
+    case Qt::ToolTipRole:
+      return PlainToolTip(cell.Text);
     case kSortRole:
       return cell.Value;
     case Qt::TextAlignmentRole:

@@ -15,6 +15,7 @@
 #include "check/report/reports.h"
 #include "check/rules/rule.h"
 #include "forms/controls/captions.h"
+#include "forms/controls/plain_label.h"
 #include "picture/form_font.h"
 #include "platform/path_text.h"
 
@@ -86,7 +87,7 @@ QWidget* CheckPage::MakeBar() {
   cancel_->setEnabled(false);
   again_ = new QCheckBox(Caption(TextId::CheckOnSave), bar);
   again_->setObjectName("CheckOnSave");
-  state_ = new QLabel(bar);
+  state_ = new PlainLabel(bar);
   state_->setObjectName("State");
   row->addWidget(check_);
   row->addWidget(cancel_);

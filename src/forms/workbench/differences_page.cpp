@@ -16,6 +16,7 @@
 #include "db/engine/engine.h"
 #include "db/values/text.h"
 #include "forms/controls/captions.h"
+#include "forms/controls/plain_label.h"
 #include "forms/workbench/background_import.h"
 #include "forms/workbench/throw_failures.h"
 #include "platform/path_text.h"
@@ -88,7 +89,7 @@ DifferencesPage::DifferencesPage(WorkbenchHost& host, const LanguageChoice& choi
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->addWidget(MakeChoice());
-  state_ = new QLabel(this);
+  state_ = new PlainLabel(this);
   state_->setObjectName("State");
   layout->addWidget(state_);
   auto* split = new QSplitter(this);

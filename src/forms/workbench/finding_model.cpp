@@ -7,6 +7,7 @@
 #include <fmt/format.h>
 
 #include "forms/controls/captions.h"
+#include "picture/plain_tool_tip.h"
 
 namespace orrerix {
 namespace {
@@ -103,7 +104,8 @@ QVariant FindingModel::data(const QModelIndex& index, int role) const {
   if (role == Qt::ForegroundRole && index.column() == SeverityColumn) {
     return ColorOf(finding->Severity);
   }
-  if (role != Qt::DisplayRole && role != Qt::ToolTipRole) return {};
+  if (role == Qt::ToolTipRole) return PlainToolTip(data(index, Qt::DisplayRole).toString());
+  if (role != Qt::DisplayRole) return {};
   switch (index.column()) {
     case PlaceColumn:
       return QString::fromStdString(fmt::format("{}:{}", finding->File, finding->Line));

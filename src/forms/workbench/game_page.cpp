@@ -7,6 +7,7 @@
 #include <QVBoxLayout>
 
 #include "forms/controls/captions.h"
+#include "forms/controls/plain_label.h"
 #include "forms/workbench/setting_keys.h"
 
 namespace orrerix {
@@ -20,16 +21,16 @@ GamePage::GamePage(WorkbenchHost& host, QSettings& settings, const LanguageChoic
     : WorkbenchPage(TextId::GamePage), host_(host), settings_(settings), choice_(choice) {
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
-  game_ = new QLabel(this);
+  game_ = new PlainLabel(this);
   game_->setObjectName("GameShown");
-  file_ = new QLabel(this);
+  file_ = new PlainLabel(this);
   for (QLabel* label : {game_, file_}) label->setTextInteractionFlags(Qt::TextSelectableByMouse);
   auto* again = new QPushButton(Caption(TextId::ImportAgain), this);
   again->setObjectName("ImportAgain");
   auto* watch = new QCheckBox(Caption(TextId::WatchGame), this);
   watch->setObjectName("WatchGame");
   watch->setChecked(settings.value(setting_key::kWatch, false).toBool());
-  state_ = new QLabel(this);
+  state_ = new PlainLabel(this);
   state_->setObjectName("ImportState");
   state_->setWordWrap(true);
   auto* other = new QPushButton(Caption(TextId::OpenOtherGame), this);
@@ -49,11 +50,11 @@ GamePage::GamePage(WorkbenchHost& host, QSettings& settings, const LanguageChoic
   layout->addWidget(state_);
   layout->addSpacing(16);
   layout->addWidget(other, 0, Qt::AlignLeft);
-  layout->addWidget(new QLabel(Caption(TextId::RecentGames), this));
+  layout->addWidget(new PlainLabel(Caption(TextId::RecentGames), this));
   layout->addWidget(recent_, 1);
   layout->addWidget(open, 0, Qt::AlignLeft);
   layout->addSpacing(16);
-  layout->addWidget(new QLabel(Caption(TextId::EditorCommand), this));
+  layout->addWidget(new PlainLabel(Caption(TextId::EditorCommand), this));
   layout->addWidget(editor);
   connect(again, &QPushButton::clicked, this, [this] { host_.ImportAgain(); });
   connect(watch, &QCheckBox::toggled, this, [this](bool on) {

@@ -7,6 +7,7 @@
 #include <array>
 
 #include "forms/controls/captions.h"
+#include "forms/controls/plain_label.h"
 
 namespace orrerix {
 namespace {
@@ -66,7 +67,7 @@ QWidget* GoodsPage::MakePlaces() {
   auto* pane = new QWidget(this);
   auto* layout = new QVBoxLayout(pane);
   layout->setContentsMargins(0, 0, 0, 0);
-  placesOf_ = new QLabel(Caption(TextId::PlacesOfGood), pane);
+  placesOf_ = new PlainLabel(Caption(TextId::PlacesOfGood), pane);
   placesOf_->setObjectName("PlacesOf");
   placeTable_ = MakeTable("Places", TextId::PlacesOfGood, placeFilter_);
   placeTable_->setSortingEnabled(true);

@@ -4,6 +4,7 @@
 #include <array>
 
 #include "forms/controls/captions.h"
+#include "picture/plain_tool_tip.h"
 
 namespace orrerix {
 namespace {
@@ -63,7 +64,9 @@ int LogModel::columnCount(const QModelIndex&) const {
 QVariant LogModel::data(const QModelIndex& index, int role) const {
   const LogEntry* entry = EntryAt(index);
   if (entry == nullptr) return {};
-  if (role == Qt::ToolTipRole) return QString::fromStdString(entry->Text).remove('\r');
+  if (role == Qt::ToolTipRole) {
+    return PlainToolTip(QString::fromStdString(entry->Text).remove('\r'));
+  }
   if (role != Qt::DisplayRole) return {};
   switch (index.column()) {
     case KindColumn:

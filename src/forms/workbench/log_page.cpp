@@ -12,6 +12,7 @@
 #include <QVBoxLayout>
 
 #include "forms/controls/captions.h"
+#include "forms/controls/plain_label.h"
 #include "picture/form_font.h"
 #include "platform/path_text.h"
 
@@ -75,7 +76,7 @@ QWidget* LogPage::MakeBar() {
   connect(text, &QLineEdit::textChanged, this,
           [this](const QString& wanted) { filter_.setFilterFixedString(wanted); });
   row->addWidget(text, 1);
-  sums_ = new QLabel(bar);
+  sums_ = new PlainLabel(bar);
   row->addWidget(sums_);
   openFile_ = new QPushButton(CaptionIn(choice_.Current, TextId::OpenFile), bar);
   openFile_->setObjectName("OpenFile");

@@ -22,7 +22,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr int kWatchInterval = 100;  // milliseconds
+constexpr int kWatchInterval = 30;  // milliseconds
 
 QString SettingsFile(const fs::path& applicationFolder) {
   return QString::fromStdString((applicationFolder / "Orrerix-Tools.ini").string());
@@ -122,7 +122,10 @@ void Tools::FinishImport(const ImportOutcome& outcome) {
 
 void Tools::WatchGame(bool on) {
   watch_.reset();
-  if (on) watch_ = std::make_unique<GameFilesWatch>(PathOf(host_.GameText()));
+  if (on) {
+    watch_ = std::make_unique<GameFilesWatch>(PathOf(host_.GameText()), std::vector<fs::path>(),
+                                              GameFilesWatch::kShortQuiet);
+  }
   on ? watchTimer_.start() : watchTimer_.stop();
 }
 

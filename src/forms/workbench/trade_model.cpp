@@ -6,6 +6,7 @@
 #include <array>
 
 #include "forms/controls/captions.h"
+#include "picture/plain_tool_tip.h"
 
 namespace orrerix {
 namespace {
@@ -77,8 +78,9 @@ QVariant TradeModel::data(const QModelIndex& index, int role) const {
   const Row& row = rows_[static_cast<std::size_t>(index.row())];
   switch (role) {
     case Qt::DisplayRole:
-    case Qt::ToolTipRole:
       return TextOf(row, index.column());
+    case Qt::ToolTipRole:
+      return PlainToolTip(TextOf(row, index.column()).toString());
     case kSortRole:
       return ValueOf(row, index.column());
     case Qt::TextAlignmentRole:

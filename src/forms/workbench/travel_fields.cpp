@@ -8,6 +8,7 @@
 #include <set>
 
 #include "forms/controls/captions.h"
+#include "forms/controls/plain_label.h"
 #include "forms/workbench/setting_keys.h"
 
 namespace orrerix {
@@ -96,14 +97,14 @@ TravelFields::TravelFields(const LanguageChoice& choice, QWidget* parent)
   factions_->setObjectName("EnemyFactions");
   factions_->setAccessibleName(Caption(TextId::EnemyFactions));
   factions_->setMinimumHeight(kFactionRows);
-  rows_->addRow(new QLabel(Caption(TextId::EnemyFactions), this));
+  rows_->addRow(new PlainLabel(Caption(TextId::EnemyFactions), this));
   rows_->addRow(factions_);
   avoid_ = new QLineEdit(this);
   avoid_->setObjectName("KeepAway");
   avoid_->setAccessibleName(Caption(TextId::KeepAwayFrom));
   avoid_->setPlaceholderText(Caption(TextId::CommaSeparated));
   avoid_->setToolTip(Caption(TextId::CommaSeparated));
-  rows_->addRow(new QLabel(Caption(TextId::KeepAwayFrom), this));
+  rows_->addRow(new PlainLabel(Caption(TextId::KeepAwayFrom), this));
   rows_->addRow(avoid_);
   noGates_ = MakeSwitch(TextId::NoGates, "NoGates");
   noHoles_ = MakeSwitch(TextId::NoHoles, "NoHoles");

@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "forms/controls/captions.h"
+#include "forms/controls/plain_label.h"
 #include "forms/workbench/setting_keys.h"
 
 namespace orrerix {
@@ -74,7 +75,7 @@ QWidget* TravelPage::MakeBar() {
   auto* bar = new QWidget(this);
   auto* row = new QHBoxLayout(bar);
   row->setContentsMargins(0, 0, 0, 0);
-  state_ = new QLabel(bar);
+  state_ = new PlainLabel(bar);
   state_->setObjectName("State");
   state_->setWordWrap(true);
   state_->setMinimumHeight(state_->sizeHint().height());

@@ -5,6 +5,7 @@
 #include <array>
 
 #include "forms/controls/captions.h"
+#include "picture/plain_tool_tip.h"
 
 namespace orrerix {
 namespace {
@@ -106,9 +107,10 @@ QVariant WayLegModel::data(const QModelIndex& index, int role) const {
   }
   const auto row = static_cast<std::size_t>(index.row());
   if (role == Qt::ToolTipRole && index.column() == ToColumn) {
-    return QString::fromStdString(rows_[row].Leg.To);
+    return PlainToolTip(rows_[row].Leg.To);
   }
-  if (role != Qt::DisplayRole && role != Qt::ToolTipRole) return {};
+  if (role == Qt::ToolTipRole) return PlainToolTip(TextOf(row, index.column()));
+  if (role != Qt::DisplayRole) return {};
   return TextOf(row, index.column());
 }
 

@@ -77,7 +77,7 @@ TEST_F(PriceTableViewTest, ATradeTellsItsWholeNameInATip) {
   table.Rows[0].IsTrade = true;
   view.Show({table});
 
-  EXPECT_EQ(view.model()->index(1, 0).data(Qt::ToolTipRole).toString(), "Gold");
+  EXPECT_EQ(view.model()->index(1, 0).data(Qt::ToolTipRole).toString(), "<span>Gold</span>");
   EXPECT_FALSE(view.model()->index(1, 1).data(Qt::ToolTipRole).isValid());
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/workbench/workbench.h"
 
+#include <QLabel>
 #include <QTest>
 
 #include "../form_fixture.h"
@@ -104,6 +105,24 @@ TEST_F(WorkbenchTest, TheLogOfAnEarlierImportIsShownFromItsBeginning) {
   EXPECT_EQ(table.model()->index(0, LogModel::FileColumn).data(), "/game/a.ini");
   Find<QLineEdit>(page, "Filter").setText("ELSE");
   EXPECT_EQ(table.model()->rowCount(), 1);
+}
+
+TEST_F(WorkbenchTest, TextsOfAModAreShownLiterally) {
+  SaveLog(host.UniverseFile(), {"<b>bold</b>"});
+  LogPage page(host, choice, nullptr);
+  GamePage game(host, settings, choice);
+
+  page.Enter();
+
+  auto& table = Find<QTableView>(page, "LogTable");
+  EXPECT_EQ(table.model()->index(0, LogModel::TextColumn).data(Qt::ToolTipRole),
+            "<span>&lt;b&gt;bold&lt;/b&gt;</span>");
+  for (const QWidget* shown : {static_cast<QWidget*>(&page), static_cast<QWidget*>(&game)}) {
+    ASSERT_FALSE(shown->findChildren<QLabel*>().isEmpty());
+    for (const QLabel* label : shown->findChildren<QLabel*>()) {
+      EXPECT_EQ(label->textFormat(), Qt::PlainText) << label->text().toStdString();
+    }
+  }
 }
 
 TEST_F(WorkbenchTest, AnEntryOfTheLogOpensItsFileAtItsLine) {
