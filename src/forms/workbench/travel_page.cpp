@@ -159,8 +159,8 @@ void TravelPage::RecallWidths(QTableView& table, std::span<const int> widths) {
   const bool isKnown = known.size() == table.model()->columnCount();
   for (std::size_t i = 0; i < widths.size(); ++i) {
     const auto column = static_cast<int>(i);
-    const int width = isKnown ? known[column].toInt() : widths[i];
-    if (width > 0) table.setColumnWidth(column, width);
+    const int width = isKnown ? known[column].toInt() : 0;  // 0 also of a hidden one
+    table.setColumnWidth(column, width > 0 ? width : widths[i]);
   }
 }
 
