@@ -1,7 +1,8 @@
 ; SPDX-License-Identifier: MIT
 ; Installs Orrerix for one user, without any rights. makensis gets -DVERSION=1.2.3, -DFILES=FOLDER with
 ; what is to be installed, and -DOUTPUT=FILE. "/S" installs without questions.
-Unicode True
+; 64 bit, as the programs are.
+Target amd64-unicode
 SetCompressor /SOLID lzma
 RequestExecutionLevel user
 

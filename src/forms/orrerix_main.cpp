@@ -21,6 +21,7 @@
 #include "map/grid/map_places.h"
 #include "online/web_pages.h"
 #include "platform/game_path.h"
+#include "platform/long_names.h"
 #include "platform/path_text.h"
 #include "shell/files.h"
 #include "shell/game_record.h"
@@ -303,7 +304,7 @@ void OrrerixMain::RunImport(FolderLock lock) {
 }
 
 void OrrerixMain::ShowMap() {
-  const std::string gameName = TextOf(PathOf(GameFolderText()).filename());
+  const std::string gameName = TextOf(LongNames(PathOf(GameFolderText())).filename());
   setWindowTitle(QString::fromStdString(MapCaption(parts_.Version) + " - " + gameName));
   importScreen_->HideProgress();
   importScreen_->hide();

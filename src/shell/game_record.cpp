@@ -8,6 +8,7 @@
 #include <fmt/format.h>
 
 #include "platform/folder_watch.h"
+#include "platform/long_names.h"
 #include "platform/path_text.h"
 #include "shell/file_snapshot.h"
 #include "shell/startup.h"
@@ -34,7 +35,7 @@ fs::path RecordOf(const fs::path& universeFile) {
 
 std::string WholePath(const std::string& folder) {
   std::error_code error;
-  const fs::path path = fs::weakly_canonical(PathOf(folder), error);
+  const fs::path path = LongNames(fs::weakly_canonical(PathOf(folder), error));
   return error ? folder : TextOf(path);
 }
 
