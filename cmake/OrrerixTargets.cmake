@@ -10,12 +10,12 @@ target_compile_options(orrerix_options INTERFACE
 if(WIN32)
   target_compile_definitions(orrerix_options INTERFACE UNICODE _UNICODE NOMINMAX)
 endif()
-# Optimised programs check their copies and stack, load anywhere, and have their tables read-only.
-set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+# Optimised programs check their copies and their stack, and have their tables read-only. That they
+# load anywhere is the default of the compilers.
 set(hardened "$<AND:$<CONFIG:Release,RelWithDebInfo>,$<NOT:$<BOOL:${ORRERIX_SANITIZE}>>,$<NOT:$<PLATFORM_ID:Windows>>>")
 target_compile_options(orrerix_options INTERFACE
   "$<${hardened}:-D_FORTIFY_SOURCE=2;-fstack-protector-strong>")
-target_link_options(orrerix_options INTERFACE "$<${hardened}:-pie;-Wl,-z,relro,-z,now>")
+target_link_options(orrerix_options INTERFACE "$<${hardened}:-Wl,-z,relro,-z,now>")
 if(ORRERIX_SANITIZE)
   target_compile_options(orrerix_options INTERFACE
     -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
