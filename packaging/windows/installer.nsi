@@ -3,7 +3,7 @@
 ; what is to be installed, and -DOUTPUT=FILE. "/S" installs without questions.
 ; 64 bit, as the programs are.
 Target amd64-unicode
-SetCompressor /SOLID lzma
+SetCompressor lzma
 RequestExecutionLevel user
 
 !include MUI2.nsh

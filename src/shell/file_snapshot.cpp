@@ -5,13 +5,14 @@
 #include <functional>
 
 #include "platform/folder_watch.h"
+#include "platform/path_text.h"
 
 namespace orrerix {
 namespace fs = std::filesystem;
 namespace {
 
 bool IsNamedLike(const fs::path& path, const fs::path& other) {
-  if (!path.filename().string().starts_with(other.filename().string())) return false;
+  if (!TextOf(path.filename()).starts_with(TextOf(other.filename()))) return false;
   std::error_code error;
   return fs::equivalent(path.parent_path(), other.parent_path(), error);
 }
@@ -43,7 +44,7 @@ std::uint64_t FileSnapshot::Digest() const {
   std::uint64_t digest = 14695981039346656037u;
   const auto add = [&digest](std::uint64_t part) { digest = (digest ^ part) * factor; };
   for (const auto& [path, stamp] : files_) {
-    add(std::hash<std::string>()(path.string()));
+    add(std::hash<std::string>()(TextOf(path)));
     add(stamp.Size);
     add(static_cast<std::uint64_t>(stamp.Written.time_since_epoch().count()));
   }

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "db/values/text.h"
+#include "platform/path_text.h"
 
 namespace orrerix {
 namespace fs = std::filesystem;
@@ -18,7 +19,7 @@ const std::vector<std::string>& WatchedNames() {
 
 std::set<std::string> FoldedNames(const std::vector<fs::path>& folders) {
   std::set<std::string> names;
-  for (const fs::path& folder : folders) names.insert(FoldAscii(folder.filename().string()));
+  for (const fs::path& folder : folders) names.insert(FoldAscii(TextOf(folder.filename())));
   return names;
 }
 

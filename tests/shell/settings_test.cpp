@@ -152,7 +152,9 @@ TEST_F(SettingsFile, WritingDoesNotMakeTheFile) {
 }
 
 TEST_F(SettingsFile, AFileThatCannotBeLookedAtIsAFailureAndIsMadeAnewAfterOk) {
-  fs::create_symlink("FLOX-Settings.mdb", settings.Path());  // a link to itself
+  std::error_code error;
+  fs::create_symlink("FLOX-Settings.mdb", settings.Path(), error);  // a link to itself
+  if (error) GTEST_SKIP() << "no links can be made here";
 
   EXPECT_EQ(settings.ReadSetting("LANG"), "0");
 

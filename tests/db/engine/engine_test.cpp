@@ -104,7 +104,8 @@ TEST_F(Engine, BearsADatabaseThatIsCutAnywhere) {
 
   for (std::uintmax_t length = 0; length < size; length += 977) {
     const fs::path cut = folder.Path() / "cut.mdb";
-    fs::copy_file(file, cut, fs::copy_options::overwrite_existing);
+    fs::remove(cut);
+    fs::copy_file(file, cut);
     fs::resize_file(cut, length);
     Database database = DBEngine::OpenDatabase(failures, cut);
     database.TableDefs(failures);
