@@ -11,9 +11,15 @@
 
 namespace orrerix {
 
-// Starts a command of the system's shell.
-inline FILE* OpenPipe(const std::string& command) {
+// Starts a command of the system's shell. Words may stand in single quotes.
+inline FILE* OpenPipe(std::string command) {
 #ifdef _WIN32
+  const auto isEdge = [&command](std::size_t at) {
+    return at >= command.size() || command[at] == ' ';
+  };
+  for (std::size_t at = 1; at < command.size(); ++at) {
+    if (command[at] == '\'' && (isEdge(at - 1) || isEdge(at + 1))) command[at] = '"';
+  }
   // The shell takes the outer pair of quotes off.
   return _popen(("\"" + command + "\"").c_str(), "rb");
 #else

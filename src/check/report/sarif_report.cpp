@@ -39,7 +39,9 @@ std::string FolderUri(const std::string& folder) {
   std::string path = fs::absolute(PathOf(folder), error).lexically_normal().generic_string();
   if (!path.starts_with('/')) path.insert(0, "/");
   if (!path.ends_with('/')) path += '/';
-  return "file://" + PercentEncoded(path);
+  // The colon of a drive stays: "file:///C:/games/".
+  const std::size_t drive = path.size() > 2 && path[2] == ':' ? 3 : 0;
+  return "file://" + path.substr(0, drive) + PercentEncoded(path.substr(drive));
 }
 
 const char* BaseIdOf(Layer layer) {

@@ -3,6 +3,7 @@
 
 #include <gmock/gmock.h>
 
+#include "platform/path_text.h"
 #include "support/temp_folder.h"
 
 namespace orrerix::check {
@@ -24,6 +25,7 @@ TEST(FileTree, FindsAFileWhateverItsCase) {
 }
 
 TEST(FileTree, TakesTheFirstInByteOrderOfEqualPaths) {
+  if (kFileNamesIgnoreCase) GTEST_SKIP() << "there are no two such names here";
   TempFolder folder;
   folder.Write("data/a.ini", "small");
   folder.Write("DATA/a.ini", "large");
@@ -57,7 +59,9 @@ TEST(FileTree, ListsAFolderThatIsGameAndBaseOnce) {
 TEST(FileTree, FollowsALinkInACircleOnce) {
   TempFolder folder;
   folder.Write("data/a.ini", "");
-  fs::create_directory_symlink(folder.Path(), folder.Path() / "data/again");
+  std::error_code error;
+  fs::create_directory_symlink(folder.Path(), folder.Path() / "data/again", error);
+  if (error) GTEST_SKIP() << "no links can be made here";
   const FileTree tree(folder.Path(), std::nullopt);
 
   EXPECT_EQ(tree.Files().size(), 2u);
