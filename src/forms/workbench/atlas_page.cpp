@@ -234,6 +234,7 @@ void AtlasPage::UniverseChanged() {
   task_.Cancel();
   RememberTable();
   model_.Clear();
+  chosen_.reset();
   details_->Clear();
   PinsChanged();
   content_ = {};
@@ -274,6 +275,7 @@ void AtlasPage::ShowTable(int index) {
   if (index < 0 || content_.Tables.empty()) return;
   const AtlasContent::Table& table = content_.Tables[static_cast<std::size_t>(index)];
   model_.Show(*table.About, table.Rows);
+  chosen_.reset();
   details_->Clear();
   PinsChanged();
   ships_->setEnabled(HardpointColumnOf(*table.About).has_value());
@@ -286,7 +288,6 @@ void AtlasPage::ShowTable(int index) {
   }
   chart_->OfferColumns();
   Filter();
-  if (model_.rowCount() > 0) view_->selectRow(0);
 }
 
 void AtlasPage::RememberTable() {
@@ -298,20 +299,22 @@ void AtlasPage::RememberTable() {
   settings_.setValue(Key(setting_key::kAtlasConditions), conditions_->text());
 }
 
-// The chosen row stays chosen if it is still there.
+// The chosen row stays chosen if it is still there, else the first one is. Its details are not
+// read again with every letter.
 void AtlasPage::Filter() {
   if (model_.Table() == nullptr) return;
-  const QModelIndex current = view_->currentIndex();
-  const auto chosen =
-      current.isValid() ? std::optional(model_.StoredRow(current.row())) : std::nullopt;
+  const std::size_t chosen = chosen_.value_or(0);
   AtlasConditions conditions =
       ParseConditions(*model_.Table(), conditions_->text(), choice_.Current);
   AtlasChoice choice{filter_->text().trimmed(), std::move(conditions.All), {}};
   const int ship = ships_->currentIndex() - 1;
   if (ship >= 0) choice.Types = content_.Ships[static_cast<std::size_t>(ship)].Types;
+  isFiltering_ = true;
   model_.Choose(std::move(choice));
+  Choose(model_.RowOf(chosen) < 0 && model_.rowCount() > 0 ? model_.StoredRow(0) : chosen);
+  isFiltering_ = false;
   ShowSums(conditions.Error);
-  if (chosen) Choose(*chosen);
+  ShowChosen();
   if (chart_->isVisible()) chart_->Refresh();
 }
 
@@ -329,14 +332,14 @@ void AtlasPage::Choose(std::size_t storedRow) {
 }
 
 void AtlasPage::ShowChosen() {
+  if (isFiltering_) return;
   const QModelIndex current = view_->currentIndex();
-  if (!current.isValid()) {
-    chart_->Chart().Mark(std::nullopt);
-    return details_->Clear();
-  }
-  const std::size_t row = model_.StoredRow(current.row());
+  const auto row =
+      current.isValid() ? std::optional(model_.StoredRow(current.row())) : std::nullopt;
+  if (std::exchange(chosen_, row) == row) return;
   chart_->Chart().Mark(row);
-  details_->Show(content_, content_.Tables[static_cast<std::size_t>(tables_->currentRow())], row);
+  if (!row) return details_->Clear();
+  details_->Show(content_, content_.Tables[static_cast<std::size_t>(tables_->currentRow())], *row);
 }
 
 std::vector<int> AtlasPage::ChosenRows() const {

@@ -8,6 +8,8 @@
 #include <QPushButton>
 #include <QSettings>
 #include <QTableView>
+#include <memory>
+#include <optional>
 
 #include "forms/workbench/atlas_chart_pane.h"
 #include "forms/workbench/atlas_columns.h"
@@ -79,7 +81,9 @@ class AtlasPage : public WorkbenchPage {
   AtlasDetails* details_;
   std::unique_ptr<AtlasColumns> columns_;
   bool isRead_ = false;
-  BackgroundTask task_;  // last: it refers to the others
+  bool isFiltering_ = false;
+  std::optional<std::size_t> chosen_;  // the stored row of which there are details
+  BackgroundTask task_;                // last: it refers to the others
 };
 
 }  // namespace orrerix

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "forms/workbench/atlas_model.h"
 
+#include <QFont>
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 

@@ -4,6 +4,9 @@
 #include <QClipboard>
 #include <QFile>
 #include <QHeaderView>
+#include <QLabel>
+#include <QMenu>
+#include <QTest>
 
 #include <gmock/gmock.h>
 
@@ -167,6 +170,20 @@ TEST_F(AtlasPageTest, TheChosenRowStaysChosenWhileItIsShown) {
   EXPECT_EQ(Table(page).currentIndex().row(), 1);
   EXPECT_THAT(Find<QPlainTextEdit>(page, "AtlasText").toPlainText().toStdString(),
               HasSubstr("Regeneration per second: 40"));
+}
+
+TEST_F(AtlasPageTest, TheFirstRowIsChosenWhereTheChosenOneGoes) {
+  Open(page);
+  Table(page).selectRow(2);
+
+  Type(page, "Filter", "nothing at all");
+  EXPECT_FALSE(Table(page).currentIndex().isValid());
+  EXPECT_EQ(Find<QPlainTextEdit>(page, "AtlasText").toPlainText(), "");
+  Type(page, "Filter", "fighter_1");
+
+  EXPECT_EQ(Table(page).currentIndex().row(), 0);
+  EXPECT_THAT(Find<QPlainTextEdit>(page, "AtlasText").toPlainText().toStdString(),
+              HasSubstr("Regeneration per second: 10"));
 }
 
 TEST_F(AtlasPageTest, OnlyWhatFitsTheShipIsShown) {
