@@ -6,13 +6,6 @@
 namespace orrerix {
 namespace {
 
-// The good that sells an item: that of its name among `equipment`, else of its nickname.
-SourceRow GoodOf(const AtlasSource& source, std::string_view item) {
-  const SourceTable& goods = source.Tables["Goods"];
-  const SourceRow good = goods.Find("equipment", item);
-  return good.Exists() ? good : goods.Find("nickname", item);
-}
-
 std::string NameOf(const AtlasSource& source, const SourceRow& item, const SourceRow& good) {
   std::string name = source.Tables.NameOf(item.Number("ids_name"));
   return name.empty() ? GivenName(good.Text("realname"), good.Text("nickname")) : name;
@@ -20,13 +13,19 @@ std::string NameOf(const AtlasSource& source, const SourceRow& item, const Sourc
 
 }  // namespace
 
+SourceRow GoodOfEquipment(const AtlasSource& source, std::string_view item) {
+  const SourceTable& goods = source.Tables["Goods"];
+  const SourceRow good = goods.Find("equipment", item);
+  return good.Exists() ? good : goods.Find("nickname", item);
+}
+
 Equipment DescribeEquipment(const AtlasSource& source, const SourceRow& item,
                             std::string_view hardpointField, std::string_view usual) {
   Equipment equipment;
   equipment.Item = item;
   equipment.Hardpoint = hardpointField.empty() ? std::string() : item.Text(hardpointField);
   if (equipment.Hardpoint.empty()) equipment.Hardpoint = usual;
-  equipment.Good = GoodOf(source, item.Text("nickname"));
+  equipment.Good = GoodOfEquipment(source, item.Text("nickname"));
   equipment.Name = NameOf(source, item, equipment.Good);
   const Sellers& sellers = source.Sales.SellersOf(equipment.Good.Text("nickname"));
   equipment.Sellers = sellers.size();
@@ -43,7 +42,8 @@ Equipment DescribeLauncher(const AtlasSource& source, const SourceRow& item,
   launcher.Blast =
       source.Tables["explosion"].Find("nickname", launcher.Shot.Text("explosion_arch"));
   launcher.Motor = source.Tables["motor"].Find("nickname", launcher.Shot.Text("motor"));
-  if (IsTrue(launcher.Shot.Text("requires_ammo"))) launcher.AmmoGood = GoodOf(source, shot);
+  if (IsTrue(launcher.Shot.Text("requires_ammo")))
+    launcher.AmmoGood = GoodOfEquipment(source, shot);
   return launcher;
 }
 

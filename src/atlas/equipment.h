@@ -29,6 +29,9 @@ struct Equipment {
   Figure Number(std::string_view field) const { return Item.Number(field); }
 };
 
+// The good that sells an item: that of its name among `equipment`, else of its nickname.
+SourceRow GoodOfEquipment(const AtlasSource& source, std::string_view item);
+
 // An item of any table with its name, good and sellers. Its hardpoint type is that of `field`, or
 // else `usual`.
 Equipment DescribeEquipment(const AtlasSource& source, const SourceRow& item,

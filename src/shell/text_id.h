@@ -272,9 +272,32 @@ enum class TextId : int {
   BuyHere,
   SearchGoods,
   SearchGoodsTip,
+  AtlasPage,
+  AtlasTables,
+  AtlasConditions,
+  AtlasConditionsTip,
+  AtlasWrongCondition,
+  AtlasNoColumn,
+  AtlasFits,
+  AtlasAnyShip,
+  AtlasSums,
+  AtlasColumns,
+  AtlasAllColumns,
+  AtlasHideColumn,
+  AtlasCopyRows,
+  AtlasDetails,
+  AtlasPlaces,
+  AtlasPin,
+  AtlasUnpin,
+  AtlasPinned,
+  AtlasPinnedTip,
+  AtlasChart,
+  AtlasAxisX,
+  AtlasAxisY,
+  AtlasNoPoints,
 };
 inline constexpr int kStoredTexts = 29;
-inline constexpr int kTexts = static_cast<int>(TextId::SearchGoodsTip) + 1;
+inline constexpr int kTexts = static_cast<int>(TextId::AtlasNoPoints) + 1;
 
 // The language in use. Owned by the program; everything that shows a text reads it here.
 struct LanguageChoice {

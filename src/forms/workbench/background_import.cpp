@@ -5,6 +5,7 @@
 #include <new>
 
 #include "derived/stages.h"
+#include "forms/workbench/silent_boxes.h"
 #include "import/log_entry.h"
 #include "import/replacing_import.h"
 #include "platform/tick_count.h"
@@ -12,14 +13,6 @@
 
 namespace orrerix {
 namespace {
-
-class OkToAll : public MessageBoxes {
- public:
-  MessageAnswer Show(const Message& message) override {
-    return message.Buttons == MessageButtons::AbortRetryIgnore ? MessageAnswer::Ignore
-                                                               : MessageAnswer::Ok;
-  }
-};
 
 // Shows nothing, and ends the import once it is cancelled.
 class SilentHost : public ImportHost {
@@ -50,7 +43,7 @@ ImportOutcome BackgroundImport::Run(const Order& order,
                                     const BackgroundTask::IsCancelled& isCancelled) {
   const auto start = std::chrono::steady_clock::now();
   ImportOutcome outcome;
-  OkToAll messages;
+  SilentBoxes messages;
   ErrorLog log(messages, order.Version);
   SilentHost host(messages, isCancelled);
   const GameFolder game(order.Game);

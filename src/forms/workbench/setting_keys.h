@@ -24,6 +24,14 @@ inline constexpr const char* kHops = "trades/hops";
 inline constexpr const char* kLoop = "trades/loop";
 inline constexpr const char* kSorting = "trades/sorting";
 
+// The table of the atlas by its ID, and the ship that equipment fits. The rest is below the ID.
+inline constexpr const char* kAtlasTable = "atlas/table";
+inline constexpr const char* kAtlasShip = "atlas/ship";
+inline constexpr const char* kAtlasFilter = "filter";
+inline constexpr const char* kAtlasConditions = "conditions";
+inline constexpr const char* kAtlasSorting = "sorting";
+inline constexpr const char* kAtlasHidden = "hidden";
+
 // Widths of the columns of a table, by its object name, are below this and the page's name.
 inline constexpr const char* kWidths = "widths";
 

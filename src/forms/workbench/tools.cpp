@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "forms/controls/captions.h"
+#include "forms/workbench/atlas_page.h"
 #include "forms/workbench/check_page.h"
 #include "forms/workbench/differences_page.h"
 #include "forms/workbench/goods_page.h"
@@ -57,6 +58,7 @@ Workbench& Tools::Window() {
   window_->Add(std::move(trades));
   window_->Add(std::move(way));
   window_->Add(std::move(goods));
+  window_->Add(std::make_unique<AtlasPage>(host_, parts_.Speech, settings_));
   auto game = std::make_unique<GamePage>(host_, settings_, parts_.Speech);
   gamePage_ = game.get();
   window_->Add(std::move(game));
