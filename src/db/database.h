@@ -64,8 +64,8 @@ class Database {
   // CreateTable.
   void CreateHeldTable(FailureSink& sink, const TableDef& table);
 
-  // Writes what is kept in memory, or gives it away: such a table stays empty in the file and
-  // without its key.
+  // Writes the rows that are kept in memory, or hands them over: such a table stays empty in the
+  // file and without its key.
   void WriteHeldRows(FailureSink& sink);
   std::vector<HeldRows> TakeHeldRows();
 

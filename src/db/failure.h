@@ -67,7 +67,7 @@ Failure CaughtFailure();
 // The standard message for a failure number; numbers that are not the language's own share one.
 std::string_view StandardMessage(int number);
 
-// Whoever works with the database hands each failed operation to the routine that it works for.
+// Code that works with the database hands each failed operation to the routine it works for.
 class FailureSink {
  public:
   virtual ~FailureSink() = default;

@@ -27,7 +27,7 @@ class NewsLoader {
 
   // Saves the file at an address under its own name in the application folder. Without a connection
   // it only says so. A failure shows its description. True if the file was written. Nothing in the
-  // program calls it; it is there for callers that wants pictures beside the news.
+  // program calls it; it is kept for callers that want pictures beside the news.
   bool SaveFile(const std::string& address);
 
   // Whether there is a connection; the second says so if there is none.

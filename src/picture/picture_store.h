@@ -52,7 +52,7 @@ class PictureStore {
   QSize NaturalSize(const QString& file);
 
   // Called when a file is wanted and none was before. ReadWanted reads one of them, for callers
-  // that draws next.
+  // that draw next.
   std::function<void()> OnWanted;
   bool IsWanting() const { return !wanted_.empty(); }
   void ReadWanted();

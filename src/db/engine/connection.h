@@ -97,7 +97,7 @@ class Connection {
   // Appends rows to a table with the same fields.
   void InsertRows(const HeldRows& rows, const TableDef& table);
 
-  // A definition of a statement's columns that says no more than their names.
+  // The columns of a statement as a definition with nothing but their names.
   static std::shared_ptr<const TableDef> ColumnsOf(sqlite3_stmt* statement);
 
   // What the last failed call means in the engine's terms.

@@ -19,7 +19,7 @@
 
 namespace orrerix {
 
-// The rows of one table, in the order of their coming. They obey the table's key as if they stood
+// The rows of one table, in the order they were added. They obey the table's key as if they stood
 // in the file.
 class HeldRows {
  public:

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A whole table as it stands in a file, whatever it is about.
+// A whole table as stored in a file, whatever its subject.
 #pragma once
 
 #include <cstddef>

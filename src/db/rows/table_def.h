@@ -36,8 +36,8 @@ struct Field {
 struct Index {
   std::string Name;
   std::vector<std::string> Fields;
-  // Whether nothing is ever looked up by it: after rows that were held it is not made before
-  // another row comes, or one of the key's fields changes.
+  // Build this index lazily: no statement looks anything up by it, so after held rows it is made
+  // only once another row comes or one of its fields changes.
   bool IsLate = false;
 };
 

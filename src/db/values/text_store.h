@@ -11,8 +11,7 @@
 
 namespace orrerix {
 
-// Keeps copies of texts until it ends itself, one after the other: that takes no time for each of
-// them to be made and given back.
+// Keeps copies of texts until it is destroyed. They are allocated in blocks and freed together.
 class TextStore {
  public:
   // A copy of the text; it stays where it is, also when the store is moved. That of an empty text
