@@ -14,7 +14,7 @@
 #include <fmt/format.h>
 
 #include "forms/controls/captions.h"
-#include "forms/workbench/trade_model.h"
+#include "forms/workbench/travel/trade_model.h"
 
 namespace orrerix {
 namespace {

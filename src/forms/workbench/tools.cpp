@@ -7,14 +7,14 @@
 #include <utility>
 
 #include "forms/controls/captions.h"
-#include "forms/workbench/atlas_page.h"
+#include "forms/workbench/atlas/atlas_page.h"
 #include "forms/workbench/check_page.h"
 #include "forms/workbench/differences_page.h"
-#include "forms/workbench/goods_page.h"
 #include "forms/workbench/log_page.h"
 #include "forms/workbench/setting_keys.h"
-#include "forms/workbench/trades_page.h"
-#include "forms/workbench/way_page.h"
+#include "forms/workbench/travel/goods_page.h"
+#include "forms/workbench/travel/trades_page.h"
+#include "forms/workbench/travel/way_page.h"
 #include "platform/path_text.h"
 #include "shell/game_record.h"
 

@@ -10,7 +10,7 @@
 #include "forms/form_parts.h"
 #include "forms/workbench/background_import.h"
 #include "forms/workbench/game_page.h"
-#include "forms/workbench/trade_worlds.h"
+#include "forms/workbench/travel/trade_worlds.h"
 #include "forms/workbench/workbench.h"
 #include "forms/workbench/workbench_host.h"
 #include "shell/game_files_watch.h"

@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QComboBox>
+
+#include "forms/workbench/atlas/atlas_chart.h"
+#include "forms/workbench/atlas/atlas_model.h"
+#include "shell/text_id.h"
+
+namespace orrerix {
+
+// The rows of a table as points, by two of its columns that hold numbers. Rows that lack one of
+// them are not there.
+class AtlasChartPane : public QWidget {
+ public:
+  // Both outlive this.
+  AtlasChartPane(const AtlasModel& model, const LanguageChoice& choice);
+
+  AtlasChart& Chart() { return *chart_; }
+
+  // Offers the columns of another table.
+  void OfferColumns();
+
+  // Shows the rows that the model shows now.
+  void Refresh();
+
+ private:
+  QComboBox* AddAxis(const char* name, TextId caption);
+  void ChooseAxes();
+
+  const AtlasModel& model_;
+  const LanguageChoice& choice_;
+  QComboBox* x_;
+  QComboBox* y_;
+  AtlasChart* chart_;
+};
+
+}  // namespace orrerix

@@ -1,0 +1,130 @@
+// SPDX-License-Identifier: MIT
+#include "support/failing_disk.h"
+
+#include <sqlite3.h>
+
+namespace orrerix {
+namespace {
+
+struct Fault {
+  DiskTrouble Trouble = DiskTrouble::Error;
+  int Left = 0;
+  bool Happened = false;
+
+  // What an operation answers in the place of its own answer; SQLITE_OK lets it happen.
+  int Answer(int error) {
+    if (Left-- > 0) return SQLITE_OK;
+    Happened = true;
+    return Trouble == DiskTrouble::Full ? SQLITE_FULL : error;
+  }
+};
+
+Fault fault;
+sqlite3_vfs* disk = nullptr;
+sqlite3_vfs failing;
+
+// A file of the real disk with another table of methods in front.
+struct File {
+  sqlite3_file Shown;
+  sqlite3_file* Real;
+};
+
+sqlite3_file* Real(sqlite3_file* file) {
+  return reinterpret_cast<File*>(file)->Real;
+}
+
+int Close(sqlite3_file* file) {
+  return Real(file)->pMethods->xClose(Real(file));
+}
+int Read(sqlite3_file* file, void* bytes, int size, sqlite3_int64 place) {
+  return Real(file)->pMethods->xRead(Real(file), bytes, size, place);
+}
+int Write(sqlite3_file* file, const void* bytes, int size, sqlite3_int64 place) {
+  const int answer = fault.Answer(SQLITE_IOERR_WRITE);
+  return answer != SQLITE_OK ? answer
+                             : Real(file)->pMethods->xWrite(Real(file), bytes, size, place);
+}
+int Truncate(sqlite3_file* file, sqlite3_int64 size) {
+  const int answer = fault.Answer(SQLITE_IOERR_TRUNCATE);
+  return answer != SQLITE_OK ? answer : Real(file)->pMethods->xTruncate(Real(file), size);
+}
+int Sync(sqlite3_file* file, int flags) {
+  const int answer = fault.Answer(SQLITE_IOERR_FSYNC);
+  return answer != SQLITE_OK ? answer : Real(file)->pMethods->xSync(Real(file), flags);
+}
+int FileSize(sqlite3_file* file, sqlite3_int64* size) {
+  return Real(file)->pMethods->xFileSize(Real(file), size);
+}
+int Lock(sqlite3_file* file, int level) {
+  return Real(file)->pMethods->xLock(Real(file), level);
+}
+int Unlock(sqlite3_file* file, int level) {
+  return Real(file)->pMethods->xUnlock(Real(file), level);
+}
+int CheckReservedLock(sqlite3_file* file, int* isHeld) {
+  return Real(file)->pMethods->xCheckReservedLock(Real(file), isHeld);
+}
+int FileControl(sqlite3_file* file, int what, void* argument) {
+  return Real(file)->pMethods->xFileControl(Real(file), what, argument);
+}
+int SectorSize(sqlite3_file* file) {
+  return Real(file)->pMethods->xSectorSize(Real(file));
+}
+int DeviceCharacteristics(sqlite3_file* file) {
+  return Real(file)->pMethods->xDeviceCharacteristics(Real(file));
+}
+
+const sqlite3_io_methods kMethods = {1,
+                                     Close,
+                                     Read,
+                                     Write,
+                                     Truncate,
+                                     Sync,
+                                     FileSize,
+                                     Lock,
+                                     Unlock,
+                                     CheckReservedLock,
+                                     FileControl,
+                                     SectorSize,
+                                     DeviceCharacteristics};
+
+int Open(sqlite3_vfs*, const char* name, sqlite3_file* file, int flags, int* outFlags) {
+  auto* opened = reinterpret_cast<File*>(file);
+  opened->Shown.pMethods = nullptr;
+  opened->Real = reinterpret_cast<sqlite3_file*>(opened + 1);
+  if ((flags & SQLITE_OPEN_READWRITE) != 0) {
+    const int answer = fault.Answer(SQLITE_CANTOPEN);
+    if (answer != SQLITE_OK) return answer;
+  }
+  const int answer = disk->xOpen(disk, name, opened->Real, flags, outFlags);
+  if (answer == SQLITE_OK) opened->Shown.pMethods = &kMethods;
+  return answer;
+}
+int Delete(sqlite3_vfs*, const char* name, int syncFolder) {
+  const int answer = fault.Answer(SQLITE_IOERR_DELETE);
+  return answer != SQLITE_OK ? answer : disk->xDelete(disk, name, syncFolder);
+}
+
+}  // namespace
+
+FailingDisk::FailingDisk(DiskTrouble trouble, int operationsBefore) {
+  fault = {trouble, operationsBefore, false};
+  disk = sqlite3_vfs_find(nullptr);
+  failing = *disk;
+  failing.zName = "failing";
+  failing.szOsFile = static_cast<int>(sizeof(File)) + disk->szOsFile;
+  failing.xOpen = Open;
+  failing.xDelete = Delete;
+  sqlite3_vfs_register(&failing, 1);
+}
+
+FailingDisk::~FailingDisk() {
+  sqlite3_vfs_unregister(&failing);
+  sqlite3_vfs_register(disk, 1);
+}
+
+bool FailingDisk::Happened() const {
+  return fault.Happened;
+}
+
+}  // namespace orrerix
