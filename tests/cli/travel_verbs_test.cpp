@@ -119,7 +119,10 @@ TEST_F(TravelVerbs, ATradeFillsTheHoldAsFarAsTheMoneyGoes) {
   EXPECT_EQ(plan["profit"], 1800);
   EXPECT_EQ(plan["seconds"], 120);
   EXPECT_EQ(plan["minute"], 900);
-  EXPECT_EQ(plan["back"], nullptr);
+  // Nothing to carry on the way back, which takes as long.
+  EXPECT_EQ(plan["back"]["good"], nullptr);
+  EXPECT_EQ(plan["back"]["seconds"], 120);
+  EXPECT_EQ(plan["loop_minute"], 450);
   EXPECT_EQ(plan["legs"][0]["units"], 30);
   EXPECT_EQ(plan["legs"][0]["good_name"], "Gold");
 }
@@ -140,7 +143,7 @@ TEST_F(TravelVerbs, TravelTimesAreATableOfAllDocks) {
                                        "system": "s1"})")));
   EXPECT_EQ(times["seconds"],
             (nlohmann::json::parse("[[0, 120, null], [120, 0, null], [null, null, 0]]")));
-  EXPECT_EQ(Ask("travel-times").Output, "a\tb\t120\nb\ta\t120\n");
+  EXPECT_EQ(Ask("travel-times").Output, "a\ta\t0\na\tb\t120\nb\ta\t120\nb\tb\t0\nc\tc\t0\n");
 }
 
 }  // namespace
