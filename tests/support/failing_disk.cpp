@@ -74,19 +74,23 @@ int DeviceCharacteristics(sqlite3_file* file) {
   return Real(file)->pMethods->xDeviceCharacteristics(Real(file));
 }
 
-const sqlite3_io_methods kMethods = {1,
-                                     Close,
-                                     Read,
-                                     Write,
-                                     Truncate,
-                                     Sync,
-                                     FileSize,
-                                     Lock,
-                                     Unlock,
-                                     CheckReservedLock,
-                                     FileControl,
-                                     SectorSize,
-                                     DeviceCharacteristics};
+const sqlite3_io_methods kMethods = [] {
+  sqlite3_io_methods methods{};
+  methods.iVersion = 1;
+  methods.xClose = Close;
+  methods.xRead = Read;
+  methods.xWrite = Write;
+  methods.xTruncate = Truncate;
+  methods.xSync = Sync;
+  methods.xFileSize = FileSize;
+  methods.xLock = Lock;
+  methods.xUnlock = Unlock;
+  methods.xCheckReservedLock = CheckReservedLock;
+  methods.xFileControl = FileControl;
+  methods.xSectorSize = SectorSize;
+  methods.xDeviceCharacteristics = DeviceCharacteristics;
+  return methods;
+}();
 
 int Open(sqlite3_vfs*, const char* name, sqlite3_file* file, int flags, int* outFlags) {
   auto* opened = reinterpret_cast<File*>(file);
