@@ -10,10 +10,10 @@
 
 #include <gmock/gmock.h>
 
-#include "../form_fixture.h"
+#include "../../form_fixture.h"
+#include "../fake_workbench_host.h"
 #include "db/engine/engine.h"
 #include "db/schema.h"
-#include "fake_workbench_host.h"
 #include "support/failure_sinks.h"
 
 namespace orrerix {

@@ -8,10 +8,10 @@
 #include <QPushButton>
 #include <QTableView>
 
-#include "../form_fixture.h"
+#include "../../form_fixture.h"
+#include "../fake_workbench_host.h"
 #include "db/engine/engine.h"
 #include "db/schema.h"
-#include "fake_workbench_host.h"
 #include "forms/workbench/travel/travel_page.h"
 #include "support/failure_sinks.h"
 
