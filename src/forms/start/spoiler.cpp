@@ -14,7 +14,6 @@
 #include "forms/controls/plain_label.h"
 #include "forms/start/spoiler_layout.h"
 #include "map/grid/opt_font_size.h"
-#include "picture/plain_tool_tip.h"
 
 namespace orrerix {
 namespace {
@@ -78,7 +77,7 @@ QPushButton* Spoiler::AddButton(const char* name, const std::string& caption,
                                 const QString& toolTip) {
   auto* button = new FittedButton(QString::fromStdString(caption), this);
   button->setObjectName(name);
-  button->setToolTip(PlainToolTip(toolTip));
+  button->setToolTip(toolTip);
   return button;
 }
 
