@@ -39,7 +39,8 @@ class DiskTroubles : public ::testing::TestWithParam<DiskTrouble> {
   fs::path WorkFolder() const { return saves_.Path() / "Orrerix.fl.import"; }
 
   void PutOlderBack() {
-    fs::copy_file(saves_.Path() / "older", Target(), fs::copy_options::overwrite_existing);
+    fs::remove(Target());
+    fs::copy_file(saves_.Path() / "older", Target());
   }
 
   struct Outcome {
