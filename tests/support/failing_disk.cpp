@@ -19,6 +19,13 @@ struct Fault {
   }
 };
 
+// The disk that the program asks for: on Windows one that takes paths of any length.
+#ifdef _WIN32
+constexpr const char* kDisk = "win32-longpath";
+#else
+constexpr const char* kDisk = nullptr;
+#endif
+
 Fault fault;
 sqlite3_vfs* disk = nullptr;
 sqlite3_vfs failing;
@@ -113,18 +120,17 @@ int Delete(sqlite3_vfs*, const char* name, int syncFolder) {
 
 FailingDisk::FailingDisk(DiskTrouble trouble, int operationsBefore) {
   fault = {trouble, operationsBefore, false};
-  disk = sqlite3_vfs_find(nullptr);
-  failing = *disk;
-  failing.zName = "failing";
+  disk = sqlite3_vfs_find(kDisk);
+  failing = *disk;  // its name too: of two the one that was registered last is found
   failing.szOsFile = static_cast<int>(sizeof(File)) + disk->szOsFile;
   failing.xOpen = Open;
   failing.xDelete = Delete;
-  sqlite3_vfs_register(&failing, 1);
+  sqlite3_vfs_register(&failing, kDisk == nullptr ? 1 : 0);
 }
 
 FailingDisk::~FailingDisk() {
   sqlite3_vfs_unregister(&failing);
-  sqlite3_vfs_register(disk, 1);
+  if (kDisk == nullptr) sqlite3_vfs_register(disk, 1);
 }
 
 bool FailingDisk::Happened() const {
