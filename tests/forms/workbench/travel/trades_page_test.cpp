@@ -207,7 +207,7 @@ TEST_F(TradesPageTest, AnotherUniverseHasNoneOfTheOldTrades) {
   EXPECT_TRUE(State(page).empty());
 }
 
-// In another system, behind a hole: sorted by jumps these trades come last.
+// In another system, on the far side of a hole: sorted by jumps these trades come last.
 TEST_F(TradesPageTest, TheJumpsOfEachTradeAreCounted) {
   Add("Systems", {{"nickname", "li02"}, {"realname", "Outback"}, {"pos", "5, 4"}});
   for (const auto& [hole, system, other] :
