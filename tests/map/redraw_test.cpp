@@ -3,108 +3,13 @@
 
 #include <gmock/gmock.h>
 
-#include "derived/jump_objects.h"
-#include "support/universe_fixture.h"
+#include "redraw_fixture.h"
 
 namespace orrerix {
 namespace {
 
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
-
-class Redraw : public UniverseFixture {
- protected:
-  Redraw() {
-    db.CreateTable(mustWork, JumpNodesTable());
-    db.CreateTable(mustWork, TradeLanesTable());
-    db.CreateTable(mustWork, DockObjectsTable());
-    state.Names.Set({7, 4}, "Lantern");
-    state.Names.Set({8, 4}, "Ember");
-  }
-
-  void Jump(int type) {
-    Add("JumpNodes", {{"nickname", "a"},
-                      {"nickname2", "b"},
-                      {"MapX1", 7},
-                      {"MapY1", 4},
-                      {"MapX2", 8},
-                      {"MapY2", 4},
-                      {"PosX1", 0.5},
-                      {"PosY1", 0.5},
-                      {"PosX2", 0.25},
-                      {"PosY2", 0.75},
-                      {"Type", type}});
-  }
-  // A gate whose first end is odd.
-  void GateFrom(int mapX1, const Value& posX1) {
-    Add("JumpNodes", {{"nickname", "a"},
-                      {"MapX1", mapX1},
-                      {"MapY1", 4},
-                      {"MapX2", 8},
-                      {"MapY2", 4},
-                      {"PosX1", posX1},
-                      {"PosY1", 0.5},
-                      {"PosX2", 0.5},
-                      {"PosY2", 0.5},
-                      {"Type", kJumpGate}});
-  }
-  void Lane() {
-    Add("TradeLanes", {{"nickname", "a"},
-                       {"nickname2", "b"},
-                       {"realname", "Jetty"},
-                       {"realname2", "Harbour"},
-                       {"MapX1", 7},
-                       {"MapY1", 4},
-                       {"MapX2", 7},
-                       {"MapY2", 4},
-                       {"PosX1", 0.1},
-                       {"PosY1", 0.2},
-                       {"PosX2", 0.3},
-                       {"PosY2", 0.4}});
-  }
-  void Dock(std::string_view nickname, std::string_view loadout, int x = 7, int y = 4) {
-    Add("DockObjects", {{"nickname", nickname},
-                        {"loadout", loadout},
-                        {"MapX", x},
-                        {"MapY", y},
-                        {"PosX", 0.5},
-                        {"PosY", 0.5}});
-  }
-
-  void Zoom(const ZoomRectangle& rectangle) { state.Zoom.Reset(rectangle); }
-
-  MapDrawing Draw() {
-    const MapOptions options =
-        switches.value_or(MapOptions::Defaults(state.Zoom.Current().IsZoomed()));
-    return DrawMap(universe, state, {formWidth, formHeight, options, measure, panel});
-  }
-
-  // Names of the controls in their stacking, runs of the same name once.
-  static std::vector<ControlId> Layers(const MapDrawing& drawing) {
-    std::vector<ControlId> layers;
-    for (const Control& control : drawing.Controls) {
-      if (layers.empty() || layers.back() != control.Id) layers.push_back(control.Id);
-    }
-    return layers;
-  }
-  static ControlList Named(const MapDrawing& drawing, ControlId id) {
-    ControlList found;
-    for (const Control& control : drawing.Controls) {
-      if (control.Id == id) found.push_back(control);
-    }
-    return found;
-  }
-
-  int formWidth = 24000;
-  int formHeight = 18000;
-  std::optional<MapOptions> switches;
-  MapState state;
-  FixedTextMeasure measure;
-  FixedLanguage english{Language::English};
-  PanelContent panel = PanelTexts(english);
-};
-
-constexpr ZoomRectangle kTwoCells{7, 4, 8, 4};
 
 TEST_F(Redraw, TheWholeGridIsStackedFromTheTileToThePanel) {
   Jump(kJumpGate);
@@ -370,74 +275,6 @@ TEST_F(Redraw, TheBorderOfAZoomedMapSurroundsTheShownCells) {
   EXPECT_EQ(border.at(7).Place.Bottom(), 11900);
 }
 
-class Print : public Redraw {
- protected:
-  Print() { state.PrintMode = true; }
-};
-
-TEST_F(Print, PaperIsWhiteWithBlackNamesAndGates) {
-  Jump(kJumpGate);
-  Jump(kJumpHole);
-
-  const MapDrawing drawing = Draw();
-
-  EXPECT_EQ(drawing.FrameColor.Text(), "0xFFFFFF");
-  EXPECT_EQ(Named(drawing, ControlId::SystemLabel).at(0).ForeColor->Text(), "0x000000");
-  EXPECT_EQ(Named(drawing, ControlId::MapLine).at(0).BorderColor.Text(), "0x000000");
-  EXPECT_EQ(Named(drawing, ControlId::MapLine).at(1).BorderColor.Text(), "0x808080");
-}
-
-TEST_F(Print, PicturesTilesFillersAndBordersAreLeftOutAndThePanelLiesAtTheBack) {
-  Zoom(kTwoCells);
-  formHeight = 40000;
-  formWidth = 90000;
-  switches = MapOptions::Defaults(true);
-  Jump(kJumpGate);
-  Dock("dock", "depot");
-
-  EXPECT_THAT(Layers(Draw()), ElementsAre(ControlId::PanelFrame, ControlId::SystemLabel,
-                                          ControlId::MapLine, ControlId::MapIcon));
-}
-
-TEST_F(Print, NoBorderIsVisibleInThePanelEither) {
-  const MapDrawing drawing = Draw();
-
-  ASSERT_EQ(drawing.Panel, PanelPlace::Right);
-  EXPECT_FALSE(PlaceOf(drawing.Controls, ControlId::Border));
-  EXPECT_TRUE(PlaceOf(drawing.Controls, ControlId::Tool));
-  EXPECT_TRUE(drawing.PrintMode);
-}
-
-TEST_F(Print, ThePanelOfTheScreenIsNotMovedByAPrint) {
-  Draw();
-
-  EXPECT_FALSE(state.PanelAtRight);
-}
-
-TEST_F(Print, TheInfoBoxKeepsTheBackgroundOfTheScreen) {
-  const auto background = [this] {
-    return PlaceOf(Draw().Controls, ControlId::InfoBoxPicture)->Height;
-  };
-  state.PrintMode = false;
-  const double onScreen = background();
-
-  formHeight -= 2000;
-  const double onLowScreen = background();
-  ASSERT_LT(onLowScreen, onScreen);
-  state.PrintMode = true;
-  formHeight += 2000;
-
-  EXPECT_EQ(background(), onLowScreen);
-}
-
-TEST_F(Print, ThereIsNoPanelBelow) {
-  Zoom(kTwoCells);
-  formWidth = 12000;
-  formHeight = 18000;
-
-  EXPECT_EQ(Draw().Panel, PanelPlace::None);
-}
-
 TEST_F(Redraw, ADatabaseWithoutRowsGivesAMapWithoutLines) {
   Zoom(kTwoCells);
 
@@ -448,87 +285,6 @@ TEST_F(Redraw, ADatabaseWithoutRowsGivesAMapWithoutLines) {
   EXPECT_THAT(log.Failures(), IsEmpty());
 }
 
-TEST_F(Redraw, APointTooFarOffForAControlIsAFailureAndItsNumberStaysZero) {
-  // 1e40 times any cell leaves 32-bit floats.
-  GateFrom(7, 1e40);
-
-  const MapDrawing drawing = Draw();
-
-  ASSERT_EQ(log.Failures().size(), 1u);
-  EXPECT_EQ(log.Failures().front().What.Number, 6);
-  EXPECT_EQ(Named(drawing, ControlId::MapLine).at(0).Ends.X1, 0);
-  EXPECT_GT(Named(drawing, ControlId::MapLine).at(0).Ends.Y1, 0);
-  EXPECT_GT(Named(drawing, ControlId::MapLine).at(0).Ends.X2, 0);
-}
-
-TEST_F(Redraw, ANumberThatARowLacksIsAFailureOfEachStatementThatNeedsIt) {
-  Zoom(kTwoCells);
-  GateFrom(7, {});
-
-  const MapDrawing drawing = Draw();
-
-  const Control line = Named(drawing, ControlId::MapLine).at(0);
-  EXPECT_EQ(line.Ends.X1, 0);
-  EXPECT_GT(line.Ends.Y1, 0);
-  EXPECT_EQ(IconText(Named(drawing, ControlId::MapIcon).at(0)), "");
-  // Of the line, of its icon, and of the tags of both icons.
-  EXPECT_EQ(log.Failures().size(), 4u);
-  for (const FailureEntry& entry : log.Failures()) EXPECT_EQ(entry.What.Number, 94);
-}
-
-TEST_F(Redraw, ACancelledRedrawShowsWhatItHadComeTo) {
-  messages.Answer = MessageAnswer::Cancel;
-  Jump(kJumpGate);
-  Lane();
-  Add("TradeLanes", {{"MapX1", 7}, {"MapY1", 4}, {"MapX2", 7}, {"MapY2", 4}, {"PosX1", 1e40}});
-  Lane();
-
-  const MapDrawing drawing = Draw();
-
-  // The second lane ends the redraw; the border is shown after the lines only.
-  EXPECT_EQ(Named(drawing, ControlId::MapLine).size(), 2u);
-  EXPECT_THAT(Layers(drawing),
-              ElementsAre(ControlId::BackgroundTile, ControlId::PaintedUniverse,
-                          ControlId::SystemLabel, ControlId::MapLine, ControlId::PanelFrame));
-}
-
-// A map of a gate and two lanes that was drawn once; the gate's row cannot be drawn any more.
-class RedrawnWithAFailure : public Redraw {
- protected:
-  RedrawnWithAFailure() {
-    Jump(kJumpGate);
-    Lane();
-    Lane();
-    before = Draw();
-    db.Execute(mustWork, "UPDATE JumpNodes SET PosX1 = 1e40");
-    messages.Answer = MessageAnswer::Cancel;
-  }
-
-  MapDrawing before;
-};
-
-TEST_F(RedrawnWithAFailure, CancelledItKeepsTheBorderAndTheLinesItDidNotReach) {
-  const MapDrawing drawing = Draw();
-
-  EXPECT_EQ(Named(drawing, ControlId::Border), Named(before, ControlId::Border));
-  EXPECT_EQ(Named(drawing, ControlId::MapLine), Named(before, ControlId::MapLine));
-}
-
-TEST_F(RedrawnWithAFailure, CancelledItsBorderSurroundsTheCellsThatAreShownNow) {
-  Zoom(kTwoCells);
-
-  const ControlList border = Named(Draw(), ControlId::Border);
-
-  ASSERT_EQ(border.size(), 8u);
-  EXPECT_EQ(border.at(7).Place.Right(), 2 * 11900 + 100);
-}
-
-TEST_F(RedrawnWithAFailure, ObjectsThatWereUnloadedDoNotComeBack) {
-  UnloadObjects(state);
-
-  EXPECT_THAT(Named(Draw(), ControlId::MapLine), IsEmpty());
-}
-
 TEST_F(Redraw, SurplusElementsOfTheLastRedrawVanish) {
   Zoom(kTwoCells);
   Jump(kJumpGate);
@@ -537,37 +293,6 @@ TEST_F(Redraw, SurplusElementsOfTheLastRedrawVanish) {
   db.Execute(mustWork, "DELETE FROM DockObjects");
 
   EXPECT_EQ(Named(Draw(), ControlId::MapIcon).size(), 2u);
-}
-
-// Fails to measure one name.
-class FailingMeasure : public FixedTextMeasure {
- public:
-  int TextWidth(std::string_view text, int fontSize) const override {
-    if (text == "Lantern") throw RuntimeFailure(failure_number::kOverflow);
-    return FixedTextMeasure::TextWidth(text, fontSize);
-  }
-};
-
-TEST_F(Redraw, AFailureAmongTheCellsIsOneOfZoomCalcAndTheNextStepRuns) {
-  const FailingMeasure failing;
-  const MapDrawing drawing = DrawMap(
-      universe, state, {formWidth, formHeight, MapOptions::Defaults(false), failing, panel});
-
-  ASSERT_EQ(log.Failures().size(), 1u);
-  EXPECT_EQ(log.Failures()[0].Source, "OrrerixMain.ZoomCalc");
-  EXPECT_EQ(Named(drawing, ControlId::SystemLabel).size(), 2u);
-  EXPECT_EQ(Named(drawing, ControlId::PanelFrame).size(), 1u);
-}
-
-TEST_F(Redraw, CancelledInZoomCalcTheRedrawGoesOn) {
-  messages.Answer = MessageAnswer::Cancel;
-  Lane();
-  const FailingMeasure failing;
-  const MapDrawing drawing = DrawMap(
-      universe, state, {formWidth, formHeight, MapOptions::Defaults(false), failing, panel});
-
-  EXPECT_THAT(Named(drawing, ControlId::SystemLabel), IsEmpty());
-  EXPECT_EQ(Named(drawing, ControlId::MapLine).size(), 1u);
 }
 
 TEST_F(Redraw, APanelBelowKeepsTheToolsWhereTheyWereAtTheRight) {
@@ -626,21 +351,6 @@ TEST_F(Redraw, IconsHaveADarkBorder) {
     EXPECT_TRUE(icon.Bordered);
     EXPECT_LT(icon.BorderColor.Red() + icon.BorderColor.Green() + icon.BorderColor.Blue(), 255);
   }
-}
-
-TEST_F(Redraw, ACellBeyondTheGridIsAFailureOnceForEachStatement) {
-  GateFrom(18, 0.5);
-
-  const MapDrawing drawing = Draw();
-
-  for (const FailureEntry& entry : log.Failures()) {
-    EXPECT_EQ(entry.What.Number, 9);
-    EXPECT_EQ(entry.Source, "OrrerixMain.Form_Resize");
-  }
-  // The line's tag, and both numbers of its first end.
-  EXPECT_EQ(log.Failures().size(), 3u);
-  EXPECT_TRUE(
-      std::holds_alternative<std::monostate>(Named(drawing, ControlId::MapLine).at(0).Subject));
 }
 
 }  // namespace

@@ -2,36 +2,17 @@
 #include "platform/game_path.h"
 
 #include <filesystem>
-#include <fstream>
-#include <optional>
 #include <string>
 
-#include <gtest/gtest.h>
-
+#include "game_path_fixture.h"
 #include "platform/path_text.h"
-#include "support/temp_folder.h"
 
 namespace orrerix {
 namespace {
 
 namespace fs = std::filesystem;
 
-class GamePath : public ::testing::Test {
- protected:
-  // Writes a file that holds its own name.
-  void Put(const std::string& name) { folder.Write(name, name); }
-
-  // The file found at a path of the game's kind, told by what it holds.
-  std::string Found(std::string_view path) {
-    const auto file = game.FindFile(game.Text() + std::string(path));
-    std::string name = "(none)";
-    if (file) std::getline(std::ifstream(*file), name);
-    return name;
-  }
-
-  TempFolder folder;
-  GameFolder game{folder.Path().string()};
-};
+using GamePath = GamePathFixture;
 
 TEST_F(GamePath, IgnoresTheCaseOfEveryComponent) {
   Put("DATA/Ships/ShipArch.INI");

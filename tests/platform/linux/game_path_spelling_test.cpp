@@ -1,35 +1,15 @@
 // SPDX-License-Identifier: MIT
 // Names that differ in case only. Elsewhere the system itself takes them for one.
 #include <filesystem>
-#include <fstream>
-#include <string>
 
-#include <gtest/gtest.h>
-
-#include "platform/game_path.h"
-#include "support/temp_folder.h"
+#include "platform/game_path_fixture.h"
 
 namespace orrerix {
 namespace {
 
 namespace fs = std::filesystem;
 
-class GamePathSpelling : public ::testing::Test {
- protected:
-  // Writes a file that holds its own name.
-  void Put(const std::string& name) { folder.Write(name, name); }
-
-  // The file found at a path of the game's kind, told by what it holds.
-  std::string Found(std::string_view path) {
-    const auto file = game.FindFile(game.Text() + std::string(path));
-    std::string name = "(none)";
-    if (file) std::getline(std::ifstream(*file), name);
-    return name;
-  }
-
-  TempFolder folder;
-  GameFolder game{folder.Path().string()};
-};
+using GamePathSpelling = GamePathFixture;
 
 TEST_F(GamePathSpelling, TriesTheExactSpellingFirst) {
   Put("data/A.INI");
