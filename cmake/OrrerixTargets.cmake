@@ -10,23 +10,48 @@ target_compile_options(orrerix_options INTERFACE
 if(WIN32)
   target_compile_definitions(orrerix_options INTERFACE UNICODE _UNICODE NOMINMAX)
 endif()
-# Optimised programs check their copies and their stack, and have their tables read-only. That they
-# load anywhere is the default of the compilers.
-set(hardened "$<AND:$<CONFIG:Release,RelWithDebInfo>,$<NOT:$<BOOL:${ORRERIX_SANITIZE}>>,$<NOT:$<PLATFORM_ID:Windows>>>")
-target_compile_options(orrerix_options INTERFACE
-  "$<${hardened}:-D_FORTIFY_SOURCE=2;-fstack-protector-strong>")
-target_link_options(orrerix_options INTERFACE "$<${hardened}:-Wl,-z,relro,-z,now>")
 if(ORRERIX_SANITIZE)
   target_compile_options(orrerix_options INTERFACE
     -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
   target_link_options(orrerix_options INTERFACE -fsanitize=address,undefined)
 endif()
 
-# What nearly every source includes is parsed once for each library. A source includes what it needs
-# all the same: -DCMAKE_DISABLE_PRECOMPILE_HEADERS=ON builds without.
+# Optimised programs check their copies and their stack, and have their tables read-only. That they
+# load anywhere is the default of the compilers.
+add_library(orrerix_hardening INTERFACE)
+set(hardened "$<AND:$<CONFIG:Release,RelWithDebInfo>,$<NOT:$<BOOL:${ORRERIX_SANITIZE}>>,$<NOT:$<PLATFORM_ID:Windows>>>")
+target_compile_options(orrerix_hardening INTERFACE
+  "$<${hardened}:-D_FORTIFY_SOURCE=2;-fstack-protector-strong>")
+target_link_options(orrerix_hardening INTERFACE "$<${hardened}:-Wl,-z,relro,-z,now>")
+
+# What nearly every source includes is parsed once. A source includes what it needs all the same:
+# -DCMAKE_DISABLE_PRECOMPILE_HEADERS=ON builds without.
 set(orrerix_common_headers
   <algorithm> <filesystem> <functional> <map> <memory> <optional> <string> <string_view> <utility>
   <vector> <fmt/format.h>)
+
+# orrerix_shared_headers(<name> OPTIONS <libraries with the options> [HEADERS <further headers>]):
+# headers that are parsed once for all targets of the same options that have no further headers.
+function(orrerix_shared_headers name)
+  cmake_parse_arguments(ARG "" "" "OPTIONS;HEADERS" ${ARGN})
+  file(WRITE ${CMAKE_CURRENT_BINARY_DIR}/${name}.cpp "")
+  add_library(${name} OBJECT ${CMAKE_CURRENT_BINARY_DIR}/${name}.cpp)
+  target_link_libraries(${name} PRIVATE ${ARG_OPTIONS} fmt::fmt)
+  target_precompile_headers(${name} PRIVATE ${orrerix_common_headers} ${ARG_HEADERS})
+endfunction()
+
+# orrerix_precompile(<target> <shared headers> <headers>...). Clang takes a precompiled header only for
+# exactly the options it was made with, so each target has its own there.
+function(orrerix_precompile target shared)
+  if(ARGN OR NOT CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    get_target_property(headers ${shared} PRECOMPILE_HEADERS)
+    target_precompile_headers(${target} PRIVATE ${headers} ${ARGN})
+  else()
+    target_precompile_headers(${target} REUSE_FROM ${shared})
+  endif()
+endfunction()
+
+orrerix_shared_headers(orrerix_headers OPTIONS orrerix_options orrerix_hardening)
 
 # orrerix_folder_uses(<folder> <variable>): what src/folders.txt lets a folder include, without the
 # folders that this build leaves out.
@@ -56,9 +81,9 @@ function(orrerix_library folder)
   target_include_directories(${target} PUBLIC ${includes})
   orrerix_folder_uses(${folder} uses)
   list(TRANSFORM uses PREPEND orrerix_)
-  target_link_libraries(${target} PUBLIC ${uses} ${ARG_LINKS} PRIVATE orrerix_options
-                        fmt::fmt)
-  target_precompile_headers(${target} PRIVATE ${orrerix_common_headers} ${ARG_PRECOMPILE})
+  target_link_libraries(${target} PUBLIC ${uses} ${ARG_LINKS}
+                        PRIVATE orrerix_options orrerix_hardening fmt::fmt)
+  orrerix_precompile(${target} orrerix_headers ${ARG_PRECOMPILE})
 endfunction()
 
 # Lets the compiler make fast loops over texts of any length. For folders that calculate no places.
@@ -71,7 +96,7 @@ function(orrerix_program name)
   cmake_parse_arguments(ARG "" "" "SOURCES;USES;LINKS" ${ARGN})
   add_executable(${name} ${ARG_SOURCES})
   list(TRANSFORM ARG_USES PREPEND orrerix_)
-  target_link_libraries(${name} PRIVATE ${ARG_USES} ${ARG_LINKS} orrerix_options)
+  target_link_libraries(${name} PRIVATE ${ARG_USES} ${ARG_LINKS} orrerix_options orrerix_hardening)
   set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR})
   if(WIN32)
     configure_file(${CMAKE_SOURCE_DIR}/packaging/windows/program.rc.in ${name}.rc @ONLY)
