@@ -71,7 +71,7 @@ EquipmentColumns GunColumns() {
        MarketColumns()});
 }
 
-// Without a hardpoint type a gun that turns by itself is one.
+// Without a hardpoint type a gun that turns by itself counts as a turret.
 bool IsTurret(const SourceRow& gun) {
   const std::string hardpoint = FoldAscii(gun.Text("hp_gun_type"));
   return hardpoint.empty() ? IsTrue(gun.Text("auto_turret")) : Contains(hardpoint, kTurret);

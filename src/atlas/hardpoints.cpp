@@ -11,7 +11,7 @@ namespace orrerix {
 namespace {
 
 constexpr std::string_view kGun = "gun";
-constexpr std::string_view kTurret = "turret";
+constexpr std::string_view kTurretWord = "turret";
 
 // The parts of a list with commas, in lower case.
 std::set<std::string> HardpointsIn(std::string_view list) {
@@ -33,7 +33,7 @@ Figure ClassOf(std::string_view type) {
 }
 
 bool IsOfKind(std::string_view type, std::string_view word) {
-  return Contains(type, word) && !(word == kGun && Contains(type, kTurret));
+  return Contains(type, word) && !(word == kGun && Contains(type, kTurretWord));
 }
 
 }  // namespace

@@ -22,8 +22,8 @@ struct Ship {
   std::string SoldAt;
 
   Figure Number(std::string_view field) const { return Row.Number(field); }
-  // A figure of which 0 may be true: of ships that nobody can buy it mostly stands for a missing
-  // one.
+  // A figure that may truly be 0. For ships that nobody can buy a 0 mostly means that it is
+  // missing.
   Figure Counted(std::string_view field) const {
     return HasPackage ? Row.Number(field) : Known(field);
   }
@@ -53,7 +53,7 @@ std::string ClassName(const Ship& ship) {
   return kNames[static_cast<std::size_t>(*number)];
 }
 
-ShipColumns NameColumns() {
+ShipColumns ShipNameColumns() {
   return {
       ShipText("name", "Name", "the name of ids_name", [](const Ship& s) { return s.Name; }),
       ShipText("nickname", "Nickname", "nickname of [Ship]",
@@ -189,7 +189,8 @@ AtlasTable ShipsTable() {
        "All ships; `--filter sellers>0` leaves those that can be bought. Hardpoints that take "
        "several types count once for each kind. The universe file holds 0 where a ship has no "
        "number: class, hold, nanobots and batteries of 0 are shown only for ships with a package."},
-      Joined<Ship>({NameColumns(), HoldColumns(), MountColumns(), FlightColumns(), SaleColumns()}),
+      Joined<Ship>(
+          {ShipNameColumns(), HoldColumns(), MountColumns(), FlightColumns(), SaleColumns()}),
       ReadShips);
 }
 

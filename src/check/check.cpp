@@ -52,7 +52,7 @@ std::set<Rule> WantedRules(const CheckOptions& options) {
   return wanted;
 }
 
-// One run over a game and what is beneath it, without baseline.
+// One run over a game and the game that it builds on, without baseline.
 CheckAnswer CheckOnce(const fs::path& game, const std::optional<fs::path>& base,
                       const std::set<Rule>& wanted, Steps& steps) {
   const auto next = [&steps] { steps.Next(); };

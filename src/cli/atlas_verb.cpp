@@ -20,8 +20,6 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-constexpr std::string_view kDescending = ":desc";
-
 // As they were given.
 struct AtlasArguments {
   std::optional<std::string> Table;
@@ -163,6 +161,7 @@ int ShowTable(const CommonOptions& options, const AtlasArguments& arguments,
               const AtlasSource& source) {
   const TableQuestion question = ParseQuestion(table, arguments);
   std::vector<Condition> conditions;
+  conditions.reserve(filters.size());
   for (const Filter& filter : filters) {
     conditions.push_back({RequireColumn(table, filter.Column), filter});
   }

@@ -86,7 +86,7 @@ class CheckVerb {
     wanted.Skip = RequireRules(arguments_.Skip);
     if (!arguments_.Baseline) return wanted;
     for (const check::BaselineEntry& entry : ReadBaseline()) {
-      // What is not looked for is not gone.
+      // Findings of rules that did not run have not gone away.
       const bool isLookedFor = (wanted.Only.empty() || wanted.Only.contains(entry.Rule)) &&
                                !wanted.Skip.contains(entry.Rule);
       if (isLookedFor) wanted.Baseline.insert(entry.Fingerprint);

@@ -60,7 +60,7 @@ void WriteLog(const CommonOptions& options, const ImportOptions& import,
 
 int RunImport(const CommonOptions& options, const ImportOptions& import) {
   const UniverseImport universe(options, import.Game, options.DatabasePath());
-  // Before the import, so that none is made in vain.
+  // Checked before the import, which would be in vain otherwise.
   if (import.Log) RequireWritable(*import.Log);
   const ImportAnswer result = universe.Run(import.Quiet);
   WriteLog(options, import, result);

@@ -27,6 +27,9 @@ inline constexpr int kWrongUsage = 2;
 inline constexpr int kStrictFound = 3;
 inline constexpr int kDifferent = 3;
 
+// After the name of a column: sort by it from the last value to the first.
+inline constexpr std::string_view kDescending = ":desc";
+
 // A verb could not do its work; the text is the one line that says why.
 struct CouldNot : std::runtime_error {
   using std::runtime_error::runtime_error;

@@ -27,7 +27,7 @@ struct RenderOptions {
   std::optional<std::string> Pixels;
 };
 
-// Qt's fonts and pictures; never a display. One that is there already serves as well.
+// Qt's fonts and pictures need an application, but no display. An existing one serves as well.
 class OffscreenQt {
  public:
   OffscreenQt() {
@@ -53,7 +53,7 @@ QRectF PlaceOfFrame(const MapScene& scene, QSize size) {
   return place;
 }
 
-// What the frame leaves over takes its colour.
+// The frame's colour fills the rest of the picture.
 void Paint(MapScene& scene, QPaintDevice& device, QSize size) {
   QPainter painter(&device);
   // First, for the pixels that the frame's edges cover in part.

@@ -164,11 +164,11 @@ void AddMouseOptions(CLI::App& verb, SceneOptions& scene) {
 void ReadGestures(const CLI::App& verb, SceneOptions& scene) {
   std::size_t drags = 0;
   for (const CLI::Option* option : verb.parse_order()) {
-    if (option->check_name("--back")) scene.Gestures.push_back(Back{});
+    if (option->check_name("--back")) scene.Gestures.emplace_back(Back{});
     if (!option->check_name("--drag")) continue;
     const std::vector<int> ends = ParseNumbers(option->results().at(drags++), ',', 4);
-    scene.Gestures.push_back(Drag{static_cast<float>(ends[0]), static_cast<float>(ends[1]),
-                                  static_cast<float>(ends[2]), static_cast<float>(ends[3])});
+    scene.Gestures.emplace_back(Drag{static_cast<float>(ends[0]), static_cast<float>(ends[1]),
+                                     static_cast<float>(ends[2]), static_cast<float>(ends[3])});
   }
 }
 

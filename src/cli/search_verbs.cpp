@@ -48,8 +48,8 @@ bool IsEqual(std::string_view a, std::string_view b) {
   return Ucase(a) == Ucase(b);
 }
 
-// Of the rows that the panel lists for no text those that are meant by a nickname, by a printed
-// line, or else by a name.
+// From all rows of the panel, those that match the text: by nickname, by printed line, or else by
+// name.
 std::vector<SearchRow> RowsMeant(const std::vector<SearchRow>& listed, const std::string& text) {
   std::vector<SearchRow> rows;
   const auto keep = [&](auto&& isMeant) {
@@ -61,7 +61,7 @@ std::vector<SearchRow> RowsMeant(const std::vector<SearchRow>& listed, const std
   return rows;
 }
 
-// What the panel lists. A nickname or a printed line, for which it lists nothing, gives its rows.
+// What the panel lists for a text. Where it lists nothing, the rows that the text names exactly.
 int RunSearch(const CommonOptions& options, SearchType type, const std::string& text) {
   OpenedUniverse universe(options);
   std::vector<SearchRow> rows;

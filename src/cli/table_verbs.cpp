@@ -15,8 +15,6 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-constexpr std::string_view kDescending = ":desc";
-
 // As they were given.
 struct TableArguments {
   std::string Name;

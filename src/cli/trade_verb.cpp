@@ -179,7 +179,7 @@ class TradeVerb {
     }
     const auto known = market_.FindGood(good);
     if (!known) {
-      // It is traded, but at no stop that is open.
+      // It is traded, but only at stops that are closed.
       carried.Good = market_.Goods.size();
       market_.Goods.push_back({good, FoldAscii(good), {}, 1});
     } else {

@@ -122,7 +122,7 @@ class WatchVerb {
         watch_(fs::absolute(PathOf(arguments.Game)).lexically_normal(),
                OwnFiles(options, arguments)) {}
 
-  // The first round must do; what hinders a later one is waited out.
+  // The first round must succeed; a later one is tried again.
   void Run() {
     const UniverseImport first(options_, arguments_.Game, options_.DatabasePath());
     if (arguments_.Log) RequireWritable(*arguments_.Log);

@@ -338,7 +338,7 @@ void Database::UseForFilling(FailureSink& sink) {
 
 void Database::UseForBuilding(FailureSink& sink) {
   UseForFilling(sink);
-  // Nothing is ever rolled back: a statement tests its keys before it writes.
+  // Needs no rollback: a statement checks its keys before it writes.
   ExecuteNative(sink, "PRAGMA journal_mode = OFF; PRAGMA synchronous = OFF;");
 }
 

@@ -12,8 +12,8 @@
 
 namespace {
 
-constexpr int Failed = 1;
-constexpr int WrongUsage = 2;
+constexpr int kFailed = 1;
+constexpr int kWrongUsage = 2;
 
 struct Request {
   std::string Folder;
@@ -34,7 +34,7 @@ int Write(const Request& request) {
     orrerix::WriteDemoGame(orrerix::PathOf(request.Folder), request.Systems);
   } catch (const std::exception& error) {
     fmt::print(stderr, "orrerix-demo: {}\n", error.what());
-    return Failed;
+    return kFailed;
   }
   fmt::print("Wrote a game of {} systems to {}\n", request.Systems, request.Folder);
   return 0;
@@ -53,7 +53,7 @@ int main(int argc, char** argv) {
     Describe(app, request);
     app.parse(arguments.Count(), arguments.Texts());
   } catch (const CLI::ParseError& error) {
-    return app.exit(error) == 0 ? 0 : WrongUsage;
+    return app.exit(error) == 0 ? 0 : kWrongUsage;
   }
   return Write(request);
 }

@@ -11,9 +11,9 @@
 namespace orrerix {
 namespace {
 
-// Market lines of goods or bases that do not exist give no row, so inner joins will do; their
-// order is the one in which the indexes serve them. Most lines are not of commodities: the list of
-// these drops them before anything is looked up.
+// Market lines of unknown goods or bases give no row, so inner joins will do, written in the order
+// in which the indexes serve them best. Most lines are not about commodities: joining the list of
+// commodities first drops them before anything is looked up.
 constexpr std::string_view kAppendPrices =
     "INSERT INTO BaseGoodPrices (BaseNick, GoodNick, Price, Sell, SysNick) "
     "SELECT Objects.nickname, BaseGoods.GoodNick, fitlong(Goods.price*BaseGoods.val6) AS Preis, "

@@ -44,7 +44,7 @@ ErrorLogWindow::ErrorLogWindow(ErrorLog& log, std::function<bool()> importing,
       programLog_(AddLog("ProgramLog", QColor(255, 128, 0), QPlainTextEdit::NoWrap)) {
   setObjectName("ErrorLog");
   ShowCaptions();
-  // It comes up beside the work, not in its place.
+  // Opens beside the main window without taking its focus.
   setAttribute(Qt::WA_ShowWithoutActivating);
   resize(PixelRect(0, 0, kClientWidth, kClientHeight).size());
   programHeading_->hide();
@@ -135,7 +135,7 @@ void ErrorLogWindow::TextsChanged() {
   QTimer::singleShot(0, this, [this] { ShowTexts(); });
 }
 
-// A log whose end was seen shows it in its new place too.
+// If the end of the log was in sight, it stays in sight.
 void ErrorLogWindow::PlaceLog(Log& log, const QRect& place) {
   QTextCursor end(log.Box->document());
   end.movePosition(QTextCursor::End);

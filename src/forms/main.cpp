@@ -29,6 +29,7 @@ struct Words {
   std::string Game;
   std::string SaveFolder;
   std::string AppFolder;
+  // NOLINTNEXTLINE(readability-redundant-string-init): builds may name an address.
   std::string NewsUrl = ORRERIX_NEWS_URL;
   bool FindGame = false;
   std::vector<std::string> Others;
@@ -45,10 +46,10 @@ void AddWords(CLI::App& app, Words& words) {
   app.add_option("words", words.Others, "\"debug\" shows every block that an import reads");
 }
 
-// A folder given by name is made if it is not there; those found by themselves are others' work.
+// Creates a folder that an option names. Folders that the program finds by itself exist already.
 std::filesystem::path MadeFolder(const std::string& name) {
   std::error_code ignored;
-  const std::filesystem::path folder = std::filesystem::absolute(PathOf(name), ignored);
+  std::filesystem::path folder = std::filesystem::absolute(PathOf(name), ignored);
   std::filesystem::create_directories(folder, ignored);
   return folder;
 }

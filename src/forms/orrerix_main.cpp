@@ -210,7 +210,7 @@ void OrrerixMain::ShowImportScreen() {
     importScreen_->Memory().MemoryUpdate(parts_.Log, startMemory_, OuterWidth(*this),
                                          isMinimized());
   }
-  // Long work and questions have no place inside a resize: both wait for the event loop.
+  // Long work and questions must not run inside a resize event: they wait for the event loop.
   lookForGame_.start(0);
 }
 
@@ -403,8 +403,7 @@ void OrrerixMain::OpenLogoPage(bool firstHalf) {
                                      firstHalf ? WebPage::FirstClan : WebPage::GameServer));
 }
 
-// The form may be just being shown, which has to be done before it gives way; and so have an import
-// and the warning.
+// Calls GotFocus once the form is shown, unless an import runs or the warning is open.
 void OrrerixMain::QueueFocus() {
   QTimer::singleShot(0, this, [this] {
     if (isVisible() && phase_ != Phase::Warning && !import_) GotFocus();

@@ -75,7 +75,7 @@ bool ProgramRun::CheckEngine() {
   return false;
 }
 
-// Read before anything else is said: a question in a language that was not chosen is a fault.
+// Read first, so that even the first question is in the chosen language.
 void ProgramRun::ReadLanguage() {
   settings_.emplace(parts_.Log, parts_.Paths.ApplicationFolder, *format_);
   const auto number = ToInteger(Val(settings_->ReadSetting("LANG")));
@@ -131,7 +131,7 @@ void ProgramRun::ShowUpdate(const News& news) {
   main_->hide();
 }
 
-// No closing order: all windows go, and the program with them.
+// Closes all windows in no particular order, and ends the program.
 void ProgramRun::EndAtOnce() {
   for (QWidget* form : QApplication::topLevelWidgets()) form->hide();
   parts_.Sound.WaitForEnd();
@@ -142,7 +142,7 @@ void ProgramRun::UnloadStartForms() {
   loading_.close();
 }
 
-// All other forms go first, with the start form on screen as the notice of it.
+// Closes all other forms while the start form tells the user about it.
 void ProgramRun::CloseProgram() {
   loading_.ShowClosing(Yield);
   const QWidgetList forms = QApplication::topLevelWidgets();

@@ -162,8 +162,8 @@ class ImportRun {
     host_.Yield();
   }
 
-  // The build file is stamped under its own name: a process that dies before all is crunched leaves
-  // no file that looks finished.
+  // The stamp goes into the build file, before crunching: a process that dies earlier leaves no
+  // file that looks finished.
   void StampVersion(const fs::path& build) {
     Database file = DBEngine::OpenDatabase(routine_, build);
     file.UseForBuilding(routine_);

@@ -100,7 +100,7 @@ ImportResult ReplaceUniverse(ErrorLog& log, ImportHost& host, const ReplacementO
       result = ImportGame(log, host, database,
                           {order.Game, work.Path(), order.Format, order.Version}, stages);
     } catch (const ImportEnded&) {
-      // The answer to the question about memory was to abort, or the import is wanted no more.
+      // The user aborted for lack of memory, or cancelled the import.
     }
     database.Close();
   }

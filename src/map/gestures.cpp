@@ -88,7 +88,7 @@ ReleaseAnswer MapGestures::ZoomIn(const ZoomRectangle& rectangle) {
   UnloadObjects(state_);
   const ZoomChange change = state_.Zoom.PushZoomStack(log_, rectangle);
   ReleaseAnswer answer;
-  // A rectangle that stays is redrawn too: its objects have been unloaded.
+  // An unchanged rectangle is redrawn too, because its objects have been unloaded.
   answer.Redraw = true;
   answer.Beep = change == ZoomChange::Beep;
   if (change == ZoomChange::Changed) answer.Sound = kZoomSound;

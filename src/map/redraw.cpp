@@ -20,8 +20,8 @@ constexpr Color kPanelText{0x0000FF};
 constexpr int kBorderMargin = 100;
 constexpr int kUniverseMargin = 20;
 
-// Where the panel stands when the map is shown for the first time, as the whole grid. A form that
-// leaves no room at the right of it counts as if it did.
+// Where the panel stands when the map first shows the whole grid. A form without room at its right
+// is treated as if it had some.
 TwipRect FirstPanelPlace(const TwipRect& frame) {
   const ZoomRectangle grid;
   const double cells = grid.Columns() * CellGeometry(frame, grid).CellSize();

@@ -20,7 +20,7 @@ bool IsContinuation(char byte) {
   return (static_cast<unsigned char>(byte) & 0xC0) == 0x80;
 }
 
-// Whether bytes are well-formed UTF-8 as far as their lengths go.
+// Whether the sequences of bytes have the lengths of well-formed UTF-8.
 bool LooksLikeUtf8(std::string_view bytes) {
   for (std::size_t i = 0; i < bytes.size();) {
     const auto first = static_cast<unsigned char>(bytes[i]);

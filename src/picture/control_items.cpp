@@ -50,8 +50,8 @@ class PictureItem : public ControlItem {
     box.addRect(BoxOf(Shown()));
     return box;
   }
-  // A window shows what it has at once, and something finer a moment later; print and picture files
-  // wait for the best.
+  // A window shows the picture at hand now and a finer one a moment later; printouts and files wait
+  // for the finest.
   void paint(QPainter* painter, const QStyleOptionGraphicsItem*, QWidget* window) override {
     using Reading = PictureStore::Reading;
     const QRectF box = BoxOf(Shown());
@@ -99,8 +99,8 @@ Stretch StretchWithin(const QLineF& line, const QRectF& place) {
   return Cut(across, line.y1(), line.dy(), place.top(), place.bottom());
 }
 
-// A line is seen only; the mouse goes through it. It stands in front of the names of systems, and
-// pales where it crosses one.
+// Lines ignore the mouse. They are drawn in front of the names of systems, and fade where they
+// cross one.
 class LineItem : public ControlItem {
  public:
   LineItem(const Control& control, bool onPaper, QGraphicsItem* parent)

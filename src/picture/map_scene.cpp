@@ -16,11 +16,11 @@ MapScene::MapScene(PictureStore& pictures, QObject* parent)
 }
 
 MapScene::~MapScene() {
-  // The items refer to the drawing, which goes before the scene's own part does.
+  // The items refer to the drawing, which is destroyed before the base class.
   clear();
 }
 
-// What of the frame the panel leaves open. A panel that is not in front covers nothing.
+// The part of the frame that the panel does not cover. A panel at the back covers nothing.
 QRectF MapScene::OpenPart(const MapDrawing& drawing) {
   QRectF open(0, 0, Pixels(drawing.Frame.Width), Pixels(drawing.Frame.Height));
   const ControlList& controls = drawing.Controls;

@@ -29,7 +29,7 @@ QString OwnPicture(const Control& control) {
 
 QString PictureFile(const Control& control) {
   if (control.Picture == PrintedName(control.Id)) return OwnPicture(control);
-  const QString name = QString::fromStdString(control.Picture.value_or(""));
+  QString name = QString::fromStdString(control.Picture.value_or(""));
   if (name.isEmpty()) return {};
   if (QDir::isAbsolutePath(name)) return name;
   if (name.contains('.')) return kBuiltIn + name;

@@ -38,13 +38,13 @@ QRect SnappedToPixels(const QRectF& place) {
                                            static_cast<int>(std::ceil(place.height() - nothing)))};
 }
 
-// The brother of a file at a scale; empty if there is none.
-QString BrotherOf(const QString& file, int scale) {
+// The variant of a file for a scale; empty if there is none.
+QString VariantOf(const QString& file, int scale) {
   const auto dot = file.lastIndexOf('.');
   if (dot < 0) return {};
   for (const QString& ending : {file.mid(dot), QStringLiteral(".jpg")}) {
-    const QString brother = file.left(dot) + QStringLiteral("@%1x").arg(scale) + ending;
-    if (QFile::exists(brother)) return brother;
+    QString variant = file.left(dot) + QStringLiteral("@%1x").arg(scale) + ending;
+    if (QFile::exists(variant)) return variant;
   }
   return {};
 }
@@ -103,8 +103,8 @@ const std::vector<PictureStore::Variant>& PictureStore::VariantsOf(const QString
   std::vector<Variant> variants;
   if (QFile::exists(file)) variants.push_back({file, natural});
   for (const int scale : {2, 3, 4}) {
-    const QString brother = BrotherOf(file, scale);
-    if (!brother.isEmpty()) variants.push_back({brother, natural * scale});
+    QString variant = VariantOf(file, scale);
+    if (!variant.isEmpty()) variants.push_back({variant, natural * scale});
   }
   if (const QString drawing = DrawingName(file);
       drawing != file && QFile::exists(drawing) && SourceOf(drawing).Drawing) {
@@ -124,7 +124,7 @@ QString PictureStore::VariantFor(const QString& file, QSize size) {
 }
 
 QString PictureStore::FileFor(const QString& file, QSize size, Reading reading) {
-  const QString best = VariantFor(file, size);
+  QString best = VariantFor(file, size);
   if (reading == Reading::AtOnce || sources_.contains(best)) return best;
   const std::vector<Variant>& variants = VariantsOf(file);
   const auto finest =
@@ -175,7 +175,7 @@ QPixmap PictureStore::Scaled(const QString& file, QSize size) {
 QPixmap PictureStore::ScaledOf(const QString& file, QSize size) {
   const SizedFile key{file, size};
   if (const QPixmap* known = scaled_.object(key)) return *known;
-  const QPixmap pixmap = Render(file, size);
+  QPixmap pixmap = Render(file, size);
   scaled_.insert(key, new QPixmap(pixmap), CostOf(size));
   return pixmap;
 }

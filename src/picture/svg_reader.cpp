@@ -118,7 +118,7 @@ class Reader {
     }
   }
 
-  void Add(QPainterPath path, const Style& inherited) {
+  void Add(const QPainterPath& path, const Style& inherited) {
     constexpr double miterLimit = 4;
     const Style style = Styled(inherited);
     QPen pen(Faded(style.Stroke, style.StrokeOpacity), style.StrokeWidth, Qt::SolidLine, style.Cap,
@@ -126,7 +126,7 @@ class Reader {
     pen.setMiterLimit(miterLimit);
     if (style.Stroke.style() == Qt::NoBrush) pen = Qt::NoPen;
     content_.Shapes.push_back(
-        {std::move(path), Faded(style.Fill, style.FillOpacity), pen, style.Place});
+        {path, Faded(style.Fill, style.FillOpacity), pen, style.Place});
   }
 
   // The style with what the current element says about it.

@@ -195,7 +195,7 @@ class TradeFinder {
     }
   }
 
-  // What is aboard already is sold wherever it is taken.
+  // Cargo already on board is sold wherever it fetches a price.
   void FindSales() {
     const CarriedGood& carry = *question_.Carry;
     const std::int64_t units =

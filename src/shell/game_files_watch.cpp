@@ -25,7 +25,7 @@ std::set<std::string> FoldedNames(const std::vector<fs::path>& folders) {
 
 }  // namespace
 
-GameFilesWatch::GameFilesWatch(fs::path game, std::vector<fs::path> except,
+GameFilesWatch::GameFilesWatch(const fs::path& game, std::vector<fs::path> except,
                                std::chrono::milliseconds quiet)
     : GameFilesWatch(WatchFolders(game, WatchedNames()), game, std::move(except), quiet) {}
 

@@ -25,7 +25,7 @@ class GameFilesWatch {
   // Watches the folders "exe" and "data" of a game. Files named like one of `except`, with whatever
   // follows, do not count. Changes are one round if none of them comes later than `quiet` after the
   // one before.
-  explicit GameFilesWatch(std::filesystem::path game,
+  explicit GameFilesWatch(const std::filesystem::path& game,
                           std::vector<std::filesystem::path> except = {},
                           std::chrono::milliseconds quiet = kQuiet);
 

@@ -90,8 +90,8 @@ void LanguageFile::InitLanguages() {
   });
 }
 
-// One opened file and one transaction: the texts are written at every start. Its journal lets the
-// next start take back what a program that dies leaves half done.
+// The texts are written at every start, so they share one opened file and one transaction. If the
+// program dies half way, the next start undoes that by the journal.
 void LanguageFile::Fill(Routine& routine, const fs::path& path) {
   Database file = DBEngine::OpenDatabase(routine, path);
   if (file.IsOpen()) {

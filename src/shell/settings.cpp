@@ -43,7 +43,7 @@ Settings::Settings(ErrorLog& log, const fs::path& applicationFolder, JetVersionO
     : log_(log), path_(applicationFolder / "FLOX-Settings.mdb"), option_(option) {}
 
 std::string Settings::ReadSetting(const std::string& key) {
-  // A new file holds all keys; one that still lacks this key will never have it.
+  // The first attempt may write a new file, which has all keys. A key still missing does not exist.
   for (int attempt = 0; attempt < 2; ++attempt) {
     std::optional<std::string> found;
     Routine routine(log_, "Settings.ReadSetting", "While reading setting: " + key);

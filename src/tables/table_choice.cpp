@@ -49,12 +49,14 @@ std::vector<std::size_t> AllColumns(const TableDef& table) {
 
 std::vector<std::string> NamesOf(const std::vector<TableDef>& tables) {
   std::vector<std::string> names;
+  names.reserve(tables.size());
   for (const TableDef& table : tables) names.push_back(table.Name);
   return names;
 }
 
 std::vector<std::string> NamesOf(const std::vector<Field>& fields) {
   std::vector<std::string> names;
+  names.reserve(fields.size());
   for (const Field& field : fields) names.push_back(field.Name);
   return names;
 }

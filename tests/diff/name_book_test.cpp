@@ -8,8 +8,6 @@
 namespace orrerix {
 namespace {
 
-constexpr FieldType kText = FieldType::Text;
-
 NameBook BookOf(const std::vector<StoredTable>& universe) {
   NameBook book;
   book.Learn(universe);

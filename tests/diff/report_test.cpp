@@ -12,9 +12,6 @@ using ::testing::HasSubstr;
 using ::testing::Not;
 using ::testing::SizeIs;
 
-constexpr FieldType kText = FieldType::Text;
-constexpr FieldType kLong = FieldType::Long;
-
 const TableColumns kGoods = {{"nickname", kText}, {"realname", kText}, {"price", kLong}};
 const TableColumns kMarket = {{"Base", kText}, {"GoodNick", kText}, {"val5", FieldType::Double}};
 const TableColumns kPrices = {{"SysNick", kText},

@@ -12,9 +12,6 @@ using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 using ::testing::SizeIs;
 
-constexpr FieldType kText = FieldType::Text;
-constexpr FieldType kLong = FieldType::Long;
-
 const TableColumns kPriced = {{"nickname", kText}, {"price", kLong}};
 
 // The differences of one table.

@@ -23,45 +23,45 @@ struct Lack {
   }
 };
 
-thread_local Lack lack;
+thread_local Lack currentLack;
 
 }  // namespace
 
 FailingAllocation::FailingAllocation(int allocationsBefore) {
-  lack = {};
-  lack.Left = allocationsBefore;
-  lack.Counts = true;
+  currentLack = {};
+  currentLack.Left = allocationsBefore;
+  currentLack.Counts = true;
 }
 
 FailingAllocation::~FailingAllocation() {
-  lack = {};
+  currentLack = {};
 }
 
 bool FailingAllocation::Happened() const {
-  return lack.Happened;
+  return currentLack.Happened;
 }
 
 FailingSizes::FailingSizes(std::size_t from, std::size_t to) {
-  lack = {};
-  lack.From = from;
-  lack.To = to;
+  currentLack = {};
+  currentLack.From = from;
+  currentLack.To = to;
 }
 
 FailingSizes::~FailingSizes() {
-  lack = {};
+  currentLack = {};
 }
 
 }  // namespace orrerix
 
 void* operator new(std::size_t size) {
-  if (orrerix::lack.Refuses(size)) throw std::bad_alloc();
+  if (orrerix::currentLack.Refuses(size)) throw std::bad_alloc();
   void* memory = std::malloc(size > 0 ? size : 1);
   if (memory == nullptr) throw std::bad_alloc();
   return memory;
 }
 
 void* operator new(std::size_t size, const std::nothrow_t&) noexcept {
-  return orrerix::lack.Refuses(size) ? nullptr : std::malloc(size > 0 ? size : 1);
+  return orrerix::currentLack.Refuses(size) ? nullptr : std::malloc(size > 0 ? size : 1);
 }
 
 void operator delete(void* memory) noexcept {

@@ -11,6 +11,9 @@
 
 namespace orrerix {
 
+inline constexpr FieldType kText = FieldType::Text;
+inline constexpr FieldType kLong = FieldType::Long;
+
 using TableColumns = std::initializer_list<std::pair<std::string_view, FieldType>>;
 using TableCells = std::initializer_list<std::initializer_list<Value>>;
 

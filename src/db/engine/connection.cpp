@@ -69,8 +69,7 @@ std::shared_ptr<const TableDef> Connection::Find(std::string_view table) {
               "COLLATE NOCASE"));
   Bind(master.get(), 1, table);
   if (sqlite3_step(master.get()) != SQLITE_ROW) return nullptr;
-  const auto definition =
-      ReadDefinition(Column(master.get(), 0).Text(), Column(master.get(), 1).Text());
+  auto definition = ReadDefinition(Column(master.get(), 0).Text(), Column(master.get(), 1).Text());
   tables_[key] = definition;
   return definition;
 }

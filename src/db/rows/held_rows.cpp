@@ -10,7 +10,7 @@
 namespace orrerix {
 namespace {
 
-// Rows are not moved when more of them come.
+// Rows keep their addresses when more are added.
 constexpr std::size_t kRowsOfChunk = 64;
 
 }  // namespace

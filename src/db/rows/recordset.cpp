@@ -272,7 +272,7 @@ void Recordset::Insert() {
   if (sqlite3_step(insert.get()) != SQLITE_DONE) throw connection_->LastFailure();
 }
 
-// Only what was assigned is written, so that an edit never undoes another one's.
+// Only assigned fields are written, so that one edit never undoes another.
 void Recordset::Rewrite() {
   std::string assignments;
   for (std::size_t i = 0; i < edited_.size(); ++i) {

@@ -6,7 +6,7 @@
 namespace orrerix {
 namespace {
 
-// More do not make it faster, and a long statement takes its time to be prepared.
+// More rows a statement are no faster, and long statements take longer to prepare.
 constexpr std::size_t kMostRows = 16;
 constexpr std::size_t kMostParameters = 256;
 constexpr std::size_t kFewestStatements = 6;

@@ -11,7 +11,7 @@
 namespace orrerix::demo {
 namespace {
 
-constexpr std::uint32_t Rate = 22050;
+constexpr std::uint32_t kRate = 22050;
 
 // One tone of a chime. Pitch glides from `From` to `To` in hertz; times are in seconds.
 struct Tone {
@@ -30,27 +30,27 @@ double Envelope(double time, double length) {
 }
 
 void AddTone(std::vector<double>& mix, const Tone& tone) {
-  const auto first = static_cast<std::size_t>(tone.Start * Rate);
-  const auto count = static_cast<std::size_t>(tone.Length * Rate);
+  const auto first = static_cast<std::size_t>(tone.Start * kRate);
+  const auto count = static_cast<std::size_t>(tone.Length * kRate);
   double turn = 0;
   for (std::size_t i = 0; i < count && first + i < mix.size(); ++i) {
-    const double time = static_cast<double>(i) / Rate;
+    const double time = static_cast<double>(i) / kRate;
     const double share = time / tone.Length;
-    turn += (tone.From + (tone.To - tone.From) * share) / Rate;
+    turn += (tone.From + (tone.To - tone.From) * share) / kRate;
     const double wave = SineOfTurn(turn) + 0.25 * SineOfTurn(2 * turn) + 0.1 * SineOfTurn(3 * turn);
     mix[first + i] += wave * Envelope(time, tone.Length) * tone.Volume;
   }
 }
 
 std::string Chime(double length, const std::vector<Tone>& tones) {
-  std::vector<double> mix(static_cast<std::size_t>(length * Rate));
+  std::vector<double> mix(static_cast<std::size_t>(length * kRate));
   for (const Tone& tone : tones) AddTone(mix, tone);
   std::vector<std::int16_t> samples;
   samples.reserve(mix.size());
   for (const double value : mix) {
     samples.push_back(static_cast<std::int16_t>(std::clamp(value, -1.0, 1.0) * 32000));
   }
-  return WavFile(samples, Rate);
+  return WavFile(samples, kRate);
 }
 
 }  // namespace

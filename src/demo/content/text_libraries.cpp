@@ -7,10 +7,10 @@
 namespace orrerix::demo {
 namespace {
 
-constexpr int LastNumber = 65535;
+constexpr int kLastNumber = 65535;
 
 int NextNumber(int& last) {
-  if (last == LastNumber) throw std::length_error("a resource library has no number left");
+  if (last == kLastNumber) throw std::length_error("a resource library has no number left");
   return ++last;
 }
 

@@ -9,8 +9,8 @@
 namespace orrerix::demo {
 namespace {
 
-constexpr std::string_view Marker = "orrerix-demo.txt";
-constexpr std::string_view MarkerText =
+constexpr std::string_view kMarker = "orrerix-demo.txt";
+constexpr std::string_view kMarkerText =
     "This folder holds a made-up game, written by orrerix-demo.\r\n"
     "Everything in it is deleted when a game is written here again.\r\n";
 
@@ -20,11 +20,11 @@ void CheckIsOurs(const std::filesystem::path& folder) {
     throw FolderRefused(fmt::format("\"{}\" is not a folder.", folder.string()));
   }
   if (std::filesystem::is_empty(folder)) return;
-  if (std::filesystem::is_regular_file(folder / Marker)) return;
+  if (std::filesystem::is_regular_file(folder / kMarker)) return;
   throw FolderRefused(
       fmt::format("The folder \"{}\" is not empty and was not written by this program (there is no "
                   "{} in it). Name a new or an empty folder.",
-                  folder.string(), Marker));
+                  folder.string(), kMarker));
 }
 
 }  // namespace
@@ -34,9 +34,9 @@ GameFolder::GameFolder(std::filesystem::path folder) : folder_(std::move(folder)
   std::filesystem::create_directories(folder_);
   for (const auto& entry : std::filesystem::directory_iterator(folder_)) {
     // The marker stays, so that a run that breaks off leaves a folder that can be written again.
-    if (entry.path().filename() != Marker) std::filesystem::remove_all(entry.path());
+    if (entry.path().filename() != kMarker) std::filesystem::remove_all(entry.path());
   }
-  Write(Marker, MarkerText);
+  Write(kMarker, kMarkerText);
 }
 
 void GameFolder::Write(std::string_view path, std::string_view bytes) const {

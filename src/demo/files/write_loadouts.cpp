@@ -35,8 +35,8 @@ void AddWreckLoadout(IniText& ini, const Wreck& wreck) {
   }
   const int first = random.Between(0, static_cast<int>(Commodities().size()) - 4);
   const int kinds = random.Between(1, 3);
-  for (int i = 0; i < kinds; ++i) {
-    const Commodity& commodity = Commodities()[static_cast<std::size_t>(first + i)];
+  for (int kind = first; kind < first + kinds; ++kind) {
+    const Commodity& commodity = Commodities()[static_cast<std::size_t>(kind)];
     ini.Line("cargo", fmt::format("{}, {}", commodity.Nickname, random.Between(2, 40)));
   }
   if (random.Chance(60)) {

@@ -86,7 +86,8 @@ void AddRooms(IniText& ini, const PlannedBase& base) {
     ini.Section("MRoom").Line("nickname", "ShipDealer").Line("character_density", 2);
 }
 
-void AddBase(Game& game, IniText& ini, const PlannedSystem& system, const PlannedBase& base) {
+void AddMissionBase(Game& game, IniText& ini, const PlannedSystem& system,
+                    const PlannedBase& base) {
   Random random(SeedOf("people of " + base.Nickname));
   const std::vector<Person> people = PeopleOf(system, base, random);
   ini.Section("MBase")
@@ -105,7 +106,7 @@ void AddBase(Game& game, IniText& ini, const PlannedSystem& system, const Planne
 void WriteMissionBases(Game& game) {
   IniText ini;
   for (const PlannedSystem& system : game.Plan.Systems) {
-    for (const PlannedBase& base : system.Bases) AddBase(game, ini, system, base);
+    for (const PlannedBase& base : system.Bases) AddMissionBase(game, ini, system, base);
   }
   game.Folder.Write("DATA/MISSIONS/mbases.ini", ini.Bytes());
 }

@@ -13,8 +13,8 @@
 namespace orrerix::demo {
 namespace {
 
-constexpr std::size_t PackedEvery = 13;
-constexpr std::size_t FirstPacked = 4;
+constexpr std::size_t kPackedEvery = 13;
+constexpr std::size_t kFirstPacked = 4;
 
 std::string Upper(std::string text) {
   std::transform(text.begin(), text.end(), text.begin(),
@@ -36,7 +36,7 @@ void WriteSystems(Game& game) {
   for (std::size_t i = 0; i < game.Plan.Systems.size(); ++i) {
     const PlannedSystem& system = game.Plan.Systems[i];
     std::string bytes = SystemFile(game, static_cast<int>(i));
-    if (i % PackedEvery == FirstPacked) bytes = PackIni(bytes);
+    if (i % kPackedEvery == kFirstPacked) bytes = PackIni(bytes);
     const std::string path =
         fmt::format("DATA/UNIVERSE/SYSTEMS/{}/{}.ini", Upper(system.Nickname), system.Nickname);
     game.Folder.Write(path, bytes);

@@ -8,7 +8,8 @@
 namespace orrerix::demo {
 namespace {
 
-void AddBase(Game& game, IniText& ini, const PlannedSystem& system, const PlannedBase& base) {
+void AddUniverseBase(Game& game, IniText& ini, const PlannedSystem& system,
+                     const PlannedBase& base) {
   ini.Section("Base")
       .Line("nickname", base.BaseNickname())
       .Line("system", system.Nickname)
@@ -35,7 +36,7 @@ void WriteUniverse(Game& game) {
   IniText ini;
   ini.Section("Time").Line("seconds_per_day", 1800);
   for (const PlannedSystem& system : game.Plan.Systems) {
-    for (const PlannedBase& base : system.Bases) AddBase(game, ini, system, base);
+    for (const PlannedBase& base : system.Bases) AddUniverseBase(game, ini, system, base);
   }
   for (const PlannedSystem& system : game.Plan.Systems) AddSystem(game, ini, system);
   game.Folder.Write("DATA/UNIVERSE/universe.ini", ini.Bytes());

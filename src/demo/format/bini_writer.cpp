@@ -12,7 +12,7 @@
 namespace orrerix {
 namespace {
 
-constexpr std::uint32_t FileHeaderSize = 12;
+constexpr std::uint32_t kFileHeaderSize = 12;
 
 std::string_view Trimmed(std::string_view text) {
   const std::size_t first = text.find_first_not_of(" \t\r");
@@ -145,7 +145,7 @@ std::string PackSections(const std::vector<PackedSection>& sections) {
   demo::ByteWriter out;
   out.Text("BINI");
   out.U32(1);
-  out.U32(FileHeaderSize + static_cast<std::uint32_t>(body.Size()));
+  out.U32(kFileHeaderSize + static_cast<std::uint32_t>(body.Size()));
   out.Text(body.Bytes());
   out.Text(table.Bytes());
   return out.Bytes();

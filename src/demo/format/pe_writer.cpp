@@ -9,13 +9,13 @@
 namespace orrerix {
 namespace {
 
-constexpr std::uint32_t PeOffset = 0x80;
-constexpr std::uint32_t FileAlignment = 0x200;
-constexpr std::uint32_t SectionAlignment = 0x1000;
-constexpr std::uint32_t HeadersSize = 0x200;
-constexpr std::uint32_t SectionAddress = 0x1000;
-constexpr std::uint32_t DirectoryCount = 16;
-constexpr std::uint32_t ResourceDirectory = 2;
+constexpr std::uint32_t kPeOffset = 0x80;
+constexpr std::uint32_t kFileAlignment = 0x200;
+constexpr std::uint32_t kSectionAlignment = 0x1000;
+constexpr std::uint32_t kHeadersSize = 0x200;
+constexpr std::uint32_t kSectionAddress = 0x1000;
+constexpr std::uint32_t kDirectoryCount = 16;
+constexpr std::uint32_t kResourceDirectory = 2;
 
 std::uint32_t RoundUp(std::uint32_t value, std::uint32_t boundary) {
   return (value + boundary - 1) / boundary * boundary;
@@ -34,8 +34,8 @@ void WriteDosHeader(demo::ByteWriter& out) {
   out.PadTo(0x18);
   out.U16(0x40);  // relocation table
   out.PadTo(0x3C);
-  out.U32(PeOffset);
-  out.PadTo(PeOffset);
+  out.U32(kPeOffset);
+  out.PadTo(kPeOffset);
 }
 
 void WriteCoffHeader(demo::ByteWriter& out, bool wide) {
@@ -64,19 +64,19 @@ void WriteStandardFields(demo::ByteWriter& out, bool wide, std::uint32_t rawSize
   out.U32(0);
   out.U32(0);  // entry point
   out.U32(0);
-  if (!wide) out.U32(SectionAddress);
+  if (!wide) out.U32(kSectionAddress);
   WritePointer(out, wide, 0x10000000);  // image base
 }
 
 void WriteWindowsFields(demo::ByteWriter& out, bool wide, std::uint32_t sectionSize) {
-  out.U32(SectionAlignment);
-  out.U32(FileAlignment);
+  out.U32(kSectionAlignment);
+  out.U32(kFileAlignment);
   out.U32(4);  // system version 4.0
   out.U32(0);
   out.U32(4);  // subsystem version 4.0
   out.U32(0);
-  out.U32(SectionAddress + RoundUp(sectionSize, SectionAlignment));
-  out.U32(HeadersSize);
+  out.U32(kSectionAddress + RoundUp(sectionSize, kSectionAlignment));
+  out.U32(kHeadersSize);
   out.U32(0);  // checksum
   out.U16(2);  // windows subsystem
   out.U16(0);
@@ -85,22 +85,22 @@ void WriteWindowsFields(demo::ByteWriter& out, bool wide, std::uint32_t sectionS
   WritePointer(out, wide, 0x100000);
   WritePointer(out, wide, 0x1000);
   out.U32(0);
-  out.U32(DirectoryCount);
+  out.U32(kDirectoryCount);
 }
 
 void WriteDirectories(demo::ByteWriter& out, std::uint32_t sectionSize) {
-  for (std::uint32_t i = 0; i < DirectoryCount; ++i) {
-    out.U32(i == ResourceDirectory ? SectionAddress : 0);
-    out.U32(i == ResourceDirectory ? sectionSize : 0);
+  for (std::uint32_t i = 0; i < kDirectoryCount; ++i) {
+    out.U32(i == kResourceDirectory ? kSectionAddress : 0);
+    out.U32(i == kResourceDirectory ? sectionSize : 0);
   }
 }
 
 void WriteSectionHeader(demo::ByteWriter& out, std::uint32_t sectionSize, std::uint32_t rawSize) {
   out.Text(std::string_view(".rsrc\0\0\0", 8));
   out.U32(sectionSize);
-  out.U32(SectionAddress);
+  out.U32(kSectionAddress);
   out.U32(rawSize);
-  out.U32(HeadersSize);
+  out.U32(kHeadersSize);
   out.U32(0);
   out.U32(0);
   out.U32(0);
@@ -147,9 +147,9 @@ ResourceMap ResourceLibraryWriter::AllResources() const {
 
 std::string ResourceLibraryWriter::Image(PeImage image) const {
   const bool wide = image == PeImage::Bits64;
-  const std::string section = ResourceSection(AllResources(), SectionAddress);
+  const std::string section = ResourceSection(AllResources(), kSectionAddress);
   const auto size = static_cast<std::uint32_t>(section.size());
-  const std::uint32_t rawSize = RoundUp(size, FileAlignment);
+  const std::uint32_t rawSize = RoundUp(size, kFileAlignment);
   demo::ByteWriter out;
   WriteDosHeader(out);
   WriteCoffHeader(out, wide);
@@ -157,9 +157,9 @@ std::string ResourceLibraryWriter::Image(PeImage image) const {
   WriteWindowsFields(out, wide, size);
   WriteDirectories(out, size);
   WriteSectionHeader(out, size, rawSize);
-  out.PadTo(HeadersSize);
+  out.PadTo(kHeadersSize);
   out.Text(section);
-  out.Align(FileAlignment);
+  out.Align(kFileAlignment);
   return out.Bytes();
 }
 

@@ -8,11 +8,11 @@
 namespace orrerix {
 namespace {
 
-constexpr std::uint32_t HeaderSize = 16;
-constexpr std::uint32_t EntrySize = 8;
-constexpr std::uint32_t LeafSize = 16;
-constexpr std::uint32_t DataBoundary = 8;
-constexpr std::uint32_t SubdirectoryFlag = 0x80000000;
+constexpr std::uint32_t kHeaderSize = 16;
+constexpr std::uint32_t kEntrySize = 8;
+constexpr std::uint32_t kLeafSize = 16;
+constexpr std::uint32_t kDataBoundary = 8;
+constexpr std::uint32_t kSubdirectoryFlag = 0x80000000;
 
 using Languages = std::map<std::uint32_t, const std::string*>;
 using Numbers = std::map<std::uint32_t, Languages>;
@@ -28,11 +28,11 @@ struct Levels {
 
 template <typename Directory>
 std::uint32_t DirectorySize(const Directory& directory) {
-  return HeaderSize + EntrySize * static_cast<std::uint32_t>(directory.size());
+  return kHeaderSize + kEntrySize * static_cast<std::uint32_t>(directory.size());
 }
 
 std::uint32_t Aligned(std::uint32_t offset) {
-  return (offset + DataBoundary - 1) / DataBoundary * DataBoundary;
+  return (offset + kDataBoundary - 1) / kDataBoundary * kDataBoundary;
 }
 
 Types TreeOf(const ResourceMap& resources) {
@@ -50,7 +50,7 @@ Levels LevelsOf(const Types& tree, std::size_t leaves) {
   for (const auto& [type, numbers] : tree) {
     for (const auto& [number, languages] : numbers) levels.Leaves += DirectorySize(languages);
   }
-  levels.Data = Aligned(levels.Leaves + LeafSize * static_cast<std::uint32_t>(leaves));
+  levels.Data = Aligned(levels.Leaves + kLeafSize * static_cast<std::uint32_t>(leaves));
   return levels;
 }
 
@@ -66,7 +66,7 @@ void WriteRoot(demo::ByteWriter& out, const Types& tree, std::uint32_t offset) {
   WriteHeader(out, tree.size());
   for (const auto& [type, numbers] : tree) {
     out.U32(type);
-    out.U32(offset | SubdirectoryFlag);
+    out.U32(offset | kSubdirectoryFlag);
     offset += DirectorySize(numbers);
   }
 }
@@ -76,7 +76,7 @@ void WriteNumbers(demo::ByteWriter& out, const Types& tree, std::uint32_t offset
     WriteHeader(out, numbers.size());
     for (const auto& [number, languages] : numbers) {
       out.U32(number);
-      out.U32(offset | SubdirectoryFlag);
+      out.U32(offset | kSubdirectoryFlag);
       offset += DirectorySize(languages);
     }
   }
@@ -89,7 +89,7 @@ void WriteLanguages(demo::ByteWriter& out, const Types& tree, std::uint32_t offs
       for (const auto& [language, data] : languages) {
         out.U32(language);
         out.U32(offset);
-        offset += LeafSize;
+        offset += kLeafSize;
       }
     }
   }
@@ -117,10 +117,10 @@ std::string ResourceSection(const ResourceMap& resources, std::uint32_t address)
   WriteLanguages(out, tree, levels.Leaves);
   WriteLeaves(out, resources, address + levels.Data);
   for (const auto& [key, data] : resources) {
-    out.Align(DataBoundary);
+    out.Align(kDataBoundary);
     out.Text(data);
   }
-  out.Align(DataBoundary);
+  out.Align(kDataBoundary);
   return out.Bytes();
 }
 

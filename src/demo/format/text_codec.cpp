@@ -8,10 +8,10 @@
 namespace orrerix::demo {
 namespace {
 
-constexpr char32_t Replacement = 0xFFFD;
+constexpr char32_t kReplacement = 0xFFFD;
 
 // What Windows-1252 holds at 0x80 to 0x9F; 0 at the five undefined bytes.
-constexpr std::array<char32_t, 32> UpperControls = {
+constexpr std::array<char32_t, 32> kUpperControls = {
     0x20AC, 0,      0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
     0x2039, 0x0152, 0,      0x017D, 0,      0,      0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
     0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0,      0x017E, 0x0178};
@@ -36,23 +36,23 @@ char32_t DecodeFirst(std::string_view text, std::size_t& length) {
   const std::size_t wanted = SequenceLength(lead);
   length = 1;
   if (wanted == 1) return lead;
-  if (wanted == 0 || wanted > text.size()) return Replacement;
+  if (wanted == 0 || wanted > text.size()) return kReplacement;
   char32_t value = lead & (0x7Fu >> wanted);
   for (std::size_t i = 1; i < wanted; ++i) {
     const auto next = static_cast<unsigned char>(text[i]);
-    if ((next & 0xC0) != 0x80) return Replacement;
+    if ((next & 0xC0) != 0x80) return kReplacement;
     value = (value << 6) | (next & 0x3Fu);
   }
-  if (!IsScalar(value, wanted)) return Replacement;
+  if (!IsScalar(value, wanted)) return kReplacement;
   length = wanted;
   return value;
 }
 
 char Windows1252Byte(char32_t point) {
   if (point < 0x80 || (point >= 0xA0 && point <= 0xFF)) return static_cast<char>(point);
-  const auto* found = std::find(UpperControls.begin(), UpperControls.end(), point);
-  if (found == UpperControls.end()) return '?';
-  return static_cast<char>(0x80 + (found - UpperControls.begin()));
+  const auto* found = std::find(kUpperControls.begin(), kUpperControls.end(), point);
+  if (found == kUpperControls.end()) return '?';
+  return static_cast<char>(0x80 + (found - kUpperControls.begin()));
 }
 
 }  // namespace

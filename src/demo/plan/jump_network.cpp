@@ -14,7 +14,7 @@
 namespace orrerix::demo {
 namespace {
 
-constexpr double ShortcutReach = 3.7;
+constexpr double kShortcutReach = 3.7;
 
 class Network {
  public:
@@ -126,7 +126,7 @@ void AddShortcuts(Network& network, int count) {
   for (int system = 0; system < count; ++system) {
     if (!random.Chance(30)) continue;
     for (int other = 0; other < system; ++other) {
-      if (network.Distance(system, other) > ShortcutReach || network.AreLinked(system, other))
+      if (network.Distance(system, other) > kShortcutReach || network.AreLinked(system, other))
         continue;
       network.Connect(system, other, true);
       break;

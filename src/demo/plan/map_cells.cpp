@@ -11,13 +11,13 @@
 namespace orrerix::demo {
 namespace {
 
-constexpr int FirstColumn = -1;
-constexpr int LastColumn = 16;
-constexpr int FirstRow = -2;
-constexpr int LastRow = 16;
-constexpr Cell Nameless = {FirstColumn, FirstRow};
-constexpr Cell Middle = {8, 8};
-constexpr double NationReach = 2.3;  // a cell farther from every nation belongs to the border
+constexpr int kFirstColumn = -1;
+constexpr int kLastColumn = 16;
+constexpr int kFirstRow = -2;
+constexpr int kLastRow = 16;
+constexpr Cell kNameless = {kFirstColumn, kFirstRow};
+constexpr Cell kMiddle = {8, 8};
+constexpr double kNationReach = 2.3;  // a cell farther from every nation belongs to the border
 
 // Cells with a picture: one region a nation, the border worlds around and between them.
 const std::vector<std::vector<Cell>>& Regions() {
@@ -64,7 +64,7 @@ std::vector<PlacedCell> PicturedCells() {
 
 int NationNear(Cell cell) {
   int nearest = BorderWorlds;
-  double best = NationReach;
+  double best = kNationReach;
   for (int nation = 0; nation < NationCount; ++nation) {
     for (const Cell other : Regions()[static_cast<std::size_t>(nation)]) {
       if (CellDistance(cell, other) < best) {
@@ -84,14 +84,14 @@ bool IsPictured(Cell cell) {
 
 std::vector<PlacedCell> FreeCells() {
   std::vector<PlacedCell> cells;
-  for (int y = FirstRow; y <= LastRow; ++y) {
-    for (int x = FirstColumn; x <= LastColumn; ++x) {
+  for (int y = kFirstRow; y <= kLastRow; ++y) {
+    for (int x = kFirstColumn; x <= kLastColumn; ++x) {
       const Cell cell = {x, y};
-      if (cell != Nameless && !IsPictured(cell)) cells.push_back({cell, NationNear(cell)});
+      if (cell != kNameless && !IsPictured(cell)) cells.push_back({cell, NationNear(cell)});
     }
   }
   std::stable_sort(cells.begin(), cells.end(), [](const PlacedCell& a, const PlacedCell& b) {
-    return CellDistance(a.Place, Middle) < CellDistance(b.Place, Middle);
+    return CellDistance(a.Place, kMiddle) < CellDistance(b.Place, kMiddle);
   });
   return cells;
 }

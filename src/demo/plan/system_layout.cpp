@@ -14,8 +14,8 @@
 namespace orrerix::demo {
 namespace {
 
-constexpr double RoomBetweenPlaces = 9000;
-constexpr double SunClearance = 14000;
+constexpr double kRoomBetweenPlaces = 9000;
+constexpr double kSunClearance = 14000;
 
 // Lays out one system; holds what all steps of it share.
 class Layout {
@@ -48,7 +48,7 @@ class Layout {
     for (int attempt = 0; attempt < patience; ++attempt) {
       point = OnCircle(random_.Share(), random_.Between(inner, outer) * system_.Rim());
       const bool crowded = std::any_of(taken_.begin(), taken_.end(), [&](PlanePoint other) {
-        return Distance(point, other) < RoomBetweenPlaces;
+        return Distance(point, other) < kRoomBetweenPlaces;
       });
       if (!crowded) break;
     }
@@ -153,21 +153,21 @@ class Layout {
   std::vector<PlanePoint> taken_;
 };
 
-constexpr double LaneStart = 4000;  // distance from what the lane leads to
-constexpr double ShortestLane = 15000;
-constexpr double RingSpacing = 8000;
+constexpr double kLaneStart = 4000;  // distance from what the lane leads to
+constexpr double kShortestLane = 15000;
+constexpr double kRingSpacing = 8000;
 
 bool AddLane(PlannedSystem& system, PlanePoint from, PlanePoint to, const std::string& fromName,
              const std::string& toName) {
-  const double length = Distance(from, to) - 2 * LaneStart;
-  if (length < ShortestLane || DistanceFromMiddle(from, to) < SunClearance) return false;
-  const double share = LaneStart / Distance(from, to);
+  const double length = Distance(from, to) - 2 * kLaneStart;
+  if (length < kShortestLane || DistanceFromMiddle(from, to) < kSunClearance) return false;
+  const double share = kLaneStart / Distance(from, to);
   TradeLane lane;
   lane.FromName = fromName;
   lane.ToName = toName;
   lane.From = Along(from, to, share);
   lane.To = Along(from, to, 1 - share);
-  lane.Rings = std::clamp(static_cast<int>(length / RingSpacing) + 1, 4, 12);
+  lane.Rings = std::clamp(static_cast<int>(length / kRingSpacing) + 1, 4, 12);
   if (!system.Lanes.empty()) {
     lane.FirstRing = system.Lanes.back().FirstRing + system.Lanes.back().Rings;
   }

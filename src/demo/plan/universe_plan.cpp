@@ -15,15 +15,15 @@
 namespace orrerix::demo {
 namespace {
 
-constexpr int NumbersOfPrefix = 99;
-constexpr double RoomBetweenJumps = 0.055;  // share of a turn
+constexpr int kNumbersOfPrefix = 99;
+constexpr double kRoomBetweenJumps = 0.055;  // share of a turn
 
 // Two letters and two digits: vo01 to vo99, then vp01 and so on, for maps compare only the
 // beginnings of nicknames.
 std::string SystemNickname(const Nation& nation, int number) {
-  const int round = (number - 1) / NumbersOfPrefix;
+  const int round = (number - 1) / kNumbersOfPrefix;
   const auto second = static_cast<char>('a' + (nation.Prefix[1] - 'a' + round) % 26);
-  return fmt::format("{}{}{:02}", nation.Prefix[0], second, (number - 1) % NumbersOfPrefix + 1);
+  return fmt::format("{}{}{:02}", nation.Prefix[0], second, (number - 1) % kNumbersOfPrefix + 1);
 }
 
 std::vector<PlannedSystem> NamedSystems(const std::vector<PlacedCell>& cells, Names& names) {
@@ -47,7 +47,7 @@ std::vector<PlannedSystem> NamedSystems(const std::vector<PlacedCell>& cells, Na
 bool IsCrowded(const PlannedSystem& system, double turn) {
   for (const JumpPoint& jump : system.Jumps) {
     const double apart = std::abs(TurnOf(jump.Place) - turn);
-    if (std::min(apart, 1 - apart) < RoomBetweenJumps) return true;
+    if (std::min(apart, 1 - apart) < kRoomBetweenJumps) return true;
   }
   return false;
 }
@@ -60,7 +60,7 @@ PlanePoint JumpPlace(const PlannedSystem& system, const PlannedSystem& target, b
                                 static_cast<double>(target.Place.Y - system.Place.Y)};
   double turn = system.Place == target.Place ? random.Share() : TurnOf(direction);
   for (int attempt = 0; attempt < 17 && IsCrowded(system, turn); ++attempt) {
-    turn += RoomBetweenJumps * 1.05;
+    turn += kRoomBetweenJumps * 1.05;
     turn -= std::floor(turn);
   }
   const double share = hole ? random.Between(0.8, 0.9) : random.Between(0.88, 0.97);

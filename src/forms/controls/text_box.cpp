@@ -10,15 +10,15 @@
 namespace orrerix {
 namespace {
 
-constexpr int kFont = 9;
-constexpr QRgb kGround = 0xFF000040;
+constexpr int kTextBoxFont = 9;
+constexpr QRgb kTextBoxBackground = 0xFF000040;
 constexpr QRgb kLetters = 0xFFCCCC00;
 
 }  // namespace
 
 TextBox::TextBox(ControlId id, QWidget* parent) : QPlainTextEdit(parent) {
   setObjectName(NameOf(id));
-  setFont(FixedFont(kFont));
+  setFont(FixedFont(kTextBoxFont));
   setReadOnly(true);
   setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   setTabChangesFocus(true);
@@ -30,7 +30,7 @@ TextBox::TextBox(ControlId id, QWidget* parent) : QPlainTextEdit(parent) {
   document()->setDocumentMargin(0);
   setTabStopDistance(8 * QFontMetricsF(font()).horizontalAdvance(' '));
   QPalette colors = palette();
-  colors.setColor(QPalette::Base, QColor(kGround));
+  colors.setColor(QPalette::Base, QColor(kTextBoxBackground));
   colors.setColor(QPalette::Text, QColor(kLetters));
   setPalette(colors);
 }

@@ -27,8 +27,8 @@ void InfoBox::Show(const ControlList& box) {
   setPalette(colors);
   const QRect place = PixelRect(shape.Place);
   setGeometry(place);
-  // The described text is a little narrower than its longest line; the box has room for all of it,
-  // and for a scroll bar beside it.
+  // The calculated width is a little less than the longest line takes; the box has room for all of
+  // it, and for a scroll bar beside it.
   QRect textPlace = PixelRect(text.Place).translated(-place.topLeft());
   textPlace.setRight(place.width() - 1 - frameWidth());
   text_->setGeometry(textPlace);

@@ -81,7 +81,7 @@ void MapScreen::Redraw(Universe& universe, int formWidth, int formHeight) {
   const PanelContent panel = panel_;
   MapDrawing drawing =
       DrawMap(universe, state_, {formWidth, formHeight, options_, measure_, panel, starMap_});
-  // No pixel that the drawing does not reach to its far side.
+  // Leaves out pixels that the drawing covers only in part.
   const QRectF frame = Pixels(drawing.Frame);
   frame_->setGeometry(QRect(frame.topLeft().toPoint(), QSize(static_cast<int>(frame.width()),
                                                              static_cast<int>(frame.height()))));

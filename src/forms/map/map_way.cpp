@@ -9,7 +9,7 @@
 namespace orrerix {
 namespace {
 
-constexpr double kPen = 2.5;
+constexpr double kMapWayPen = 2.5;
 constexpr double kHalo = 5;
 constexpr double kArrow = 10;       // length, pixels
 constexpr double kArrowHalf = 4.5;  // half its width
@@ -109,7 +109,7 @@ void MapWay::DrawLeg(QPainter& painter, const MapWayLeg& leg) const {
   const WayColors colors = ColorsFor(drawing_.PrintMode);
   const QColor color = IsJump(leg.Kind) ? colors.Jump : colors.Line;
   const QLineF line(PointOf(leg.From), PointOf(leg.To));
-  painter.setPen(QPen(color, kPen, StyleOf(leg.Kind), Qt::RoundCap));
+  painter.setPen(QPen(color, kMapWayPen, StyleOf(leg.Kind), Qt::RoundCap));
   painter.drawLine(line);
   painter.setPen(Qt::NoPen);
   painter.setBrush(color);
@@ -118,7 +118,7 @@ void MapWay::DrawLeg(QPainter& painter, const MapWayLeg& leg) const {
 
 void MapWay::DrawStop(QPainter& painter, const MapPlace& place) const {
   const WayColors colors = ColorsFor(drawing_.PrintMode);
-  painter.setPen(QPen(colors.Line, kPen));
+  painter.setPen(QPen(colors.Line, kMapWayPen));
   painter.setBrush(colors.Halo);
   painter.drawEllipse(PointOf(place), kStop, kStop);
 }

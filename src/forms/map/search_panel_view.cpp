@@ -16,12 +16,12 @@
 namespace orrerix {
 namespace {
 
-constexpr int kFont = 9;
+constexpr int kSearchPanelViewFont = 9;
 constexpr int kCaptionFont = 7;
-constexpr int kGap = 60;  // between text box and close button, twips
+constexpr int kSearchPanelViewGap = 60;  // between text box and close button, twips
 
 // A light edge parts it from the panel that it covers.
-constexpr const char* kStyle =
+constexpr const char* kSearchPanelViewStyle =
     "#%1 { background: #060a26; border: 1px solid #5ab4dc; }"
     "QLineEdit, QListWidget { background: #0a1034; color: #e0e8ff; border: 1px solid #3a54a0; }"
     "QLabel { color: #00cccc; }"
@@ -57,8 +57,8 @@ SearchPanelView::SearchPanelView(SearchEvents& events, QWidget* map)
   setObjectName(NameOf(ControlId::SearchFrame));
   setAutoFillBackground(true);
   setFrameShape(QFrame::StyledPanel);
-  setStyleSheet(QString(kStyle).arg(NameOf(ControlId::SearchFrame)));
-  setFont(FormFont(kFont));
+  setStyleSheet(QString(kSearchPanelViewStyle).arg(NameOf(ControlId::SearchFrame)));
+  setFont(FormFont(kSearchPanelViewFont));
   caption_ = new PlainLabel(this);
   caption_->setObjectName(NameOf(ControlId::SearchCaption));
   caption_->setFont(FormFont(kCaptionFont));
@@ -118,7 +118,7 @@ void SearchPanelView::Show(const SearchPanel& panel, TextSource& texts) {
   caption_->setGeometry(textRect.left(), 0, width() - 2 * textRect.left(), textRect.top());
   text_->setGeometry(textRect);
   PlaceGoods(textRect.top());
-  const int gap = static_cast<int>(Pixels(kGap));
+  const int gap = static_cast<int>(Pixels(kSearchPanelViewGap));
   close_->setGeometry(textRect.right() + gap, textRect.top(), width() - textRect.right() - 2 * gap,
                       textRect.height());
   subSearch_->setGeometry(PixelRect(panel.SubSearchBox()));

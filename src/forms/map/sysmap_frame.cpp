@@ -87,7 +87,10 @@ void SysmapFrame::wheelEvent(QWheelEvent* event) {
 
 void SysmapFrame::keyPressEvent(QKeyEvent* event) {
   const auto key = MapKeyOf(*event);
-  if (!key || keys_ == nullptr) return QWidget::keyPressEvent(event);
+  if (!key || keys_ == nullptr) {
+    event->ignore();  // the view would scroll by it
+    return;
+  }
   keys_->KeyDown(*key);
 }
 

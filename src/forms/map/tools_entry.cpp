@@ -11,9 +11,9 @@
 namespace orrerix {
 namespace {
 
-constexpr int kFont = 9;
-constexpr int kGap = 16;        // pixels
-constexpr int kLabelInset = 4;  // below the letters of a label, pixels
+constexpr int kToolsEntryFont = 9;
+constexpr int kToolsEntryGap = 16;  // pixels
+constexpr int kLabelInset = 4;      // below the letters of a label, pixels
 constexpr const char* kEntryStyle =
     "QPushButton { border: none; background: transparent; color: #80d0ff; padding: 0; }"
     "QPushButton:hover, QPushButton:focus { color: #ffffff; text-decoration: underline; }";
@@ -28,7 +28,7 @@ QRectF LanguagePlace(const ControlList& controls, const QPointF& corner) {
   for (const Control& control : controls) {
     const QRectF place = Pixels(control.Place).translated(corner);
     if (control.Id == ControlId::OptionLabel && control.Index == kLanguageLabel) {
-      const QFontMetrics letters(FormFont(control.FontSize.value_or(kFont)));
+      const QFontMetrics letters(FormFont(control.FontSize.value_or(kToolsEntryFont)));
       const QString name = QString::fromStdString(control.Caption.value_or(""));
       const QSizeF size(letters.horizontalAdvance(name), letters.height());
       return {place.bottomRight() - QPointF(size.width(), size.height() + kLabelInset), size};
@@ -46,7 +46,7 @@ ToolsEntry::ToolsEntry(QAbstractScrollArea& frame, const LanguageChoice& choice,
     : button_(new QPushButton(frame.viewport())), choice_(choice) {
   button_->setObjectName("Tools");
   button_->setFlat(true);
-  button_->setFont(FormFont(kFont));
+  button_->setFont(FormFont(kToolsEntryFont));
   button_->setStyleSheet(kEntryStyle);
   button_->setCursor(Qt::PointingHandCursor);
   button_->setFocusPolicy(Qt::TabFocus);
@@ -60,7 +60,7 @@ void ToolsEntry::Follow(const MapDrawing& drawing) {
   button_->setText(CaptionIn(choice_.Current, TextId::Tools));
   button_->setToolTip(CaptionIn(choice_.Current, TextId::ToolsTip));
   const QSize size(button_->sizeHint().width(), static_cast<int>(language.height()));
-  button_->setGeometry({QPoint(static_cast<int>(language.left()) - size.width() - kGap,
+  button_->setGeometry({QPoint(static_cast<int>(language.left()) - size.width() - kToolsEntryGap,
                                static_cast<int>(language.top())),
                         size});
   button_->raise();
@@ -69,7 +69,7 @@ void ToolsEntry::Follow(const MapDrawing& drawing) {
 MapNotice::MapNotice(QAbstractScrollArea& frame, std::function<void()> onClick)
     : button_(new QPushButton(frame.viewport())) {
   button_->setObjectName("MapNotice");
-  button_->setFont(FormFont(kFont));
+  button_->setFont(FormFont(kToolsEntryFont));
   button_->setStyleSheet(kNoticeStyle);
   button_->setFocusPolicy(Qt::TabFocus);
   button_->hide();
@@ -79,7 +79,8 @@ MapNotice::MapNotice(QAbstractScrollArea& frame, std::function<void()> onClick)
 void MapNotice::Show(const QString& text) {
   button_->setText(text);
   button_->adjustSize();
-  button_->move(kGap, button_->parentWidget()->height() - button_->height() - kGap);
+  button_->move(kToolsEntryGap,
+                button_->parentWidget()->height() - button_->height() - kToolsEntryGap);
   button_->show();
   button_->raise();
 }

@@ -19,14 +19,14 @@ constexpr int kBarsLeft = 1650;  // room for the bars' names
 constexpr int kBarsTop = 375;
 constexpr int kBarHeight = 300;
 constexpr int kBarStep = 345;
-constexpr int kCaptionFont = 8;
+constexpr int kMemoryFrameCaptionFont = 8;
 constexpr int kSmallestFont = 6;
 constexpr int kHeadFont = 9;
 
 constexpr std::array<TextId, kBars> kBarNames = {TextId::PhysicalMemory, TextId::PageFile,
                                                  TextId::AddressSpace};
 
-// Ground and letters of a segment: in use at the start, added since, free.
+// Background and text colours of a segment: in use at the start, added since, free.
 struct SegmentColors {
   QRgb Ground;
   QRgb Letters;
@@ -52,7 +52,7 @@ class MemSegment : public QLabel {
   void paintEvent(QPaintEvent*) override {
     QPainter painter(this);
     painter.setPen(palette().color(QPalette::WindowText));
-    for (int points = kCaptionFont; points >= kSmallestFont; --points) {
+    for (int points = kMemoryFrameCaptionFont; points >= kSmallestFont; --points) {
       painter.setFont(FormFont(points));
       if (painter.fontMetrics().horizontalAdvance(text()) > width()) continue;
       painter.drawText(rect(), static_cast<int>(alignment()), text());
@@ -82,7 +82,7 @@ void MemFrame::MakeBars() {
   for (int bar = 0; bar < kBars; ++bar) {
     auto* name =
         new PlainLabel(CaptionIn(choice_.Current, kBarNames[static_cast<std::size_t>(bar)]), this);
-    name->setFont(FormFont(kCaptionFont));
+    name->setFont(FormFont(kMemoryFrameCaptionFont));
     name->setGeometry(PixelRect(100, kBarsTop + bar * kBarStep, kBarsLeft - 200, kBarHeight));
     SetColors(*name, Qt::transparent, QColor(0xFF9FB4DC));
   }

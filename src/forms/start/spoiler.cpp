@@ -27,7 +27,7 @@ constexpr QRgb kBand = 0xE0142A6E;  // behind the head line, fading out downward
 constexpr QRgb kBandEdge = 0xFF5AB4DC;
 
 // The text stands on a plate, so that the tiles behind it do not disturb.
-constexpr const char* kStyle =
+constexpr const char* kSpoilerStyle =
     "#HeadLine { color: #ffd060; }"
     "#Text { background: rgba(6, 10, 34, 225); color: #d8e4ff; border: none; }"
     "#WarningOff { color: #d8e4ff; }"
@@ -48,7 +48,7 @@ Spoiler::Spoiler(const SpoilerTexts& texts, PictureStore& pictures, Language lan
   setObjectName("Spoiler");
   setWindowTitle(caption(TextId::SpoilerTitle));
   setModal(true);
-  setStyleSheet(kStyle);
+  setStyleSheet(kSpoilerStyle);
   headLine_ = new PlainLabel(QString::fromStdString(texts.HeadLine), this);
   headLine_->setObjectName("HeadLine");
   headLine_->setAlignment(Qt::AlignCenter);
@@ -107,7 +107,7 @@ void Spoiler::LayOut() {
       std::min(kLargestHeadLine, FittingFont(headLine_->text(), places.HeadLine.Width))));
 }
 
-// The longest line may fill the box from edge to edge; what it leaves becomes margin.
+// The longest line may fill the box from edge to edge; any width left becomes margin.
 void Spoiler::FitText(int width) {
   const QString text = text_->toPlainText();
   text_->setFont(CourierFont(FittingFont(text, width)));

@@ -15,7 +15,7 @@ constexpr int kCheckWidth = 7000;
 constexpr int kCheckHeight = 375;
 constexpr int kHeadHeight = 720;
 constexpr int kTextTop = 840;
-constexpr int kGap = 50;
+constexpr int kSpoilerLayoutGap = 50;
 
 }  // namespace
 
@@ -26,10 +26,10 @@ SpoilerPlaces LayOutSpoiler(int width, int height) {
   places.Ok = {kSide, buttonTop, buttonWidth, kButtonHeight};
   places.Cancel = {std::max(0, width / 2), buttonTop, buttonWidth, kButtonHeight};
   places.HeadLine = {0, 0, std::max(0, width), kHeadHeight};
-  places.WarningOff = {kSide, std::max(0, buttonTop - kCheckHeight - kGap), kCheckWidth,
-                       kCheckHeight};
+  places.WarningOff = {kSide, std::max(0, buttonTop - kCheckHeight - kSpoilerLayoutGap),
+                       kCheckWidth, kCheckHeight};
   places.Text = {kSide, kTextTop, std::max(0, width - 3 * kSide),
-                 std::max(0, places.WarningOff.Top - kTextTop - kGap)};
+                 std::max(0, places.WarningOff.Top - kTextTop - kSpoilerLayoutGap)};
   return places;
 }
 

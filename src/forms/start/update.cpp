@@ -15,11 +15,11 @@
 namespace orrerix {
 namespace {
 
-constexpr int kFont = 12;
+constexpr int kUpdateFont = 12;
 constexpr int kMargin = 24;
 
 // A link that lights up under the mouse.
-constexpr const char* kStyle =
+constexpr const char* kUpdateStyle =
     "QPushButton { color: #b8e4ff; background: rgba(6, 10, 34, 200); border: none;"
     "  padding: 8px 12px; }"
     "QPushButton:hover, QPushButton:focus { color: #ffffff; background: #1c3478; }";
@@ -34,8 +34,8 @@ Update::Update(const std::string& toolTip, PictureStore& pictures, Language lang
   layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
   notice_ = new QPushButton(CaptionIn(language, TextId::UpdateNotice), this);
   notice_->setObjectName("UpdateNotice");
-  notice_->setFont(FormFont(kFont));
-  notice_->setStyleSheet(kStyle);
+  notice_->setFont(FormFont(kUpdateFont));
+  notice_->setStyleSheet(kUpdateStyle);
   notice_->setCursor(Qt::PointingHandCursor);
   notice_->setToolTip(PlainToolTip(toolTip));
   layout->addWidget(notice_);

@@ -19,7 +19,7 @@
 namespace orrerix {
 namespace {
 
-constexpr int kMargin = 4;  // pixels between a text and the ends of its column
+constexpr int kPriceTableViewMargin = 4;  // pixels between a text and the ends of its column
 
 int Pixel(double twips) {
   return static_cast<int>(std::lround(Pixels(twips)));
@@ -53,7 +53,7 @@ class LabelDelegate : public QStyledItemDelegate {
     }
     painter->setFont(index.data(Qt::FontRole).value<QFont>());
     painter->setPen(index.data(Qt::ForegroundRole).value<QColor>());
-    DrawText(*painter, option.rect.adjusted(kMargin, 0, -kMargin, 0),
+    DrawText(*painter, option.rect.adjusted(kPriceTableViewMargin, 0, -kPriceTableViewMargin, 0),
              index.data(Qt::TextAlignmentRole).toInt(), index.data().toString());
     if (option.state & QStyle::State_Selected) {
       painter->setPen(Qt::white);

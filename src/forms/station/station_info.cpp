@@ -24,11 +24,11 @@ namespace {
 
 constexpr int kIconPixels = 64;
 constexpr int kTravelIconPixels = 36;
-constexpr QRgb kGround = 0xFF000040;
+constexpr QRgb kStationInfoBackground = 0xFF000040;
 
 // Places of what stands in the left margin, twips.
-constexpr int kSide = 150;
-constexpr int kButton = kStationMargin - 2 * kSide;
+constexpr int kStationInfoSide = 150;
+constexpr int kButton = kStationMargin - 2 * kStationInfoSide;
 constexpr int kFirstMode = 1500;
 constexpr int kModeStep = kButton + 120;
 constexpr int kOrnamentTop = kFirstMode + static_cast<int>(kModeButtons) * kModeStep + 300;
@@ -40,7 +40,7 @@ constexpr const char* kFrameStyle =
 
 // Logical pixels round the text. Lines that are broken beforehand leave 20 free, most of which the
 // scroll bar may need.
-constexpr int kTextMargin = 6;
+constexpr int kStationInfoTextMargin = 6;
 constexpr int kWrappedMargin = 2;
 
 constexpr std::array<TextId, kModeButtons> kModeNames = {
@@ -52,7 +52,7 @@ StationInfo::StationInfo(const StationParts& parts, std::string nickname, std::s
     : parts_(parts), nick_(std::move(nickname)), picture_(std::move(picture)) {
   setObjectName("StationInfo");
   QPalette colors = palette();
-  colors.setColor(QPalette::Window, QColor(kGround));
+  colors.setColor(QPalette::Window, QColor(kStationInfoBackground));
   setPalette(colors);
   MakeDecoration();
   MakeModes();
@@ -84,8 +84,9 @@ void StationInfo::MakeDecoration() {
   ShowPicture(ControlId::StationStrip, ":/pictures/station/strip.jpg",
               PixelRect(0, 0, kStationMargin, kStripHeight));
   ShowPicture(ControlId::StationOrnament, ":/pictures/station/ornament.svg",
-              PixelRect(kSide, kOrnamentTop, kButton, kButton));
-  ShowPicture(ControlId::StationIcon, file, PixelRect(kSide, kSide, kButton, kButton));
+              PixelRect(kStationInfoSide, kOrnamentTop, kButton, kButton));
+  ShowPicture(ControlId::StationIcon, file,
+              PixelRect(kStationInfoSide, kStationInfoSide, kButton, kButton));
 }
 
 // A picture in front of those before it; the mouse goes through it.
@@ -110,8 +111,8 @@ void StationInfo::MakeModes() {
     auto* button = new QPushButton(this);
     button->setObjectName(NameOf(ControlId::ModeButton, static_cast<int>(i)));
     button->setCheckable(true);
-    button->setGeometry(
-        PixelRect(kSide, kFirstMode + static_cast<int>(i) * kModeStep, kButton, kButton));
+    button->setGeometry(PixelRect(kStationInfoSide, kFirstMode + static_cast<int>(i) * kModeStep,
+                                  kButton, kButton));
     QObject::connect(button, &QPushButton::clicked, this, [this, i] { ChooseMode(i); });
     mode_[i] = button;
   }
@@ -138,7 +139,7 @@ void StationInfo::MakeTravelButtons() {
     button->setToolTip(Caption(travel.Caption));
     button->setIcon(SharpPixmap(travel.Picture, QSize(kTravelIconPixels, kTravelIconPixels)));
     button->setIconSize(QSize(kTravelIconPixels, kTravelIconPixels));
-    button->setGeometry(PixelRect(kSide, top, kButton, kButton));
+    button->setGeometry(PixelRect(kStationInfoSide, top, kButton, kButton));
     QObject::connect(button, &QPushButton::clicked, this,
                      [this, &act = travel.Act] { act(nick_); });
     top += kModeStep;
@@ -268,7 +269,8 @@ void StationInfo::ShowControl(const Control& control) {
   const QRect place = PixelRect(control.Place);
   if (control.Id == ControlId::BoxText) {
     infoText_->setGeometry(place & rect());
-    infoText_->SetMargin(modes_.Mode() == StationMode::Info ? kWrappedMargin : kTextMargin);
+    infoText_->SetMargin(modes_.Mode() == StationMode::Info ? kWrappedMargin
+                                                            : kStationInfoTextMargin);
     infoText_->Show(control.Caption.value_or(""));
   } else if (control.Id == ControlId::ForSaleFrame) {
     searchFrame_->setGeometry(place & rect());

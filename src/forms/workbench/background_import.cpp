@@ -48,7 +48,7 @@ ImportOutcome BackgroundImport::Run(const Order& order,
   SilentHost host(messages, isCancelled);
   const GameFolder game(order.Game);
   try {
-    // Before the import: what is written while it reads shows as a change afterwards.
+    // Recorded before the import, so that files written meanwhile count as changed afterwards.
     const GameRecord record{order.Game, StampOfGame(order.Game)};
     outcome.Finished =
         ReplaceUniverse(log, host, {game, order.UniverseFile, order.Format, order.Version},

@@ -2,6 +2,7 @@
 #include "forms/workbench/cell_table.h"
 
 #include "forms/controls/captions.h"
+#include "forms/workbench/cell_alignment.h"
 #include "picture/plain_tool_tip.h"
 
 namespace orrerix {
@@ -20,10 +21,6 @@ int CellTable::columnCount(const QModelIndex& parent) const {
   return parent.isValid() ? 0 : static_cast<int>(heads_.size());
 }
 
-QVariant CellTable::Alignment(int column) const {
-  return int((column >= firstNumber_ ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
-}
-
 QVariant CellTable::data(const QModelIndex& index, int role) const {
   if (!index.isValid()) return {};
   const Cell& cell =
@@ -36,7 +33,7 @@ QVariant CellTable::data(const QModelIndex& index, int role) const {
     case kSortRole:
       return cell.Value;
     case Qt::TextAlignmentRole:
-      return Alignment(index.column());
+      return CellAlignment(IsNumber(index.column()));
     default:
       return {};
   }
@@ -44,7 +41,7 @@ QVariant CellTable::data(const QModelIndex& index, int role) const {
 
 QVariant CellTable::headerData(int section, Qt::Orientation orientation, int role) const {
   if (orientation != Qt::Horizontal) return {};
-  if (role == Qt::TextAlignmentRole) return Alignment(section);
+  if (role == Qt::TextAlignmentRole) return CellAlignment(IsNumber(section));
   if (role != Qt::DisplayRole && role != Qt::ToolTipRole) return {};
   return CaptionIn(choice_.Current, heads_[static_cast<std::size_t>(section)]);
 }

@@ -31,7 +31,7 @@ class CellTable : public QAbstractTableModel {
   QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
  private:
-  QVariant Alignment(int column) const;
+  bool IsNumber(int column) const { return column >= firstNumber_; }
 
   const LanguageChoice& choice_;
   std::vector<TextId> heads_;

@@ -22,12 +22,11 @@
 namespace orrerix {
 namespace {
 
-namespace fs = std::filesystem;
 using check::Finding;
 using check::Severity;
 
 constexpr int kWatchInterval = 200;  // milliseconds
-constexpr int kFont = 9;
+constexpr int kCheckPageFont = 9;
 constexpr int kProgressWidth = 120;
 constexpr int kPlaceWidth = 330;
 constexpr int kMessageWidth = 380;
@@ -58,7 +57,7 @@ CheckPage::CheckPage(WorkbenchHost& host, const LanguageChoice& choice, OpenFile
   explanation_ = new QPlainTextEdit(split);
   explanation_->setObjectName("Explanation");
   explanation_->setReadOnly(true);
-  explanation_->setFont(FormFont(kFont));
+  explanation_->setFont(FormFont(kCheckPageFont));
   split->setStretchFactor(0, 4);
   split->setStretchFactor(1, 1);
   layout->addWidget(split, 1);

@@ -9,7 +9,7 @@
 namespace orrerix {
 namespace {
 
-constexpr int kColumns = 5;
+constexpr int kLogModelColumns = 5;
 
 TextId NameOf(LogKind kind) {
   switch (kind) {
@@ -58,7 +58,7 @@ int LogModel::rowCount(const QModelIndex& parent) const {
 }
 
 int LogModel::columnCount(const QModelIndex&) const {
-  return kColumns;
+  return kLogModelColumns;
 }
 
 QVariant LogModel::data(const QModelIndex& index, int role) const {
@@ -84,7 +84,7 @@ QVariant LogModel::data(const QModelIndex& index, int role) const {
 
 QVariant LogModel::headerData(int section, Qt::Orientation orientation, int role) const {
   if (orientation != Qt::Horizontal || role != Qt::DisplayRole) return {};
-  constexpr std::array<TextId, kColumns> heads = {
+  constexpr std::array<TextId, kLogModelColumns> heads = {
       TextId::HeadKind, TextId::HeadFile, TextId::HeadLine, TextId::HeadNickname, TextId::HeadText};
   return CaptionIn(choice_.Current, heads[static_cast<std::size_t>(section)]);
 }

@@ -19,7 +19,7 @@
 namespace orrerix {
 namespace {
 
-constexpr int kFont = 9;
+constexpr int kLogPageFont = 9;
 constexpr int kKindWidth = 160;
 constexpr int kFileWidth = 300;
 constexpr int kNicknameWidth = 160;
@@ -55,7 +55,7 @@ LogPage::LogPage(WorkbenchHost& host, const LanguageChoice& choice, OpenFile ope
   entry_ = new QPlainTextEdit(split);
   entry_->setObjectName("LogEntry");
   entry_->setReadOnly(true);
-  entry_->setFont(FixedFont(kFont));
+  entry_->setFont(FixedFont(kLogPageFont));
   split->setStretchFactor(0, 3);
   split->setStretchFactor(1, 1);
   layout->addWidget(split, 1);

@@ -23,7 +23,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr int kWatchInterval = 30;  // milliseconds
+constexpr int kToolsWatchInterval = 30;  // milliseconds
 
 QString SettingsFile(const fs::path& applicationFolder) {
   return QString::fromStdString((applicationFolder / "Orrerix-Tools.ini").string());
@@ -36,7 +36,7 @@ Tools::Tools(WorkbenchHost& host, const FormParts& parts, JetVersionOption forma
       parts_(parts),
       format_(format),
       settings_(SettingsFile(parts.Paths.ApplicationFolder), QSettings::IniFormat) {
-  watchTimer_.setInterval(kWatchInterval);
+  watchTimer_.setInterval(kToolsWatchInterval);
   QObject::connect(&watchTimer_, &QTimer::timeout, [this] { LookForChanges(); });
 }
 

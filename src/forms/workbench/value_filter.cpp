@@ -11,7 +11,7 @@ ValueFilter::ValueFilter(QAbstractItemModel& table) {
   setSortCaseSensitivity(Qt::CaseInsensitive);
 }
 
-// The order is turned round for a descending one, so rows without a value turn with it.
+// Qt reverses the comparison for descending order, so rows without a value are reversed here too.
 bool ValueFilter::lessThan(const QModelIndex& left, const QModelIndex& right) const {
   const bool leftHas = left.data(kSortRole).isValid();
   const bool rightHas = right.data(kSortRole).isValid();

@@ -18,9 +18,9 @@ namespace orrerix {
 namespace {
 
 constexpr QSize kFirstSize{1400, 780};
-constexpr int kListWidth = 150;
+constexpr int kWorkbenchListWidth = 150;
 // The style's own boxes do not show on the dark background while they are empty.
-constexpr const char* kStyle =
+constexpr const char* kWorkbenchStyle =
     "QCheckBox::indicator, QListView::indicator { width: 15px; height: 15px;"
     " image: url(:/pictures/tools/check_off.png); }"
     "QCheckBox::indicator:checked, QListView::indicator:checked {"
@@ -35,12 +35,12 @@ Workbench::Workbench(QSettings& settings, const LanguageChoice& choice)
       stack_(new QStackedWidget(this)) {
   setObjectName("Workbench");
   setWindowTitle(CaptionIn(choice.Current, TextId::Tools));
-  setStyleSheet(kStyle);
+  setStyleSheet(kWorkbenchStyle);
   setWindowIcon(ApplicationIcon());
   list_->setObjectName("PageList");
   list_->setAccessibleName(CaptionIn(choice.Current, TextId::Tools));
   stack_->setObjectName("PageStack");
-  list_->setFixedWidth(kListWidth);
+  list_->setFixedWidth(kWorkbenchListWidth);
   auto* layout = new QHBoxLayout(this);
   layout->setContentsMargins(8, 8, 8, 8);
   layout->addWidget(list_);

@@ -14,8 +14,8 @@ std::string_view UpToCarriageReturn(std::string_view text) {
   return Trim(text.substr(0, text.find('\r')));
 }
 
-// The next two have no way out of their loops, and count in bytes, so that the compiler lets them
-// take many characters at a time.
+// The next two functions never leave their loops early and count in bytes, so that the compiler
+// can vectorise them.
 
 // Whether each CR or LF between the first and the last character has its partner.
 bool LineEndsAreWhole(std::string_view text) {

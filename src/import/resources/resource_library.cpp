@@ -190,7 +190,7 @@ std::string_view StringInBlock(std::string_view block, std::uint32_t index) {
   }
 }
 
-// What the game's system makes of a string: its character set, its longest text.
+// Converts a string as the game's system does: its character set, its limit on length.
 std::string AsSystemText(std::string_view utf16) {
   std::string text = FromUtf16(utf16);
   const bool isAscii = std::all_of(text.begin(), text.end(),
@@ -208,8 +208,8 @@ std::string AsSystemText(std::string_view utf16) {
   return system;
 }
 
-// Appends the ASCII characters at the front of a UTF-16 text, which most texts consist of, as many
-// at a time as the compiler can. Gives the number of their bytes.
+// Appends the leading ASCII characters of a UTF-16 text, which most texts consist of, in a loop
+// that the compiler can vectorise. Returns the number of bytes read.
 std::size_t AppendAsciiUnits(std::string& text, std::string_view utf16) {
   constexpr std::size_t unitsAtATime = 16;
   std::size_t end = 0;

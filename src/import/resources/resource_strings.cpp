@@ -18,7 +18,7 @@ namespace orrerix {
 namespace fs = std::filesystem;
 namespace {
 
-constexpr std::int32_t kHighestNumber = 65535;
+constexpr std::int32_t kHighestStringNumber = 65535;
 constexpr std::size_t kLongestName = 255;
 
 // Libraries are below 2 GiB; a larger file is none.
@@ -44,18 +44,18 @@ class PacedStep {
  public:
   explicit PacedStep(Import& import) : import_(import) {
     ++import_.Progress.ImportDone;
-    import_.ProgressIt(kHighestNumber, 0);
+    import_.ProgressIt(kHighestStringNumber, 0);
     lastTick_ = import_.Host.TickCount();
   }
 
   void At(std::uint32_t number) {
     if (!IsDue(import_.Host.TickCount(), lastTick_)) return;
-    import_.ProgressIt(kHighestNumber, static_cast<std::int32_t>(number));
+    import_.ProgressIt(kHighestStringNumber, static_cast<std::int32_t>(number));
     lastTick_ = import_.Host.TickCount();
   }
 
   void Finish() {
-    import_.ProgressIt(kHighestNumber, kHighestNumber);
+    import_.ProgressIt(kHighestStringNumber, kHighestStringNumber);
     import_.Host.Yield();
   }
 
@@ -72,9 +72,10 @@ void ReadCards(Import& import, Routine& routine, const ResourceLibrary& library,
                const std::string& name, std::int32_t offset) {
   Recordset infos = import.Target.DB.OpenTable(routine, "ids_info");
   PacedStep step(import);
-  for (const auto& [number, data] : library.Cards()) {
+  for (const auto& entry : library.Cards()) {
+    const std::uint32_t number = entry.first;
     step.At(number);
-    const std::string card = routine.Or(std::string(), [&] { return FromUtf16(data); });
+    const std::string card = routine.Or(std::string(), [&] { return FromUtf16(entry.second); });
     const std::string_view clean = CleanEnd(card);
     if (clean.empty()) continue;
     infos.AddNew();
@@ -142,7 +143,7 @@ std::string GetInfo(Universe& universe, std::int32_t number) {
   routine.Run([&] {
     Recordset row =
         universe.DB.OpenRecordset(routine, "SELECT * from ids_info WHERE ID = {}", {number});
-    info = row.AtEnd() ? fmt::format("{} - {}", number, number & kHighestNumber)
+    info = row.AtEnd() ? fmt::format("{} - {}", number, number & kHighestStringNumber)
                        : row["Info"].Get().Text();
   });
   return info;

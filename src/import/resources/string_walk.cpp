@@ -16,7 +16,7 @@ namespace {
 // Where the table of text blocks stands in that build, counted from 1.
 constexpr std::size_t kFirstRecord = 23937;
 constexpr std::size_t kRecordSize = 16;
-constexpr std::size_t kLongestString = 105;
+constexpr std::size_t kLongestWalkedString = 105;
 constexpr std::int32_t kFirstNumber = 196608;
 constexpr std::size_t kShownEvery = 100;
 
@@ -82,7 +82,7 @@ void ReadBlock(Import& import, Recordset& names, const FileBytes& file, const Te
     position += 2;
     if (position >= block.End() || position >= file.Length()) return;
     const std::string text = ReadString(file, block, length, position);
-    if ((isLast && position >= block.End()) || text.size() >= kLongestString) continue;
+    if ((isLast && position >= block.End()) || text.size() >= kLongestWalkedString) continue;
     if (stored % kShownEvery == 0) {
       import.Host.ShowText(
           FormatIn(import.Host.Speech(), TextId::ReadingTexts, position, file.Length()) +

@@ -137,8 +137,8 @@ class RowReader {
     stored_ = true;
   }
 
-  // The table changes under the open row: the row is written as it stands and taken up again.
-  // Nothing if the field could not be added; its value is then dropped.
+  // Changing the table closes the open row, so the row is stored and opened again. Returns nothing
+  // if the field could not be added; its value is then dropped.
   std::optional<SectionTable::FieldIndex> AddField(std::string_view key) {
     std::int32_t rowID = table_.RowID();
     routine_.Try([this] { table_.Update(); });

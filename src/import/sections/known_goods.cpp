@@ -11,7 +11,7 @@
 
 namespace orrerix {
 
-void KnownSections::ReadCommodity(BlockText block) {
+void KnownSections::ReadCommodity(BlockText& block) {
   routine_.AddNew(commodity_, RetryState::Commodity);
   AssignTexts(commodity_, block, {{"NICKNAME", "nickname"}});
   AssignNumbers(commodity_, block, {{"IDS_NAME", "ids_name"}, {"IDS_INFO", "ids_info"}});
@@ -23,7 +23,7 @@ void KnownSections::ReadCommodity(BlockText block) {
   commodity_.Update();
 }
 
-void KnownSections::ReadGood(BlockText block) {
+void KnownSections::ReadGood(BlockText& block) {
   const std::string category = TextOr(routine_, block, "CATEGORY");
   const std::string nickname = TextOr(routine_, block, "NICKNAME");
   const std::string hull = TextOr(routine_, block, "HULL");
@@ -82,7 +82,7 @@ void KnownSections::ReadAddons(BlockText block, const std::string& package) {
   }
 }
 
-void KnownSections::ReadBaseGood(BlockText block) {
+void KnownSections::ReadBaseGood(BlockText& block) {
   constexpr std::string_view word = "MARKETGOOD";
   constexpr std::size_t keyAndSign = word.size() + 1;
   const std::string base = TextOr(routine_, block, "BASE");

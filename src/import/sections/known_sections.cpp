@@ -61,7 +61,7 @@ KnownSections::KnownSections(Import& import, ReaderRoutine& routine, std::string
 bool KnownSections::Read(const std::string& block) {
   struct Kind {
     std::string_view Header;
-    void (KnownSections::*Read)(BlockText);
+    void (KnownSections::*Read)(BlockText&);
   };
   static constexpr std::array<Kind, 12> kKinds = {{
       {"[SYSTEM]", &KnownSections::ReadSystem},
@@ -81,7 +81,8 @@ bool KnownSections::Read(const std::string& block) {
   const std::string start = UpperAscii(std::string_view(block).substr(0, longestHeader));
   for (const Kind& kind : kKinds) {
     if (!start.starts_with(kind.Header)) continue;
-    (this->*kind.Read)(BlockText(block));
+    BlockText text(block);
+    (this->*kind.Read)(text);
     return true;
   }
   return false;
@@ -93,7 +94,7 @@ void KnownSections::AssignRealName(Recordset& row, std::string_view numberField)
   };
 }
 
-void KnownSections::ReadSystem(BlockText block) {
+void KnownSections::ReadSystem(BlockText& block) {
   Recordset systems = import_.Target.DB.OpenTable(routine_, "Systems");
   routine_.AddNew(systems, RetryState::Systems);
   AssignTexts(systems, block,
@@ -106,7 +107,7 @@ void KnownSections::ReadSystem(BlockText block) {
   import_.AddSteps(routine_, 1);
 }
 
-void KnownSections::ReadObject(BlockText block) {
+void KnownSections::ReadObject(BlockText& block) {
   routine_.AddNew(objects_, RetryState::Objects);
   AssignTexts(objects_, block, {{"NICKNAME", "nickname"}, {"POS", "pos"}});
   AssignNumbers(objects_, block, {{"IDS_NAME", "ids_name"}, {"IDS_INFO", "ids_info"}});
@@ -128,7 +129,7 @@ void KnownSections::ReadObject(BlockText block) {
   objects_.Update();
 }
 
-void KnownSections::ReadResources(BlockText block) {
+void KnownSections::ReadResources(BlockText& block) {
   Recordset resources = import_.Target.DB.OpenTable(routine_, "resources");
   while (const auto place = block.Find("DLL =")) {
     routine_.AddNew(resources, RetryState::Resources);
@@ -141,7 +142,7 @@ void KnownSections::ReadResources(BlockText block) {
   }
 }
 
-void KnownSections::ReadData(BlockText block) {
+void KnownSections::ReadData(BlockText& block) {
   Recordset dataFiles = import_.Target.DB.OpenTable(routine_, "DataFiles");
   std::string_view rest = block.Text();
   while (!rest.empty()) {
@@ -179,11 +180,11 @@ void KnownSections::ReadDataLine(Recordset& dataFiles, std::string_view line) {
   import_.AddSteps(routine_, 1);
 }
 
-void KnownSections::ReadMBase(BlockText block) {
+void KnownSections::ReadMBase(BlockText& block) {
   routine_.Try([&] { lastBase_ = TextValue(block, "NICKNAME"); });
 }
 
-void KnownSections::ReadNPC(BlockText block) {
+void KnownSections::ReadNPC(BlockText& block) {
   constexpr std::size_t keyAndSign = std::string_view("bribe=  ").size();
   const std::string nickname = TextOr(routine_, block, "NICKNAME");
   const double individualName = Val(block.Value("INDIVIDUAL_NAME"));
@@ -205,7 +206,7 @@ void KnownSections::ReadNPC(BlockText block) {
   }
 }
 
-void KnownSections::ReadGroup(BlockText block) {
+void KnownSections::ReadGroup(BlockText& block) {
   routine_.AddNew(groups_, RetryState::Groups);
   AssignTexts(groups_, block, {{"NICKNAME", "NickName"}});
   AssignNumbers(

@@ -18,22 +18,22 @@ class KnownSections {
   bool Read(const std::string& block);
 
  private:
-  void ReadSystem(BlockText block);
-  void ReadCommodity(BlockText block);
-  void ReadObject(BlockText block);
-  void ReadGood(BlockText block);
+  void ReadSystem(BlockText& block);
+  void ReadCommodity(BlockText& block);
+  void ReadObject(BlockText& block);
+  void ReadGood(BlockText& block);
   void AssignCommodityName(const std::string& nickname, const std::string& equipment);
   void ReadAddons(BlockText block, const std::string& package);
-  void ReadBaseGood(BlockText block);
-  void ReadResources(BlockText block);
-  void ReadData(BlockText block);
+  void ReadBaseGood(BlockText& block);
+  void ReadResources(BlockText& block);
+  void ReadData(BlockText& block);
   void ReadDataLine(Recordset& dataFiles, std::string_view line);
-  void ReadMBase(BlockText block);
-  void ReadNPC(BlockText block);
-  void ReadGroup(BlockText block);
-  void ReadShip(BlockText block);
+  void ReadMBase(BlockText& block);
+  void ReadNPC(BlockText& block);
+  void ReadGroup(BlockText& block);
+  void ReadShip(BlockText& block);
   void ReadHardpoints(BlockText block, const std::string& ship);
-  void ReadLoadout(BlockText block);
+  void ReadLoadout(BlockText& block);
 
   // Name of a number with the row's nickname as fallback, both as the row holds them.
   void AssignRealName(Recordset& row, std::string_view numberField);

@@ -10,7 +10,7 @@
 
 namespace orrerix {
 
-void KnownSections::ReadShip(BlockText block) {
+void KnownSections::ReadShip(BlockText& block) {
   routine_.AddNew(ships_, RetryState::Ships);
   AssignTexts(ships_, block, {{"NICKNAME", "NickName"}});
   AssignNumbers(ships_, block, {{"IDS_NAME", "ids_name"}});
@@ -61,7 +61,7 @@ void KnownSections::ReadHardpoints(BlockText block, const std::string& ship) {
   }
 }
 
-void KnownSections::ReadLoadout(BlockText block) {
+void KnownSections::ReadLoadout(BlockText& block) {
   constexpr std::string_view cargo = "CARGO =";
   constexpr std::string_view cargoTight = "CARGO=";
   constexpr std::string_view equip = "EQUIP =";

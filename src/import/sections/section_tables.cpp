@@ -105,7 +105,7 @@ const std::string_view* SectionTable::Get(FieldIndex field) const {
 }
 
 void SectionTable::Set(FieldIndex field, std::string_view text) {
-  // Most texts are short and full; the others are for the engine's own rules to judge.
+  // Most texts are short and not empty; the engine's own rules decide about the others.
   if (text.empty() || text.size() > kDefaultTextSize) {
     Value value = text;
     if (const auto refused = FitInto(Field{fields_[field]}, name_, value)) throw *refused;
@@ -131,7 +131,7 @@ void SectionTable::CheckKey(const Row& row) {
 void SectionTable::Update() {
   Row row = std::move(*edited_);
   edited_.reset();
-  // Room first: a row without memory must not leave its key behind.
+  // Reserved first: a row that finds no memory must not leave its key in the index.
   if (rows_.size() == rows_.capacity()) rows_.reserve(2 * rows_.size() + 1);
   if (keyField_) CheckKey(row);
   if (editedPlace_) {

@@ -15,7 +15,7 @@ constexpr int kFrameRight = 100;  // between the frame and the map's right edge
 constexpr int kFrameBelow = 300;  // what it leaves of the map's height
 constexpr int kListBelow = 100;   // between the lists, and below them
 constexpr int kSide = 120;        // left and right of what stands in the frame
-constexpr int kTextTop = 180;
+constexpr int kTextBoxTop = 180;
 constexpr int kTextHeight = 345;
 constexpr int kCloseWidth = 360;  // room beside the text box
 
@@ -37,7 +37,7 @@ SearchAnswer SearchPanel::Open(const SearchScope& scope, SearchType type) {
   const TwipRect& map = scope.Drawing.Frame;
   frame_ = {map.Width - kSearchFrameWidth - kFrameRight, kFrameTop, kSearchFrameWidth,
             NotBelowZero(map.Height - kFrameBelow)};
-  textBox_ = {kSide, kTextTop, kSearchFrameWidth - 2 * kSide - kCloseWidth, kTextHeight};
+  textBox_ = {kSide, kTextBoxTop, kSearchFrameWidth - 2 * kSide - kCloseWidth, kTextHeight};
   subSearchBox_ = {kSide, kSearchListTop, kSearchFrameWidth - 2 * kSide, 0};
   PlaceList(kSearchListTop);
   visible_ = true;

@@ -29,7 +29,7 @@ bool IsTrade(const PriceItem& item, StationMode mode) {
 // The text up to the next comma, which is cut off with it.
 std::string TakePart(std::string_view& key) {
   const std::size_t comma = key.find(',');
-  const std::string part(key.substr(0, comma));
+  std::string part(key.substr(0, comma));
   key.remove_prefix(comma == std::string_view::npos ? key.size() : comma + 1);
   return part;
 }
@@ -52,7 +52,7 @@ std::string RowName(Routine& routine, Universe& universe, const PriceItem& item,
                              : RealComName(universe, item.Good);
 }
 
-// A size that fits, near the largest one: from there the search for that is short, and sure.
+// A size that fits, close to the largest one, so that the search from there is short.
 int FittingFont(std::string_view text, const TextMeasure& measure, int width, int height) {
   const auto share = [](int room, int taken) {
     return taken > 0 ? kSampleFont * room / taken : kSampleFont;

@@ -6,12 +6,12 @@
 #include "derived/owner_names.h"
 #include "import/resources/resource_strings.h"
 #include "info/station/station_market.h"
+#include "info/texts/text_wrap.h"
 #include "map/grid/map_coords.h"
 
 namespace orrerix {
 namespace {
 
-constexpr std::string_view kLineEnd = "\r\n";
 constexpr std::string_view kTwoLineEnds = "\r\n\r\n";
 constexpr std::string_view kDockringStart = "Dockring:";
 

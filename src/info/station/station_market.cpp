@@ -121,6 +121,7 @@ std::vector<PriceItem> BestTrades(Routine& routine, Universe& universe, std::str
                    [](const Candidate& a, const Candidate& b) { return a.Profit > b.Profit; });
   candidates.resize(std::min(candidates.size(), kTradesPerGroup));
   std::vector<PriceItem> trades;
+  trades.reserve(candidates.size());
   for (Candidate& candidate : candidates) trades.push_back(std::move(candidate.Trade));
   return trades;
 }

@@ -5,13 +5,13 @@
 #include "derived/commodity_names.h"
 #include "derived/lookup.h"
 #include "derived/owner_names.h"
+#include "info/texts/text_wrap.h"
 #include "map/grid/map_coords.h"
 
 namespace orrerix {
 namespace {
 
 constexpr std::string_view kSource = "OrrerixMain.Image1_MouseMove";
-constexpr std::string_view kLineEnd = "\r\n";
 constexpr std::string_view kCommodityStart = "COMMODITY_";
 constexpr std::string_view kAmmoEnd = "_AMMO";
 

@@ -4,8 +4,6 @@
 namespace orrerix {
 namespace {
 
-constexpr std::string_view kLineEnd = "\r\n";
-
 // Cuts the first word off a line, with the blank after it.
 std::string_view TakeWord(std::string_view& line) {
   const std::size_t blank = line.find(' ');

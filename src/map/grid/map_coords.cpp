@@ -36,7 +36,8 @@ bool CellNames::Holds(MapCell cell) {
 }
 
 std::size_t CellNames::Index(MapCell cell) {
-  return static_cast<std::size_t>(cell.X + (MapMaxX + 1) * cell.Y);
+  const int index = cell.X + (MapMaxX + 1) * cell.Y;
+  return static_cast<std::size_t>(index);
 }
 
 CellNames GetSystemNames(Universe& universe, TextSource& texts) {

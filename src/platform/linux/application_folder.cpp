@@ -14,7 +14,7 @@ fs::path ExecutablePath() {
 }
 
 fs::path ApplicationFolder() {
-  const fs::path beside = ExecutablePath().parent_path();
+  fs::path beside = ExecutablePath().parent_path();
   if (access(beside.c_str(), W_OK) == 0) return beside;
   const char* data = std::getenv("XDG_DATA_HOME");
   const char* home = std::getenv("HOME");

@@ -37,8 +37,8 @@ std::optional<FolderIdentity> IdentityOf(const fs::path& folder) {
   return FolderIdentity{status.st_dev, status.st_ino};
 }
 
-// Whatever happens to a folder itself rebuilds all watches: simpler than following each move, and
-// as the caller looks at the files themselves nothing is missed.
+// Any change to a folder itself rebuilds all watches. That is simpler than following each move, and
+// misses nothing, because the caller looks at the files themselves.
 class InotifyWatch : public FolderWatch {
  public:
   InotifyWatch(fs::path above, std::vector<std::string> names)

@@ -6,6 +6,8 @@
 #include <cstdlib>
 #include <fstream>
 
+#include <fmt/format.h>
+
 #include "platform/game_path.h"
 
 namespace orrerix {
@@ -109,7 +111,7 @@ WineRegistry::Values WineRegistry::ReadHive(const fs::path& file) {
       const std::string name = Lower(ReadEscaped(line, '"'));
       if (!line.starts_with("=")) continue;
       line.remove_prefix(1);
-      if (auto value = ReadValue(line)) values[key + "\\" + name] = *value;
+      if (auto value = ReadValue(line)) values[fmt::format("{}\\{}", key, name)] = *value;
     }
   }
   return values;

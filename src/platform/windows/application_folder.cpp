@@ -35,7 +35,7 @@ fs::path ExecutablePath() {
 }
 
 fs::path ApplicationFolder() {
-  const fs::path beside = ExecutablePath().parent_path();
+  fs::path beside = ExecutablePath().parent_path();
   if (CanWriteInto(beside)) return beside;
   const fs::path folder = KnownFolder(FOLDERID_RoamingAppData) / L"Orrerix";
   std::error_code error;

@@ -99,8 +99,8 @@ class DirectoryChanges : public FolderWatch {
     return WaitForSingleObject(request_.hEvent, milliseconds) == WAIT_OBJECT_0;
   }
 
-  // Reads what the system reports and asks on. True if any of it counts; an empty report says that
-  // more has happened than it could hold.
+  // Reads the system's report and asks for the next one. True if any of it counts; an empty report
+  // means that more has happened than it could hold.
   bool TakeAnswer() {
     DWORD size = 0;
     const bool isWhole = GetOverlappedResult(folder_, &request_, &size, FALSE) != 0;

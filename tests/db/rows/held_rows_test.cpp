@@ -20,7 +20,7 @@ using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 using ::testing::SizeIs;
 
-Field Of(FieldType type, std::string name) {
+Field FieldOf(FieldType type, std::string name) {
   Field field;
   field.Name = std::move(name);
   field.Type = type;
@@ -30,7 +30,8 @@ Field Of(FieldType type, std::string name) {
 
 TableDef Goods(bool isLate = false) {
   return {"goods",
-          {Of(FieldType::Text, "base"), Of(FieldType::Text, "good"), Of(FieldType::Long, "price")},
+          {FieldOf(FieldType::Text, "base"), FieldOf(FieldType::Text, "good"),
+           FieldOf(FieldType::Long, "price")},
           Index{"k", {"base", "good"}, isLate}};
 }
 
@@ -173,7 +174,7 @@ TEST_F(HeldTable, ALateKeyWaitsForAChangeOfItsFieldsOrForMoreRows) {
 
 TEST_F(HeldTable, IsAskedForByItsTableNotByAFieldOfItsName) {
   db.CreateHeldTable(mustWork, Goods());
-  db.CreateTable(mustWork, {"other", {Of(FieldType::Text, "goods")}, {}});
+  db.CreateTable(mustWork, {"other", {FieldOf(FieldType::Text, "goods")}, {}});
   Add(mustWork, "a", "water");
 
   db.OpenRecordset(mustWork, "SELECT goods FROM other");
@@ -245,7 +246,7 @@ TEST_F(HeldTable, IsWrittenWithItsKeyOnDemand) {
 
 TEST_F(HeldTable, GivesItsRowsAwayToBeAppendedElsewhere) {
   TableDef table = Goods();
-  Field id = Of(FieldType::Long, "ID");
+  Field id = FieldOf(FieldType::Long, "ID");
   id.IsUniqueID = true;
   table.Fields.insert(table.Fields.begin(), id);
   db.CreateHeldTable(mustWork, table);

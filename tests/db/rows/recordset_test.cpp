@@ -10,6 +10,7 @@
 #include <gtest/gtest.h>
 
 #include "db/engine/engine.h"
+#include "db/rows/field_of.h"
 #include "support/failing_memory.h"
 #include "support/failure_sinks.h"
 
@@ -18,14 +19,6 @@ namespace {
 
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
-
-Field Of(std::string name, FieldType type, bool allowZeroLength = false) {
-  Field field;
-  field.Name = std::move(name);
-  field.Type = type;
-  field.AllowZeroLength = allowZeroLength;
-  return field;
-}
 
 // A table with a field of every kind, keyed by `name`.
 class OpenRecordset : public ::testing::Test {

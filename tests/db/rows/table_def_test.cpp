@@ -6,18 +6,11 @@
 #include <gtest/gtest.h>
 
 #include "db/engine/engine.h"
+#include "db/rows/field_of.h"
 #include "support/failure_sinks.h"
 
 namespace orrerix {
 namespace {
-
-Field Of(std::string name, FieldType type, bool allowZeroLength = false) {
-  Field field;
-  field.Name = std::move(name);
-  field.Type = type;
-  field.AllowZeroLength = allowZeroLength;
-  return field;
-}
 
 TEST(CreateStatement, DeclaresTypesThatDescribeThemselves) {
   Field shortText = Of("t", FieldType::Text, true);

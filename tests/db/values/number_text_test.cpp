@@ -11,7 +11,7 @@
 namespace orrerix {
 namespace {
 
-constexpr double kInfinity = std::numeric_limits<double>::infinity();
+constexpr double kInfinite = std::numeric_limits<double>::infinity();
 
 struct ValCase {
   std::string Text;
@@ -41,11 +41,11 @@ INSTANTIATE_TEST_SUITE_P(
         ValCase{"9007199254740993", 9007199254740992.0}, ValCase{"0000000000000000012", 12},
         ValCase{"18446744073709551617", 18446744073709551616.0},
         // Beyond all numbers, and below them.
-        ValCase{"1e999", kInfinity}, ValCase{"-1e999", -kInfinity}, ValCase{"0.5e999", kInfinity},
-        ValCase{"0001e400", kInfinity}, ValCase{"1e-999", 0}, ValCase{"0.001e-999", 0},
-        ValCase{"0e999", 0}, ValCase{std::string(400, '9'), kInfinity},
-        ValCase{std::string(400, '9') + "e-50", kInfinity},
-        ValCase{"1e99999999999999999999", kInfinity}, ValCase{"1e-99999999999999999999", 0},
+        ValCase{"1e999", kInfinite}, ValCase{"-1e999", -kInfinite}, ValCase{"0.5e999", kInfinite},
+        ValCase{"0001e400", kInfinite}, ValCase{"1e-999", 0}, ValCase{"0.001e-999", 0},
+        ValCase{"0e999", 0}, ValCase{std::string(400, '9'), kInfinite},
+        ValCase{std::string(400, '9') + "e-50", kInfinite},
+        ValCase{"1e99999999999999999999", kInfinite}, ValCase{"1e-99999999999999999999", 0},
         ValCase{"0." + std::string(400, '0') + "1", 0}));
 
 struct NumberCase {
@@ -96,7 +96,7 @@ TEST(ToLong, KeepsToThirtyTwoBits) {
   EXPECT_EQ(ToLong(2147483647.4), 2147483647);
   EXPECT_EQ(ToLong(2147483647.5), std::nullopt);
   EXPECT_EQ(ToLong(-2147483648.5), -2147483647 - 1);
-  EXPECT_EQ(ToLong(kInfinity), std::nullopt);
+  EXPECT_EQ(ToLong(kInfinite), std::nullopt);
 }
 
 TEST(FormatWhole, RoundsHalvesAwayFromZero) {
@@ -138,8 +138,8 @@ TEST(FormatGrouped, TakesOtherSeparators) {
 
 TEST(FormatGrouped, BearsWhatIsNoNumber) {
   EXPECT_EQ(FormatGrouped(std::nan(""), 2), "0.00");
-  EXPECT_EQ(FormatWhole(kInfinity), "0");
-  EXPECT_EQ(NumberText(kInfinity), "0");
+  EXPECT_EQ(FormatWhole(kInfinite), "0");
+  EXPECT_EQ(NumberText(kInfinite), "0");
 }
 
 }  // namespace

@@ -17,7 +17,6 @@ namespace {
 using ::testing::Each;
 using ::testing::ElementsAre;
 using ::testing::EndsWith;
-using ::testing::Field;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using ::testing::SizeIs;

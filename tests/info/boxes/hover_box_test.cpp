@@ -11,7 +11,7 @@ namespace {
 using ::testing::IsEmpty;
 using ::testing::SizeIs;
 
-MapDrawing Drawing() {
+MapDrawing MapWithPanel() {
   MapDrawing drawing;
   drawing.Frame = {50, 50, 20000, 12000};
   drawing.Panel = PanelPlace::Right;
@@ -22,46 +22,46 @@ MapDrawing Drawing() {
 constexpr TextExtent kText{2000, 400};
 
 TEST(HoverBoxPlace, TheBoxIsThreeHundredTwipsLargerThanItsText) {
-  const TwipRect box = HoverBoxPlace({1000, 1000, 600, 600}, kText, Drawing());
+  const TwipRect box = HoverBoxPlace({1000, 1000, 600, 600}, kText, MapWithPanel());
 
   EXPECT_EQ(box.Width, 2300);
   EXPECT_EQ(box.Height, 700);
 }
 
 TEST(HoverBoxPlace, InTheUpperHalfItStandsBelowTheIcon) {
-  const TwipRect box = HoverBoxPlace({1000, 1000, 600, 600}, kText, Drawing());
+  const TwipRect box = HoverBoxPlace({1000, 1000, 600, 600}, kText, MapWithPanel());
 
   EXPECT_EQ(box.Left, 1000);
   EXPECT_EQ(box.Top, 1700);  // 1000 + 600 + 100
 }
 
 TEST(HoverBoxPlace, InTheLowerHalfItStandsAboveTheIcon) {
-  const TwipRect box = HoverBoxPlace({1000, 6001, 600, 600}, kText, Drawing());
+  const TwipRect box = HoverBoxPlace({1000, 6001, 600, 600}, kText, MapWithPanel());
 
   EXPECT_EQ(box.Top, 5201);  // 6001 - 100 - 700
 }
 
 TEST(HoverBoxPlace, AtHalfTheHeightItStandsBelowTheIcon) {
-  EXPECT_EQ(HoverBoxPlace({1000, 6000, 600, 600}, kText, Drawing()).Top, 6700);
+  EXPECT_EQ(HoverBoxPlace({1000, 6000, 600, 600}, kText, MapWithPanel()).Top, 6700);
 }
 
 TEST(HoverBoxPlace, WithoutRoomBesideThePanelItEndsWithTheIcon) {
-  EXPECT_EQ(HoverBoxPlace({11700, 0, 600, 600}, kText, Drawing()).Left, 11700);  // up to 14000
+  EXPECT_EQ(HoverBoxPlace({11700, 0, 600, 600}, kText, MapWithPanel()).Left, 11700);  // up to 14000
   // 11701 + 600 - 2300
-  EXPECT_EQ(HoverBoxPlace({11701, 0, 600, 600}, kText, Drawing()).Left, 10001);
+  EXPECT_EQ(HoverBoxPlace({11701, 0, 600, 600}, kText, MapWithPanel()).Left, 10001);
 }
 
 TEST(HoverBoxPlace, ItNeverStartsLeftOfAHundredTwipsForWantOfRoom) {
   // 12000 + 600 - 13300 is below 0.
-  EXPECT_EQ(HoverBoxPlace({12000, 0, 600, 600}, {13000, 400}, Drawing()).Left, 100);
+  EXPECT_EQ(HoverBoxPlace({12000, 0, 600, 600}, {13000, 400}, MapWithPanel()).Left, 100);
 }
 
 TEST(HoverBoxPlace, AnIconFurtherLeftKeepsItsPlaceWhereThereIsRoom) {
-  EXPECT_EQ(HoverBoxPlace({-20, 0, 600, 600}, kText, Drawing()).Left, -20);
+  EXPECT_EQ(HoverBoxPlace({-20, 0, 600, 600}, kText, MapWithPanel()).Left, -20);
 }
 
 TEST(HoverBoxPlace, APanelBelowLeavesTheWholeWidth) {
-  MapDrawing drawing = Drawing();
+  MapDrawing drawing = MapWithPanel();
   drawing.Panel = PanelPlace::Below;
   drawing.PanelBox = {0, 9000, 20000, 3000};
 
@@ -82,7 +82,7 @@ class HoverBoxTest : public UniverseFixture {
     return icon;
   }
   HoverBox Open(const Control& icon) {
-    return OpenHoverBox(universe, names, english, measure, Drawing(), icon);
+    return OpenHoverBox(universe, names, english, measure, MapWithPanel(), icon);
   }
 
   FixedLanguage english{Language::English};

@@ -6,6 +6,7 @@
 
 #include "atlas/hardpoints.h"
 #include "db/values/text.h"
+#include "forms/workbench/cell_alignment.h"
 #include "picture/plain_tool_tip.h"
 #include "tables/value_order.h"
 
@@ -173,7 +174,7 @@ QVariant AtlasModel::data(const QModelIndex& index, int role) const {
       return role == Qt::DisplayRole ? text : PlainToolTip(text);
     }
     case Qt::TextAlignmentRole:
-      return int((IsNumber(index.column()) ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
+      return CellAlignment(IsNumber(index.column()));
     default:
       return {};
   }
@@ -188,7 +189,7 @@ QVariant AtlasModel::headerData(int section, Qt::Orientation orientation, int ro
     case Qt::ToolTipRole:
       return PlainToolTip(column.Head + "\n" + column.Id + ": " + column.Formula);
     case Qt::TextAlignmentRole:
-      return int((IsNumber(section) ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
+      return CellAlignment(IsNumber(section));
     default:
       return {};
   }

@@ -40,9 +40,9 @@ Cell TextCell(const QString& text) {
   return {text, text};
 }
 
-class CellsOf {
+class GoodsCells {
  public:
-  CellsOf(const TravelGraph& graph, Language language) : graph_(graph), language_(language) {}
+  GoodsCells(const TravelGraph& graph, Language language) : graph_(graph), language_(language) {}
 
   Cell Number(std::int64_t number) const {
     return {NumberText(language_, static_cast<double>(number)), static_cast<qlonglong>(number)};
@@ -96,7 +96,7 @@ std::vector<TextId> GoodHeads() {
 }
 
 std::vector<std::vector<Cell>> RowsOf(const GoodsOutcome& outcome, Language language) {
-  const CellsOf cells(outcome.World->Travel.Graph, language);
+  const GoodsCells cells(outcome.World->Travel.Graph, language);
   std::vector<std::vector<Cell>> rows;
   for (GoodIndex good = 0; good < outcome.Best.size(); ++good) {
     std::vector<Cell> row(GoodHeads().size());
@@ -124,7 +124,7 @@ std::vector<TextId> OfferHeads() {
 
 std::vector<std::vector<Cell>> RowsOf(const GoodsOutcome& outcome, GoodIndex good,
                                       const std::vector<GoodOffer>& offers, Language language) {
-  const CellsOf cells(outcome.World->Travel.Graph, language);
+  const GoodsCells cells(outcome.World->Travel.Graph, language);
   const auto here =
       outcome.Start ? CheapestAt(outcome.World->Market, outcome.Start->Nodes, good) : std::nullopt;
   std::vector<std::vector<Cell>> rows;

@@ -6,6 +6,7 @@
 #include <array>
 
 #include "forms/controls/captions.h"
+#include "forms/workbench/cell_alignment.h"
 #include "picture/plain_tool_tip.h"
 
 namespace orrerix {
@@ -84,8 +85,7 @@ QVariant TradeModel::data(const QModelIndex& index, int role) const {
     case kSortRole:
       return ValueOf(row, index.column());
     case Qt::TextAlignmentRole:
-      return int((index.column() >= ProfitColumn ? Qt::AlignRight : Qt::AlignLeft) |
-                 Qt::AlignVCenter);
+      return CellAlignment(index.column() >= ProfitColumn);
     default:
       return {};
   }
@@ -141,9 +141,7 @@ QVariant TradeModel::ValueOf(const Row& row, int column) {
 
 QVariant TradeModel::headerData(int section, Qt::Orientation orientation, int role) const {
   if (orientation != Qt::Horizontal) return {};
-  if (role == Qt::TextAlignmentRole && section >= ProfitColumn) {
-    return int(Qt::AlignRight | Qt::AlignVCenter);
-  }
+  if (role == Qt::TextAlignmentRole) return CellAlignment(section >= ProfitColumn);
   if (role != Qt::DisplayRole && role != Qt::ToolTipRole) return {};
   return CaptionIn(choice_.Current, kHeads[static_cast<std::size_t>(section)]);
 }

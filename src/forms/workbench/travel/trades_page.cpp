@@ -90,7 +90,7 @@ TradeWishes TradesPage::Wishes() const {
   return wishes;
 }
 
-// Its own fields come back once; the shared ones with every entering.
+// The page's own fields are restored once, the shared ones whenever the page is entered.
 void TradesPage::Enter() {
   TravelPage::Enter();
   if (std::exchange(isRecalled_, true)) return;

@@ -26,7 +26,7 @@ QLineEdit* NumberEdit(const char* name, const QString& withoutNumber, QWidget* p
   auto* edit = new QLineEdit(parent);
   edit->setObjectName(name);
   edit->setPlaceholderText(withoutNumber);
-  // Up to a thousand million, which every calculation bears.
+  // Up to 1,000,000,000, with which no calculation overflows.
   edit->setValidator(new QRegularExpressionValidator(QRegularExpression("[1-9][0-9]{0,8}"), edit));
   return edit;
 }

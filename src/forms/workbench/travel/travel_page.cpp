@@ -16,8 +16,8 @@ namespace orrerix {
 namespace {
 
 constexpr int kFieldsWidth = 300;
-constexpr int kProgressWidth = 120;
-constexpr int kRowPadding = 6;
+constexpr int kTravelPageProgressWidth = 120;
+constexpr int kTravelPageRowPadding = 6;
 constexpr std::array kLegWidths = {110, 140, 260, 220, 60, 80, 70};
 
 }  // namespace
@@ -82,7 +82,7 @@ QWidget* TravelPage::MakeBar() {
   progress_ = new QProgressBar(bar);
   progress_->setObjectName("Progress");
   progress_->setRange(0, 0);  // its end is not known
-  progress_->setFixedWidth(kProgressWidth);
+  progress_->setFixedWidth(kTravelPageProgressWidth);
   progress_->setTextVisible(false);
   progress_->hide();
   row->addWidget(state_, 1);
@@ -100,7 +100,8 @@ QTableView* TravelPage::MakeTable(const char* name, TextId caption, QAbstractIte
   table->setAlternatingRowColors(true);
   table->setWordWrap(false);
   table->verticalHeader()->hide();
-  table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() + kRowPadding);
+  table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() +
+                                                 kTravelPageRowPadding);
   table->horizontalHeader()->setHighlightSections(false);
   table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
   return table;

@@ -5,14 +5,15 @@
 #include <array>
 
 #include "forms/controls/captions.h"
+#include "forms/workbench/cell_alignment.h"
 #include "picture/plain_tool_tip.h"
 
 namespace orrerix {
 namespace {
 
-constexpr std::array kHeads = {TextId::HeadLeg,   TextId::HeadSystem, TextId::HeadTo,
-                               TextId::HeadGoods, TextId::HeadJumps,  TextId::HeadDistance,
-                               TextId::HeadTime};
+constexpr std::array kWayLegModelHeads = {
+    TextId::HeadLeg,   TextId::HeadSystem,   TextId::HeadTo,  TextId::HeadGoods,
+    TextId::HeadJumps, TextId::HeadDistance, TextId::HeadTime};
 constexpr std::array kKinds = {TextId::LegLaunch, TextId::LegGate, TextId::LegHole,
                                TextId::LegLane,   TextId::LegFly,  TextId::LegDock};
 
@@ -97,14 +98,12 @@ int WayLegModel::rowCount(const QModelIndex& parent) const {
 }
 
 int WayLegModel::columnCount(const QModelIndex& parent) const {
-  return parent.isValid() ? 0 : static_cast<int>(kHeads.size());
+  return parent.isValid() ? 0 : static_cast<int>(kWayLegModelHeads.size());
 }
 
 QVariant WayLegModel::data(const QModelIndex& index, int role) const {
   if (!index.isValid()) return {};
-  if (role == Qt::TextAlignmentRole && index.column() >= JumpsColumn) {
-    return int(Qt::AlignRight | Qt::AlignVCenter);
-  }
+  if (role == Qt::TextAlignmentRole) return CellAlignment(index.column() >= JumpsColumn);
   const auto row = static_cast<std::size_t>(index.row());
   if (role == Qt::ToolTipRole && index.column() == ToColumn) {
     return PlainToolTip(rows_[row].Leg.To);
@@ -136,11 +135,9 @@ QString WayLegModel::TextOf(std::size_t index, int column) const {
 
 QVariant WayLegModel::headerData(int section, Qt::Orientation orientation, int role) const {
   if (orientation != Qt::Horizontal) return {};
-  if (role == Qt::TextAlignmentRole && section >= JumpsColumn) {
-    return int(Qt::AlignRight | Qt::AlignVCenter);
-  }
+  if (role == Qt::TextAlignmentRole) return CellAlignment(section >= JumpsColumn);
   if (role != Qt::DisplayRole) return {};
-  return CaptionIn(choice_.Current, kHeads[static_cast<std::size_t>(section)]);
+  return CaptionIn(choice_.Current, kWayLegModelHeads[static_cast<std::size_t>(section)]);
 }
 
 }  // namespace orrerix
