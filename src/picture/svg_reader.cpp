@@ -125,8 +125,7 @@ class Reader {
              style.Join);
     pen.setMiterLimit(miterLimit);
     if (style.Stroke.style() == Qt::NoBrush) pen = Qt::NoPen;
-    content_.Shapes.push_back(
-        {path, Faded(style.Fill, style.FillOpacity), pen, style.Place});
+    content_.Shapes.push_back({path, Faded(style.Fill, style.FillOpacity), pen, style.Place});
   }
 
   // The style with what the current element says about it.
