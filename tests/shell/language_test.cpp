@@ -129,8 +129,7 @@ TEST_F(LanguageFileTest, ATextThatCannotBeWrittenIsOneFailureAndTheNextOnesStand
   {
     Database file = DBEngine::OpenDatabase(mustWork, language.Path());
     file.ExecuteNative(mustWork,
-                       "DELETE FROM Lang0; CREATE TRIGGER no BEFORE INSERT ON Lang0 "
-                       "WHEN new.ID = 4 BEGIN SELECT raise(ABORT, 'refused'); END");
+                       "DROP TABLE Lang0; CREATE TABLE Lang0 (ID SHORT INT CHECK (ID <> 4), Text)");
   }
 
   language.InitLanguages();
@@ -147,8 +146,8 @@ TEST_F(LanguageFileTest, CancelSkipsOneTextOnly) {
   language.InitLanguages();
   DBEngine::OpenDatabase(mustWork, language.Path())
       .ExecuteNative(mustWork,
-                     "DELETE FROM Lang0; DELETE FROM Lang1; CREATE TRIGGER no BEFORE INSERT ON "
-                     "Lang0 WHEN new.ID = 4 BEGIN SELECT raise(ABORT, 'refused'); END");
+                     "DROP TABLE Lang0; DELETE FROM Lang1; "
+                     "CREATE TABLE Lang0 (ID SHORT INT CHECK (ID <> 4), Text)");
   messages.Answer = MessageAnswer::Cancel;
 
   language.InitLanguages();

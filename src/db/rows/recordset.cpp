@@ -106,11 +106,11 @@ const FieldRef& FieldRef::operator=(Value value) const {
 
 void Recordset::ReadRows(std::shared_ptr<const TableDef> columns, sqlite3_stmt* statement,
                          RecordsetType type) {
-  editable_ = type == RecordsetType::Dynaset;
   table_ = std::move(columns);
   if (table_ == nullptr) {
     throw EngineFailure(failure_number::kNoSuchTable, "The rows of this query cannot be edited.");
   }
+  editable_ = type == RecordsetType::Dynaset;
   const int fields = static_cast<int>(table_->Fields.size());
   int result = sqlite3_step(statement);
   for (; result == SQLITE_ROW; result = sqlite3_step(statement)) {

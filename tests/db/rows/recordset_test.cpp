@@ -433,5 +433,14 @@ TEST_F(OpenRecordset, AnEditWithoutMemoryDoesNotHappen) {
                           failure_number::kNotBeingEdited));
 }
 
+TEST_F(OpenRecordset, RowsOfTwoTablesCannotBeEdited) {
+  Recordset rows =
+      db.OpenRecordset(failures, "SELECT a.name FROM t a, t b", {}, RecordsetType::Dynaset);
+
+  rows.AddNew();
+
+  EXPECT_THAT(failures.Numbers(), ElementsAre(3078, 3027));
+}
+
 }  // namespace
 }  // namespace orrerix
