@@ -248,8 +248,8 @@ TEST_P(SettingsOnABadDisk, KeepTheOldValueOrTakeTheNewOne) {
                      EXPECT_EQ(settings.ReadSetting("LANG"),
                                failed ? before : std::to_string(next));
                      EXPECT_EQ(Rows(), 13u);
-                     settings.WriteSettingValue("LANG", "7");
-                     EXPECT_EQ(settings.ReadSetting("LANG"), "7");
+                     settings.WriteSettingValue("LANG", std::to_string(++next));
+                     EXPECT_EQ(settings.ReadSetting("LANG"), std::to_string(next));
                      EXPECT_THAT(Files(), ElementsAre("FLOX-Settings.mdb"));
                    });
 }
