@@ -104,6 +104,7 @@ void SectionTable::MakeNicknameKey() {
 void SectionTable::AddNew() {
   rowID_ = ++lastID_;
   edited_ = EditedRow{rowID_, {}};
+  ++edits_;
   // Rows of one section are mostly alike.
   if (!rows_.empty()) edited_->Cells.reserve(rows_.back().Count);
   editedPlace_.reset();
@@ -116,16 +117,20 @@ void SectionTable::Edit(std::int32_t rowID) {
   if (found == rows_.rend() || found->ID != rowID) {
     throw EngineFailure(failure_number::kNoCurrentRecord, "No current record.");
   }
-  EditedRow edited{rowID, {}};
-  edited.Cells.reserve(found->Count);
-  for (const KeptCell& cell : found->Cells()) edited.Cells.push_back({cell.Field, cell.Text()});
-  edited_ = std::move(edited);
+  // Memory first: a row is taken up whole.
+  std::vector<Cell> cells;
+  cells.reserve(found->Count);
+  if (cellOf_.size() < fields_.size()) cellOf_.resize(fields_.size());
+  edited_ = EditedRow{rowID, std::move(cells)};
+  ++edits_;
+  for (const KeptCell& cell : found->Cells()) AddCell({cell.Field, cell.Text()});
   editedPlace_ = static_cast<std::size_t>(rows_.rend() - found) - 1;
   rowID_ = rowID;
 }
 
 const std::string_view* SectionTable::Get(FieldIndex field) const {
-  return edited_ ? edited_->Find(field) : nullptr;
+  const auto cell = edited_ ? FindCell(field) : std::nullopt;
+  return cell ? &edited_->Cells[*cell].Text : nullptr;
 }
 
 void SectionTable::Set(FieldIndex field, std::string_view text) {
@@ -135,13 +140,23 @@ void SectionTable::Set(FieldIndex field, std::string_view text) {
     if (const auto refused = FitInto(Field{fields_[field]}, name_, value)) throw *refused;
   }
   const std::string_view kept = field == kSourceFile ? KeepSourceFileName(text) : texts_.Keep(text);
-  for (Cell& cell : edited_->Cells) {
-    if (cell.Field == field) {
-      cell.Text = kept;
-      return;
-    }
+  if (const auto cell = FindCell(field)) {
+    edited_->Cells[*cell].Text = kept;
+  } else {
+    AddCell({field, kept});
   }
-  edited_->Cells.push_back({field, kept});
+}
+
+// Rows may have 2,000 cells and each of them be set again and again.
+std::optional<std::size_t> SectionTable::FindCell(FieldIndex field) const {
+  if (field >= cellOf_.size() || cellOf_[field].Edit != edits_) return std::nullopt;
+  return cellOf_[field].Cell;
+}
+
+void SectionTable::AddCell(const Cell& cell) {
+  if (cell.Field >= cellOf_.size()) cellOf_.resize(fields_.size());
+  edited_->Cells.push_back(cell);
+  cellOf_[cell.Field] = {edits_, edited_->Cells.size() - 1};
 }
 
 // Rows that follow one another come from the same file.

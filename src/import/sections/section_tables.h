@@ -96,6 +96,8 @@ class SectionTable {
 
   std::string_view KeepSourceFileName(std::string_view text);
   std::optional<std::string_view> KeyOf(const Row& row) const;
+  std::optional<std::size_t> FindCell(FieldIndex field) const;
+  void AddCell(const Cell& cell);
   bool HoldsKey(std::string_view key);
   void CheckKey(const EditedRow& row);
 
@@ -110,6 +112,13 @@ class SectionTable {
   KeySet keys_;
   std::vector<Row> rows_;
   std::optional<EditedRow> edited_;
+  // Where the row being edited has a field, if it has it since this edit began.
+  struct CellOfField {
+    std::uint64_t Edit = 0;
+    std::size_t Cell = 0;
+  };
+  std::vector<CellOfField> cellOf_;
+  std::uint64_t edits_ = 0;
   std::optional<std::size_t> editedPlace_;  // of a row that is being changed
   std::int32_t rowID_ = 0;
   std::int32_t lastID_ = 0;
