@@ -13,9 +13,9 @@ namespace {
 
 constexpr int kMostRetries = 5;
 
-// Bytes that the logs quote of one file, far more than those of any game's files come to.
-constexpr std::size_t kQuotesOfAnyFile = 1 << 20;
-constexpr std::size_t kQuotesOfAByte = 2;
+// Bytes that the logs quote of one file beyond its own size, far more than those of any game's
+// files come to.
+constexpr std::size_t kQuotesBeyondTheFile = 1 << 20;
 constexpr std::size_t kLongestQuote = 1 << 18;
 constexpr std::size_t kShortQuote = 200;
 
@@ -42,7 +42,7 @@ ReaderRoutine::ReaderRoutine(Import& import, std::string_view file)
 }
 
 void ReaderRoutine::SetFileSize(std::size_t bytes) {
-  quotesLeft_ = kQuotesOfAnyFile + kQuotesOfAByte * bytes;
+  quotesLeft_ = kQuotesBeyondTheFile + bytes;
   remarksLeft_ = quotesLeft_;
 }
 
