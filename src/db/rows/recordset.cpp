@@ -15,6 +15,9 @@
 namespace orrerix {
 namespace {
 
+// Fields of a table that are kept in memory, about 100 MB; a game of 500 systems has a sixth of it.
+constexpr std::size_t kMostHeldCells = 4 << 20;
+
 Failure NoCurrentRecord() {
   return EngineFailure(failure_number::kNoCurrentRecord, "No current record.");
 }
@@ -257,7 +260,12 @@ void Recordset::Insert() {
   const auto idField = table_->UniqueIDField();
   const bool drawsID = idField && !assigned_[*idField];
   if (!idField || drawsID) {
-    if (HeldRows* held = connection_->Held(table_)) return held->Add(edited_);
+    HeldRows* held = connection_->Held(table_);
+    if (held != nullptr && held->RowCount() * edited_.size() >= kMostHeldCells) {
+      connection_->WriteHeld();
+      held = nullptr;
+    }
+    if (held != nullptr) return held->Add(edited_);
   }
   if (idField) {
     UniqueNumbers& ids = connection_->UniqueIDs(*table_);
