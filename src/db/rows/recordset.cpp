@@ -237,7 +237,9 @@ void Recordset::Edit() {
 bool Recordset::KeyHoldsNull() const {
   if (!table_->PrimaryKey) return false;
   for (const std::string& field : table_->PrimaryKey->Fields) {
-    if (edited_[*table_->Find(field)].IsNull()) return true;
+    // A calculated column is no field.
+    const auto place = table_->Find(field);
+    if (place && edited_[*place].IsNull()) return true;
   }
   return false;
 }

@@ -467,5 +467,19 @@ TEST_F(OpenRecordset, RowsThatAreTooManyForMemoryGoIntoTheFile) {
   EXPECT_EQ(db.RowCount(mustWork, "wide"), 4200);
 }
 
+TEST_F(OpenRecordset, ATableWithAKeyOnACalculatedColumnTakesRows) {
+  db.ExecuteNative(mustWork,
+                   "CREATE TABLE g (name TEXT, twice AS (name || name)); "
+                   "CREATE UNIQUE INDEX i ON g (twice)");
+  Recordset rows = db.OpenTable(failures, "g");
+  rows.AddNew();
+  rows["name"] = "a";
+
+  rows.Update();
+
+  EXPECT_THAT(failures.Numbers(), IsEmpty());
+  EXPECT_EQ(db.RowCount(mustWork, "g"), 1);
+}
+
 }  // namespace
 }  // namespace orrerix
