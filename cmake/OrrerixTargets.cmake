@@ -15,6 +15,10 @@ if(ORRERIX_SANITIZE)
     -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
   target_link_options(orrerix_options INTERFACE -fsanitize=address,undefined)
 endif()
+if(ORRERIX_FUZZ)
+  # Each library is watched, not only the targets' few lines.
+  target_compile_options(orrerix_options INTERFACE -fsanitize=fuzzer-no-link)
+endif()
 
 # Optimised programs check their copies and their stack, and have their tables read-only. That they
 # load anywhere is the default of the compilers.

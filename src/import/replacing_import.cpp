@@ -107,7 +107,10 @@ ImportResult ReplaceUniverse(ErrorLog& log, ImportHost& host, const ReplacementO
   if (!result.Finished || !IsStamped(result.Tables)) return {};
   std::error_code error;
   fs::rename(UniverseFileIn(work.Path()), order.Target, error);
-  if (error) return {};
+  if (error) {
+    throw CannotReplace(fmt::format("cannot put the new universe file in the place of '{}': {}",
+                                    TextOf(order.Target), error.message()));
+  }
   return result;
 }
 

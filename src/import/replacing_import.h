@@ -10,7 +10,8 @@
 
 namespace orrerix {
 
-// The import cannot begin. The text is one line that names the file or folder.
+// The import cannot begin, or its file cannot take its place. The text is one line that names the
+// file or folder.
 struct CannotReplace : std::runtime_error {
   using std::runtime_error::runtime_error;
 };
@@ -24,7 +25,8 @@ struct ReplacementOrder {
 
 // Imports in a folder of its own beside the target, which is replaced in one step once all is done.
 // An import that is given up, or that `host` ends, leaves the target as it was; its answer is then
-// not Finished. Throws CannotReplace if another process uses the target.
+// not Finished. Throws CannotReplace if another process uses the target, or if that step is
+// refused.
 ImportResult ReplaceUniverse(ErrorLog& log, ImportHost& host, const ReplacementOrder& order,
                              const std::vector<DerivedStage>& stages);
 

@@ -2,6 +2,8 @@
 #include "platform/game_path.h"
 
 #include <algorithm>
+#include <set>
+#include <utility>
 #include <vector>
 
 #include "platform/path_text.h"
@@ -9,6 +11,9 @@
 namespace orrerix {
 namespace fs = std::filesystem;
 namespace {
+
+// More than any real path has.
+constexpr std::size_t kMostComponents = 4096;
 
 char LowerAscii(char c) {
   return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c;
@@ -44,24 +49,58 @@ std::vector<std::string> NamesIn(const fs::path& folder) {
   return names;
 }
 
-// Walks down the components from `at` on; `accept` says whether the path found will do.
+// Walks down the components of a path; `accept` says whether what is found will do. Where several
+// spellings are on disk each place is searched once, also if links lead to it on many ways.
+template <typename Accept>
+class PathSearch {
+ public:
+  PathSearch(FolderListings& listings, std::vector<std::string> components, Accept accept)
+      : listings_(listings), components_(std::move(components)), accept_(accept) {}
+
+  // The place of the components from `at` on, in a folder so many levels below the first one.
+  std::optional<fs::path> From(fs::path folder, std::size_t at = 0, std::size_t level = 0) {
+    for (; at < components_.size() && components_[at] == ".."; ++at, --level) {
+      if (level == 0) return std::nullopt;
+      folder = folder.parent_path();
+    }
+    if (at == components_.size()) return accept_(folder) ? std::optional(folder) : std::nullopt;
+    const std::string& name = components_[at];
+    const fs::path exact = SystemPath(folder / PathOf(name));
+    std::error_code error;
+    const bool isThere = fs::exists(exact, error);
+    if (isThere) {
+      if (auto found = From(exact, at + 1, level + 1)) return found;
+    }
+    if (kFileNamesIgnoreCase) return std::nullopt;
+    const std::vector<fs::path> others = listings_.OtherSpellings(folder, name);
+    if (isThere && !others.empty()) IsNew(exact, at + 1);
+    for (const fs::path& other : others) {
+      if (!IsNew(other, at + 1)) continue;
+      if (auto found = From(other, at + 1, level + 1)) return found;
+    }
+    return std::nullopt;
+  }
+
+ private:
+  // Notes a place where the components from `at` on are looked for. False if it was one already.
+  bool IsNew(const fs::path& folder, std::size_t at) {
+    std::error_code error;
+    const fs::path real = fs::canonical(folder, error);
+    return !error && searched_.emplace(real, at).second;
+  }
+
+  FolderListings& listings_;
+  std::vector<std::string> components_;
+  Accept accept_;
+  std::set<std::pair<fs::path, std::size_t>> searched_;
+};
+
 template <typename Accept>
 std::optional<fs::path> Find(FolderListings& listings, const fs::path& folder,
-                             const std::vector<std::string>& components, std::size_t at,
-                             Accept accept) {
-  if (at == components.size()) return accept(folder) ? std::optional(folder) : std::nullopt;
-  const std::string& name = components[at];
-  if (name == "..") return Find(listings, folder.parent_path(), components, at + 1, accept);
-  const fs::path exact = SystemPath(folder / PathOf(name));
-  std::error_code error;
-  if (fs::exists(exact, error)) {
-    if (auto found = Find(listings, exact, components, at + 1, accept)) return found;
-  }
-  if (kFileNamesIgnoreCase) return std::nullopt;
-  for (const fs::path& other : listings.OtherSpellings(folder, name)) {
-    if (auto found = Find(listings, other, components, at + 1, accept)) return found;
-  }
-  return std::nullopt;
+                             std::string_view path, Accept accept) {
+  std::vector<std::string> components = Components(path);
+  if (components.size() > kMostComponents) return std::nullopt;
+  return PathSearch<Accept>(listings, std::move(components), accept).From(folder);
 }
 
 bool IsFile(const fs::path& path) {
@@ -89,12 +128,12 @@ std::vector<fs::path> FolderListings::OtherSpellings(const fs::path& folder,
 
 std::optional<fs::path> FindFolder(const fs::path& below, std::string_view path) {
   FolderListings listings;
-  return Find(listings, below, Components(path), 0, IsFolder);
+  return Find(listings, below, path, IsFolder);
 }
 
 std::optional<fs::path> GameFolder::FindFile(std::string_view path) const {
   if (!path.starts_with(text_) || path.find('\0') != std::string_view::npos) return std::nullopt;
-  return Find(listings_, PathOf(text_), Components(path.substr(text_.size())), 0, IsFile);
+  return Find(listings_, PathOf(text_), path.substr(text_.size()), IsFile);
 }
 
 }  // namespace orrerix

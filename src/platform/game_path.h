@@ -37,9 +37,9 @@ class GameFolder {
 
   // The real file of a path that begins with Text(); nothing if there is none. "\" and "/" count
   // alike, the case of each component does not: the exact spelling is tried first, then all others
-  // on disk in byte order, also where two folders differ in case only. Blanks, tabs and dots at
-  // the end of a component are ignored. A folder is no file. Other spellings that come into a
-  // folder once it was searched are not seen.
+  // on disk in byte order, also where two folders differ in case only. Blanks, tabs and dots at the
+  // end of a component are ignored. A folder is no file. ".." never leads out of the game folder.
+  // Other spellings that come into a folder once it was searched are not seen.
   std::optional<std::filesystem::path> FindFile(std::string_view path) const;
 
  private:

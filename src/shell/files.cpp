@@ -39,6 +39,21 @@ void RenameFile(FailureSink& routine, const fs::path& from, const fs::path& to) 
   if (error) Report(routine, "rename", from, error);
 }
 
+void BuildWhole(FailureSink& routine, const ErrorLog& log, const fs::path& path,
+                const std::function<void(const fs::path&)>& build) {
+  fs::path begun = path;
+  begun += ".new";
+  fs::path journal = begun;
+  journal += "-journal";
+  DeleteFile(routine, begun);
+  DeleteFile(routine, journal);
+  const std::size_t failures = log.Failures().size();
+  build(begun);
+  if (log.Failures().size() == failures) RenameFile(routine, begun, path);
+  DeleteFile(routine, begun);
+  DeleteFile(routine, journal);
+}
+
 bool MakeFolder(FailureSink& routine, const fs::path& folder) {
   std::error_code error;
   fs::create_directories(SystemPath(folder), error);

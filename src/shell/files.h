@@ -3,8 +3,10 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 
 #include "db/failure.h"
+#include "shell/error_log.h"
 
 namespace orrerix {
 
@@ -16,6 +18,12 @@ void DeleteFile(FailureSink& routine, const std::filesystem::path& path);
 
 void RenameFile(FailureSink& routine, const std::filesystem::path& from,
                 const std::filesystem::path& to);
+
+// Has `build` make a database file beside its place, and puts it there if nothing was logged as
+// failed meanwhile; else nothing is left of it. A program that dies on the way leaves no file that
+// looks finished.
+void BuildWhole(FailureSink& routine, const ErrorLog& log, const std::filesystem::path& path,
+                const std::function<void(const std::filesystem::path&)>& build);
 
 // Makes a folder with those above it. False if it is not there afterwards.
 bool MakeFolder(FailureSink& routine, const std::filesystem::path& folder);

@@ -80,13 +80,10 @@ void LanguageFile::InitLanguages() {
   Routine routine(log_, "Settings.InitLanguages", "While writing default setting languages");
   routine.Run([&] {
     if (FileExists(routine, path_)) return Fill(routine, path_);
-    // A program that dies here leaves no file that looks finished.
-    fs::path begun = path_;
-    begun += ".new";
-    DeleteFile(routine, begun);
-    CreateFile(begun);
-    Fill(routine, begun);
-    RenameFile(routine, begun, path_);
+    BuildWhole(routine, log_, path_, [&](const fs::path& begun) {
+      CreateFile(begun);
+      Fill(routine, begun);
+    });
   });
 }
 

@@ -84,12 +84,17 @@ void Settings::WriteSettingValue(const std::string& key, const std::string& valu
 void Settings::CreateSettings() {
   Routine routine(log_, "Settings.CreateSettings", "While creating default setting database");
   routine.Run([&] {
-    Database settings = DBEngine::CreateDatabase(routine, path_, option_);
-    settings.Begin(routine);
-    settings.CreateTable(routine, SettingsTable());
-    for (std::string_view row : kDefaultRows) settings.Execute(routine, row);
-    settings.Commit(routine);
+    if (FileExists(routine, path_)) return Create(routine, path_);
+    BuildWhole(routine, log_, path_, [&](const fs::path& begun) { Create(routine, begun); });
   });
+}
+
+void Settings::Create(Routine& routine, const fs::path& path) {
+  Database settings = DBEngine::CreateDatabase(routine, path, option_);
+  settings.Begin(routine);
+  settings.CreateTable(routine, SettingsTable());
+  for (std::string_view row : kDefaultRows) settings.Execute(routine, row);
+  settings.Commit(routine);
 }
 
 }  // namespace orrerix

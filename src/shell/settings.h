@@ -10,6 +10,8 @@
 
 namespace orrerix {
 
+class Routine;
+
 // Rows of "FLOX-Settings.mdb" in the application folder, opened again for each call. A missing
 // file, or one that lacks a key, is made again with the defaults.
 class Settings {
@@ -23,12 +25,14 @@ class Settings {
   // Stores a value; a new row has no description. The file must be there.
   void WriteSettingValue(const std::string& key, const std::string& value);
 
-  // Builds the file with its thirteen rows.
+  // Builds the file with its thirteen rows. A file that is missing appears when it is complete.
   void CreateSettings();
 
   const std::filesystem::path& Path() const { return path_; }
 
  private:
+  void Create(Routine& routine, const std::filesystem::path& path);
+
   ErrorLog& log_;
   std::filesystem::path path_;
   JetVersionOption option_;

@@ -93,5 +93,33 @@ TEST_F(GamePath, AGameFolderThatIsNotThereHasNoFiles) {
   EXPECT_FALSE(GameFolder("").FindFile("\\exe\\freelancer.ini"));
 }
 
+TEST_F(GamePath, NeverLeadsOutOfTheGameFolder) {
+  Put("data/a.ini");
+  const GameFolder inner((folder.Path() / "data").string());
+
+  EXPECT_EQ(Found("\\data\\..\\data\\a.ini"), "data/a.ini");
+  EXPECT_EQ(inner.FindFile(inner.Text() + "\\..\\data\\a.ini"), std::nullopt);
+}
+
+TEST_F(GamePath, BearsPathsThatGoUpAndDownForEver) {
+  Put("data/a.ini");
+  std::string path;
+  for (int i = 0; i < 500000; ++i) path += "\\data\\..";
+
+  EXPECT_EQ(Found(path + "\\data\\a.ini"), "(none)");
+}
+
+// Each of the 30 components could be any of two spellings: all ways together are 2^30.
+TEST_F(GamePath, SearchesAPlaceOnceThatLinksLeadToOnManyWays) {
+  if (kFileNamesIgnoreCase) GTEST_SKIP() << "There is one spelling only.";
+  for (const char* name : {"loop", "LOOP"}) {
+    fs::create_directory_symlink(".", folder.Path() / name);
+  }
+  std::string path;
+  for (int i = 0; i < 30; ++i) path += "\\Loop";
+
+  EXPECT_EQ(Found(path + "\\a.ini"), "(none)");
+}
+
 }  // namespace
 }  // namespace orrerix

@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include "shell/language_texts.h"
+#include "support/failing_disk.h"
 #include "support/failure_sinks.h"
 #include "support/fake_message_boxes.h"
 #include "support/temp_folder.h"
@@ -129,8 +130,7 @@ TEST_F(LanguageFileTest, ATextThatCannotBeWrittenIsOneFailureAndTheNextOnesStand
   {
     Database file = DBEngine::OpenDatabase(mustWork, language.Path());
     file.ExecuteNative(mustWork,
-                       "DELETE FROM Lang0; CREATE TRIGGER no BEFORE INSERT ON Lang0 "
-                       "WHEN new.ID = 4 BEGIN SELECT raise(ABORT, 'refused'); END");
+                       "DROP TABLE Lang0; CREATE TABLE Lang0 (ID SHORT INT CHECK (ID <> 4), Text)");
   }
 
   language.InitLanguages();
@@ -147,8 +147,8 @@ TEST_F(LanguageFileTest, CancelSkipsOneTextOnly) {
   language.InitLanguages();
   DBEngine::OpenDatabase(mustWork, language.Path())
       .ExecuteNative(mustWork,
-                     "DELETE FROM Lang0; DELETE FROM Lang1; CREATE TRIGGER no BEFORE INSERT ON "
-                     "Lang0 WHEN new.ID = 4 BEGIN SELECT raise(ABORT, 'refused'); END");
+                     "DROP TABLE Lang0; DELETE FROM Lang1; "
+                     "CREATE TABLE Lang0 (ID SHORT INT CHECK (ID <> 4), Text)");
   messages.Answer = MessageAnswer::Cancel;
 
   language.InitLanguages();
@@ -216,6 +216,72 @@ TEST(AFixedLanguage, NeedsNoFile) {
   EXPECT_EQ(FixedLanguage(Language::French).Text(TextId::Price), "Prix");
   EXPECT_EQ(FixedLanguage(static_cast<Language>(7)).Text(TextId::Price), "?????");
 }
+
+// The disk fails at each operation in turn.
+class LanguageFileOnABadDisk : public LanguageFileTest,
+                               public ::testing::WithParamInterface<DiskTrouble> {
+ protected:
+  // The 29 texts of a language are there, and nothing but the file.
+  void ExpectWhole() {
+    Database file = DBEngine::OpenDatabase(mustWork, language.Path());
+    EXPECT_EQ(file.OpenRecordset(mustWork, "SELECT * FROM Lang1").RecordCount(), 29u);
+    EXPECT_EQ(language.Text(TextId::JumpGateLines), "Jumpgate Lines");
+    for (const auto& entry : std::filesystem::directory_iterator(folder.Path())) {
+      EXPECT_EQ(entry.path().filename(), "FLOX-Language.mdb");
+    }
+  }
+
+  void ExpectTheFilesName(std::size_t since) {
+    if (log.Failures().size() == since) return;
+    EXPECT_THAT(log.Failures()[since].What.Description, ::testing::HasSubstr("FLOX-Language.mdb"));
+  }
+};
+
+TEST_P(LanguageFileOnABadDisk, IsMadeWholeOrNotAtAll) {
+  int operations = 0;
+  for (bool happened = true; happened; ++operations) {
+    std::filesystem::remove(language.Path());
+    const std::size_t before = log.Failures().size();
+    {
+      const FailingDisk trouble(GetParam(), operations);
+      language.InitLanguages();
+      happened = trouble.Happened();
+    }
+    const bool failed = log.Failures().size() > before;
+    EXPECT_EQ(std::filesystem::exists(language.Path()), !failed);
+    ExpectTheFilesName(before);
+
+    language.InitLanguages();
+    ExpectWhole();
+    ASSERT_FALSE(HasFailure()) << operations;
+  }
+  EXPECT_GT(operations, 3);
+}
+
+TEST_P(LanguageFileOnABadDisk, KeepsItsTextsUntilAllNewOnesAreIn) {
+  language.InitLanguages();
+  int operations = 0;
+  for (bool happened = true; happened; ++operations) {
+    language.SetLanguage(3, {"old", "alt", "vieux"});
+    const std::size_t before = log.Failures().size();
+    {
+      const FailingDisk trouble(GetParam(), operations);
+      language.InitLanguages();
+      happened = trouble.Happened();
+    }
+    const bool failed = log.Failures().size() > before;
+    EXPECT_EQ(language.Text(TextId::JumpGateLines), failed ? "old" : "Jumpgate Lines");
+    ExpectTheFilesName(before);
+
+    language.InitLanguages();
+    ExpectWhole();
+    ASSERT_FALSE(HasFailure()) << operations;
+  }
+  EXPECT_GT(operations, 3);
+}
+
+INSTANTIATE_TEST_SUITE_P(ErrorAndFull, LanguageFileOnABadDisk,
+                         ::testing::Values(DiskTrouble::Error, DiskTrouble::Full));
 
 }  // namespace
 }  // namespace orrerix

@@ -5,10 +5,12 @@
 #include <filesystem>
 #include <map>
 #include <string>
+#include <vector>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "support/failing_disk.h"
 #include "support/failure_sinks.h"
 #include "support/fake_message_boxes.h"
 #include "support/temp_folder.h"
@@ -17,6 +19,8 @@ namespace orrerix {
 namespace {
 
 namespace fs = std::filesystem;
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using ::testing::Not;
 using ::testing::SizeIs;
@@ -184,6 +188,79 @@ TEST_F(SettingsFile, AFolderThatIsNotThereIsAFailure) {
   EXPECT_EQ(log.Failures()[0].Source, "Settings.CreateSettings");
   EXPECT_EQ(log.Failures()[0].Info, "While creating default setting database");
 }
+
+// The disk fails at each operation in turn.
+class SettingsOnABadDisk : public SettingsFile, public ::testing::WithParamInterface<DiskTrouble> {
+ protected:
+  // Runs a step with a failing disk, then `look`, until the step has nothing left that could fail.
+  template <typename Begin, typename Step, typename Look>
+  void AtEveryOperation(const Begin& begin, const Step& step, const Look& look) {
+    int operations = 0;
+    for (bool happened = true; happened; ++operations) {
+      begin();
+      const std::size_t before = log.Failures().size();
+      {
+        const FailingDisk trouble(GetParam(), operations);
+        step();
+        happened = trouble.Happened();
+      }
+      look(log.Failures().size() > before);
+      if (log.Failures().size() > before) {
+        EXPECT_THAT(log.Failures()[before].What.Description, HasSubstr("FLOX-Settings.mdb"));
+      }
+      ASSERT_FALSE(HasFailure()) << operations;
+    }
+    EXPECT_GT(operations, 3);
+  }
+
+  std::vector<fs::path> Files() const {
+    std::vector<fs::path> files;
+    for (const auto& entry : fs::directory_iterator(folder.Path())) {
+      files.push_back(entry.path().filename());
+    }
+    return files;
+  }
+
+  std::size_t Rows() {
+    Database file = DBEngine::OpenDatabase(mustWork, settings.Path());
+    return file.OpenRecordset(mustWork, "SELECT * FROM Settings").RecordCount();
+  }
+};
+
+TEST_P(SettingsOnABadDisk, AreMadeWholeOrNotAtAll) {
+  AtEveryOperation([&] { fs::remove(settings.Path()); }, [&] { settings.CreateSettings(); },
+                   [&](bool failed) {
+                     EXPECT_EQ(fs::exists(settings.Path()), !failed);
+                     EXPECT_EQ(settings.ReadSetting("SET1-2"), "1");
+                     EXPECT_EQ(Rows(), 13u);
+                     EXPECT_THAT(Files(), ElementsAre("FLOX-Settings.mdb"));
+                   });
+}
+
+TEST_P(SettingsOnABadDisk, KeepTheOldValueOrTakeTheNewOne) {
+  settings.CreateSettings();
+  std::string before = "0";
+  int next = 1;
+
+  AtEveryOperation([&] { before = settings.ReadSetting("LANG"); },
+                   [&] { settings.WriteSettingValue("LANG", std::to_string(++next)); },
+                   [&](bool failed) {
+                     EXPECT_EQ(settings.ReadSetting("LANG"),
+                               failed ? before : std::to_string(next));
+                     EXPECT_EQ(Rows(), 13u);
+                     settings.WriteSettingValue("LANG", std::to_string(++next));
+                     EXPECT_EQ(settings.ReadSetting("LANG"), std::to_string(next));
+                     EXPECT_THAT(Files(), ElementsAre("FLOX-Settings.mdb"));
+                   });
+}
+
+TEST_P(SettingsOnABadDisk, AreReadOnceTheDiskIsWellAgain) {
+  AtEveryOperation([&] { fs::remove(settings.Path()); }, [&] { settings.ReadSetting("SET1-2"); },
+                   [&](bool) { EXPECT_EQ(settings.ReadSetting("SET1-2"), "1"); });
+}
+
+INSTANTIATE_TEST_SUITE_P(ErrorAndFull, SettingsOnABadDisk,
+                         ::testing::Values(DiskTrouble::Error, DiskTrouble::Full));
 
 }  // namespace
 }  // namespace orrerix

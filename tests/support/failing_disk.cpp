@@ -3,6 +3,13 @@
 
 #include <sqlite3.h>
 
+#ifndef _WIN32
+#include <cerrno>
+
+#include <fcntl.h>
+#include <stdio.h>
+#endif
+
 namespace orrerix {
 namespace {
 
@@ -13,6 +20,7 @@ struct Fault {
 
   // What an operation answers in the place of its own answer; SQLITE_OK lets it happen.
   int Answer(int error) {
+    if ((Trouble == DiskTrouble::Unreadable) != (error == SQLITE_IOERR_READ)) return SQLITE_OK;
     if (Left-- > 0) return SQLITE_OK;
     Happened = true;
     return Trouble == DiskTrouble::Full ? SQLITE_FULL : error;
@@ -27,6 +35,7 @@ constexpr const char* kDisk = nullptr;
 #endif
 
 Fault fault;
+bool isInFront = false;
 sqlite3_vfs* disk = nullptr;
 sqlite3_vfs failing;
 
@@ -44,7 +53,8 @@ int Close(sqlite3_file* file) {
   return Real(file)->pMethods->xClose(Real(file));
 }
 int Read(sqlite3_file* file, void* bytes, int size, sqlite3_int64 place) {
-  return Real(file)->pMethods->xRead(Real(file), bytes, size, place);
+  const int answer = fault.Answer(SQLITE_IOERR_READ);
+  return answer != SQLITE_OK ? answer : Real(file)->pMethods->xRead(Real(file), bytes, size, place);
 }
 int Write(sqlite3_file* file, const void* bytes, int size, sqlite3_int64 place) {
   const int answer = fault.Answer(SQLITE_IOERR_WRITE);
@@ -118,8 +128,17 @@ int Delete(sqlite3_vfs*, const char* name, int syncFolder) {
 
 }  // namespace
 
+#ifndef _WIN32
+bool IsRenamingRefused() {
+  if (!isInFront || fault.Answer(SQLITE_IOERR) == SQLITE_OK) return false;
+  errno = fault.Trouble == DiskTrouble::Full ? ENOSPC : EIO;
+  return true;
+}
+#endif
+
 FailingDisk::FailingDisk(DiskTrouble trouble, int operationsBefore) {
   fault = {trouble, operationsBefore, false};
+  isInFront = true;
   disk = sqlite3_vfs_find(kDisk);
   failing = *disk;  // its name too: of two the one that was registered last is found
   failing.szOsFile = static_cast<int>(sizeof(File)) + disk->szOsFile;
@@ -129,6 +148,7 @@ FailingDisk::FailingDisk(DiskTrouble trouble, int operationsBefore) {
 }
 
 FailingDisk::~FailingDisk() {
+  isInFront = false;
   sqlite3_vfs_unregister(&failing);
   if (kDisk == nullptr) sqlite3_vfs_register(disk, 1);
 }
@@ -138,3 +158,10 @@ bool FailingDisk::Happened() const {
 }
 
 }  // namespace orrerix
+
+#ifndef _WIN32
+// In front of the system's own.
+extern "C" int rename(const char* from, const char* to) noexcept {
+  return orrerix::IsRenamingRefused() ? -1 : renameat(AT_FDCWD, from, AT_FDCWD, to);
+}
+#endif

@@ -4,11 +4,13 @@
 
 namespace orrerix {
 
-enum class DiskTrouble { Error, Full };
+// With Unreadable it is reading that fails, else all that changes the disk.
+enum class DiskTrouble { Error, Full, Unreadable };
 
 // While it lives, the database files' operation after so many others fails, and with it all that
-// follow: opening a file to write, writing, truncating, flushing, deleting. Files that are open
-// when it begins are not counted.
+// follow: opening a file to write, writing, truncating, flushing, deleting, and, where the system
+// lets a program stand in front, any file's renaming. Files that are open when it begins are not
+// counted.
 class FailingDisk {
  public:
   FailingDisk(DiskTrouble trouble, int operationsBefore);

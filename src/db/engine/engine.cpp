@@ -25,6 +25,18 @@ const char* FileLayer() {
   return sqlite3_vfs_find(longPaths) == nullptr ? nullptr : longPaths;
 }
 
+// A file may come from anybody. It holds tables and nothing that runs: no views, no triggers, no
+// tables that other code makes up, and no value beyond what a file of the program could have.
+void TrustNothing(sqlite3* handle) {
+  constexpr int longestValue = 256 << 20;  // bytes
+  for (const int permission : {SQLITE_DBCONFIG_ENABLE_VIEW, SQLITE_DBCONFIG_ENABLE_TRIGGER,
+                               SQLITE_DBCONFIG_TRUSTED_SCHEMA}) {
+    sqlite3_db_config(handle, permission, 0, nullptr);
+  }
+  sqlite3_drop_modules(handle, nullptr);
+  sqlite3_limit(handle, SQLITE_LIMIT_LENGTH, longestValue);
+}
+
 std::shared_ptr<Connection> Connect(const fs::path& path, int flags) {
   [[maybe_unused]] static const bool kConfigured = ConfigureEngine();
   sqlite3* handle = nullptr;
@@ -36,6 +48,7 @@ std::shared_ptr<Connection> Connect(const fs::path& path, int flags) {
                         fmt::format("Could not open file '{}'.", TextOf(path)));
   }
   sqlite3_extended_result_codes(handle, 1);
+  TrustNothing(handle);
   RegisterEngineFunctions(handle);
   return connection;
 }

@@ -119,8 +119,9 @@ std::optional<int> FailureNumberOf(int engineCode) {
 void RegisterEngineFunctions(sqlite3* connection) {
   const auto add = [connection](const char* name, int arguments,
                                 void (*function)(sqlite3_context*, int, sqlite3_value**)) {
-    sqlite3_create_function_v2(connection, name, arguments, SQLITE_UTF8 | SQLITE_DETERMINISTIC,
-                               nullptr, function, nullptr, nullptr, nullptr);
+    sqlite3_create_function_v2(connection, name, arguments,
+                               SQLITE_UTF8 | SQLITE_DETERMINISTIC | SQLITE_INNOCUOUS, nullptr,
+                               function, nullptr, nullptr, nullptr);
   };
   add("ucase", 1, Guarded<UcaseFunction>);
   add("len", 1, Guarded<LenFunction>);

@@ -8,6 +8,7 @@
 #include <sqlite3.h>
 
 #include "db/engine/engine.h"
+#include "platform/path_text.h"
 
 namespace orrerix {
 namespace fs = std::filesystem;
@@ -49,11 +50,21 @@ constexpr std::array kLookups = {
     Lookup{"shieldgenerator", "ucase(nickname) COLLATE NOCASE"},
 };
 
-bool CopyPages(sqlite3* from, sqlite3* to) {
+// Copies all pages; the engine's code of what became of it.
+int CopyPages(sqlite3* from, sqlite3* to) {
   sqlite3_backup* backup = sqlite3_backup_init(to, "main", from, "main");
-  if (backup == nullptr) return false;
+  if (backup == nullptr) return sqlite3_errcode(to);
   sqlite3_backup_step(backup, -1);
-  return sqlite3_backup_finish(backup) == SQLITE_OK;
+  return sqlite3_backup_finish(backup);
+}
+
+Failure CannotCopy(int code, const fs::path& path) {
+  if ((code & 0xFF) == SQLITE_IOERR) {
+    return EngineFailure(failure_number::kCannotOpenFile,
+                         fmt::format("Could not read file '{}'.", TextOf(path)));
+  }
+  return EngineFailure(failure_number::kUnrecognizedFormat,
+                       fmt::format("Unrecognized database format '{}'.", TextOf(path)));
 }
 
 bool HasColumn(const Database& database, std::string_view table, std::string_view expression) {
@@ -83,10 +94,9 @@ Database& WorkingCopy::Of(FailureSink& sink, const fs::path& path) {
   Database file = DBEngine::OpenDatabase(sink, path);
   if (!file.IsOpen()) return copy_;
   copy_ = DBEngine::CreateInMemory(sink);
-  if (!CopyPages(file.Native(), copy_.Native())) {
+  if (const int code = CopyPages(file.Native(), copy_.Native()); code != SQLITE_OK) {
     Drop();
-    sink.Fail(EngineFailure(failure_number::kUnrecognizedFormat,
-                            fmt::format("Unrecognized database format '{}'.", path.string())));
+    sink.Fail(CannotCopy(code, path));
     return copy_;
   }
   for (std::size_t i = 0; i < kLookups.size(); ++i) {

@@ -15,6 +15,9 @@
 namespace orrerix {
 namespace {
 
+// Fields of a table that are kept in memory, about 100 MB; a game of 500 systems has a sixth of it.
+constexpr std::size_t kMostHeldCells = 4 << 20;
+
 Failure NoCurrentRecord() {
   return EngineFailure(failure_number::kNoCurrentRecord, "No current record.");
 }
@@ -106,11 +109,11 @@ const FieldRef& FieldRef::operator=(Value value) const {
 
 void Recordset::ReadRows(std::shared_ptr<const TableDef> columns, sqlite3_stmt* statement,
                          RecordsetType type) {
-  editable_ = type == RecordsetType::Dynaset;
   table_ = std::move(columns);
   if (table_ == nullptr) {
     throw EngineFailure(failure_number::kNoSuchTable, "The rows of this query cannot be edited.");
   }
+  editable_ = type == RecordsetType::Dynaset;
   const int fields = static_cast<int>(table_->Fields.size());
   int result = sqlite3_step(statement);
   for (; result == SQLITE_ROW; result = sqlite3_step(statement)) {
@@ -234,7 +237,9 @@ void Recordset::Edit() {
 bool Recordset::KeyHoldsNull() const {
   if (!table_->PrimaryKey) return false;
   for (const std::string& field : table_->PrimaryKey->Fields) {
-    if (edited_[*table_->Find(field)].IsNull()) return true;
+    // A calculated column is no field.
+    const auto place = table_->Find(field);
+    if (place && edited_[*place].IsNull()) return true;
   }
   return false;
 }
@@ -257,7 +262,12 @@ void Recordset::Insert() {
   const auto idField = table_->UniqueIDField();
   const bool drawsID = idField && !assigned_[*idField];
   if (!idField || drawsID) {
-    if (HeldRows* held = connection_->Held(table_)) return held->Add(edited_);
+    HeldRows* held = connection_->Held(table_);
+    if (held != nullptr && held->RowCount() * edited_.size() >= kMostHeldCells) {
+      connection_->WriteHeld();
+      held = nullptr;
+    }
+    if (held != nullptr) return held->Add(edited_);
   }
   if (idField) {
     UniqueNumbers& ids = connection_->UniqueIDs(*table_);

@@ -22,7 +22,7 @@ CommaCut Require(std::string_view text) {
 
 }  // namespace
 
-BlockText::BlockText(std::string text) : text_(std::move(text)), upper_(UpperAscii(text_)) {}
+BlockText::BlockText(std::string_view text) : text_(text), upper_(UpperAscii(text)) {}
 
 std::optional<std::size_t> BlockText::Find(std::string_view upperPart) const {
   return FindIn(Upper(), upperPart);

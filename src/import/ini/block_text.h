@@ -9,12 +9,13 @@
 
 namespace orrerix {
 
-// Keeps the text with its upper-case form. Positions count from the front of what is left.
+// A text, which must outlive this, with its upper-case form. Positions count from the front of what
+// is left.
 class BlockText {
  public:
-  explicit BlockText(std::string text);
+  explicit BlockText(std::string_view text);
 
-  std::string_view Text() const { return std::string_view(text_).substr(begin_); }
+  std::string_view Text() const { return text_.substr(begin_); }
   std::size_t Size() const { return text_.size() - begin_; }
   bool Empty() const { return Size() == 0; }
 
@@ -35,7 +36,7 @@ class BlockText {
  private:
   std::string_view Upper() const { return std::string_view(upper_).substr(begin_); }
 
-  std::string text_;
+  std::string_view text_;
   std::string upper_;
   std::size_t begin_ = 0;
 };

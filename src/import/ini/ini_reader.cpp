@@ -54,6 +54,7 @@ class Reader {
       : import_(import), routine_(routine), file_(file), known_(import, routine, systemNickname) {}
 
   void Read(std::string_view text) {
+    routine_.SetFileSize(text.size());
     const auto length = static_cast<std::int32_t>(text.size());
     import_.ProgressIt(length, 0);
     lastTick_ = import_.Host.TickCount();
@@ -74,7 +75,7 @@ class Reader {
     if (!IsDue(now, lastTick_) && !import_.Host.IsDebugging()) return;
     if (!import_.Host.IsMinimised()) {
       import_.Host.ShowText(FormatIn(import_.Host.Speech(), TextId::ReadingFile, file_) +
-                            "\r\n\r\n" + FromWindows1252(routine_.BlockCopy()));
+                            "\r\n\r\n" + FromWindows1252(routine_.BlockQuote()));
     }
     import_.ProgressIt(length, std::min(length, consumed));
     lastTick_ = import_.Host.TickCount();
@@ -91,14 +92,10 @@ class Reader {
   }
 
   void ReadSection(std::string_view block) {
-    std::string text = RemoveComments(block);
-    if (const std::size_t header = text.find('['); header != std::string::npos) {
-      text.erase(0, header);
-    }
-    text = FixCrLf(std::move(text));
-    if (known_.Read(text)) return;
+    const CleanBlock clean(block);
+    if (known_.Read(clean.Text())) return;
     routine_.SetInGeneric(true);
-    ReadGenericSection(import_, routine_, file_, text);
+    ReadGenericSection(import_, routine_, file_, clean.Text());
   }
 
   Import& import_;

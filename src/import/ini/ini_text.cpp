@@ -14,10 +14,19 @@ std::string_view UpToCarriageReturn(std::string_view text) {
   return Trim(text.substr(0, text.find('\r')));
 }
 
-// The next two functions never leave their loops early and count in bytes, so that the compiler
-// can vectorise them.
+// The next three functions never leave their loops early, so that the compiler can vectorise them.
 
-// Whether each CR or LF between the first and the last character has its partner.
+// How many of the CR and LF between the first and the last character lack their partner.
+std::size_t BrokenLineEnds(std::string_view text) {
+  std::size_t broken = 0;
+  for (std::size_t i = 1; i + 1 < text.size(); ++i) {
+    broken += std::size_t(int(text[i] == '\n') & int(text[i - 1] != '\r'));
+    broken += std::size_t(int(text[i] == '\r') & int(text[i + 1] != '\n'));
+  }
+  return broken;
+}
+
+// Whether there is none of them.
 bool LineEndsAreWhole(std::string_view text) {
   std::uint8_t broken = 0;
   for (std::size_t i = 1; i + 1 < text.size(); ++i) {
@@ -39,7 +48,7 @@ bool HasBlanksBeforeSigns(std::string_view text) {
 // Line ends only; blanks before "=" come later.
 std::string WithLineEnds(std::string_view text) {
   std::string fixed;
-  fixed.reserve(text.size() + text.size() / 16);
+  fixed.reserve(text.size() + BrokenLineEnds(text));
   fixed.push_back(text.front());
   for (std::size_t i = 1; i + 1 < text.size(); ++i) {
     const char c = text[i];
@@ -111,9 +120,27 @@ std::string RemoveComments(std::string_view text) {
 }
 
 std::string FixCrLf(std::string text) {
-  if (text.size() > 2 && !LineEndsAreWhole(text)) text = WithLineEnds(text);
+  if (!LineEndsAreWhole(text)) text = WithLineEnds(text);
   if (HasBlanksBeforeSigns(text)) ShrinkBlanksBeforeSigns(text);
   return text;
+}
+
+CleanBlock::CleanBlock(std::string_view block) : text_(block) {
+  if (block.find(';') != std::string_view::npos) {
+    copy_ = RemoveComments(block);
+    text_ = copy_;
+  }
+  if (const std::size_t header = text_.find('['); header != std::string_view::npos) {
+    text_.remove_prefix(header);
+  }
+  if (LineEndsAreWhole(text_) && !HasBlanksBeforeSigns(text_)) return;
+  if (copy_.empty()) {
+    copy_ = text_;
+  } else {
+    copy_.erase(0, copy_.size() - text_.size());
+  }
+  copy_ = FixCrLf(std::move(copy_));
+  text_ = copy_;
 }
 
 }  // namespace orrerix

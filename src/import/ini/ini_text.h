@@ -30,4 +30,19 @@ std::string RemoveComments(std::string_view text);
 // the last character are not examined, so a lone LF or CR stays there.
 std::string FixCrLf(std::string text);
 
+// A block from its "[" on, without comments and with line ends and blanks as FixCrLf leaves them.
+// It is copied only if something of that is to be changed; else the block must outlive this.
+class CleanBlock {
+ public:
+  explicit CleanBlock(std::string_view block);
+  CleanBlock(const CleanBlock&) = delete;
+  CleanBlock& operator=(const CleanBlock&) = delete;
+
+  std::string_view Text() const { return text_; }
+
+ private:
+  std::string copy_;
+  std::string_view text_;
+};
+
 }  // namespace orrerix

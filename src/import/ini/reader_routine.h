@@ -2,6 +2,7 @@
 // How the ini reader takes its failures.
 #pragma once
 
+#include <cstddef>
 #include <functional>
 #include <string>
 #include <string_view>
@@ -51,6 +52,17 @@ class ReaderRoutine : public Routine {
   // What messages quote of the place: the untouched block and the last line taken from it.
   void BeginBlock(std::string_view block);
   std::string_view BlockCopy() const { return blockCopy_; }
+  // The block as the logs quote it: whole, or the beginning of a very long one.
+  std::string_view BlockQuote() const;
+  // How long the file is, before its first block. What the logs quote of a file is bounded by it: a
+  // block whose every line is at fault would be quoted as often as it has lines.
+  void SetFileSize(std::size_t bytes);
+
+  // Adds a remark to the data log. One that would be too much for its file is left out, and so are
+  // all that follow; the log says that once.
+  void Remark(std::string_view remark);
+  bool TakesRemarks() const { return !remarksEnded_; }
+
   void SetCurrentLine(std::string_view line) { currentLine_ = line; }
 
   void SetInGeneric(bool inGeneric) { inGeneric_ = inGeneric; }
@@ -62,12 +74,16 @@ class ReaderRoutine : public Routine {
  private:
   struct BeginAgain {};
 
-  std::string Info() const;
+  std::string Info();
+  std::string_view Quoted(std::string_view text);
   void LackOfMemory();
   void LogDataError(const Failure& failure);
 
   Import& import_;
   std::string_view file_;
+  std::size_t quotesLeft_ = 0;   // bytes
+  std::size_t remarksLeft_ = 0;  // bytes
+  bool remarksEnded_ = false;
   std::string_view blockCopy_;
   std::string currentLine_;
   std::string_view key_;

@@ -171,10 +171,11 @@ class RowReader {
   void WarnOfDoubleData(std::string_view key, SectionTable::FieldIndex field) {
     const std::string_view* before = table_.Get(field);
     if (before == nullptr || Len(*before) <= 1 || IsOneOf(kRepeating, key)) return;
-    import_.Target.Log.AddErrorLine(
+    if (!routine_.TakesRemarks()) return;
+    routine_.Remark(
         fmt::format("+--- Warning: DOUBLE-DATA for [{}] in file [{}] in DataBlock:\r\n{}\r\n-- "
                     "(useing last value) --\r\n",
-                    key, file_, FromWindows1252(routine_.BlockCopy())));
+                    key, file_, FromWindows1252(routine_.BlockQuote())));
   }
 
   Import& import_;

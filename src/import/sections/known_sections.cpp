@@ -58,7 +58,7 @@ KnownSections::KnownSections(Import& import, ReaderRoutine& routine, std::string
   ships_ = universe.OpenTable(routine, "ships");
 }
 
-bool KnownSections::Read(const std::string& block) {
+bool KnownSections::Read(std::string_view block) {
   struct Kind {
     std::string_view Header;
     void (KnownSections::*Read)(BlockText&);
@@ -78,7 +78,7 @@ bool KnownSections::Read(const std::string& block) {
       {"[LOADOUT]", &KnownSections::ReadLoadout},
   }};
   constexpr std::size_t longestHeader = 12;
-  const std::string start = UpperAscii(std::string_view(block).substr(0, longestHeader));
+  const std::string start = UpperAscii(block.substr(0, longestHeader));
   for (const Kind& kind : kKinds) {
     if (!start.starts_with(kind.Header)) continue;
     BlockText text(block);

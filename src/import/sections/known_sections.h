@@ -3,6 +3,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "import/ini/block_text.h"
 #include "import/ini/reader_routine.h"
@@ -15,7 +16,7 @@ class KnownSections {
   KnownSections(Import& import, ReaderRoutine& routine, std::string systemNickname);
 
   // Handles a block without comments and with CR LF line ends. False if it is of no known kind.
-  bool Read(const std::string& block);
+  bool Read(std::string_view block);
 
  private:
   void ReadSystem(BlockText& block);

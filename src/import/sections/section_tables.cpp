@@ -16,6 +16,17 @@ namespace {
 constexpr std::size_t kMostFields = 1999;
 
 constexpr std::string_view kSourceFileName = "SourceFileName";
+constexpr SectionTable::FieldIndex kSourceFile = 0;
+
+// A hash of a key in whose text case does not count. Takes no memory.
+std::size_t HashOfKey(std::string_view key) {
+  std::uint64_t hash = 0xCBF29CE484222325;
+  for (const char c : key) {
+    hash ^= static_cast<unsigned char>(c >= 'A' && c <= 'Z' ? c + 32 : c);
+    hash *= 0x100000001B3;
+  }
+  return static_cast<std::size_t>(hash ^ hash >> 29);
+}
 
 void RequireName(std::string_view name) {
   if (name.find('\0') == std::string_view::npos) return;
@@ -56,35 +67,46 @@ SectionTable::FieldIndex SectionTable::AddField(std::string_view name) {
   return place;
 }
 
-const std::string_view* SectionTable::Row::Find(FieldIndex field) const {
+const std::string_view* SectionTable::EditedRow::Find(FieldIndex field) const {
   for (const Cell& cell : Cells) {
     if (cell.Field == field) return &cell.Text;
   }
   return nullptr;
 }
 
-std::optional<std::string> SectionTable::KeyOf(const Row& row) const {
-  const std::string_view* key = row.Find(*keyField_);
-  return key == nullptr ? std::nullopt : std::optional(FoldAscii(*key));
+std::optional<std::string_view> SectionTable::KeyOf(const Row& row) const {
+  for (const KeptCell& cell : row.Cells()) {
+    if (cell.Field == *keyField_) return cell.Text();
+  }
+  return std::nullopt;
+}
+
+// Whether a row has this key. There is room for one more afterwards.
+bool SectionTable::HoldsKey(std::string_view key) {
+  keys_.MakeRoom([this](KeySet::Row row) { return HashOfKey(*KeyOf(rows_[row])); });
+  return keys_.Holds(HashOfKey(key),
+                     [&](KeySet::Row row) { return EqualIgnoringCase(*KeyOf(rows_[row]), key); });
 }
 
 void SectionTable::MakeNicknameKey() {
   keyField_ = FindField("nickname");
-  keys_.clear();
-  for (const Row& row : rows_) {
-    const auto key = KeyOf(row);
-    if (!key || !keys_.insert(texts_.Keep(*key)).second) {
+  keys_.Clear();
+  for (std::size_t i = 0; i < rows_.size(); ++i) {
+    const auto key = KeyOf(rows_[i]);
+    if (!key || HoldsKey(*key)) {
       keyField_.reset();
       throw key ? DuplicateKey() : NullInKey();
     }
+    keys_.Put(static_cast<KeySet::Row>(i), HashOfKey(*key));
   }
 }
 
 void SectionTable::AddNew() {
   rowID_ = ++lastID_;
-  edited_ = Row{rowID_, {}};
+  edited_ = EditedRow{rowID_, {}};
+  ++edits_;
   // Rows of one section are mostly alike.
-  if (!rows_.empty()) edited_->Cells.reserve(rows_.back().Cells.size());
+  if (!rows_.empty()) edited_->Cells.reserve(rows_.back().Count);
   editedPlace_.reset();
 }
 
@@ -95,13 +117,20 @@ void SectionTable::Edit(std::int32_t rowID) {
   if (found == rows_.rend() || found->ID != rowID) {
     throw EngineFailure(failure_number::kNoCurrentRecord, "No current record.");
   }
-  edited_ = *found;
+  // Memory first: a row is taken up whole.
+  std::vector<Cell> cells;
+  cells.reserve(found->Count);
+  if (cellOf_.size() < fields_.size()) cellOf_.resize(fields_.size());
+  edited_ = EditedRow{rowID, std::move(cells)};
+  ++edits_;
+  for (const KeptCell& cell : found->Cells()) AddCell({cell.Field, cell.Text()});
   editedPlace_ = static_cast<std::size_t>(rows_.rend() - found) - 1;
   rowID_ = rowID;
 }
 
 const std::string_view* SectionTable::Get(FieldIndex field) const {
-  return edited_ ? edited_->Find(field) : nullptr;
+  const auto cell = edited_ ? FindCell(field) : std::nullopt;
+  return cell ? &edited_->Cells[*cell].Text : nullptr;
 }
 
 void SectionTable::Set(FieldIndex field, std::string_view text) {
@@ -110,34 +139,60 @@ void SectionTable::Set(FieldIndex field, std::string_view text) {
     Value value = text;
     if (const auto refused = FitInto(Field{fields_[field]}, name_, value)) throw *refused;
   }
-  for (Cell& cell : edited_->Cells) {
-    if (cell.Field == field) {
-      cell.Text = texts_.Keep(text);
-      return;
-    }
+  const std::string_view kept = field == kSourceFile ? KeepSourceFileName(text) : texts_.Keep(text);
+  if (const auto cell = FindCell(field)) {
+    edited_->Cells[*cell].Text = kept;
+  } else {
+    AddCell({field, kept});
   }
-  edited_->Cells.push_back({field, texts_.Keep(text)});
 }
 
-void SectionTable::CheckKey(const Row& row) {
-  const auto key = KeyOf(row);
-  if (!key) throw NullInKey();
+// Rows may have 2,000 cells and each of them be set again and again.
+std::optional<std::size_t> SectionTable::FindCell(FieldIndex field) const {
+  if (field >= cellOf_.size() || cellOf_[field].Edit != edits_) return std::nullopt;
+  return cellOf_[field].Cell;
+}
+
+void SectionTable::AddCell(const Cell& cell) {
+  if (cell.Field >= cellOf_.size()) cellOf_.resize(fields_.size());
+  edited_->Cells.push_back(cell);
+  cellOf_[cell.Field] = {edits_, edited_->Cells.size() - 1};
+}
+
+// Rows that follow one another come from the same file.
+std::string_view SectionTable::KeepSourceFileName(std::string_view text) {
+  if (text.empty() || text != sourceFileName_) sourceFileName_ = texts_.Keep(text);
+  return sourceFileName_;
+}
+
+void SectionTable::CheckKey(const EditedRow& row) {
+  const std::string_view* key = row.Find(*keyField_);
+  if (key == nullptr) throw NullInKey();
   const auto before = editedPlace_ ? KeyOf(rows_[*editedPlace_]) : std::nullopt;
-  if (before == key) return;
-  if (!keys_.insert(texts_.Keep(*key)).second) throw DuplicateKey();
-  if (before) keys_.erase(*before);
+  if (before && EqualIgnoringCase(*before, *key)) return;
+  if (HoldsKey(*key)) throw DuplicateKey();
+  const auto place = static_cast<KeySet::Row>(editedPlace_.value_or(rows_.size()));
+  if (before) keys_.Erase(place, HashOfKey(*before));
+  keys_.Put(place, HashOfKey(*key));
 }
 
 void SectionTable::Update() {
-  Row row = std::move(*edited_);
+  const EditedRow row = std::move(*edited_);
   edited_.reset();
   // Reserved first: a row that finds no memory must not leave its key in the index.
   if (rows_.size() == rows_.capacity()) rows_.reserve(2 * rows_.size() + 1);
+  keeping_.clear();
+  for (const Cell& cell : row.Cells) {
+    keeping_.push_back({static_cast<std::uint32_t>(cell.Field),
+                        static_cast<std::uint32_t>(cell.Text.size()), cell.Text.data()});
+  }
+  const std::span<const KeptCell> cells = cells_.Keep(keeping_);
   if (keyField_) CheckKey(row);
+  const Row kept{row.ID, static_cast<std::uint32_t>(cells.size()), cells.data()};
   if (editedPlace_) {
-    rows_[*editedPlace_] = std::move(row);
+    rows_[*editedPlace_] = kept;
   } else {
-    rows_.push_back(std::move(row));
+    rows_.push_back(kept);
   }
 }
 
@@ -156,10 +211,10 @@ TableDef SectionTable::Definition() const {
 std::vector<std::size_t> SectionTable::LongestTexts() const {
   std::vector<std::size_t> longest(fields_.size() + 1, 0);
   for (const Row& row : rows_) {
-    for (const Cell& cell : row.Cells) {
+    for (const KeptCell& cell : row.Cells()) {
       std::size_t& most = longest[cell.Field + 1];
       // There are no more characters than bytes.
-      if (cell.Text.size() > most) most = std::max(most, Len(cell.Text));
+      if (cell.Size > most) most = std::max(most, Len(cell.Text()));
     }
   }
   return longest;
@@ -170,7 +225,7 @@ void SectionTable::AppendTo(FailureSink& sink, Database& database,
   Appender appender = database.OpenAppender(sink, definition, rows_.size());
   for (const Row& row : rows_) {
     appender.Set(0, row.ID);
-    for (const Cell& cell : row.Cells) appender.Set(cell.Field + 1, cell.Text);
+    for (const KeptCell& cell : row.Cells()) appender.Set(cell.Field + 1, cell.Text());
     appender.Append();
   }
 }

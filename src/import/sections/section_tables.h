@@ -6,10 +6,10 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <unordered_map>
-#include <unordered_set>
 #include <utility>
 #include <vector>
 
@@ -17,6 +17,7 @@
 #include "db/failure.h"
 #include "db/values/text.h"
 #include "db/values/text_store.h"
+#include "import/sections/key_set.h"
 
 namespace orrerix {
 
@@ -73,23 +74,51 @@ class SectionTable {
     FieldIndex Field;
     std::string_view Text;  // in the table's store
   };
-  struct Row {
+  struct EditedRow {
     std::int32_t ID;
     std::vector<Cell> Cells;
     const std::string_view* Find(FieldIndex field) const;
   };
 
-  std::optional<std::string> KeyOf(const Row& row) const;
-  void CheckKey(const Row& row);
+  // A row as it is kept. There may be a million of them.
+  struct KeptCell {
+    std::uint32_t Field;
+    std::uint32_t Size;
+    const char* Start;
+    std::string_view Text() const { return {Start, Size}; }
+  };
+  struct Row {
+    std::int32_t ID = 0;
+    std::uint32_t Count = 0;
+    const KeptCell* First = nullptr;
+    std::span<const KeptCell> Cells() const { return {First, Count}; }
+  };
+
+  std::string_view KeepSourceFileName(std::string_view text);
+  std::optional<std::string_view> KeyOf(const Row& row) const;
+  std::optional<std::size_t> FindCell(FieldIndex field) const;
+  void AddCell(const Cell& cell);
+  bool HoldsKey(std::string_view key);
+  void CheckKey(const EditedRow& row);
 
   std::string name_;
   std::vector<std::string> fields_;  // after OX_ID: SourceFileName and the keys
   std::unordered_map<std::string, FieldIndex, TextHash, std::equal_to<>> places_;
   std::optional<FieldIndex> keyField_;
   TextStore texts_;
-  std::unordered_set<std::string_view> keys_;
+  RunStore<KeptCell> cells_;
+  std::vector<KeptCell> keeping_;    // of the row being written
+  std::string_view sourceFileName_;  // of the last row
+  KeySet keys_;
   std::vector<Row> rows_;
-  std::optional<Row> edited_;
+  std::optional<EditedRow> edited_;
+  // Where the row being edited has a field, if it has it since this edit began.
+  struct CellOfField {
+    std::uint64_t Edit = 0;
+    std::size_t Cell = 0;
+  };
+  std::vector<CellOfField> cellOf_;
+  std::uint64_t edits_ = 0;
   std::optional<std::size_t> editedPlace_;  // of a row that is being changed
   std::int32_t rowID_ = 0;
   std::int32_t lastID_ = 0;

@@ -19,7 +19,9 @@ struct Sector {
 
 Sector SectorOf(double place) {
   const double whole = std::floor(place);
-  return {whole, static_cast<int>(std::floor((place - whole) * 10))};
+  // An endless place, which has no tenth, has no character either.
+  const double tenth = std::floor((place - whole) * 10);
+  return {whole, std::isfinite(tenth) ? static_cast<int>(tenth) : 0};
 }
 
 // The character of a code of the game's character set.

@@ -7,6 +7,7 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sqlite3.h>
 
 #include "db/schema.h"
 #include "support/failure_sinks.h"
@@ -160,6 +161,59 @@ TEST_F(Engine, CompactingAFileThatIsNotThereFails) {
   DBEngine::CompactDatabase(failures, file, folder.Path() / "b.mdb");
 
   EXPECT_THAT(failures.Numbers(), ElementsAre(3024));
+}
+
+// A file may come from anybody: what it brings along besides tables does not run.
+class StrangersFile : public Engine {
+ protected:
+  StrangersFile() { Create(file).ExecuteNative(mustWork, "CREATE TABLE t (name)"); }
+
+  // Writes it as any other tool could.
+  void Write(const std::string& statements) {
+    sqlite3* handle = nullptr;
+    sqlite3_open(file.string().c_str(), &handle);
+    EXPECT_EQ(sqlite3_exec(handle, statements.c_str(), nullptr, nullptr, nullptr), SQLITE_OK);
+    sqlite3_close(handle);
+  }
+};
+
+TEST_F(StrangersFile, AViewThatNeverEndsIsRefused) {
+  Write(
+      "CREATE VIEW Version AS WITH RECURSIVE c(x) AS (SELECT 1 UNION ALL SELECT x + 1 FROM c) "
+      "SELECT x AS Version FROM c");
+  Database database = DBEngine::OpenDatabase(mustWork, file);
+
+  Recordset rows = database.OpenRecordset(failures, "SELECT * FROM Version");
+
+  EXPECT_TRUE(rows.Empty());
+  EXPECT_THAT(failures.Numbers(), ElementsAre(3078));
+}
+
+TEST_F(StrangersFile, ATriggerDoesNotFire) {
+  Write("INSERT INTO t VALUES ('a'); CREATE TRIGGER u AFTER UPDATE ON t BEGIN DELETE FROM t; END");
+  Database database = DBEngine::OpenDatabase(mustWork, file);
+
+  database.ExecuteNative(mustWork, "UPDATE t SET name = 'b'");
+
+  EXPECT_EQ(database.RowCount(mustWork, "t"), 1);
+}
+
+TEST_F(StrangersFile, ATableThatOtherCodeMakesUpIsRefused) {
+  Write("CREATE VIRTUAL TABLE Version USING rtree(a, b, c)");
+  Database database = DBEngine::OpenDatabase(mustWork, file);
+
+  EXPECT_TRUE(database.OpenRecordset(failures, "SELECT * FROM Version").Empty());
+  EXPECT_THAT(failures.Numbers(), ElementsAre(3075));
+}
+
+TEST_F(StrangersFile, AValueThatIsCalculatedBeyondAllBoundsIsRefused) {
+  Write(
+      "CREATE TABLE Version (a, Version AS (zeroblob(900000000))); "
+      "INSERT INTO Version VALUES (1)");
+  Database database = DBEngine::OpenDatabase(mustWork, file);
+
+  EXPECT_TRUE(database.OpenRecordset(failures, "SELECT * FROM Version").Empty());
+  EXPECT_THAT(failures.Numbers(), ElementsAre(3000));
 }
 
 }  // namespace

@@ -10,6 +10,7 @@
 
 #include "db/engine/engine.h"
 #include "db/schema.h"
+#include "support/failing_disk.h"
 #include "support/failure_sinks.h"
 #include "support/temp_folder.h"
 
@@ -103,6 +104,41 @@ TEST_F(AWorkingCopy, AFileOfAnotherKindHasNoTables) {
   DBEngine::CreateDatabase(mustWork, file, JetVersionOption::Version30);
 
   EXPECT_TRUE(copy.Of(mustWork, file).TableDefs(mustWork).empty());
+}
+
+// Reading the file fails at each operation in turn.
+TEST_F(AWorkingCopy, IsNotMadeOfAFileThatCannotBeReadAndIsMadeByTheNextReader) {
+  int operations = 0;
+  for (bool happened = true; happened; ++operations) {
+    copy.Drop();
+    RecordFailures failures;
+    bool isOpen = false;
+    {
+      const FailingDisk trouble(DiskTrouble::Unreadable, operations);
+      isOpen = copy.Of(failures, file).IsOpen();
+      happened = trouble.Happened();
+    }
+    EXPECT_EQ(isOpen, failures.Failures.empty());
+    if (!isOpen) {
+      EXPECT_THAT(failures.Failures[0].Description, ::testing::HasSubstr("Orrerix.fl"));
+    }
+
+    EXPECT_EQ(Systems(), 1u);
+    ASSERT_FALSE(HasFailure()) << operations;
+  }
+  EXPECT_GT(operations, 3);
+}
+
+TEST_F(AWorkingCopy, AFileThatCannotBeOpenedIsNamed) {
+  RecordFailures failures;
+  {
+    const FailingDisk trouble(DiskTrouble::Error, 0);
+    EXPECT_FALSE(copy.Of(failures, file).IsOpen());
+  }
+
+  EXPECT_THAT(failures.Numbers(), ElementsAre(3024));
+  EXPECT_THAT(failures.Failures[0].Description, ::testing::HasSubstr("Orrerix.fl"));
+  EXPECT_EQ(Systems(), 1u);
 }
 
 }  // namespace

@@ -433,5 +433,53 @@ TEST_F(OpenRecordset, AnEditWithoutMemoryDoesNotHappen) {
                           failure_number::kNotBeingEdited));
 }
 
+TEST_F(OpenRecordset, RowsOfTwoTablesCannotBeEdited) {
+  Recordset rows =
+      db.OpenRecordset(failures, "SELECT a.name FROM t a, t b", {}, RecordsetType::Dynaset);
+
+  rows.AddNew();
+
+  EXPECT_THAT(failures.Numbers(), ElementsAre(3078, 3027));
+}
+
+// 2^22 fields at most are kept in memory: of 1,000 fields that is row 4,195.
+TEST_F(OpenRecordset, RowsThatAreTooManyForMemoryGoIntoTheFile) {
+  TableDef wide{"wide", {}, Index{"key", {"f0"}, false}};
+  for (int i = 0; i < 1000; ++i) {
+    Field field;
+    field.Name = "f" + std::to_string(i);
+    field.Type = FieldType::Long;
+    wide.Fields.push_back(field);
+  }
+  db.CreateHeldTable(mustWork, wide);
+  Recordset rows = db.OpenTable(failures, "wide");
+  for (int row = 0; row < 4200; ++row) {
+    rows.AddNew();
+    rows[std::size_t{0}] = row;
+    rows.Update();
+  }
+  rows.AddNew();
+  rows[std::size_t{0}] = 7;
+  rows.Update();
+
+  EXPECT_THAT(failures.Numbers(), ElementsAre(3022));
+  EXPECT_TRUE(db.TakeHeldRows().empty());
+  EXPECT_EQ(db.RowCount(mustWork, "wide"), 4200);
+}
+
+TEST_F(OpenRecordset, ATableWithAKeyOnACalculatedColumnTakesRows) {
+  db.ExecuteNative(mustWork,
+                   "CREATE TABLE g (name TEXT, twice AS (name || name)); "
+                   "CREATE UNIQUE INDEX i ON g (twice)");
+  Recordset rows = db.OpenTable(failures, "g");
+  rows.AddNew();
+  rows["name"] = "a";
+
+  rows.Update();
+
+  EXPECT_THAT(failures.Numbers(), IsEmpty());
+  EXPECT_EQ(db.RowCount(mustWork, "g"), 1);
+}
+
 }  // namespace
 }  // namespace orrerix

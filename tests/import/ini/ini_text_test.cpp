@@ -115,5 +115,25 @@ TEST(FindText, TellsTheFirstPlace) {
   EXPECT_EQ(FindText("", "a"), std::string_view::npos);
 }
 
+TEST(CleanBlock, IsTheBlockItselfWhereNothingIsToBeChanged) {
+  const std::string_view block = "\r\n[a]\r\nb = 1\r\n";
+
+  const CleanBlock clean(block);
+
+  EXPECT_EQ(clean.Text(), "[a]\r\nb = 1\r\n");
+  EXPECT_EQ(clean.Text().data(), block.data() + 2);
+}
+
+TEST(CleanBlock, HasNeitherCommentsNorOtherLineEnds) {
+  EXPECT_EQ(CleanBlock("[a]\nb   = 1 ; [c]\r\nd\n").Text(), "[a]\r\nb = 1 \r\nd\n");
+  EXPECT_EQ(CleanBlock("; here\r\n[a]\r\nb = 1\r\n").Text(), "[a]\r\nb = 1\r\n");
+  EXPECT_EQ(CleanBlock("x\n[a]\nb = 1").Text(), "[a]\r\nb = 1");
+}
+
+TEST(CleanBlock, CanBeEmpty) {
+  EXPECT_EQ(CleanBlock("").Text(), "");
+  EXPECT_EQ(CleanBlock("; all").Text(), "");
+}
+
 }  // namespace
 }  // namespace orrerix

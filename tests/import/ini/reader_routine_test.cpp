@@ -165,5 +165,45 @@ TEST_F(ReaderRoutineFrame, TheNextBlockForgetsTheLastOne) {
   EXPECT_THAT(DataLog()[0], ::testing::EndsWith("exist):\r\n[c]\r\n---."));
 }
 
+TEST_F(ReaderRoutineFrame, AVeryLongBlockIsQuotedByTheBeginningOfItsFirstTwoLines) {
+  const std::string block = "[a]\r\nb = " + std::string(300000, 'x') + "\r\nc";
+  routine.SetFileSize(block.size());
+  routine.BeginBlock(block);
+
+  routine.Run([&] {
+    routine.Fail({75, "x", "y"});
+    routine.Fail({failure_number::kDuplicateKey, "", ""});
+  });
+
+  const std::string quote = "[a]\r\nb = " + std::string(191, 'x');  // 200 characters
+  EXPECT_EQ(log.Failures()[0].Info, "While working on - " + quote);
+  EXPECT_THAT(DataLog()[0], ::testing::EndsWith("exist):\r\n" + quote + "\r\n---."));
+}
+
+// A file of 100,000 bytes has quotes of 2^20 + 100,000 bytes: five of this block, then beginnings.
+TEST_F(ReaderRoutineFrame, TheQuotesOfFailuresAreBoundedByTheFile) {
+  const std::string block = "[a]\r\nb\r\n" + std::string(200000, 'x');
+  routine.SetFileSize(100000);
+  routine.BeginBlock(block);
+
+  for (int i = 0; i < 8; ++i) routine.Run([&] { routine.Fail({75, "x", "y"}); });
+
+  for (int i = 0; i < 5; ++i) EXPECT_EQ(log.Failures()[i].Info, "While working on - " + block) << i;
+  EXPECT_EQ(log.Failures()[5].Info, "While working on - [a]\r\nb");
+  EXPECT_EQ(log.Failures()[7].Info, "While working on - [a]\r\nb");
+}
+
+TEST_F(ReaderRoutineFrame, RemarksBeyondTheBoundOfTheirFileAreLeftOutWithOneWord) {
+  routine.SetFileSize(0);
+  const std::string remark(400000, 'x');
+
+  for (int i = 0; i < 5; ++i) routine.Remark(remark);
+
+  EXPECT_THAT(DataLog(),
+              ElementsAre(remark, remark,
+                          "--- Too many remarks on [" + file + "]; the others are left out."));
+  EXPECT_FALSE(routine.TakesRemarks());
+}
+
 }  // namespace
 }  // namespace orrerix

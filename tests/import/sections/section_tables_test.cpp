@@ -105,6 +105,39 @@ TEST(SectionTable, AKeyTakesEachTextOnceWhateverItsCase) {
   EXPECT_EQ(table.RowCount(), 1u);
 }
 
+// More than fit into the first room of the keys, with one that is moved in between.
+TEST(SectionTable, FindsAKeyAmongManyAfterChanges) {
+  SectionTable table("gun");
+  const auto nickname = table.AddField("nickname");
+  table.MakeNicknameKey();
+  for (int i = 1; i <= 1000; ++i) {
+    AddRow(table, "Fox" + std::to_string(i));
+    table.Edit(i);
+    table.Set(nickname, "Hound" + std::to_string(i));
+    table.Update();
+  }
+
+  for (int i = 1; i <= 1000; ++i) {
+    EXPECT_EQ(NumberOf([&] { AddRow(table, "HOUND" + std::to_string(i)); }), 3022) << i;
+  }
+  for (int i = 1; i <= 1000; ++i) AddRow(table, "fox" + std::to_string(i));
+  EXPECT_EQ(table.RowCount(), 2000u);
+}
+
+TEST(SectionTable, RowsOfTwoFilesHaveTheirOwnSources) {
+  SectionTable table("gun");
+  for (const char* file : {"a.ini", "a.ini", "b.ini"}) {
+    table.AddNew();
+    table.Set(0, file);
+    table.Update();
+  }
+
+  table.Edit(2);
+  EXPECT_EQ(*table.Get(0), "a.ini");
+  table.Edit(3);
+  EXPECT_EQ(*table.Get(0), "b.ini");
+}
+
 TEST(SectionTable, AChangedKeyIsFreeAgain) {
   SectionTable table("gun");
   const auto nickname = table.AddField("nickname");

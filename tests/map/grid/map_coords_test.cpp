@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "map/grid/map_coords.h"
 
+#include <limits>
+
 #include <gmock/gmock.h>
 
 #include "support/universe_fixture.h"
@@ -71,6 +73,12 @@ TEST_F(MapCoords, TheSystemInTheFirstCellHasNoName) {
   System("0, 0", "Corner");
 
   EXPECT_EQ(GetSystemNames(universe, english).Of({0, 0}), "");
+}
+
+TEST_F(MapCoords, AnEndlessPlaceIsAFailureAndGivesNoText) {
+  EXPECT_EQ(At(std::numeric_limits<double>::infinity(), 0.5), "");
+  ASSERT_EQ(log.Failures().size(), 1u);
+  EXPECT_EQ(log.Failures()[0].What.Number, 5);
 }
 
 }  // namespace
