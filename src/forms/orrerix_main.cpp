@@ -235,7 +235,7 @@ void OrrerixMain::PlaceForImport() {
   const QRect screenRect = screen()->geometry();
   const WholeTwipRect place =
       ImportWindowPlace(static_cast<int>(Twips(screenRect.width())),
-                        static_cast<int>(Twips(screenRect.height())), MemFrame::DesignHeight);
+                        static_cast<int>(Twips(screenRect.height())), MemFrame::kDesignHeight);
   const QRect outer = PixelRect(place).translated(screenRect.topLeft());
   setWindowState(windowState() & ~Qt::WindowMaximized);
   SetOuterGeometry(outer);

@@ -127,7 +127,7 @@ TEST_F(ErrorLogWindowTest, ItsHeadingsStandOnADarkPlate) {
   int red = 0;
   for (int y = 0; y < heading.height(); ++y) {
     for (int x = 0; x < heading.width(); ++x) {
-      plate += heading.pixelColor(x, y) == PlatedLabel::Plate;
+      plate += heading.pixelColor(x, y) == PlatedLabel::kPlate;
       red += heading.pixelColor(x, y) == QColor(Qt::red);
     }
   }

@@ -170,7 +170,7 @@ TEST_F(OrrerixMainTest, WhileItImportsItIsAsWideAsTheScreenAndHalfAsHighWithRoom
   // Half the screen's width, 300 twips, and the frame of the memory; 15 twips are one pixel.
   const int width = form->screen()->geometry().width();
   EXPECT_EQ(outer.width(), width);
-  EXPECT_NEAR(outer.height(), (width * 15 / 2.0 + 300 + MemFrame::DesignHeight) / 15, 1);
+  EXPECT_NEAR(outer.height(), (width * 15 / 2.0 + 300 + MemFrame::kDesignHeight) / 15, 1);
 }
 
 TEST_F(OrrerixMainTest, APathWithoutTheGameIsComplainedOfDuringAnImportToo) {

@@ -145,13 +145,13 @@ std::string MarkNickname(const std::string& stem, int mark) {
 
 std::string MarkName(const std::string& name, int mark) {
   constexpr std::array<std::string_view, 3> numerals = {"I", "II", "III"};
-  assert(mark >= 1 && mark <= Marks);
+  assert(mark >= 1 && mark <= kMarks);
   return fmt::format("{} Mk {}", name, numerals[static_cast<std::size_t>(mark) - 1]);
 }
 
 double MarkFactor(int mark) {
   constexpr std::array<double, 3> factors = {1, 1.5, 2.25};
-  assert(mark >= 1 && mark <= Marks);
+  assert(mark >= 1 && mark <= kMarks);
   return factors[static_cast<std::size_t>(mark) - 1];
 }
 

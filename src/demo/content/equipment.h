@@ -70,7 +70,7 @@ const std::vector<Launcher>& Launchers();
 const std::vector<ShieldLine>& ShieldLines();
 const std::vector<Device>& Devices();
 
-inline constexpr int Marks = 3;
+inline constexpr int kMarks = 3;
 
 // Nickname of a mark, 1 to 3, of a line: "vo_gun_hail_mark02".
 std::string MarkNickname(const std::string& stem, int mark);

@@ -20,7 +20,7 @@ struct Nation {
 // The four nations, then the border worlds as the last one.
 const std::vector<Nation>& Nations();
 
-inline constexpr int NationCount = 4;
-inline constexpr int BorderWorlds = 4;
+inline constexpr int kNationCount = 4;
+inline constexpr int kBorderWorlds = 4;
 
 }  // namespace orrerix::demo

@@ -78,7 +78,7 @@ void AddLauncher(Game& game, IniText& ini, const Launcher& launcher) {
 void WriteWeapons(Game& game) {
   IniText ini;
   for (const GunLine& line : GunLines()) {
-    for (int mark = 1; mark <= Marks; ++mark) AddGun(game, ini, line, mark);
+    for (int mark = 1; mark <= kMarks; ++mark) AddGun(game, ini, line, mark);
   }
   for (const Launcher& launcher : Launchers()) AddLauncher(game, ini, launcher);
   const GunLine& twice = GunLines()[1];
@@ -133,7 +133,7 @@ void WriteDevices(Game& game) {
   IniText engines;
   IniText misc;
   for (const ShieldLine& line : ShieldLines()) {
-    for (int mark = 1; mark <= Marks; ++mark) AddShield(game, shields, line, mark);
+    for (int mark = 1; mark <= kMarks; ++mark) AddShield(game, shields, line, mark);
   }
   for (const Device& device : Devices()) {
     const bool supply = device.Section == "RepairKit" || device.Section == "ShieldBattery";

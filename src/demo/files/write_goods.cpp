@@ -34,7 +34,7 @@ int MarkPrice(int price, int mark) {
 void WriteWeaponGoods(Game& game) {
   IniText ini;
   for (const GunLine& line : GunLines()) {
-    for (int mark = 1; mark <= Marks; ++mark) {
+    for (int mark = 1; mark <= kMarks; ++mark) {
       AddEquipmentGood(ini, MarkNickname(line.Stem, mark), MarkPrice(line.Price, mark));
       AddNumbers(ini, NumbersOfGun(game, line, mark));
     }
@@ -54,7 +54,7 @@ void WriteWeaponGoods(Game& game) {
 void WriteDeviceGoods(Game& game) {
   IniText ini;
   for (const ShieldLine& line : ShieldLines()) {
-    for (int mark = 1; mark <= Marks; ++mark) {
+    for (int mark = 1; mark <= kMarks; ++mark) {
       AddEquipmentGood(ini, MarkNickname(line.Stem, mark), MarkPrice(line.Price, mark));
       AddNumbers(ini, NumbersOfShield(game, line, mark));
     }

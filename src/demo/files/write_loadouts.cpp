@@ -28,10 +28,10 @@ void AddWreckLoadout(IniText& ini, const Wreck& wreck) {
   ini.Section("Loadout").Line("nickname", wreck.Loadout());
   const GunLine& gun = random.Pick(GunLines());
   ini.Line("equip",
-           fmt::format("{}, HpWeapon01", MarkNickname(gun.Stem, random.Between(2, Marks))));
+           fmt::format("{}, HpWeapon01", MarkNickname(gun.Stem, random.Between(2, kMarks))));
   if (random.Chance(50)) {
     const ShieldLine& shield = random.Pick(ShieldLines());
-    ini.Line("equip", fmt::format("{}, HpShield01", MarkNickname(shield.Stem, Marks)));
+    ini.Line("equip", fmt::format("{}, HpShield01", MarkNickname(shield.Stem, kMarks)));
   }
   const int first = random.Between(0, static_cast<int>(Commodities().size()) - 4);
   const int kinds = random.Between(1, 3);
@@ -49,7 +49,7 @@ void AddWreckLoadout(IniText& ini, const Wreck& wreck) {
 
 void WriteLoadouts(Game& game) {
   IniText ini;
-  for (int nation = 0; nation <= BorderWorlds; ++nation) {
+  for (int nation = 0; nation <= kBorderWorlds; ++nation) {
     for (const StationKind& kind : StationKinds())
       AddSolarLoadout(ini, LoadoutOf(kind.Stem, nation), 4);
     for (const char* stem : {"docking_ring", "jumpgate", "trade_lane_ring"}) {

@@ -40,7 +40,7 @@ void AddTrade(IniText& ini, const Commodity& commodity, bool sold, double factor
 
 void AddCommodityTrade(IniText& ini, const PlannedSystem& system, const PlannedBase& base,
                        const Commodity& commodity, Random& random) {
-  const bool lawless = IsPirate(base) || system.Nation == BorderWorlds;
+  const bool lawless = IsPirate(base) || system.Nation == kBorderWorlds;
   if (commodity.Group == GoodsGroup::Illicit && !lawless && !random.Chance(8)) return;
   if (Holds(MadeAt(base), commodity.Group)) {
     if (random.Chance(70)) AddTrade(ini, commodity, true, random.Between(0.55, 0.95));
@@ -72,17 +72,17 @@ void AddStock(IniText& ini, const std::string& good, int level, double reputatio
 
 // Marks of the nation's own lines; the better ones are kept for those whom the owners like.
 void AddArms(IniText& ini, const PlannedSystem& system, Random& random) {
-  const bool border = system.Nation == BorderWorlds;
+  const bool border = system.Nation == kBorderWorlds;
   for (const GunLine& line : GunLines()) {
     if (line.Nation != system.Nation && !(border && random.Chance(30))) continue;
-    const int best = random.Between(1, Marks);
+    const int best = random.Between(1, kMarks);
     for (int mark = 1; mark <= best; ++mark) {
       AddStock(ini, MarkNickname(line.Stem, mark), mark * 6 - 6, mark * 0.3 - 0.5, 10);
     }
   }
   for (const ShieldLine& line : ShieldLines()) {
     if (line.Nation != system.Nation && !(border && random.Chance(30))) continue;
-    const int mark = random.Between(1, Marks);
+    const int mark = random.Between(1, kMarks);
     AddStock(ini, MarkNickname(line.Stem, mark), mark * 6 - 6, -1, 10);
   }
 }
@@ -123,7 +123,7 @@ void WriteShipMarket(Game& game) {
     for (const PlannedBase& base : system.Bases) {
       if (!SellsShips(base)) continue;
       Random random(SeedOf("ships of " + base.Nickname));
-      const bool border = system.Nation == BorderWorlds;
+      const bool border = system.Nation == kBorderWorlds;
       ini.Section("BaseGood").Line("base", base.BaseNickname());
       for (const Ship& ship : Ships()) {
         const bool offered =

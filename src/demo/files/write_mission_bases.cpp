@@ -68,7 +68,7 @@ void AddPerson(Game& game, IniText& ini, const PlannedSystem& system, const Pers
       .Line("room", "bar");
   const int bribes = random.Between(0, 2);
   for (int i = 0; i < bribes; ++i) {
-    const int nation = random.Chance(70) ? system.Nation : random.Between(0, BorderWorlds);
+    const int nation = random.Chance(70) ? system.Nation : random.Between(0, kBorderWorlds);
     const auto role = static_cast<FactionRole>(i == 0 ? random.Between(0, 3) : 3);
     const int faction = random.Pick(FactionsOf(nation, role));
     ini.Line("bribe", fmt::format("{}, {}, {}", ReputationOf(faction), random.Between(4, 40) * 500,

@@ -125,7 +125,7 @@ void ResourceLibraryWriter::AddCard(std::uint16_t number, std::string_view utf8,
   demo::ByteWriter bytes;
   bytes.U16(0xFEFF);
   AppendUnits(bytes, demo::Utf16FromUtf8(utf8));
-  AddRaw({HtmlType, number, language}, bytes.Bytes());
+  AddRaw({kHtmlType, number, language}, bytes.Bytes());
 }
 
 void ResourceLibraryWriter::AddRaw(const ResourceKey& key, std::string bytes) {
@@ -140,7 +140,7 @@ ResourceMap ResourceLibraryWriter::AllResources() const {
       bytes.U16(static_cast<std::uint32_t>(text.size()));
       AppendUnits(bytes, text);
     }
-    all.try_emplace({StringType, place.first, place.second}, bytes.Bytes());
+    all.try_emplace({kStringType, place.first, place.second}, bytes.Bytes());
   }
   return all;
 }

@@ -20,17 +20,17 @@ enum class PeImage { Bits32, Bits64 };
 // replaces the earlier text.
 class ResourceLibraryWriter {
  public:
-  static constexpr std::uint32_t Neutral = 0;
-  static constexpr std::uint32_t EnglishUs = 0x0409;
-  static constexpr std::uint32_t StringType = 6;
-  static constexpr std::uint32_t HtmlType = 23;
+  static constexpr std::uint32_t kNeutral = 0;
+  static constexpr std::uint32_t kEnglishUs = 0x0409;
+  static constexpr std::uint32_t kStringType = 6;
+  static constexpr std::uint32_t kHtmlType = 23;
 
   // A text of the string table, given as UTF-8. Throws std::length_error above 65,535 units. An
   // empty text is stored as an absent one, as the format has no other way.
-  void AddString(std::uint16_t number, std::string_view utf8, std::uint32_t language = EnglishUs);
+  void AddString(std::uint16_t number, std::string_view utf8, std::uint32_t language = kEnglishUs);
 
   // An info card, given as UTF-8 and stored as UTF-16 after a byte order mark.
-  void AddCard(std::uint16_t number, std::string_view utf8, std::uint32_t language = EnglishUs);
+  void AddCard(std::uint16_t number, std::string_view utf8, std::uint32_t language = kEnglishUs);
 
   // Raw bytes under any key, for instance a card with an odd length or without a mark. Raw bytes
   // for a block of the string table stand in place of the texts of that block.

@@ -59,7 +59,7 @@ class Network {
 using Members = std::vector<std::vector<int>>;
 
 Members MembersOf(const std::vector<PlacedCell>& cells) {
-  Members members(NationCount + 1);
+  Members members(kNationCount + 1);
   for (std::size_t i = 0; i < cells.size(); ++i) {
     members[static_cast<std::size_t>(cells[i].Nation)].push_back(static_cast<int>(i));
   }
@@ -89,8 +89,8 @@ void ConnectNation(Network& network, const std::vector<int>& systems) {
 }
 
 void ConnectNations(Network& network, const Members& members) {
-  for (std::size_t a = 0; a < NationCount; ++a) {
-    for (std::size_t b = a + 1; b < NationCount; ++b) {
+  for (std::size_t a = 0; a < kNationCount; ++a) {
+    for (std::size_t b = a + 1; b < kNationCount; ++b) {
       if (members[a].empty() || members[b].empty()) continue;
       std::pair<int, int> closest = {members[a][0], members[b][0]};
       for (const int from : members[a]) {
@@ -106,11 +106,11 @@ void ConnectNations(Network& network, const Members& members) {
 
 void ConnectBorder(Network& network, const Members& members) {
   std::vector<int> connected;
-  for (std::size_t nation = 0; nation < NationCount; ++nation) {
+  for (std::size_t nation = 0; nation < kNationCount; ++nation) {
     connected.insert(connected.end(), members[nation].begin(), members[nation].end());
   }
   int count = 0;
-  for (const int system : members[BorderWorlds]) {
+  for (const int system : members[kBorderWorlds]) {
     const int nearest = network.Nearest(system, connected);
     if (nearest >= 0) {
       network.Connect(nearest, system, true);
@@ -139,7 +139,7 @@ void AddShortcuts(Network& network, int count) {
 std::vector<Connection> ConnectSystems(const std::vector<PlacedCell>& cells) {
   Network network(cells);
   const Members members = MembersOf(cells);
-  for (std::size_t nation = 0; nation < NationCount; ++nation) {
+  for (std::size_t nation = 0; nation < kNationCount; ++nation) {
     ConnectNation(network, members[nation]);
   }
   ConnectNations(network, members);

@@ -63,9 +63,9 @@ std::vector<PlacedCell> PicturedCells() {
 }
 
 int NationNear(Cell cell) {
-  int nearest = BorderWorlds;
+  int nearest = kBorderWorlds;
   double best = kNationReach;
-  for (int nation = 0; nation < NationCount; ++nation) {
+  for (int nation = 0; nation < kNationCount; ++nation) {
     for (const Cell other : Regions()[static_cast<std::size_t>(nation)]) {
       if (CellDistance(cell, other) < best) {
         best = CellDistance(cell, other);

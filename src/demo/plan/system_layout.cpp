@@ -39,7 +39,7 @@ class Layout {
   }
 
  private:
-  bool IsBorder() const { return system_.Nation == BorderWorlds; }
+  bool IsBorder() const { return system_.Nation == kBorderWorlds; }
 
   // A free point between two shares of the rim's radius; the last one tried if all is crowded.
   PlanePoint FreePoint(double inner, double outer) {

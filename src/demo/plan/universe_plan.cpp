@@ -28,7 +28,7 @@ std::string SystemNickname(const Nation& nation, int number) {
 
 std::vector<PlannedSystem> NamedSystems(const std::vector<PlacedCell>& cells, Names& names) {
   std::vector<PlannedSystem> systems;
-  std::vector<int> numbers(NationCount + 1);
+  std::vector<int> numbers(kNationCount + 1);
   for (const PlacedCell& cell : cells) {
     const Nation& nation = Nations()[static_cast<std::size_t>(cell.Nation)];
     const int number = ++numbers[static_cast<std::size_t>(cell.Nation)];

@@ -12,10 +12,10 @@ void PlatedLabel::paintEvent(QPaintEvent*) {
   const int flags = static_cast<int>(alignment()) | Qt::TextSingleLine;
   const QRect letters = painter.boundingRect(rect(), flags, text());
   const QRect plate = letters.adjusted(-margin, 0, margin, 0);
-  painter.fillRect(plate, Plate);
+  painter.fillRect(plate, kPlate);
   const QRect end(plate.right() + 1, plate.top(), fade, plate.height());
   QLinearGradient shade(end.topLeft(), end.topRight());
-  shade.setColorAt(0, Plate);
+  shade.setColorAt(0, kPlate);
   shade.setColorAt(1, Qt::transparent);
   painter.fillRect(end, shade);
   painter.setPen(palette().color(foregroundRole()));

@@ -11,7 +11,7 @@ class PlatedLabel : public QLabel {
  public:
   using QLabel::QLabel;
 
-  static constexpr QColor Plate{0, 0, 24};
+  static constexpr QColor kPlate{0, 0, 24};
 
  protected:
   void paintEvent(QPaintEvent* event) override;

@@ -80,7 +80,7 @@ void ImportScreen::MakePathRow() {
 void ImportScreen::LayOut(int formWidth, int formHeight, bool importing) {
   WholeTwipRect row{0, 0, 0, kRowHeight};
   const ImportScreenLayout layout =
-      LayOutImportScreen({formWidth, formHeight, kButtonWidth, MemFrame::DesignHeight, importing});
+      LayOutImportScreen({formWidth, formHeight, kButtonWidth, MemFrame::kDesignHeight, importing});
   importText_->setGeometry(PixelRect(layout.Text));
   row = layout.GameFolder;
   row.Height = kRowHeight;

@@ -70,7 +70,7 @@ NumberSeparators SeparatorsOf(const QLocale& locale) {
 MemFrame::MemFrame(const LanguageChoice& choice, QWidget* parent)
     : QWidget(parent), choice_(choice), headLab_(new PlainLabel(this)) {
   setObjectName("MemFrame");
-  setGeometry(PixelRect(0, 0, 0, DesignHeight));
+  setGeometry(PixelRect(0, 0, 0, kDesignHeight));
   headLab_->setObjectName("MemHeadLab0");
   headLab_->setFont(FormFont(kHeadFont));
   headLab_->setAlignment(Qt::AlignCenter);

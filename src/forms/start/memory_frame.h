@@ -18,7 +18,7 @@ class MemFrame : public QWidget {
   MemFrame(const LanguageChoice& choice, QWidget* parent);
 
   // Its design height in twips.
-  static constexpr int DesignHeight = 1500;
+  static constexpr int kDesignHeight = 1500;
 
   // Shows the memory as it is now beside that of the start. While the form is minimised the
   // captions only.

@@ -59,7 +59,7 @@ std::string_view ReaderRoutine::BlockQuote() const {
 }
 
 std::string ReaderRoutine::Info() {
-  const std::string info = "While working on - " + FromWindows1252(Quoted(blockCopy_));
+  std::string info = "While working on - " + FromWindows1252(Quoted(blockCopy_));
   if (key_.empty()) return info;
   return info + "\r\nField: " + std::string(key_) + " Data: " + FromWindows1252(Quoted(value_));
 }

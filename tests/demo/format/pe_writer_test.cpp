@@ -81,7 +81,7 @@ TEST(PeWriter, TypesNumbersAndLanguagesAscend) {
   ResourceLibraryWriter library;
   library.AddCard(300, "late");
   library.AddCard(2, "early", 0x0C07);
-  library.AddCard(2, "early", ResourceLibraryWriter::Neutral);
+  library.AddCard(2, "early", ResourceLibraryWriter::kNeutral);
   library.AddString(1, "text");
 
   const std::string image = library.Image();
@@ -101,7 +101,7 @@ TEST(PeWriter, TypesNumbersAndLanguagesAscend) {
 
 TEST(PeWriter, RawBytesStandAsTheyAre) {
   ResourceLibraryWriter library;
-  library.AddRaw({ResourceLibraryWriter::HtmlType, 1, 0}, "odd");
+  library.AddRaw({ResourceLibraryWriter::kHtmlType, 1, 0}, "odd");
 
   const std::string image = library.Image();
 

@@ -48,7 +48,7 @@ TEST(UniversePlan, GatesAloneConnectTheNations) {
   const std::set<int> reached = Reached(plan, true);
 
   for (std::size_t i = 0; i < plan.Systems.size(); ++i) {
-    if (plan.Systems[i].Nation == BorderWorlds) continue;
+    if (plan.Systems[i].Nation == kBorderWorlds) continue;
     EXPECT_TRUE(reached.contains(static_cast<int>(i))) << plan.Systems[i].Nickname;
   }
 }
@@ -139,7 +139,7 @@ TEST(JumpNetwork, TwoSystemsOfANationAreConnectedByOneGate) {
 
 TEST(JumpNetwork, TheFirstBorderWorldHasAHoleAndAGateTheSecondOnlyAHole) {
   const auto connections =
-      ConnectSystems({{{0, 0}, 0}, {{5, 0}, BorderWorlds}, {{0, 9}, BorderWorlds}});
+      ConnectSystems({{{0, 0}, 0}, {{5, 0}, kBorderWorlds}, {{0, 9}, kBorderWorlds}});
 
   ASSERT_EQ(connections.size(), 3u);
   EXPECT_TRUE(connections[0].Hole);

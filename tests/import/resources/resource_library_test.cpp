@@ -45,7 +45,7 @@ std::string TextOfUnits(const std::string& bytes) {
   std::string block(2, '\0');  // string 16 is absent
   block += static_cast<char>(units & 0xFF);
   block += static_cast<char>(units >> 8);
-  writer.AddRaw({ResourceLibraryWriter::StringType, 2, 0}, block + bytes);
+  writer.AddRaw({ResourceLibraryWriter::kStringType, 2, 0}, block + bytes);
   const std::string image = writer.Image();
   const auto strings = ResourceLibrary::Open(image)->Strings();
   return strings.count(17) == 0 ? "(absent)" : strings.at(17);
@@ -74,10 +74,10 @@ TEST(ResourceLibrary, NumberZeroIsNeverRead) {
   ResourceLibraryWriter writer;
   writer.AddString(0, "none");
   writer.AddString(1, "one");
-  writer.AddRaw({ResourceLibraryWriter::HtmlType, 0, 0}, "x");
-  writer.AddRaw({ResourceLibraryWriter::HtmlType, 1, 0}, "y");
-  writer.AddRaw({ResourceLibraryWriter::HtmlType, 65535, 0}, "z");
-  writer.AddRaw({ResourceLibraryWriter::HtmlType, 65536, 0}, "w");
+  writer.AddRaw({ResourceLibraryWriter::kHtmlType, 0, 0}, "x");
+  writer.AddRaw({ResourceLibraryWriter::kHtmlType, 1, 0}, "y");
+  writer.AddRaw({ResourceLibraryWriter::kHtmlType, 65535, 0}, "z");
+  writer.AddRaw({ResourceLibraryWriter::kHtmlType, 65536, 0}, "w");
   const std::string image = writer.Image();
 
   const auto library = ResourceLibrary::Open(image);
@@ -88,7 +88,7 @@ TEST(ResourceLibrary, NumberZeroIsNeverRead) {
 
 TEST(ResourceLibrary, CardsAreTheirRawBytes) {
   ResourceLibraryWriter writer;
-  writer.AddRaw({ResourceLibraryWriter::HtmlType, 5, 0},
+  writer.AddRaw({ResourceLibraryWriter::kHtmlType, 5, 0},
                 "\xFF\xFE"
                 "a\0b"s);
   const std::string image = writer.Image();
@@ -102,7 +102,7 @@ TEST(ResourceLibrary, TheNeutralLanguageComesFirstThenEnglishThenTheFirst) {
   const auto card = [](std::initializer_list<std::uint32_t> languages) {
     ResourceLibraryWriter writer;
     for (const std::uint32_t language : languages) {
-      writer.AddRaw({ResourceLibraryWriter::HtmlType, 5, language}, std::to_string(language));
+      writer.AddRaw({ResourceLibraryWriter::kHtmlType, 5, language}, std::to_string(language));
     }
     const std::string image = writer.Image();
     return std::string(ResourceLibrary::Open(image)->Cards().at(5));
@@ -147,9 +147,9 @@ TEST(ResourceLibrary, HalvesOfSurrogatePairsAreQuestionMarks) {
 TEST(ResourceLibrary, AStringCutShortByItsBlockIsAbsent) {
   ResourceLibraryWriter writer;
   // String 16 has one character, string 17 claims five and has two.
-  writer.AddRaw({ResourceLibraryWriter::StringType, 2, 0}, "\1\0a\0\5\0b\0c\0"s);
-  writer.AddRaw({ResourceLibraryWriter::StringType, 3, 0}, "\1"s);
-  writer.AddRaw({ResourceLibraryWriter::StringType, 4, 0}, ""s);
+  writer.AddRaw({ResourceLibraryWriter::kStringType, 2, 0}, "\1\0a\0\5\0b\0c\0"s);
+  writer.AddRaw({ResourceLibraryWriter::kStringType, 3, 0}, "\1"s);
+  writer.AddRaw({ResourceLibraryWriter::kStringType, 4, 0}, ""s);
   const std::string image = writer.Image();
 
   EXPECT_THAT(ResourceLibrary::Open(image)->Strings(), ElementsAre(Pair(16, "a")));
@@ -157,9 +157,9 @@ TEST(ResourceLibrary, AStringCutShortByItsBlockIsAbsent) {
 
 TEST(ResourceLibrary, BlocksOutsideTheNumbersAreLeftOut) {
   ResourceLibraryWriter writer;
-  writer.AddRaw({ResourceLibraryWriter::StringType, 0, 0}, "\1\0a\0"s);
-  writer.AddRaw({ResourceLibraryWriter::StringType, 4096, 0}, "\1\0b\0"s);  // 65520 to 65535
-  writer.AddRaw({ResourceLibraryWriter::StringType, 4097, 0}, "\1\0c\0"s);
+  writer.AddRaw({ResourceLibraryWriter::kStringType, 0, 0}, "\1\0a\0"s);
+  writer.AddRaw({ResourceLibraryWriter::kStringType, 4096, 0}, "\1\0b\0"s);  // 65520 to 65535
+  writer.AddRaw({ResourceLibraryWriter::kStringType, 4097, 0}, "\1\0c\0"s);
   const std::string image = writer.Image();
 
   EXPECT_THAT(ResourceLibrary::Open(image)->Strings(), ElementsAre(Pair(65520, "b")));
@@ -255,7 +255,7 @@ std::string SomeLibrary() {
   writer.AddString(1, "one");
   writer.AddString(40, "forty");
   writer.AddCard(5, "<RDL><TEXT>Planet Fox</TEXT></RDL>");
-  writer.AddCard(6, "x", ResourceLibraryWriter::Neutral);
+  writer.AddCard(6, "x", ResourceLibraryWriter::kNeutral);
   return writer.Image();
 }
 

@@ -25,7 +25,7 @@ class ResourceStrings : public ReaderFixture {
   }
 
   static constexpr ResourceKey Card(std::uint32_t number) {
-    return {ResourceLibraryWriter::HtmlType, number, 0};
+    return {ResourceLibraryWriter::kHtmlType, number, 0};
   }
 };
 
