@@ -16,6 +16,7 @@
 #include "forms/controls/form_geometry.h"
 #include "forms/print_form.h"
 #include "forms/start/import_screen_layout.h"
+#include "forms/workbench/layers_page.h"
 #include "import/log_entry.h"
 #include "map/game_sounds.h"
 #include "map/grid/map_places.h"
@@ -65,6 +66,7 @@ OrrerixMain::OrrerixMain(const FormParts& parts, Settings& settings, LanguageFil
                  [this](const std::string& place) { tools_.ShowTradesFrom(place); },
                  [this](const std::string& place) { tools_.ShowWayTo(place); }}),
       tools_(*this, parts, format),
+      space_(map_, tools_.Remembered(), parts.Speech),
       toolsEntry_(map_.Frame(), parts.Speech, [this] { tools_.Open(); }),
       changeNotice_(map_.Frame(), [this] { ImportAgain(); }),
       marks_(new MapMarks(map_.Frame())),
@@ -321,6 +323,7 @@ void OrrerixMain::ShowMap() {
     map_.Redraw(universe, drawn.width(), drawn.height());
     mapController_.MapRedrawn();
     newsController_.MapRedrawn();
+    space_.MapRedrawn();
     toolsEntry_.Follow(map_.Drawing());
     marks_->Follow(map_.Drawing());
     way_->Follow(map_.Drawing());
@@ -328,6 +331,7 @@ void OrrerixMain::ShowMap() {
     if (isNew) QueueFocus();
     if (isNew) map_.Frame().setFocus();
     if (isNew) tools_.UniverseShown();
+    if (isNew) ReadSpace();
   });
 }
 
@@ -460,7 +464,14 @@ void OrrerixMain::MakeTools() {
     if (phase_ == Phase::Map) tools_.FindGood(search_.Text());
   });
   search_.OnFindGood = [this](const std::string& text) { tools_.FindGood(text); };
+  tools_.AddPage([this] {
+    auto page = std::make_unique<LayersPage>(space_, parts_.Speech);
+    space_.OnRead = [shown = page.get()] { shown->ShowContent(); };
+    return page;
+  });
+  mapController_.OnJumpEnd = [this](const Control& icon) { GoThroughGate(icon); };
   tools_.OnReplaced = [this] {
+    ReadSpace();
     changeNotice_.Hide();
     way_->Hide();
     map_.ForgetNames();
@@ -470,6 +481,14 @@ void OrrerixMain::MakeTools() {
     if (!changed) return changeNotice_.Hide();
     changeNotice_.Show(CaptionIn(parts_.Speech.Current, TextId::FilesChanged));
   };
+}
+
+// Shows the system at the other side.
+void OrrerixMain::GoThroughGate(const Control& icon) {
+  const Gate* gate = space_.GateAt(Pixels(icon.Place).center());
+  if (gate == nullptr) return;
+  const MapCell there = gate->OtherCell;
+  if (mapController_.PushZoomStack({there.X, there.Y, there.X, there.Y})) Redraw();
 }
 
 bool OrrerixMain::ShowOnMap(const std::string& nickname) {
@@ -544,6 +563,7 @@ void OrrerixMain::OpenGame(const std::string& folder) {
   way_->Hide();
   lastStation_.clear();
   map_.ForgetNames();
+  space_.Forget();
   map_.State().Zoom = {};
   RecallView();
   phase_ = Phase::FirstRun;

@@ -11,6 +11,7 @@
 #include "db/engine/working_copy.h"
 #include "forms/form_parts.h"
 #include "forms/import_session.h"
+#include "forms/layers/map_space.h"
 #include "forms/map/map_controller.h"
 #include "forms/map/map_host.h"
 #include "forms/map/map_marks.h"
@@ -88,6 +89,7 @@ class OrrerixMain : public QWidget, public WorkbenchHost, private MapHost {
   Tools& MapTools() { return tools_; }
   MapScreen& Map() { return map_; }
   MapController& Controller() { return mapController_; }
+  MapSpace& Layers() { return space_; }
   const StationWindows& Stations() const { return stations_; }
 
  protected:
@@ -118,6 +120,8 @@ class OrrerixMain : public QWidget, public WorkbenchHost, private MapHost {
   void OpenLogoPage(bool firstHalf) override;
 
   void MakeTools();
+  void ReadSpace() { space_.Read(UniverseFile(), GameText()); }
+  void GoThroughGate(const Control& icon);
   void RememberView();
   void RecallView();
 
@@ -163,6 +167,7 @@ class OrrerixMain : public QWidget, public WorkbenchHost, private MapHost {
   NewsController newsController_;
   StationWindows stations_;
   Tools tools_;
+  MapSpace space_;
   ToolsEntry toolsEntry_;
   MapNotice changeNotice_;
   MapMarks* marks_;

@@ -114,6 +114,28 @@ void MapScene::Replace(const Control& control) {
   }
 }
 
+void MapScene::Put(QGraphicsItem& item, Stratum stratum) {
+  const auto isAbove = [stratum](const Control& control) {
+    if (control.Id == ControlId::PanelFrame) return true;
+    return stratum == Stratum::BelowLines &&
+           (control.Id == ControlId::MapLine || control.Id == ControlId::MapIcon ||
+            control.Id == ControlId::Border);
+  };
+  // An item that stands above all is the last one: it is taken out and added again for that.
+  if (item.scene() == this) removeItem(&item);
+  addItem(&item);
+  const ControlList& controls = drawing_.Controls;
+  const auto above = std::find_if(controls.begin(), controls.end(), isAbove);
+  if (above == controls.end()) return;
+  item.stackBefore(items_[static_cast<std::size_t>(above - controls.begin())]);
+}
+
+void MapScene::ShowSystemNames(bool shown) {
+  for (ControlItem* item : items_) {
+    if (item->Shown().Id == ControlId::SystemLabel) item->setOpacity(shown ? 1 : 0);
+  }
+}
+
 ControlHit MapScene::HitAt(QPointF point) const {
   const QList<QGraphicsItem*> under = items(point, Qt::IntersectsItemShape, Qt::DescendingOrder);
   if (under.isEmpty()) return {};

@@ -17,6 +17,9 @@ namespace orrerix {
 enum class FrontLayer { Box, CellCursor, RubberBand };
 inline constexpr std::size_t kFrontLayers = 3;
 
+// Where an item of someone else's stands among the controls of the drawing.
+enum class Stratum { BelowLines, BelowPanel };
+
 // A control that the mouse points at.
 struct ControlHit {
   const Control* Shown = nullptr;  // null on the bare frame
@@ -53,6 +56,13 @@ class MapScene : public QGraphicsScene {
   void Replace(const Control& control);
 
   const MapDrawing& Drawing() const { return drawing_; }
+
+  // Puts an item of the scene that belongs to no control into a stratum of the drawing; to be
+  // called after each Show. Its shape must be empty, so that nothing points at it.
+  void Put(QGraphicsItem& item, Stratum stratum);
+
+  // Hides or shows the names of systems, until the next Show.
+  void ShowSystemNames(bool shown);
 
   // The topmost control at a point that is not a line.
   ControlHit HitAt(QPointF point) const;

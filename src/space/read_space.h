@@ -35,7 +35,7 @@ std::vector<Spot> ReadSpots(const SourceTables& tables, const SystemBook& system
                             const SolarBook& solars);
 
 // The systems and the names of the factions that own them: the one that the system's file names as
-// the local one, else the one that owns most of its stations.
+// the local one if it owns a station or gate there, else the one that owns most of them.
 struct Territories {
   std::vector<SystemArea> Systems;
   std::vector<std::string> Factions;  // most systems first

@@ -24,21 +24,32 @@ Owners LocalFactions(const SourceTables& tables, const SystemBook& systems) {
   return owners;
 }
 
-Owners FactionsOfMostStations(const SourceTables& tables, const SystemBook& systems) {
-  std::unordered_map<std::string, std::map<std::string, int>> stations;
+// How much factions own in each system: stations to dock at, and gates.
+using Possessions = std::unordered_map<std::string, std::map<std::string, int>>;
+
+Possessions PossessionsOf(const SourceTables& tables, const SystemBook& systems) {
+  Possessions possessions;
   const SourceTable& objects = tables["Objects"];
   for (std::size_t i = 0; i < objects.RowCount(); ++i) {
     const SourceRow object = objects.Row(i);
     const SystemArea* system = systems.Find(object.Text("sys_nick"));
     const std::string faction = FoldAscii(object.Text("reputation"));
-    if (system == nullptr || faction.empty() || object.Text("dock_with").empty()) continue;
-    ++stations[system->Nickname][faction];
+    const bool counts = !object.Text("dock_with").empty() || !object.Text("goto").empty();
+    if (system == nullptr || faction.empty() || !counts) continue;
+    ++possessions[system->Nickname][faction];
   }
+  return possessions;
+}
+
+// Mods leave the local faction of the file that they have copied: it has to own something there.
+Owners OwnersOf(const Owners& locals, const Possessions& possessions) {
   Owners owners;
-  for (const auto& [system, counts] : stations) {
+  for (const auto& [system, counts] : possessions) {
+    const auto local = locals.find(system);
     const auto most = std::max_element(counts.begin(), counts.end(),
                                        [](auto& a, auto& b) { return a.second < b.second; });
-    owners.emplace(system, most->first);
+    const bool isLocal = local != locals.end() && counts.contains(FoldAscii(local->second));
+    owners.emplace(system, isLocal ? local->second : most->first);
   }
   return owners;
 }
@@ -46,8 +57,7 @@ Owners FactionsOfMostStations(const SourceTables& tables, const SystemBook& syst
 }  // namespace
 
 Territories ReadTerritories(const SourceTables& tables, const SystemBook& systems) {
-  Owners owners = LocalFactions(tables, systems);
-  owners.merge(FactionsOfMostStations(tables, systems));
+  Owners owners = OwnersOf(LocalFactions(tables, systems), PossessionsOf(tables, systems));
   std::map<std::string, std::size_t> counts;
   for (const SystemArea& system : systems.Systems()) {
     const auto owner = owners.find(system.Nickname);

@@ -113,16 +113,23 @@ TEST_F(SpaceObjects, OffTheMapAreLeftOut) {
   EXPECT_TRUE(Read().Bodies.empty());
 }
 
-TEST_F(SpaceObjects, SystemsBelongToTheLocalFaction) {
+TEST_F(SpaceObjects, SystemsBelongToTheLocalFactionIfItOwnsSomething) {
   System("Li02", "5, 6");
   System("Li03", "6, 6");
   System("Li04", "7, 6");
   Add("Groups", {{"NickName", "police"}, {"Name", "The Police"}});
   Section("systeminfo", {{"local_faction", "police"}});
-  Section("systeminfo", {{"local_faction", "police"}}, "Li02");
-  Object("a", "A", {{"sys_nick", "Li03"}, {"dock_with", "a"}, {"reputation", "navy"}});
-  Object("b", "B", {{"sys_nick", "Li03"}, {"dock_with", "b"}, {"reputation", "navy"}});
-  Object("c", "C", {{"sys_nick", "Li03"}, {"dock_with", "c"}, {"reputation", "police"}});
+  Section("systeminfo", {{"local_faction", "Police"}}, "Li02");
+  Section("systeminfo", {{"local_faction", "police"}}, "Li03");
+  Section("systeminfo", {{"local_faction", "police"}}, "Li04");
+  Object("gate", "", {{"goto", "Li02, x, y"}, {"reputation", "police"}});
+  Object("a1", "", {{"dock_with", "a"}, {"reputation", "navy"}});
+  Object("a2", "", {{"dock_with", "a"}, {"reputation", "navy"}});
+  Object("b", "", {{"sys_nick", "Li02"}, {"dock_with", "b"}, {"reputation", "police"}});
+  Object("c", "", {{"sys_nick", "Li03"}, {"dock_with", "c"}, {"reputation", "navy"}});
+  Object("d", "", {{"sys_nick", "Li03"}, {"dock_with", "d"}, {"reputation", "navy"}});
+  Object("e", "", {{"sys_nick", "Li03"}, {"dock_with", "e"}, {"reputation", "army"}});
+  Object("buoy", "", {{"sys_nick", "Li04"}, {"reputation", "police"}});
 
   const Space space = Read();
 

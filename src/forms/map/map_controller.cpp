@@ -215,8 +215,16 @@ void MapController::MouseUp(const MapPointer& pointer) {
 }
 
 void MapController::Click(const Target& target) {
-  if (target.Of == Part::Icon) return OpenStationOf(target.Index);
+  if (target.Of == Part::Icon) return ClickIcon(target.Index);
   PanelClick(target.Id, target.Index);
+}
+
+void MapController::ClickIcon(int index) {
+  OpenStationOf(index);
+  const Control* icon = screen_.Scene().Find(ControlId::MapIcon, index);
+  if (icon == nullptr || !OnJumpEnd || !std::holds_alternative<JumpEnd>(icon->Subject)) return;
+  const Control clicked = *icon;  // which may go with a redraw
+  OnJumpEnd(clicked);
 }
 
 // The keyboard.

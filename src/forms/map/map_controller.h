@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -56,6 +57,9 @@ class MapController : private MapMouse, private MapKeys {
   // True if the map is to be redrawn.
   bool PushZoomStack(const ZoomRectangle& rectangle);
 
+  // Called after a click on the icon of a jump connection's end, which has no station window.
+  std::function<void(const Control& icon)> OnJumpEnd;
+
   MapBox& Box() { return box_; }
 
  private:
@@ -77,6 +81,7 @@ class MapController : private MapMouse, private MapKeys {
   void FocusLost() override;
 
   void Click(const Target& target);
+  void ClickIcon(int index);
   void PanelClick(ControlId id, int index);
   void PanelKeyClick(ControlId id, int index);
   void FoldOrUnfold();

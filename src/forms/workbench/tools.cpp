@@ -59,6 +59,7 @@ Workbench& Tools::Window() {
   window_->Add(std::move(way));
   window_->Add(std::move(goods));
   window_->Add(std::make_unique<AtlasPage>(host_, parts_.Speech, settings_));
+  for (const MakePage& make : morePages_) window_->Add(make());
   auto game = std::make_unique<GamePage>(host_, settings_, parts_.Speech);
   gamePage_ = game.get();
   window_->Add(std::move(game));

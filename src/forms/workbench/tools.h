@@ -6,6 +6,7 @@
 #include <QTimer>
 #include <functional>
 #include <memory>
+#include <vector>
 
 #include "forms/form_parts.h"
 #include "forms/workbench/background_import.h"
@@ -35,7 +36,13 @@ class Tools {
   // Called with the answer whether the game's files have changed since they were imported.
   std::function<void(bool)> OnChangeSeen;
 
+  // Makes a page of what this does not know, once the window is first wanted. It stands after the
+  // atlas.
+  using MakePage = std::function<std::unique_ptr<WorkbenchPage>()>;
+  void AddPage(MakePage make) { morePages_.push_back(std::move(make)); }
+
   void Open();
+  void ShowPage(TextId page) { Window().Open(page); }
   void ShowKeys();
 
   // Open the window with the trades from a place, or the way to it from where the player is.
@@ -74,6 +81,7 @@ class Tools {
   JetVersionOption format_;
   QSettings settings_;
   TradeWorlds worlds_;
+  std::vector<MakePage> morePages_;
   std::unique_ptr<Workbench> window_;  // made when it is first wanted
   GoodsPage* goodsPage_ = nullptr;
   TradesPage* tradesPage_ = nullptr;

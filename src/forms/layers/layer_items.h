@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+// The layers as items of the map's scene.
+#pragma once
+
+#include <QPixmap>
+#include <functional>
+
+#include "picture/control_items.h"
+
+namespace orrerix {
+
+// Shows what a function paints in a part of the scene. On a screen it is painted once and kept as a
+// picture, elsewhere, as on paper, each time anew. Nothing points at it; as a control it is the
+// bare map frame.
+class PaintedItem : public ControlItem {
+ public:
+  using Paint = std::function<void(QPainter&, const QRectF& exposed)>;
+  explicit PaintedItem(Paint paint);
+
+  // Another content, or another place for it (scene's coordinates).
+  void Renew(const QRectF& place);
+
+  QRectF boundingRect() const override { return place_; }
+  QPainterPath shape() const override { return {}; }
+  bool contains(const QPointF&) const override { return false; }
+  void paint(QPainter* painter, const QStyleOptionGraphicsItem* option, QWidget* widget) override;
+
+ private:
+  const QPixmap& Picture(double devicePixelRatio);
+
+  Paint paint_;
+  QRectF place_;
+  QPixmap picture_;  // null until it is wanted
+};
+
+}  // namespace orrerix
