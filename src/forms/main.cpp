@@ -10,6 +10,7 @@
 
 #include "forms/desktop_network.h"
 #include "forms/desktop_sound.h"
+#include "forms/interface_scale.h"
 #include "forms/program_run.h"
 #include "forms/program_style.h"
 #include "forms/qt_services.h"
@@ -84,6 +85,7 @@ int PrintGame() {
 }
 
 int RunProgram(int argc, char** argv, const StartPaths& paths) {
+  ApplyStoredScale(paths.ApplicationFolder);
   QApplication application(argc, argv);
   QApplication::setApplicationName("orrerix");
   QApplication::setApplicationDisplayName("");

@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "forms/orrerix_main.h"
 
+#include <QClipboard>
 #include <QCloseEvent>
 #include <QGuiApplication>
 #include <QImage>
 #include <QKeyEvent>
 #include <QScreen>
 #include <QShortcut>
+#include <QToolTip>
 #include <utility>
 
 #include <fmt/format.h>
@@ -16,11 +18,14 @@
 #include "forms/controls/form_geometry.h"
 #include "forms/print_form.h"
 #include "forms/start/import_screen_layout.h"
+#include "forms/workbench/bookmarks_page.h"
+#include "forms/workbench/find_page.h"
 #include "forms/workbench/layers_page.h"
 #include "import/log_entry.h"
 #include "map/game_sounds.h"
 #include "map/grid/map_places.h"
 #include "online/web_pages.h"
+#include "picture/plain_tool_tip.h"
 #include "platform/game_path.h"
 #include "platform/long_names.h"
 #include "platform/path_text.h"
@@ -67,6 +72,8 @@ OrrerixMain::OrrerixMain(const FormParts& parts, Settings& settings, LanguageFil
                  [this](const std::string& place) { tools_.ShowWayTo(place); }}),
       tools_(*this, parts, format),
       space_(map_, tools_.Remembered(), parts.Speech),
+      actions_(map_, space_, parts.Log, parts.Speech),
+      moves_(map_, parts.Log, [this] { Redraw(); }),
       toolsEntry_(map_.Frame(), parts.Speech, [this] { tools_.Open(); }),
       changeNotice_(map_.Frame(), [this] { ImportAgain(); }),
       marks_(new MapMarks(map_.Frame())),
@@ -450,6 +457,8 @@ void OrrerixMain::PrintTheMap() {
 }
 
 void OrrerixMain::MakeTools() {
+  MakePages();
+  MakeKeys();
   const auto onKey = [this](const QKeySequence& keys, auto act) {
     QObject::connect(new QShortcut(keys, this), &QShortcut::activated, this, act);
   };
@@ -458,17 +467,13 @@ void OrrerixMain::MakeTools() {
   onKey(Qt::Key_F2, [this] { tools_.Open(); });
   onKey(Qt::Key_F5, [this] { ImportAgain(); });
   onKey(QKeySequence::Find, [this] {
-    if (phase_ == Phase::Map) search_.OpenSearch(SearchType::Place);
+    if (phase_ != Phase::Map) return;
+    search_.Visible() ? FindAnything() : search_.OpenSearch(SearchType::Place);
   });
   onKey(Qt::CTRL | Qt::Key_G, [this] {
     if (phase_ == Phase::Map) tools_.FindGood(search_.Text());
   });
   search_.OnFindGood = [this](const std::string& text) { tools_.FindGood(text); };
-  tools_.AddPage([this] {
-    auto page = std::make_unique<LayersPage>(space_, parts_.Speech);
-    space_.OnRead = [shown = page.get()] { shown->ShowContent(); };
-    return page;
-  });
   mapController_.OnJumpEnd = [this](const Control& icon) { GoThroughGate(icon); };
   tools_.OnReplaced = [this] {
     ReadSpace();
@@ -481,6 +486,87 @@ void OrrerixMain::MakeTools() {
     if (!changed) return changeNotice_.Hide();
     changeNotice_.Show(CaptionIn(parts_.Speech.Current, TextId::FilesChanged));
   };
+}
+
+// Keys of the map that need no tools.
+void OrrerixMain::MakeKeys() {
+  const auto onKey = [this](const QKeySequence& keys, auto act) {
+    QObject::connect(new QShortcut(keys, this), &QShortcut::activated, this, [this, act] {
+      if (phase_ == Phase::Map) (this->*act)();
+    });
+  };
+  onKey(Qt::CTRL | Qt::SHIFT | Qt::Key_F, &OrrerixMain::FindAnything);
+  onKey(Qt::CTRL | Qt::Key_D, &OrrerixMain::AddBookmark);
+  onKey(QKeySequence::Copy, &OrrerixMain::CopyCoordinates);
+  onKey(QKeySequence::Save, &OrrerixMain::SaveMapPicture);
+}
+
+void OrrerixMain::MakePages() {
+  tools_.AddPage([this] {
+    FindPage::Actions actions;
+    actions.ShowCell = [this](MapCell cell) { ShowCell(cell); };
+    actions.ShowInAtlas = [this](const std::string& table, const std::string& name) {
+      tools_.ShowInAtlas(table, name);
+    };
+    auto page = std::make_unique<FindPage>(*this, parts_.Speech, std::move(actions));
+    findPage_ = page.get();
+    return page;
+  });
+  tools_.AddPage([this] {
+    auto page = std::make_unique<LayersPage>(space_, parts_.Speech);
+    space_.OnRead = [shown = page.get()] { shown->ShowContent(); };
+    return page;
+  });
+  tools_.AddPage([this] {
+    auto page = std::make_unique<BookmarksPage>(
+        parts_.Speech, parts_.Paths.ApplicationFolder / "Orrerix-Bookmarks.txt",
+        BookmarksPage::Actions{[this] { return actions_.BookmarkAt(actions_.Pointer()); },
+                               [this](const Bookmark& mark) { ShowBookmark(mark); }});
+    bookmarksPage_ = page.get();
+    return page;
+  });
+}
+
+void OrrerixMain::ShowCell(MapCell cell) {
+  const ZoomRectangle view{cell.X, cell.Y, cell.X, cell.Y};
+  if (phase_ != Phase::Map || view == map_.State().Zoom.Current()) return;
+  map_.State().Zoom.PushZoomStack(parts_.Log, view);
+  Redraw();
+}
+
+// A station's bookmark opens its window; of what is gone from the universe its view is left.
+void OrrerixMain::ShowBookmark(const Bookmark& mark) {
+  if (phase_ != Phase::Map || (!mark.Place.empty() && ShowOnMap(mark.Place))) return;
+  if (mark.View == map_.State().Zoom.Current()) return;
+  map_.State().Zoom.PushZoomStack(parts_.Log, mark.View);
+  Redraw();
+}
+
+void OrrerixMain::FindAnything() {
+  const QString text = QString::fromStdString(search_.Text());
+  tools_.ShowPage(TextId::FindPage);
+  findPage_->Begin(text);
+}
+
+void OrrerixMain::AddBookmark() {
+  const Bookmark mark = actions_.BookmarkAt(actions_.Pointer());
+  tools_.ShowPage(TextId::BookmarksPage);
+  bookmarksPage_->Add(mark);
+}
+
+void OrrerixMain::CopyCoordinates() {
+  const QString text = QString::fromStdString(actions_.CoordinatesAt(actions_.Pointer()));
+  if (text.isEmpty()) return;
+  QGuiApplication::clipboard()->setText(text);
+  QToolTip::showText(
+      QCursor::pos(),
+      PlainToolTip(FormatIn(parts_.Speech.Current, TextId::CoordinatesCopied, text.toStdString())),
+      &map_.Frame());
+}
+
+void OrrerixMain::SaveMapPicture() {
+  const QString answer = actions_.SaveAs(*this);
+  if (!answer.isEmpty()) QToolTip::showText(QCursor::pos(), PlainToolTip(answer), &map_.Frame());
 }
 
 // Shows the system at the other side.

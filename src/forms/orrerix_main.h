@@ -11,10 +11,12 @@
 #include "db/engine/working_copy.h"
 #include "forms/form_parts.h"
 #include "forms/import_session.h"
+#include "forms/layers/map_actions.h"
 #include "forms/layers/map_space.h"
 #include "forms/map/map_controller.h"
 #include "forms/map/map_host.h"
 #include "forms/map/map_marks.h"
+#include "forms/map/map_moves.h"
 #include "forms/map/map_screen.h"
 #include "forms/map/map_way.h"
 #include "forms/map/news_controller.h"
@@ -28,6 +30,9 @@
 #include "shell/startup.h"
 
 namespace orrerix {
+
+class BookmarksPage;
+class FindPage;
 
 // The main form. It shows one of three screens, chosen by every redraw: first run, importing,
 // or the map.
@@ -122,6 +127,14 @@ class OrrerixMain : public QWidget, public WorkbenchHost, private MapHost {
   void MakeTools();
   void ReadSpace() { space_.Read(UniverseFile(), GameText()); }
   void GoThroughGate(const Control& icon);
+  void MakePages();
+  void MakeKeys();
+  void ShowCell(MapCell cell);
+  void ShowBookmark(const Bookmark& mark);
+  void FindAnything();
+  void AddBookmark();
+  void CopyCoordinates();
+  void SaveMapPicture();
   void RememberView();
   void RecallView();
 
@@ -168,10 +181,14 @@ class OrrerixMain : public QWidget, public WorkbenchHost, private MapHost {
   StationWindows stations_;
   Tools tools_;
   MapSpace space_;
+  MapActions actions_;
+  MapMoves moves_;
   ToolsEntry toolsEntry_;
   MapNotice changeNotice_;
   MapMarks* marks_;
   MapWay* way_;
+  FindPage* findPage_ = nullptr;  // both are made with the tools' window
+  BookmarksPage* bookmarksPage_ = nullptr;
   std::string lastStation_;  // that was opened, by its nickname
 };
 

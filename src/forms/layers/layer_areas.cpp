@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/layers/layer_areas.h"
 
+#include <QPainterPath>
 #include <algorithm>
 
 #include "forms/layers/layer_style.h"

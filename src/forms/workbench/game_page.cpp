@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/workbench/game_page.h"
 
+#include <QComboBox>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QPushButton>
@@ -8,6 +9,7 @@
 
 #include "forms/controls/captions.h"
 #include "forms/controls/plain_label.h"
+#include "forms/interface_scale.h"
 #include "forms/workbench/setting_keys.h"
 
 namespace orrerix {
@@ -43,6 +45,13 @@ GamePage::GamePage(WorkbenchHost& host, QSettings& settings, const LanguageChoic
   editor->setObjectName("EditorCommand");
   editor->setPlaceholderText("code -g {file}:{line}");
   editor->setAccessibleName(Caption(TextId::EditorCommand));
+  auto* scale = new QComboBox(this);
+  scale->setObjectName("InterfaceScale");
+  scale->setAccessibleName(Caption(TextId::InterfaceScale));
+  for (const int percent : InterfaceScales()) {
+    scale->addItem(QString("%1 %").arg(percent), percent);
+  }
+  scale->setCurrentIndex(scale->findData(StoredScale(settings)));
   layout->addWidget(game_);
   layout->addWidget(file_);
   layout->addWidget(again, 0, Qt::AlignLeft);
@@ -56,6 +65,11 @@ GamePage::GamePage(WorkbenchHost& host, QSettings& settings, const LanguageChoic
   layout->addSpacing(16);
   layout->addWidget(new PlainLabel(Caption(TextId::EditorCommand), this));
   layout->addWidget(editor);
+  layout->addSpacing(16);
+  layout->addWidget(new PlainLabel(Caption(TextId::InterfaceScale), this));
+  layout->addWidget(scale, 0, Qt::AlignLeft);
+  connect(scale, &QComboBox::currentIndexChanged, this,
+          [this, scale] { StoreScale(settings_, scale->currentData().toInt()); });
   connect(again, &QPushButton::clicked, this, [this] { host_.ImportAgain(); });
   connect(watch, &QCheckBox::toggled, this, [this](bool on) {
     settings_.setValue(setting_key::kWatch, on);

@@ -10,6 +10,7 @@ inline constexpr const char* kWatch = "game/watch";
 inline constexpr const char* kRecentGames = "game/recent";
 inline constexpr const char* kEditor = "editor/command";
 inline constexpr const char* kLayers = "map/layers";
+inline constexpr const char* kScale = "window/scale";  // percent
 
 // What the pages of travel share. `kFrom` is there only if the player chose a start.
 inline constexpr const char* kFrom = "travel/from";

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "forms/controls/captions.h"
+#include "forms/interface_scale.h"
 #include "forms/workbench/atlas/atlas_page.h"
 #include "forms/workbench/check_page.h"
 #include "forms/workbench/differences_page.h"
@@ -25,17 +26,13 @@ namespace fs = std::filesystem;
 
 constexpr int kToolsWatchInterval = 30;  // milliseconds
 
-QString SettingsFile(const fs::path& applicationFolder) {
-  return QString::fromStdString((applicationFolder / "Orrerix-Tools.ini").string());
-}
-
 }  // namespace
 
 Tools::Tools(WorkbenchHost& host, const FormParts& parts, JetVersionOption format)
     : host_(host),
       parts_(parts),
       format_(format),
-      settings_(SettingsFile(parts.Paths.ApplicationFolder), QSettings::IniFormat) {
+      settings_(ToolsSettingsFile(parts.Paths.ApplicationFolder), QSettings::IniFormat) {
   watchTimer_.setInterval(kToolsWatchInterval);
   QObject::connect(&watchTimer_, &QTimer::timeout, [this] { LookForChanges(); });
 }
@@ -58,7 +55,9 @@ Workbench& Tools::Window() {
   window_->Add(std::move(trades));
   window_->Add(std::move(way));
   window_->Add(std::move(goods));
-  window_->Add(std::make_unique<AtlasPage>(host_, parts_.Speech, settings_));
+  auto atlas = std::make_unique<AtlasPage>(host_, parts_.Speech, settings_);
+  atlasPage_ = atlas.get();
+  window_->Add(std::move(atlas));
   for (const MakePage& make : morePages_) window_->Add(make());
   auto game = std::make_unique<GamePage>(host_, settings_, parts_.Speech);
   gamePage_ = game.get();
@@ -94,6 +93,12 @@ void Tools::ShowGoodsFrom(const std::string& place) {
 void Tools::FindGood(const std::string& text) {
   Window().Open(TextId::GoodsPage);
   goodsPage_->FindGood(QString::fromStdString(text));
+}
+
+void Tools::ShowInAtlas(const std::string& table, const std::string& text) {
+  Workbench& window = Window();
+  atlasPage_->ShowRows(QString::fromStdString(table), QString::fromStdString(text));
+  window.Open(TextId::AtlasPage);
 }
 
 void Tools::ShowState(const QString& text) {

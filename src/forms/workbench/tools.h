@@ -18,6 +18,7 @@
 
 namespace orrerix {
 
+class AtlasPage;
 class GoodsPage;
 class TradesPage;
 class WayPage;
@@ -55,6 +56,9 @@ class Tools {
   // Opens the window with the commodities whose name holds a text.
   void FindGood(const std::string& text);
 
+  // Opens the window with a table of the atlas, by its ID, and the rows that hold a text.
+  void ShowInAtlas(const std::string& table, const std::string& text);
+
   // Imports the shown game again, while the map stays.
   void ImportAgain();
 
@@ -83,6 +87,7 @@ class Tools {
   TradeWorlds worlds_;
   std::vector<MakePage> morePages_;
   std::unique_ptr<Workbench> window_;  // made when it is first wanted
+  AtlasPage* atlasPage_ = nullptr;
   GoodsPage* goodsPage_ = nullptr;
   TradesPage* tradesPage_ = nullptr;
   WayPage* wayPage_ = nullptr;

@@ -43,6 +43,9 @@ class ZoomStack {
   // a failure, on OK the new rectangle replaces the current one and that is saved as the last one.
   ZoomChange PushZoomStack(ErrorLog& log, const ZoomRectangle& rectangle);
 
+  // Shows a rectangle in the place of the current one, which is not saved.
+  void Replace(const ZoomRectangle& rectangle) { current_ = rectangle; }
+
   // Goes back to the rectangle saved last. False if there is none.
   bool PopZoomStack(ErrorLog& log);
 

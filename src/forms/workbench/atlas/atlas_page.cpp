@@ -290,6 +290,14 @@ void AtlasPage::ShowTable(int index) {
   Filter();
 }
 
+void AtlasPage::ShowRows(const QString& table, const QString& text) {
+  RememberTable();
+  settings_.setValue(setting_key::kAtlasTable, table);
+  settings_.setValue(QString("atlas/%1/%2").arg(table, setting_key::kAtlasFilter), text);
+  settings_.setValue(QString("atlas/%1/%2").arg(table, setting_key::kAtlasConditions), QString());
+  if (!content_.Tables.empty()) Show(std::move(content_));
+}
+
 void AtlasPage::RememberTable() {
   if (model_.Table() == nullptr) return;
   columns_->Remember();

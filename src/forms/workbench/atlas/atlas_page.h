@@ -33,6 +33,10 @@ class AtlasPage : public WorkbenchPage {
   void Leave() override;
   void UniverseChanged() override;
 
+  // Shows a table, by its ID, with the rows that hold a text; at once, or when the page has read
+  // the universe.
+  void ShowRows(const QString& table, const QString& text);
+
   // Writes the rows and columns that are shown into a file as CSV. False if it cannot be written.
   bool SaveTo(const QString& file) const;
 
