@@ -7,6 +7,7 @@
 #include <cstddef>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "derived/system_grid.h"
@@ -48,8 +49,9 @@ struct Zone {
   MapCell Cell;
   CellFraction Middle;
   std::vector<Outline> Outlines;  // as seen from above; a ring has a second one around its hole
-  double Area = 0;                // of the first outline, in squares of its system
-  double Damage = 0;              // hull points a second
+  std::optional<std::pair<CellFraction, CellFraction>> MiddleLine;  // of a long one: its ends
+  double Area = 0;    // of the first outline, in squares of its system
+  double Damage = 0;  // hull points a second
   bool HasMines = false;
   bool HasGas = false;              // pockets that explode
   std::vector<std::string> Yields;  // names of what can be mined

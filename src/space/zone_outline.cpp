@@ -111,6 +111,13 @@ std::vector<Polygon> OutlinesFromAbove(const ZoneShape& zone) {
   return outlines;
 }
 
+std::optional<std::pair<PlanePoint, PlanePoint>> MiddleLineFromAbove(const ZoneShape& zone) {
+  if (FoldAscii(zone.Shape) != "cylinder") return std::nullopt;
+  const PlanePoint end = FromAbove(Turned({0, zone.Size[1] / 2, 0}, zone.Degrees));
+  if (std::hypot(end.East, end.South) <= zone.Size[0]) return std::nullopt;
+  return std::pair(PlanePoint{-end.East, -end.South}, end);
+}
+
 Polygon ConvexHull(Polygon points) {
   std::sort(points.begin(), points.end(), [](const PlanePoint& a, const PlanePoint& b) {
     return a.East != b.East ? a.East < b.East : a.South < b.South;

@@ -3,7 +3,9 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace orrerix {
@@ -27,6 +29,10 @@ struct ZoneShape {
 // The shape's outlines around its middle, game units. A ring has two, the outer one first; a shape
 // that is not known, or has no extent, has none.
 std::vector<Polygon> OutlinesFromAbove(const ZoneShape& zone);
+
+// The ends of a cylinder's middle line as seen from above; nothing for another shape, or one that
+// is no longer than it is wide.
+std::optional<std::pair<PlanePoint, PlanePoint>> MiddleLineFromAbove(const ZoneShape& zone);
 
 // The smallest polygon without dents around points, without the points on its edges.
 Polygon ConvexHull(Polygon points);

@@ -72,14 +72,17 @@ void SetKinds(const SourceRow& row, FieldBook& fields, Zone& zone) {
 }
 
 void SetOutlines(const SourceRow& row, const SystemArea& system, GamePosition middle, Zone& zone) {
-  const std::string shape = row.Text("shape");
-  for (const Polygon& polygon :
-       OutlinesFromAbove({shape, ReadTriple(row.Text("size")), ReadTriple(row.Text("rotate"))})) {
+  const std::string name = row.Text("shape");
+  const ZoneShape shape{name, ReadTriple(row.Text("size")), ReadTriple(row.Text("rotate"))};
+  const auto placed = [&](const PlanePoint& point) {
+    return SystemBook::PlaceIn(system, {middle.East + point.East, middle.South + point.South});
+  };
+  if (const auto line = MiddleLineFromAbove(shape)) {
+    zone.MiddleLine = std::pair(placed(line->first), placed(line->second));
+  }
+  for (const Polygon& polygon : OutlinesFromAbove(shape)) {
     Outline outline;
-    for (const PlanePoint& point : polygon) {
-      outline.push_back(
-          SystemBook::PlaceIn(system, {middle.East + point.East, middle.South + point.South}));
-    }
+    for (const PlanePoint& point : polygon) outline.push_back(placed(point));
     if (zone.Outlines.empty()) {
       zone.Area = AreaOf(polygon) / (system.UnitsAcross * system.UnitsAcross);
     }

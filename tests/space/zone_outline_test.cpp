@@ -79,6 +79,16 @@ TEST(ZoneOutlines, ACylinderThatLiesIsAPath) {
   EXPECT_THAT(reach.South, DoubleNear(433.01 + 5, 0.01));
 }
 
+TEST(ZoneOutlines, APathHasAMiddleLine) {
+  const auto line = MiddleLineFromAbove({"CYLINDER", {10, 1000, 0}, {-90, 30, 0}});
+
+  ASSERT_TRUE(line);
+  EXPECT_THAT(std::abs(line->first.East - line->second.East), DoubleNear(500, 0.01));
+  EXPECT_THAT(std::abs(line->first.South - line->second.South), DoubleNear(866.03, 0.01));
+  EXPECT_FALSE(MiddleLineFromAbove({"CYLINDER", {10, 1000, 0}, {}}));
+  EXPECT_FALSE(MiddleLineFromAbove({"SPHERE", {10, 0, 0}, {}}));
+}
+
 TEST(ZoneOutlines, ABoxHasItsEdges) {
   const Polygon box = Only({"BOX", {200, 10, 60}, {}});
 

@@ -13,7 +13,11 @@ namespace orrerix {
 namespace {
 
 constexpr double kSmallestZone = 3;  // pixels, of one that is drawn
-constexpr double kGateRing = 9;      // radius, pixels
+// Where systems are smaller than this (pixels) there is no room for patterns, and too much to draw.
+constexpr double kSmallSystem = 220;
+constexpr std::size_t kSmallStep = 4;  // each such point of an outline is drawn there
+constexpr std::size_t kManyPoints = 16;
+constexpr double kGateRing = 9;  // radius, pixels
 constexpr double kTerritoryEdge = 6;
 
 class AreaPainter {
@@ -32,6 +36,11 @@ class AreaPainter {
 
  private:
   bool Has(Layer layer) const { return view_.Layers.Has(layer); }
+  // Beyond the edge of its system, where another one is shown.
+  bool IsAstray(CellFraction place) const {
+    return !view_.IsOneSystem() && (place.X < 0 || place.X > 1 || place.Y < 0 || place.Y > 1);
+  }
+  bool IsSmall() const { return view_.CellSize() < kSmallSystem; }
   bool IsSeen(const QRectF& box) const { return box.intersects(exposed_); }
 
   // One system alone has an edge: an area would only dim it.
@@ -56,8 +65,11 @@ class AreaPainter {
     QPainterPath path;
     for (const Outline& outline : zone.Outlines) {
       QPolygonF polygon;
-      polygon.reserve(static_cast<qsizetype>(outline.size()));
-      for (const CellFraction& point : outline) polygon << view_.PointOf(zone.Cell, point);
+      const std::size_t step = IsSmall() && outline.size() > kManyPoints ? kSmallStep : 1;
+      polygon.reserve(static_cast<qsizetype>(outline.size() / step + 1));
+      for (std::size_t i = 0; i < outline.size(); i += step) {
+        polygon << view_.PointOf(zone.Cell, outline[i]);
+      }
       path.addPolygon(polygon);
       path.closeSubpath();
     }
@@ -69,6 +81,9 @@ class AreaPainter {
     if (!view_.Shows(zone.Cell)) return;
     const auto kind = ShownKind(zone, zones_);
     if (!kind) return;
+    if (zone.MiddleLine && (*kind == ZoneKind::Patrol || *kind == ZoneKind::Trade)) {
+      return PaintPath(zone, *kind);
+    }
     const QPainterPath path = PathOf(zone);
     const QRectF box = path.boundingRect();
     if (std::max(box.width(), box.height()) < kSmallestZone || !IsSeen(box)) return;
@@ -79,10 +94,24 @@ class AreaPainter {
       painter_.save();
       painter_.setClipRect(cell, Qt::IntersectClip);
     }
-    painter_.setPen(style.Outline);
-    painter_.setBrush(style.Fill);
+    painter_.setPen(IsSmall() ? QPen(style.Outline.color(), 0) : style.Outline);
+    painter_.setBrush(IsSmall() ? Qt::NoBrush : style.Fill);
+    painter_.setRenderHint(QPainter::Antialiasing, !IsSmall());
     painter_.drawPath(path);
+    painter_.setRenderHint(QPainter::Antialiasing);
     if (leaves) painter_.restore();
+  }
+
+  // Paths are long, and many cross each other: their middle lines are enough.
+  void PaintPath(const Zone& zone, ZoneKind kind) {
+    const QLineF line(view_.PointOf(zone.Cell, zone.MiddleLine->first),
+                      view_.PointOf(zone.Cell, zone.MiddleLine->second));
+    QPen pen = StyleOf(kind, view_.OnPaper).Outline;
+    if (IsSmall()) pen = QPen(pen.color(), 0);
+    painter_.setPen(pen);
+    painter_.setRenderHint(QPainter::Antialiasing, !IsSmall());
+    painter_.drawLine(line);
+    painter_.setRenderHint(QPainter::Antialiasing);
   }
 
   void PaintSectors() {
@@ -101,7 +130,7 @@ class AreaPainter {
   void PaintBodies() {
     const double smallest = view_.IsOneSystem() ? 2 : 0.8;
     for (const Body& body : view_.Shown->Bodies) {
-      if (!view_.Shows(body.Cell)) continue;
+      if (!view_.Shows(body.Cell) || IsAstray(body.Place)) continue;
       const QPointF middle = view_.PointOf(body.Cell, body.Place);
       const double radius = std::max(body.Radius * view_.CellSize(), smallest);
       if (!IsSeen(QRectF(middle, QSizeF(0, 0))
