@@ -26,19 +26,7 @@ struct Planet {
   std::uint64_t Seed = 0;
 };
 
-// Rocks on a part of a circle around a middle. Angles are in turns, clockwise from the right.
-struct Belt {
-  Spot Middle;
-  double Radius = 150;
-  double Width = 18;  // deviation from the radius
-  double From = 0;
-  double Length = 1;
-  int Rocks = 900;
-  Rgb Color;
-};
-
 void DrawSun(Canvas& canvas, const Sun& sun);
 void DrawPlanet(Canvas& canvas, const Planet& planet);
-void DrawBelt(Canvas& canvas, const Belt& belt, SplitMix64& dice);
 
 }  // namespace orrerix
