@@ -520,7 +520,7 @@ void OrrerixMain::MakePages() {
   tools_.AddPage([this] {
     auto page = std::make_unique<BookmarksPage>(
         parts_.Speech, parts_.Paths.ApplicationFolder / "Orrerix-Bookmarks.txt",
-        BookmarksPage::Actions{[this] { return actions_.BookmarkAt(actions_.Pointer()); },
+        BookmarksPage::Actions{[this] { return actions_.BookmarkOfView(); },
                                [this](const Bookmark& mark) { ShowBookmark(mark); }});
     bookmarksPage_ = page.get();
     return page;
@@ -574,6 +574,7 @@ void OrrerixMain::GoThroughGate(const Control& icon) {
   const Gate* gate = space_.GateAt(Pixels(icon.Place).center());
   if (gate == nullptr) return;
   const MapCell there = gate->OtherCell;
+  mapController_.Box().EndHover();
   if (mapController_.PushZoomStack({there.X, there.Y, there.X, there.Y})) Redraw();
 }
 

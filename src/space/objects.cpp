@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <algorithm>
+#include <array>
 #include <optional>
 
 #include <fmt/format.h>
@@ -11,6 +12,14 @@
 
 namespace orrerix {
 namespace {
+
+// Where items have their names that are no goods of their own, such as ammunition.
+constexpr std::array<const char*, 12> kItemSections = {"munition",        "mine",
+                                                       "countermeasure",  "gun",
+                                                       "minedropper",     "countermeasuredropper",
+                                                       "shieldgenerator", "thruster",
+                                                       "repairkit",       "shieldbattery",
+                                                       "engine",          "power"};
 
 constexpr std::string_view kRingName = "Dockring: ";
 
@@ -103,6 +112,10 @@ std::string ItemName(const SourceTables& tables, const std::string& nickname) {
   for (const char* table : {"commodity", "Goods"}) {
     const SourceRow row = tables[table].Find("nickname", nickname);
     if (std::string name = GivenName(row.Text("realname"), nickname); !name.empty()) return name;
+  }
+  for (const char* section : kItemSections) {
+    const SourceRow row = tables[section].Find("nickname", nickname);
+    if (std::string name = tables.NameOf(row.Number("ids_name")); !name.empty()) return name;
   }
   return nickname;
 }

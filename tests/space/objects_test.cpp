@@ -84,12 +84,15 @@ TEST_F(SpaceObjects, WrecksNameTheirLoot) {
     Add("Loadout_Cargo", {{"NickName", "secret_freighter"}, {"Cargo", "c_gold"}, {"Count", count}});
   }
   Add("Loadout_Cargo", {{"NickName", "secret_freighter"}, {"Cargo", "laser"}, {"Count", 1}});
+  Name(8, "Javelin");
+  Section("munition", {{"nickname", "dart"}, {"ids_name", "8"}});
+  Add("Loadout_Cargo", {{"NickName", "secret_freighter"}, {"Cargo", "dart"}, {"Count", 4}});
 
   const Space space = Read();
 
   ASSERT_EQ(space.Spots.size(), 1u);
   EXPECT_EQ(space.Spots[0].Kind, SpotKind::Wreck);
-  EXPECT_THAT(space.Spots[0].Loot, ElementsAre("5 x Gold", "1 x laser"));
+  EXPECT_THAT(space.Spots[0].Loot, ElementsAre("5 x Gold", "1 x laser", "4 x Javelin"));
 }
 
 TEST_F(SpaceObjects, StationsArePlacesToDockAt) {

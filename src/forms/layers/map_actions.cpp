@@ -44,6 +44,11 @@ Bookmark MapActions::BookmarkAt(QPointF point) const {
               cell};
     }
   }
+  return BookmarkOfView();
+}
+
+Bookmark MapActions::BookmarkOfView() const {
+  const ZoomRectangle& view = screen_.State().Zoom.Current();
   return {NameOf(view), "", "", view};
 }
 

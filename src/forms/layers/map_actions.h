@@ -24,6 +24,7 @@ class MapActions {
 
   // A bookmark of the place at a point, else of what the map shows.
   Bookmark BookmarkAt(QPointF point) const;
+  Bookmark BookmarkOfView() const;
 
   // The part of the frame that shows cells, without the panel.
   QRect ShownPart() const;

@@ -5,8 +5,8 @@
 #include <QToolTip>
 #include <cmath>
 
-#include "db/engine/engine.h"
 #include "forms/layers/layer_areas.h"
+#include "forms/layers/universe_snapshot.h"
 #include "forms/workbench/setting_keys.h"
 #include "forms/workbench/throw_failures.h"
 #include "picture/form_font.h"
@@ -25,8 +25,8 @@ std::shared_ptr<const Space> ReadUniverse(const std::filesystem::path& universe,
                                           const BackgroundTask::IsCancelled& isCancelled) {
   try {
     ThrowFailures sink;
-    const Database data = DBEngine::OpenDatabase(sink, universe);
-    const SourceTables tables(sink, data);
+    const UniverseSnapshot snapshot(sink, universe);
+    const SourceTables tables(sink, snapshot.Data());
     return std::make_shared<const Space>(ReadSpace(tables, GameFolder(game), isCancelled));
   } catch (const std::exception&) {
     // The map itself says what is wrong with the file.

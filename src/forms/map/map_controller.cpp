@@ -223,7 +223,11 @@ void MapController::ClickIcon(int index) {
   OpenStationOf(index);
   const Control* icon = screen_.Scene().Find(ControlId::MapIcon, index);
   if (icon == nullptr || !OnJumpEnd || !std::holds_alternative<JumpEnd>(icon->Subject)) return;
-  const Control clicked = *icon;  // which may go with a redraw
+  Control clicked = *icon;  // which may go with a redraw
+  if (box_.IsHoverBox()) {
+    const ControlList& box = screen_.Scene().InFront(FrontLayer::Box);
+    clicked = RestoredIcon(clicked, std::get<HoveredIcon>(box.front().Subject));
+  }
   OnJumpEnd(clicked);
 }
 

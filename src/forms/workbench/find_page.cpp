@@ -6,9 +6,9 @@
 #include <QVBoxLayout>
 #include <utility>
 
-#include "db/engine/engine.h"
 #include "forms/controls/captions.h"
 #include "forms/controls/plain_label.h"
+#include "forms/layers/universe_snapshot.h"
 #include "forms/workbench/throw_failures.h"
 #include "space/read_space.h"
 
@@ -26,8 +26,8 @@ Book ReadBook(const std::filesystem::path& universe, const std::string& game,
               const BackgroundTask::IsCancelled& isCancelled) {
   try {
     ThrowFailures sink;
-    const Database data = DBEngine::OpenDatabase(sink, universe);
-    const AtlasSource source(sink, data);
+    const UniverseSnapshot snapshot(sink, universe);
+    const AtlasSource source(sink, snapshot.Data());
     const Space space = ReadSpace(source.Tables, GameFolder(game), isCancelled);
     return std::make_shared<const FindBook>(ReadFindBook(source, space, isCancelled));
   } catch (const std::exception&) {

@@ -70,6 +70,35 @@ TEST_F(MapSpaceTest, GatesLeadOnWhereTheirLayerIsOn) {
   EXPECT_EQ(space.GateAt({300, 300}), nullptr);
 }
 
+// The icon is enlarged while the mouse is on it.
+TEST_F(MapSpaceTest, AClickOnAGatesIconNamesItsPlace) {
+  Add("JumpNodes", {{"nickname", "gate"},
+                    {"nickname2", "back"},
+                    {"MapX1", 8},
+                    {"MapY1", 10},
+                    {"MapX2", 3},
+                    {"MapY2", 4},
+                    {"PosX1", 0.25},
+                    {"PosY1", 0.25},
+                    {"PosX2", 0.5},
+                    {"PosY2", 0.5},
+                    {"Type", 1}});
+  MapSpace space(map, remembered, choice);
+  Read(space);
+  ShowSystem(space);
+  space.Choose(Only(Layer::Gates));
+  const Gate* gate = nullptr;
+  play.OnJumpEnd = [&](const Control& icon) { gate = space.GateAt(Pixels(icon.Place).center()); };
+  const QPoint at(570 / 4, 570 / 4);
+
+  Move(at);
+  Click(at);
+
+  ASSERT_NE(gate, nullptr);
+  EXPECT_EQ(gate->OtherCell, (MapCell{3, 4}));
+  EXPECT_TRUE(stations.empty());
+}
+
 TEST_F(MapSpaceTest, NamesOfSystemsTakeThePlaceOfTheMapsOwn) {
   MapSpace space(map, remembered, choice);
   Read(space);

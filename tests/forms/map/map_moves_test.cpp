@@ -24,10 +24,13 @@ class MapMovesTest : public MapControllerFixture {
                               at, at, Viewport()->mapToGlobal(at), value, {});
     QApplication::sendEvent(Viewport(), &pinch);
   }
-  void MiddleTo(QPointF to) {
-    QMouseEvent move(QEvent::MouseMove, to, Viewport()->mapToGlobal(to), Qt::NoButton,
-                     Qt::MiddleButton, {});
-    QApplication::sendEvent(Viewport(), &move);
+  void Middle(QEvent::Type type, QPointF at) {
+    const bool isMove = type == QEvent::MouseMove;
+    const bool ends = type == QEvent::MouseButtonRelease;
+    QMouseEvent event(type, at, Viewport()->mapToGlobal(at),
+                      isMove ? Qt::NoButton : Qt::MiddleButton,
+                      ends ? Qt::NoButton : Qt::MiddleButton, {});
+    QApplication::sendEvent(Viewport(), &event);
   }
 
   int moves = 0;
@@ -101,11 +104,11 @@ TEST_F(MapMovesTest, APinchZooms) {
 TEST_F(MapMovesTest, TheMiddleButtonDragsByWholeCells) {
   Zoom({4, 4, 12, 12});
 
-  QTest::mousePress(Viewport(), Qt::MiddleButton, {}, {300, 300});
-  MiddleTo({170, 300});
-  MiddleTo({300, 235});
-  QTest::mouseRelease(Viewport(), Qt::MiddleButton, {}, {300, 235});
-  MiddleTo({0, 0});
+  Middle(QEvent::MouseButtonPress, {300, 300});
+  Middle(QEvent::MouseMove, {170, 300});
+  Middle(QEvent::MouseMove, {300, 235});
+  Middle(QEvent::MouseButtonRelease, {300, 235});
+  Middle(QEvent::MouseMove, {0, 0});
 
   EXPECT_EQ(Visible(), (ZoomRectangle{4, 5, 12, 13}));
   EXPECT_EQ(moves, 2);
