@@ -1,9 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "forms/map/map_moves.h"
 
-#include <QMouseEvent>
-#include <QNativeGestureEvent>
-#include <QWheelEvent>
 #include <cmath>
 
 #include "picture/twips.h"

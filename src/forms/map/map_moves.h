@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QMouseEvent>
+#include <QNativeGestureEvent>
 #include <QObject>
 #include <QPointF>
+#include <QWheelEvent>
 #include <functional>
 #include <optional>
 
