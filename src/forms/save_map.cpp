@@ -16,7 +16,7 @@ namespace orrerix {
 namespace {
 
 constexpr int kPngScale = 2;
-constexpr int kDotsPerInch = 96;  // a logical pixel is 15 twips of 1440 an inch
+constexpr int kPictureDotsPerInch = 96;  // a logical pixel is 15 twips of 1440 an inch
 
 bool Paint(QGraphicsView& map, const QRect& part, QPaintDevice& device) {
   QPainter painter;
@@ -36,9 +36,9 @@ bool WritePng(QGraphicsView& map, const QRect& part, const QString& file) {
 
 bool WritePdf(QGraphicsView& map, const QRect& part, const QString& file) {
   QPdfWriter writer(file);
-  writer.setResolution(kDotsPerInch);
-  writer.setPageSize(QPageSize(QSizeF(part.size()) * 72.0 / kDotsPerInch, QPageSize::Point, {},
-                               QPageSize::ExactMatch));
+  writer.setResolution(kPictureDotsPerInch);
+  writer.setPageSize(QPageSize(QSizeF(part.size()) * 72.0 / kPictureDotsPerInch, QPageSize::Point,
+                               {}, QPageSize::ExactMatch));
   writer.setPageMargins({});
   writer.setTitle("FL Orrerix");
   return Paint(map, part, writer);

@@ -13,7 +13,7 @@
 namespace orrerix {
 namespace {
 
-constexpr double kMargin = 2;          // around the letters, pixels
+constexpr double kLabelMargin = 2;     // around the letters, pixels
 constexpr double kIconGap = 9;         // from the middle of an icon to its name
 constexpr double kLongestScale = 0.2;  // fraction of a system's square
 constexpr double kScaleHeight = 26;
@@ -67,7 +67,7 @@ class NameWishes {
   void Add(const std::string& text, QPointF anchor, double gap, Layer layer, LabelSpots spots) {
     const QString shown = QString::fromStdString(text);
     if (text.empty() || (view_.IsOneSystem() && HasNear(shown, anchor))) return;
-    const double width = metrics_.horizontalAdvance(shown) + 2 * kMargin;
+    const double width = metrics_.horizontalAdvance(shown) + 2 * kLabelMargin;
     wishes_.push_back({anchor.x(), anchor.y(), gap, width, metrics_.height(), spots});
     labels_.push_back({shown, {}, InkOf(layer, view_.OnPaper)});
   }

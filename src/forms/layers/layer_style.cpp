@@ -10,7 +10,7 @@
 namespace orrerix {
 namespace {
 
-constexpr QSize kLegend{34, 20};
+constexpr QSize kLegendSize{34, 20};
 constexpr QRgb kSky = 0xFF10152C;
 
 struct KindStyle {
@@ -22,7 +22,7 @@ struct KindStyle {
 };
 
 // In the order of ZoneKind.
-constexpr std::array<KindStyle, kZoneKinds> kKinds = {{
+constexpr std::array<KindStyle, kZoneKinds> kZoneStyles = {{
     {0xFFFF7A5C, 0xFFB02000, Qt::SolidLine, Qt::FDiagPattern, 90},
     {0xFFFFD75E, 0xFF8A6A00, Qt::DashDotLine, Qt::Dense7Pattern, 120},
     {0xFFD2A679, 0xFF7A5230, Qt::SolidLine, Qt::SolidPattern, 34},
@@ -41,7 +41,7 @@ QColor FactionColor(std::size_t faction, bool onPaper) {
 }
 
 QPixmap Ground() {
-  QPixmap picture(kLegend);
+  QPixmap picture(kLegendSize);
   picture.fill(QColor(kSky));
   return picture;
 }
@@ -52,7 +52,7 @@ QIcon LegendOfArea(const AreaStyle& style) {
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(style.Outline);
   painter.setBrush(style.Fill);
-  painter.drawEllipse(QRectF(QPointF(0, 0), kLegend).adjusted(3, 3, -3, -3));
+  painter.drawEllipse(QRectF(QPointF(0, 0), kLegendSize).adjusted(3, 3, -3, -3));
   return QIcon(picture);
 }
 
@@ -66,7 +66,7 @@ std::optional<ZoneKind> KindOf(Layer layer) {
 }  // namespace
 
 AreaStyle StyleOf(ZoneKind kind, bool onPaper) {
-  const KindStyle& style = kKinds[static_cast<std::size_t>(kind)];
+  const KindStyle& style = kZoneStyles[static_cast<std::size_t>(kind)];
   const QColor color = QColor::fromRgba(onPaper ? style.Paper : style.Sky);
   QPen pen(color, 1.2, style.Line);
   pen.setJoinStyle(Qt::RoundJoin);
@@ -106,7 +106,7 @@ QIcon LegendOf(Layer layer) {
   QPixmap picture = Ground();
   QPainter painter(&picture);
   painter.setRenderHint(QPainter::Antialiasing);
-  DrawLegendSymbol(painter, layer, QRectF(QPointF(0, 0), kLegend));
+  DrawLegendSymbol(painter, layer, QRectF(QPointF(0, 0), kLegendSize));
   return QIcon(picture);
 }
 
@@ -116,7 +116,7 @@ QIcon LegendOfFaction(std::size_t faction) {
   const AreaStyle style = TerritoryStyle(faction, false);
   painter.setPen(style.Outline);
   painter.setBrush(style.Fill);
-  painter.drawRect(QRectF(QPointF(0, 0), kLegend).adjusted(2.5, 2.5, -2.5, -2.5));
+  painter.drawRect(QRectF(QPointF(0, 0), kLegendSize).adjusted(2.5, 2.5, -2.5, -2.5));
   return QIcon(picture);
 }
 

@@ -12,7 +12,7 @@
 namespace orrerix {
 namespace {
 
-constexpr double kReach = 9;  // pixels around the pointer: half an icon and a little more
+constexpr double kPlaceReach = 9;  // pixels around the pointer: half an icon and a little more
 constexpr std::size_t kMostNames = 3;
 
 }  // namespace
@@ -27,7 +27,7 @@ std::string MapActions::CoordinatesAt(QPointF point) const {
   if (!at) return {};
   const CellNames& names = screen_.State().Names;
   if (space_.Shown() == nullptr) return CoordsToMapCoords(log_, names, at->Cell, at->Place);
-  const double reach = kReach / Pixels(screen_.Drawing().Cells.CellSize());
+  const double reach = kPlaceReach / Pixels(screen_.Drawing().Cells.CellSize());
   const NamedPoint nearest = NearestPoint(*space_.Shown(), at->Cell, at->Place, reach);
   return CoordinatesText(nearest, CoordsToMapCoords(log_, names, at->Cell, nearest.Place));
 }
@@ -36,7 +36,7 @@ Bookmark MapActions::BookmarkAt(QPointF point) const {
   const ZoomRectangle& view = screen_.State().Zoom.Current();
   const auto at = space_.PointAt(point);
   if (at && space_.Shown() != nullptr) {
-    const double reach = kReach / Pixels(screen_.Drawing().Cells.CellSize());
+    const double reach = kPlaceReach / Pixels(screen_.Drawing().Cells.CellSize());
     const NamedPoint nearest = NearestPoint(*space_.Shown(), at->Cell, at->Place, reach);
     const ZoomRectangle cell{at->Cell.X, at->Cell.Y, at->Cell.X, at->Cell.Y};
     if (!nearest.Nickname.empty() && view.Columns() == 1) {

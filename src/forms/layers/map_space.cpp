@@ -18,7 +18,7 @@
 namespace orrerix {
 namespace {
 
-constexpr double kReach = 7;  // pixels around the pointer
+constexpr double kPointerReach = 7;  // pixels around the pointer
 
 std::shared_ptr<const Space> ReadUniverse(const std::filesystem::path& universe,
                                           const std::string& game,
@@ -118,7 +118,7 @@ void MapSpace::Show() {
 }
 
 double MapSpace::Reach() const {
-  return view_.CellSize() > 0 ? kReach / view_.CellSize() : 0;
+  return view_.CellSize() > 0 ? kPointerReach / view_.CellSize() : 0;
 }
 
 std::optional<MapSpace::Point> MapSpace::PointAt(QPointF point) const {

@@ -17,7 +17,7 @@ namespace {
 
 constexpr int kNameColumn = 0;
 constexpr int kNoteColumn = 1;
-constexpr int kNameWidth = 320;
+constexpr int kBookmarkNameWidth = 320;
 
 }  // namespace
 
@@ -33,7 +33,7 @@ BookmarksPage::BookmarksPage(const LanguageChoice& choice, std::filesystem::path
   rows_->setObjectName("Bookmarks");
   rows_->setAccessibleName(Caption(TextId::BookmarksPage));
   rows_->setHorizontalHeaderLabels({Caption(TextId::HeadPlace), Caption(TextId::BookmarkNote)});
-  rows_->horizontalHeader()->resizeSection(kNameColumn, kNameWidth);
+  rows_->horizontalHeader()->resizeSection(kNameColumn, kBookmarkNameWidth);
   rows_->horizontalHeader()->setStretchLastSection(true);
   rows_->verticalHeader()->hide();
   rows_->setSelectionBehavior(QAbstractItemView::SelectRows);

@@ -15,10 +15,10 @@
 namespace orrerix {
 namespace {
 
-constexpr std::size_t kMostRows = 300;
-constexpr int kKindWidth = 150;
-constexpr int kWhereWidth = 160;
-constexpr int kNicknameWidth = 220;
+constexpr std::size_t kMostFoundRows = 300;
+constexpr int kFoundKindWidth = 150;
+constexpr int kFoundWhereWidth = 160;
+constexpr int kFoundNicknameWidth = 220;
 
 using Book = std::shared_ptr<const FindBook>;
 
@@ -84,9 +84,9 @@ FindPage::FindPage(WorkbenchHost& host, const LanguageChoice& choice, Actions ac
                           Caption(TextId::HeadSystem), Caption(TextId::HeadNickname)});
   rows_->header()->setStretchLastSection(false);
   rows_->header()->setSectionResizeMode(0, QHeaderView::Stretch);
-  rows_->header()->resizeSection(1, kKindWidth);
-  rows_->header()->resizeSection(2, kWhereWidth);
-  rows_->header()->resizeSection(3, kNicknameWidth);
+  rows_->header()->resizeSection(1, kFoundKindWidth);
+  rows_->header()->resizeSection(2, kFoundWhereWidth);
+  rows_->header()->resizeSection(3, kFoundNicknameWidth);
   infoText_->setObjectName("FindInfoText");
   infoText_->setWordWrap(true);
   auto* layout = new QVBoxLayout(this);
@@ -140,7 +140,7 @@ QString FindPage::KindOf(const FoundThing& thing) const {
 
 void FindPage::Find() {
   if (book_ == nullptr) return;
-  found_ = book_->Find(text_->text().toStdString(), kMostRows);
+  found_ = book_->Find(text_->text().toStdString(), kMostFoundRows);
   {
     const QSignalBlocker quiet(rows_);
     rows_->clear();

@@ -15,7 +15,7 @@
 namespace orrerix {
 namespace {
 
-constexpr QSize kLegend{34, 20};
+constexpr QSize kLegendIcon{34, 20};
 
 }  // namespace
 
@@ -68,7 +68,7 @@ QWidget* LayersPage::MakeGroup(TextId title, std::initializer_list<Layer> layers
     box->setObjectName("Layer_" +
                        QString::fromLatin1(id.data(), static_cast<qsizetype>(id.size())));
     box->setIcon(LegendOf(layer));
-    box->setIconSize(kLegend);
+    box->setIconSize(kLegendIcon);
     box->setChecked(space_.Choice().Has(layer));
     connect(box, &QCheckBox::toggled, this, [this, layer](bool on) { Toggle(layer, on); });
     layout->addWidget(box);
@@ -84,7 +84,7 @@ QWidget* LayersPage::MakeLegend() {
   auto* layout = new QVBoxLayout(group);
   factions_->setObjectName("LayersFactions");
   factions_->setAccessibleName(Caption(TextId::LayerTerritories));
-  factions_->setIconSize(kLegend);
+  factions_->setIconSize(kLegendIcon);
   factions_->setViewMode(QListView::ListMode);
   factions_->setFlow(QListView::TopToBottom);
   factions_->setWrapping(true);
