@@ -67,7 +67,7 @@ std::string_view WithoutReturn(std::string_view line) {
 }  // namespace
 
 std::string BookmarksText(const Bookmarks& bookmarks) {
-  std::string text = std::string(kFirstLine) + "\n";
+  std::string text = fmt::format("{}\n", kFirstLine);
   for (const Bookmark& mark : bookmarks) {
     text += fmt::format("{}\t{}\t{}\t{}\t{}\t{}\t{}\n", mark.View.X1, mark.View.Y1, mark.View.X2,
                         mark.View.Y2, Escaped(mark.Place), Escaped(mark.Name), Escaped(mark.Note));
