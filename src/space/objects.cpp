@@ -55,6 +55,7 @@ std::vector<std::string> LootOf(const SourceTables& tables, const std::string& l
     }
   }
   std::vector<std::string> loot;
+  loot.reserve(items.size());
   for (const auto& [name, count] : items) loot.push_back(fmt::format("{} x {}", count, name));
   return loot;
 }

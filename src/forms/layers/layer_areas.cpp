@@ -66,7 +66,7 @@ class AreaPainter {
     for (const Outline& outline : zone.Outlines) {
       QPolygonF polygon;
       const std::size_t step = IsSmall() && outline.size() > kManyPoints ? kSmallStep : 1;
-      polygon.reserve(static_cast<qsizetype>(outline.size() / step + 1));
+      polygon.reserve(static_cast<qsizetype>(outline.size() / step) + 1);
       for (std::size_t i = 0; i < outline.size(); i += step) {
         polygon << view_.PointOf(zone.Cell, outline[i]);
       }
