@@ -38,6 +38,14 @@ TEST_F(Redraw, ANumberThatARowLacksIsAFailureOfEachStatementThatNeedsIt) {
   for (const FailureEntry& entry : log.Failures()) EXPECT_EQ(entry.What.Number, 94);
 }
 
+TEST_F(Redraw, AConnectionWhoseKindIsBeyondAnyIntegerHasNoLine) {
+  Jump(kJumpGate);
+  db.Execute(mustWork, "UPDATE JumpNodes SET Type = -1e300");
+
+  EXPECT_THAT(Named(Draw(), ControlId::MapLine), IsEmpty());
+  EXPECT_THAT(log.Failures(), IsEmpty());
+}
+
 TEST_F(Redraw, ACancelledRedrawShowsWhatItHadComeTo) {
   messages.Answer = MessageAnswer::Cancel;
   Jump(kJumpGate);

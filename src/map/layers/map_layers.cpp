@@ -95,7 +95,7 @@ JumpEnd DescribeEnd(Universe& universe, const CellNames& names, Recordset& row,
   return {std::move(text)};
 }
 
-Control MakeJumpLine(int index, int type, bool inPrint) {
+Control MakeJumpLine(int index, double type, bool inPrint) {
   if (type == kJumpHole) {
     return MakeLine(ControlId::MapLine, index, LineKind::JumpHole, kHoleLine, LineStyle::Dotted);
   }
@@ -103,7 +103,7 @@ Control MakeJumpLine(int index, int type, bool inPrint) {
                   inPrint ? kGateLineInPrint : kGateLine);
 }
 
-bool IsLineOn(int type, const MapOptions& options) {
+bool IsLineOn(double type, const MapOptions& options) {
   return (type == kJumpHole && options[MapSwitch::JumpholeLines]) ||
          (type == kJumpGate && options[MapSwitch::JumpgateLines]);
 }
@@ -114,20 +114,20 @@ void MapLayers::AddJumpConnections(const MapOptions& options) {
   for (Recordset nodes =
            universe_.DB.OpenRecordset(routine_, "SELECT * from JumpNodes ORDER BY Type");
        !nodes.AtEnd(); nodes.MoveNext()) {
-    const auto type = static_cast<int>(nodes["Type"].Get().Number());
+    const double type = nodes["Type"].Get().Number();
     if (IsLineOn(type, options)) AddJumpLine(nodes, type);
     if (state_.Zoom.Current().IsZoomed()) AddJumpIcons(nodes, type);
   }
 }
 
-void MapLayers::AddJumpLine(Recordset& node, int type) {
+void MapLayers::AddJumpLine(Recordset& node, double type) {
   Control line = MakeJumpLine(nextLine_++, type, state_.PrintMode);
   routine_.Try([&] { line.Subject = SystemsOf(node, state_.Names); });
   PlaceEnds(routine_, cells_, node, line);
   objects_.Lines.push_back(std::move(line));
 }
 
-void MapLayers::AddJumpIcons(Recordset& node, int type) {
+void MapLayers::AddJumpIcons(Recordset& node, double type) {
   const std::string picture = type == kJumpHole ? "JumpHole" : "Jumpgate";
   for (const PlaceFields* here : {&kFrom, &kTo}) {
     const PlaceFields& there = here == &kFrom ? kTo : kFrom;

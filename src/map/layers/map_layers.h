@@ -30,8 +30,9 @@ class MapLayers {
   MapObjects Take() { return std::exchange(objects_, {}); }
 
  private:
-  void AddJumpLine(Recordset& node, int type);
-  void AddJumpIcons(Recordset& node, int type);
+  // `type` is the row's own number, which a stranger's file may have beyond any integer.
+  void AddJumpLine(Recordset& node, double type);
+  void AddJumpIcons(Recordset& node, double type);
 
   Routine& routine_;
   Universe& universe_;
