@@ -28,17 +28,23 @@ class LayersFixture : public MapControllerFixture {
                       {"archetype", "sun_20000"},
                       {"sys_nick", "Li01"},
                       {"pos", "0, 0, 0"}});
-    AddTo("JumpNodes", {{"nickname", "gate"},
-                        {"nickname2", "back"},
-                        {"MapX1", 8},
-                        {"MapY1", 10},
-                        {"MapX2", 3},
-                        {"MapY2", 4},
-                        {"PosX1", 0.25},
-                        {"PosY1", 0.25},
-                        {"PosX2", 0.5},
-                        {"PosY2", 0.5},
-                        {"Type", 1}});
+    AddGate([this](std::string_view table, Fields fields) { AddTo(table, fields); });
+  }
+
+  // Has `addRow` add a gate to the system of cell 3, 4, a quarter off the left and upper edges.
+  template <typename AddRow>
+  static void AddGate(AddRow addRow) {
+    addRow("JumpNodes", Fields{{"nickname", "gate"},
+                               {"nickname2", "back"},
+                               {"MapX1", 8},
+                               {"MapY1", 10},
+                               {"MapX2", 3},
+                               {"MapY2", 4},
+                               {"PosX1", 0.25},
+                               {"PosY1", 0.25},
+                               {"PosX2", 0.5},
+                               {"PosY2", 0.5},
+                               {"Type", 1}});
   }
 
   std::filesystem::path UniverseFile() { return folder.Path() / "space.fl"; }

@@ -72,17 +72,7 @@ TEST_F(MapSpaceTest, GatesLeadOnWhereTheirLayerIsOn) {
 
 // The icon is enlarged while the mouse is on it.
 TEST_F(MapSpaceTest, AClickOnAGatesIconNamesItsPlace) {
-  Add("JumpNodes", {{"nickname", "gate"},
-                    {"nickname2", "back"},
-                    {"MapX1", 8},
-                    {"MapY1", 10},
-                    {"MapX2", 3},
-                    {"MapY2", 4},
-                    {"PosX1", 0.25},
-                    {"PosY1", 0.25},
-                    {"PosX2", 0.5},
-                    {"PosY2", 0.5},
-                    {"Type", 1}});
+  AddGate([this](std::string_view table, Fields fields) { Add(table, fields); });
   MapSpace space(map, remembered, choice);
   Read(space);
   ShowSystem(space);
