@@ -65,6 +65,7 @@ class PathSearch {
     }
     if (at == components_.size()) return accept_(folder) ? std::optional(folder) : std::nullopt;
     const std::string& name = components_[at];
+    if (kFileNamesIgnoreCase && name.find(':') != std::string::npos) return std::nullopt;
     const fs::path exact = SystemPath(folder / PathOf(name));
     std::error_code error;
     const bool isThere = fs::exists(exact, error);
@@ -95,11 +96,26 @@ class PathSearch {
   std::set<std::pair<fs::path, std::size_t>> searched_;
 };
 
+// The place of the components where every spelling leads to the same one: the system finds it in
+// one step. A colon would name another disk, or a part of a file.
+template <typename Accept>
+std::optional<fs::path> FindInOneStep(fs::path place, const std::vector<std::string>& components,
+                                      Accept accept) {
+  for (const std::string& component : components) {
+    if (component.find(':') != std::string::npos) return std::nullopt;
+    place /= PathOf(component);
+  }
+  place = SystemPath(place);
+  return accept(place) ? std::optional(std::move(place)) : std::nullopt;
+}
+
 template <typename Accept>
 std::optional<fs::path> Find(FolderListings& listings, const fs::path& folder,
                              std::string_view path, Accept accept) {
   std::vector<std::string> components = Components(path);
   if (components.size() > kMostComponents) return std::nullopt;
+  const bool goesUp = std::find(components.begin(), components.end(), "..") != components.end();
+  if (kFileNamesIgnoreCase && !goesUp) return FindInOneStep(folder, components, accept);
   return PathSearch<Accept>(listings, std::move(components), accept).From(folder);
 }
 

@@ -101,6 +101,15 @@ TEST_F(GamePath, NeverLeadsOutOfTheGameFolder) {
   EXPECT_EQ(inner.FindFile(inner.Text() + "\\..\\data\\a.ini"), std::nullopt);
 }
 
+TEST_F(GamePath, AColonLeadsToNoOtherDiskAndToNoPartOfAFile) {
+  Put("data/a.ini");
+
+  for (const char* path :
+       {"\\C:\\windows\\win.ini", "\\data\\a.ini:x", "\\data\\a.ini::$DATA", "\\data\\..\\C:\\a"}) {
+    EXPECT_EQ(Found(path), "(none)") << path;
+  }
+}
+
 TEST_F(GamePath, BearsPathsThatGoUpAndDownForEver) {
   Put("data/a.ini");
   std::string path;

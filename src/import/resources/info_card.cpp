@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "import/resources/info_card.h"
 
-#include <utility>
+#include <cstddef>
+#include <string>
 
 #include "db/values/text.h"
 
@@ -11,56 +12,78 @@ namespace {
 constexpr std::string_view kProlog = "xml version=\"1.0\" encoding=\"UTF-16\"?>";
 constexpr std::string_view kLineEnd = "\r\n";
 
-std::string ReplaceAll(std::string_view text, std::string_view from, std::string_view to) {
-  std::string replaced;
-  replaced.reserve(text.size());
+// The steps work in the text itself, whose kept parts move to the front: cards come by the
+// thousand. A part never moves back, as no step makes a text longer.
+class Kept {
+ public:
+  explicit Kept(std::string& text) : text_(text) {}
+
+  void Append(std::string_view part) {
+    std::char_traits<char>::move(text_.data() + size_, part.data(), part.size());
+    size_ += part.size();
+  }
+  std::string_view View() const { return std::string_view(text_).substr(0, size_); }
+  void Shorten(std::size_t size) { size_ = size; }
+
+  // The text is then what was kept.
+  void Finish() { text_.resize(size_); }
+
+ private:
+  std::string& text_;
+  std::size_t size_ = 0;
+};
+
+// Puts a text in the place of every longer one.
+void ReplaceAll(std::string& whole, std::string_view from, std::string_view shorter) {
+  Kept kept(whole);
+  std::string_view text = whole;
   while (true) {
     const std::size_t found = text.find(from);
-    replaced += text.substr(0, found);
-    if (found == std::string_view::npos) return replaced;
-    replaced += to;
+    kept.Append(text.substr(0, found));
+    if (found == std::string_view::npos) return kept.Finish();
+    kept.Append(shorter);
     text.remove_prefix(found + from.size());
   }
 }
 
 // Deletes from each `open` to the `close` after it, up to the first `close` that comes too early.
-std::string Strip(std::string_view text, char open, char close) {
-  std::string stripped;
-  stripped.reserve(text.size());
+void Strip(std::string& whole, char open, char close) {
+  Kept kept(whole);
+  std::string_view text = whole;
   while (true) {
     const std::size_t from = text.find(open);
     const std::size_t to = text.find(close);
     if (from == std::string_view::npos || to == std::string_view::npos || to < from) break;
-    stripped += text.substr(0, from);
+    kept.Append(text.substr(0, from));
     text.remove_prefix(to + 1);
   }
-  return stripped.append(text);
+  kept.Append(text);
+  kept.Finish();
 }
 
 // Deletes every run of a character that stands right before a CR.
-std::string RemoveBeforeLineEnds(std::string whole, char unwanted) {
-  if (whole.find(unwanted) == std::string::npos) return whole;
+void RemoveBeforeLineEnds(std::string& whole, char unwanted) {
+  if (whole.find(unwanted) == std::string::npos) return;
+  Kept kept(whole);
   std::string_view text = whole;
-  std::string kept;
-  kept.reserve(text.size());
   while (true) {
     const std::size_t lineEnd = text.find('\r');
-    kept += text.substr(0, lineEnd);
-    if (lineEnd == std::string_view::npos) return kept;
-    kept.erase(kept.find_last_not_of(unwanted) + 1);
-    kept += '\r';
+    kept.Append(text.substr(0, lineEnd));
+    if (lineEnd == std::string_view::npos) return kept.Finish();
+    kept.Shorten(kept.View().find_last_not_of(unwanted) + 1);
+    kept.Append("\r");
     text.remove_prefix(lineEnd + 1);
   }
 }
 
-std::string RemoveEmptyLines(std::string_view text) {
-  std::string kept;
-  kept.reserve(text.size());
+void RemoveEmptyLines(std::string& whole) {
+  Kept kept(whole);
+  std::string_view text = whole;
   while (true) {
     const std::size_t lineEnd = text.find(kLineEnd);
-    kept += text.substr(0, lineEnd);
-    if (lineEnd == std::string_view::npos) return kept;
-    if (!kept.ends_with(kLineEnd)) kept += kLineEnd;
+    kept.Append(text.substr(0, lineEnd));
+    if (lineEnd == std::string_view::npos) return kept.Finish();
+    if (!kept.View().ends_with(kLineEnd)) kept.Append(kLineEnd);
     text.remove_prefix(lineEnd + kLineEnd.size());
   }
 }
@@ -82,14 +105,16 @@ std::string InfoCardToText(std::string_view card) {
     card.remove_prefix(prolog + kProlog.size());
   }
   if (card.starts_with("xml>")) card.remove_prefix(4);
-  std::string text = ReplaceAll(card, "<PARA/>", kLineEnd);
-  text = Strip(text, '<', '>');
-  text = Strip(text, '&', ';');
+  std::string text(card);
+  ReplaceAll(text, "<PARA/>", kLineEnd);
+  Strip(text, '<', '>');
+  Strip(text, '&', ';');
   for (int round = 0; round < 2; ++round) {
-    text = RemoveBeforeLineEnds(std::move(text), ' ');
-    text = RemoveBeforeLineEnds(std::move(text), '\t');
+    RemoveBeforeLineEnds(text, ' ');
+    RemoveBeforeLineEnds(text, '\t');
   }
-  return RemoveEmptyLines(text);
+  RemoveEmptyLines(text);
+  return text;
 }
 
 }  // namespace orrerix
