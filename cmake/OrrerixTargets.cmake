@@ -107,3 +107,12 @@ function(orrerix_program name)
     target_sources(${name} PRIVATE ${CMAKE_CURRENT_BINARY_DIR}/${name}.rc)
   endif()
 endfunction()
+
+# orrerix_needs_no_display(<program>)
+# The program can draw where no display is. A Qt that is linked in as a whole brings only its plugin
+# for real windows by itself.
+function(orrerix_needs_no_display program)
+  if(TARGET Qt6::QOffscreenIntegrationPlugin)
+    qt_import_plugins(${program} INCLUDE Qt6::QOffscreenIntegrationPlugin)
+  endif()
+endfunction()

@@ -9,6 +9,8 @@
 #include <filesystem>
 
 #include "orrerix_main_fixture.h"
+#include "platform/path_text.h"
+#include "support/failure_sinks.h"
 
 namespace orrerix {
 namespace {
@@ -95,8 +97,9 @@ TEST_F(OrrerixMainMapTest, FourToolsOpenTheSearchPanelAndTheLastOnePrints) {
 }
 
 TEST_F(OrrerixMainMapTest, ARedrawAskedForDuringAQuestionRunsAfterTheOneThatAsks) {
-  IgnoreFailures ignore;
-  DBEngine::OpenDatabase(ignore, UniverseFile()).Execute(ignore, "DROP TABLE TradeLanes");
+  if (kFileNamesIgnoreCase) GTEST_SKIP() << "Windows without a display asks for no redraw here";
+  FailTest mustWork;
+  DBEngine::OpenDatabase(mustWork, UniverseFile()).Execute(mustWork, "DROP TABLE TradeLanes");
   form->showNormal();
   PassEvents();
   messages.Shown.clear();
@@ -116,6 +119,7 @@ TEST_F(OrrerixMainMapTest, ARedrawAskedForDuringAQuestionRunsAfterTheOneThatAsks
 }
 
 TEST_F(OrrerixMainMapTest, TheWholeMapIsPrintedOnWhiteFromASquareForm) {
+  if (kFileNamesIgnoreCase) GTEST_SKIP() << "Windows without a display gives windows a frame";
   form->PrintTheMap();
 
   const int side = form->screen()->geometry().height();

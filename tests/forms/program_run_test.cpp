@@ -209,6 +209,15 @@ class NewsRunTest : public ProgramRunTest {
     }
     return text;
   }
+
+  // Starts, and activates the window as a user does, if the system has not done so by itself.
+  void ShowNotice() {
+    run.Start();
+    ASSERT_TRUE(WaitUntil([&] {
+      if (UpdateForm() == nullptr && ShowsMap()) run.Main()->activateWindow();
+      return UpdateForm() != nullptr;
+    }));
+  }
 };
 
 TEST_F(NewsRunTest, NewsStandInThePanelAndOpenTheirLinks) {
@@ -270,9 +279,7 @@ TEST_F(ProgramRunTest, WithoutAnAddressNothingIsFetched) {
 
 TEST_F(NewsRunTest, ALaterVersionIsAnnouncedOnceInThePlaceOfTheMap) {
   network.Page = NewsOf("1.5", 0);
-  Show();
-  run.Main()->activateWindow();
-  ASSERT_TRUE(WaitUntil([] { return UpdateForm() != nullptr; }));
+  ASSERT_NO_FATAL_FAILURE(ShowNotice());
   EXPECT_FALSE(run.Main()->isVisible());
   EXPECT_TRUE(Find(*UpdateForm(), "UpdateNotice").toolTip().contains("A tip"));
 
@@ -286,9 +293,7 @@ TEST_F(NewsRunTest, ALaterVersionIsAnnouncedOnceInThePlaceOfTheMap) {
 
 TEST_F(NewsRunTest, AClickOnTheNoticeOpensTheMainPageAndEndsTheProgram) {
   network.Page = NewsOf("1.5", 0);
-  Show();
-  run.Main()->activateWindow();
-  ASSERT_TRUE(WaitUntil([] { return UpdateForm() != nullptr; }));
+  ASSERT_NO_FATAL_FAILURE(ShowNotice());
 
   QTest::mouseClick(&Find(*UpdateForm(), "UpdateNotice"), Qt::LeftButton);
 
@@ -300,9 +305,7 @@ TEST_F(NewsRunTest, AClickOnTheNoticeOpensTheMainPageAndEndsTheProgram) {
 
 TEST_F(NewsRunTest, TheTipOfTheNoticeIsPlainText) {
   network.Page = "1.5\r\nFixes & \"more\"\r\nhttp://x.example/n\r\n";
-  Show();
-  run.Main()->activateWindow();
-  ASSERT_TRUE(WaitUntil([] { return UpdateForm() != nullptr; }));
+  ASSERT_NO_FATAL_FAILURE(ShowNotice());
 
   EXPECT_EQ(Find(*UpdateForm(), "UpdateNotice").toolTip(),
             "<span>Fixes &amp; &quot;more&quot;</span>");  // markup that shows the text as it is

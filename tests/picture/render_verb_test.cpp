@@ -39,6 +39,10 @@ class RenderVerb : public ::testing::Test {
   }
 
   static std::string File(const std::string& name) { return (folder->Path() / name).string(); }
+  static QByteArray StartOf(const std::string& name) {
+    QFile file(QString::fromStdString(File(name)));
+    return file.open(QIODevice::ReadOnly) ? file.read(5) : QByteArray();
+  }
   static QImage Picture(const std::string& name) {
     return QImage(QString::fromStdString(File(name)));
   }
@@ -77,16 +81,21 @@ TEST_F(RenderVerb, APrintedMapIsOnWhite) {
 }
 
 TEST_F(RenderVerb, TheEndingTellsTheKindOfFile) {
-  EXPECT_EQ(Call({"render", File("map.svg"), "--pixels", "400x300"}), kDone);
+  EXPECT_EQ(Call({"render", File("map.png"), "--pixels", "400x300"}), kDone);
   EXPECT_EQ(Call({"render", File("map.pdf"), "--pixels", "400x300"}), kDone);
 
-  const auto startOf = [](const std::string& name) {
-    QFile file(QString::fromStdString(File(name)));
-    return file.open(QIODevice::ReadOnly) ? file.read(5) : QByteArray();
-  };
-  EXPECT_EQ(startOf("map.svg"), "<?xml");
-  EXPECT_EQ(startOf("map.pdf"), "%PDF-");
+  EXPECT_EQ(StartOf("map.png"), "\x89PNG\r");
+  EXPECT_EQ(StartOf("map.pdf"), "%PDF-");
   EXPECT_THROW(Call({"render", File("map.gif")}), WrongUsage);
+}
+
+TEST_F(RenderVerb, AnSvgIsWrittenOrSaidToBeBeyondThisProgram) {
+#ifdef ORRERIX_WITH_SVG_OUTPUT
+  EXPECT_EQ(Call({"render", File("map.svg"), "--pixels", "400x300"}), kDone);
+  EXPECT_EQ(StartOf("map.svg"), "<?xml");
+#else
+  EXPECT_THROW(Call({"render", File("map.svg")}), CouldNot);
+#endif
 }
 
 TEST_F(RenderVerb, WrongWordsAreWrongUsage) {

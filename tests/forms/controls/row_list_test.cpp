@@ -3,6 +3,7 @@
 
 #include <QHelpEvent>
 #include <QScrollBar>
+#include <QTest>
 #include <QToolTip>
 
 #include <gtest/gtest.h>
@@ -53,6 +54,7 @@ TEST_F(RowListTest, ARowThatDoesNotFitIsShownAsFarAsItGoes) {
 // What the list shows as a tool tip of its first row.
 QString TipOf(RowList& list) {
   QToolTip::hideText();
+  EXPECT_TRUE(QTest::qWaitFor([] { return !QToolTip::isVisible(); }));
   const QPoint place = list.visualItemRect(list.item(0)).center();
   QHelpEvent event(QEvent::ToolTip, place, list.viewport()->mapToGlobal(place));
   QCoreApplication::sendEvent(list.viewport(), &event);
@@ -67,7 +69,7 @@ TEST_F(RowListTest, ARowThatIsCutShowsItsWholeTextAsATip) {
 }
 
 TEST_F(RowListTest, ARowThatFitsHasNoTip) {
-  list.resize(200, 100);
+  list.resize(list.sizeHintForColumn(0) + 50, 100);
 
   EXPECT_EQ(TipOf(list), "");
 }

@@ -134,7 +134,7 @@ TEST_F(WorkbenchTest, AnEntryOfTheLogOpensItsFileAtItsLine) {
                                 "exist):\r\n[Good]\r\nnickname = gold\r\n---."});
   std::vector<std::string> opened;
   LogPage page(host, choice, [&](const std::filesystem::path& file, int line) {
-    opened.push_back(file.string() + ":" + std::to_string(line));
+    opened.push_back(file.generic_string() + ":" + std::to_string(line));
   });
 
   page.Enter();
@@ -143,7 +143,7 @@ TEST_F(WorkbenchTest, AnEntryOfTheLogOpensItsFileAtItsLine) {
   auto& table = Find<QTableView>(page, "LogTable");
   EXPECT_EQ(table.model()->index(0, LogModel::FileColumn).data(), "DATA/goods.ini");
   EXPECT_EQ(table.model()->index(0, LogModel::LineColumn).data(), 3);
-  EXPECT_EQ(opened, std::vector<std::string>{host.Game + "/DATA/goods.ini:3"});
+  EXPECT_EQ(opened, std::vector<std::string>{game.Path().generic_string() + "/DATA/goods.ini:3"});
 }
 
 TEST_F(WorkbenchTest, TheGamePageAsksForWhatItsButtonsSay) {

@@ -187,7 +187,7 @@ TEST_F(TradesPageTest, APlaceThatIsNotThereIsNamed) {
 }
 
 TEST_F(TradesPageTest, AUniverseFileThatIsNotThereIsNoCrash) {
-  std::filesystem::remove(UniverseFile());
+  RemoveUniverseFile();
   page.Enter();
 
   Search(page);

@@ -37,6 +37,11 @@ class TravelPageFixture : public FormFixture {
     Price("anvil", "iron", 60, 2);
   }
 
+  void RemoveUniverseFile() {
+    file_ = Database();
+    std::filesystem::remove(UniverseFile());
+  }
+
   void Add(std::string_view table, Fields fields) {
     Recordset rows = file_.OpenTable(mustWork_, table);
     rows.AddNew();
