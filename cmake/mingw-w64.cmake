@@ -35,5 +35,5 @@ set(CMAKE_CXX_FLAGS_INIT "-Wa,-mbig-obj")
 # Tests run under Wine.
 find_program(ORRERIX_WINE wine)
 if(ORRERIX_WINE)
-  set(CMAKE_CROSSCOMPILING_EMULATOR ${ORRERIX_WINE})
+  set(CMAKE_CROSSCOMPILING_EMULATOR ${CMAKE_CURRENT_LIST_DIR}/wine.sh)
 endif()
