@@ -338,7 +338,6 @@ enum class TextId : int {
   KindGood,
   KindEquipment,
   KindFaction,
-  KindInfoText,
   BookmarksPage,
   BookmarkAdd,
   BookmarkDelete,
@@ -351,9 +350,29 @@ enum class TextId : int {
   SaveMap,
   MapSaved,
   InterfaceScale,
+  HeadName,
+  HeadDifference,
+  SortTip,
+  NoPrinterOnDesktop,
+  SummaryName,
+  SummaryUniverse,
+  SummarySystems,
+  SummaryBases,
+  SummaryBodies,
+  SummaryGates,
+  SummaryHoles,
+  SummaryZones,
+  SummaryWrecks,
+  SummaryOwners,
+  SummaryOwner,
+  SummaryMore,
+  SummaryAtlasTip,
+  SummaryLayersTip,
+  SummarySystemTip,
+  MapObjectsName,
 };
 inline constexpr int kStoredTexts = 29;
-inline constexpr int kTexts = static_cast<int>(TextId::InterfaceScale) + 1;
+inline constexpr int kTexts = static_cast<int>(TextId::MapObjectsName) + 1;
 
 // The language in use. Owned by the program; everything that shows a text reads it here.
 struct LanguageChoice {

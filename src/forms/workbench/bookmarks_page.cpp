@@ -59,6 +59,11 @@ QString BookmarksPage::Caption(TextId id) const {
   return CaptionIn(choice_.Current, id);
 }
 
+// Of the desktop's dialogs for files.
+QString BookmarksPage::FileFilter() const {
+  return Caption(TextId::BookmarkFiles) + " (*.txt)";
+}
+
 QWidget* BookmarksPage::MakeButtons() {
   auto* bar = new QWidget(this);
   auto* layout = new QHBoxLayout(bar);
@@ -125,15 +130,16 @@ void BookmarksPage::Store() {
 }
 
 void BookmarksPage::Export() {
-  const QString name =
-      QFileDialog::getSaveFileName(this, Caption(TextId::Export), "Orrerix-Bookmarks.txt");
+  const QString name = QFileDialog::getSaveFileName(this, Caption(TextId::Export),
+                                                    "Orrerix-Bookmarks.txt", FileFilter());
   if (name.isEmpty() || SaveTo(PathOf(name.toStdString()))) return;
   state_->setText(QString::fromStdString(
       FormatIn(choice_.Current, TextId::CannotWriteFile, name.toStdString())));
 }
 
 void BookmarksPage::Import() {
-  const QString name = QFileDialog::getOpenFileName(this, Caption(TextId::BookmarkTake));
+  const QString name =
+      QFileDialog::getOpenFileName(this, Caption(TextId::BookmarkTake), {}, FileFilter());
   if (!name.isEmpty()) TakeFrom(PathOf(name.toStdString()));
 }
 

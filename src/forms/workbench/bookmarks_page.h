@@ -33,6 +33,7 @@ class BookmarksPage : public WorkbenchPage {
 
  private:
   QString Caption(TextId id) const;
+  QString FileFilter() const;
   QWidget* MakeButtons();
   void ShowRows();
   void Edit(int row, int column);
