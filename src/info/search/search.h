@@ -37,6 +37,24 @@ std::vector<SearchRow> Search(Universe& universe, SearchType type, std::string_v
 // not on the map are left out. Nothing for a place.
 std::vector<SearchRow> SellersOf(Universe& universe, SearchType type, const SearchRow& row);
 
+// What stands beside the name of a row.
+struct SearchDetail {
+  std::string System;           // name of a place's system; empty for what is no place
+  std::optional<double> Price;  // credits: the usual one, of a place what is asked there
+
+  bool operator==(const SearchDetail&) const = default;
+};
+
+struct DetailedRow {
+  SearchRow Row;
+  SearchDetail Detail;
+};
+
+// The same rows as Search and SellersOf find, with what stands beside them. Where the game gives no
+// price, or one of 0, there is none.
+std::vector<DetailedRow> SearchInDetail(Universe& universe, SearchType type, std::string_view text);
+std::vector<DetailedRow> SellersInDetail(Universe& universe, SearchType type, const SearchRow& row);
+
 // What the info box shows for a row; places have none.
 std::optional<InfoType> InfoTypeOf(SearchType type);
 

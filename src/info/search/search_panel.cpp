@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "db/values/text.h"
 #include "info/boxes/text_info_box.h"
 #include "map/grid/numeric.h"
 
@@ -21,6 +22,51 @@ constexpr int kCloseWidth = 360;  // room beside the text box
 
 void SelectFirst(SearchList& list) {
   list.Selected = list.Rows.empty() ? std::nullopt : std::optional<std::size_t>(0);
+}
+
+bool IsBefore(const DetailedRow& left, const DetailedRow& right, const SearchSorting& sorting) {
+  const auto inOrder = [&](const auto& first, const auto& second) {
+    return sorting.Descending ? second < first : first < second;
+  };
+  switch (sorting.By) {
+    case SearchColumn::Name:
+      return inOrder(FoldAscii(left.Row.RealName), FoldAscii(right.Row.RealName));
+    case SearchColumn::System: {
+      const std::string& first = left.Detail.System;
+      const std::string& second = right.Detail.System;
+      if (first.empty() || second.empty()) return !first.empty() && second.empty();
+      return inOrder(FoldAscii(first), FoldAscii(second));
+    }
+    case SearchColumn::Price: {
+      const auto& first = left.Detail.Price;
+      const auto& second = right.Detail.Price;
+      if (!first || !second) return first && !second;
+      return inOrder(*first, *second);
+    }
+  }
+  return false;
+}
+
+void Fill(SearchList& list, std::vector<DetailedRow> found) {
+  if (list.Sorting) {
+    std::stable_sort(found.begin(), found.end(), [&](const auto& left, const auto& right) {
+      return IsBefore(left, right, *list.Sorting);
+    });
+  }
+  list.Rows.clear();
+  list.Details.clear();
+  for (DetailedRow& row : found) {
+    list.Rows.push_back(std::move(row.Row));
+    list.Details.push_back(std::move(row.Detail));
+  }
+}
+
+// Ascending, descending, as found.
+std::optional<SearchSorting> NextSorting(const std::optional<SearchSorting>& now,
+                                         SearchColumn column) {
+  if (!now || now->By != column) return SearchSorting{column, false};
+  if (now->Descending) return std::nullopt;
+  return SearchSorting{column, true};
 }
 
 // A row up or down from the selected one, stopping at the ends.
@@ -44,6 +90,8 @@ SearchAnswer SearchPanel::Open(const SearchScope& scope, SearchType type) {
   type_ = type;
   subSearchVisible_ = true;
   textVisible_ = true;
+  subSearch_.Sorting = std::nullopt;
+  list_.Sorting = std::nullopt;
   SearchAnswer answer = SetText(scope, "");
   answer.Focus = SearchControl::Text;
   return answer;
@@ -56,11 +104,10 @@ SearchAnswer SearchPanel::SetText(const SearchScope& scope, std::string text) {
 
 SearchAnswer SearchPanel::Refresh(const SearchScope& scope) {
   if (type_ == SearchType::Place) {
-    list_.Rows = Search(scope.Data, type_, text_);
-    SelectFirst(list_);
+    FillPlaces(scope);
     return {};
   }
-  subSearch_.Rows = Search(scope.Data, type_, text_);
+  Fill(subSearch_, SearchInDetail(scope.Data, type_, text_));
   subSearch_.Selected = std::nullopt;
   SearchAnswer answer = SelectSubSearch(scope, 0);
   subSearchBox_.Height = scope.Drawing.Frame.Height / 2;
@@ -77,9 +124,36 @@ SearchAnswer SearchPanel::SelectSubSearch(const SearchScope& scope, std::size_t 
     answer.InfoBox = ShowInfoTextType(scope.Data, scope.Words, scope.Measure, scope.Drawing,
                                       chosen.Nickname, *info);
   }
-  list_.Rows = SellersOf(scope.Data, type_, chosen);
-  SelectFirst(list_);
+  FillPlaces(scope);
   return answer;
+}
+
+// The lower list: what the text finds, or who has the chosen row of the upper list.
+void SearchPanel::FillPlaces(const SearchScope& scope) {
+  if (type_ == SearchType::Place) {
+    Fill(list_, SearchInDetail(scope.Data, type_, text_));
+  } else if (subSearch_.Selected) {
+    Fill(list_, SellersInDetail(scope.Data, type_, subSearch_.Rows[*subSearch_.Selected]));
+  }
+  SelectFirst(list_);
+}
+
+SearchAnswer SearchPanel::Sort(const SearchScope& scope, SearchControl list, SearchColumn column) {
+  const bool isUpper = list == SearchControl::SubSearch;
+  SearchList& sorted = isUpper ? subSearch_ : list_;
+  sorted.Sorting = NextSorting(sorted.Sorting, column);
+  if (isUpper) return Refresh(scope);
+  FillPlaces(scope);
+  return {};
+}
+
+std::vector<SearchColumn> SearchPanel::ColumnsOf(SearchControl list) const {
+  if (type_ == SearchType::Place) return {SearchColumn::Name, SearchColumn::System};
+  if (list == SearchControl::List) {
+    return {SearchColumn::Name, SearchColumn::System, SearchColumn::Price};
+  }
+  if (type_ == SearchType::Bribe) return {SearchColumn::Name};
+  return {SearchColumn::Name, SearchColumn::Price};
 }
 
 void SearchPanel::SelectList(std::size_t row) {

@@ -18,10 +18,21 @@ inline constexpr int kSearchListTop = 600;
 
 enum class SearchControl { None, Text, SubSearch, List };
 
+enum class SearchColumn { Name, System, Price };
+
+struct SearchSorting {
+  SearchColumn By = SearchColumn::Name;
+  bool Descending = false;
+
+  bool operator==(const SearchSorting&) const = default;
+};
+
 // A list with its selected row.
 struct SearchList {
   std::vector<SearchRow> Rows;
   std::optional<std::size_t> Selected;
+  std::vector<SearchDetail> Details = {};               // of the rows, in their order
+  std::optional<SearchSorting> Sorting = std::nullopt;  // none: in the order of the search
 
   bool operator==(const SearchList&) const = default;
 };
@@ -50,6 +61,14 @@ class SearchPanel {
 
   // The text has changed.
   SearchAnswer SetText(const SearchScope& scope, std::string text);
+
+  // A click on the head of a column: sorts that list by it, the next time the other way round, then
+  // as found again. Rows without a value come last either way. What a search that follows finds is
+  // sorted in the same way, until the panel is opened anew.
+  SearchAnswer Sort(const SearchScope& scope, SearchControl list, SearchColumn column);
+
+  // The columns that a list has.
+  std::vector<SearchColumn> ColumnsOf(SearchControl list) const;
 
   // A row was chosen. One beyond the list changes nothing.
   SearchAnswer SelectSubSearch(const SearchScope& scope, std::size_t row);
@@ -81,6 +100,7 @@ class SearchPanel {
 
  private:
   SearchAnswer Refresh(const SearchScope& scope);
+  void FillPlaces(const SearchScope& scope);
   void PlaceList(double top);
 
   bool visible_ = false;

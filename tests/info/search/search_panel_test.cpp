@@ -8,6 +8,7 @@
 namespace orrerix {
 namespace {
 
+using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 using ::testing::SizeIs;
 
@@ -222,6 +223,109 @@ TEST_F(SearchPanelTest, OnATinyMapNothingHasANegativeSize) {
 
   EXPECT_EQ(panel.Frame().Height, 0);
   EXPECT_EQ(panel.ListBox().Height, 0);
+}
+
+class SearchColumns : public SearchPanelTest {
+ protected:
+  // Systems Alpha and beta; Anvil and Cove lie in beta, Brook in Alpha, Deep in none. A beam costs
+  // 5 and is sold in Cove at twice and in Anvil at three times of that; in Brook it has no price.
+  SearchColumns() {
+    Add("Systems", {{"nickname", "a"}, {"realname", "Alpha"}, {"pos", "1, 2"}});
+    Add("Systems", {{"nickname", "b"}, {"realname", "beta"}, {"pos", "3, 4"}});
+    PlaceIn("Anvil", 3, 4);
+    PlaceIn("Brook", 1, 2);
+    PlaceIn("Cove", 3, 4);
+    PlaceIn("Deep", 9, 9);
+    Add("Goods", {{"nickname", "beam"},
+                  {"realname", "Beam"},
+                  {"category", "equipment"},
+                  {"price", 5},
+                  {"ids_info", 0}});
+    for (const auto& [base, times] : {std::pair{"cove", 2}, {"anvil", 3}, {"brook", 0}}) {
+      Add("BaseGoods", {{"Base", base}, {"GoodNick", "beam"}, {"val6", times}});
+    }
+  }
+
+  void PlaceIn(const char* name, int x, int y) {
+    Add("DockObjects", {{"nickname", name}, {"realname", name}, {"MapX", x}, {"MapY", y}});
+  }
+
+  std::vector<std::string> Names() const {
+    std::vector<std::string> names;
+    for (const SearchRow& row : panel.List().Rows) names.push_back(row.RealName);
+    return names;
+  }
+  void Sort(SearchColumn column) { panel.Sort(scope, SearchControl::List, column); }
+};
+
+TEST_F(SearchColumns, PlacesHaveTheirSystemBeside) {
+  panel.Open(scope, SearchType::Place);
+
+  EXPECT_THAT(panel.List().Details,
+              ElementsAre(SearchDetail{"beta", std::nullopt}, SearchDetail{"Alpha", std::nullopt},
+                          SearchDetail{"beta", std::nullopt}, SearchDetail{"", std::nullopt}));
+  EXPECT_THAT(panel.ColumnsOf(SearchControl::List),
+              ElementsAre(SearchColumn::Name, SearchColumn::System));
+}
+
+TEST_F(SearchColumns, EquipmentHasItsPriceAndItsSellersHaveTheirs) {
+  panel.Open(scope, SearchType::Equipment);
+
+  EXPECT_THAT(panel.SubSearch().Details, ElementsAre(SearchDetail{"", 5}));
+  EXPECT_THAT(panel.List().Details, ElementsAre(SearchDetail{"beta", 10}, SearchDetail{"beta", 15},
+                                                SearchDetail{"Alpha", std::nullopt}));
+}
+
+TEST_F(SearchColumns, ABribeHasItsPriceAtEachPlace) {
+  Add("Groups", {{"NickName", "wardens"}, {"Name", "Wardens"}, {"ids_info", 0}});
+  Add("GF_NPC", {{"BaseNick", "anvil"}, {"bribe", "wardens"}, {"bribe_2", 7000}});
+
+  panel.Open(scope, SearchType::Bribe);
+
+  EXPECT_THAT(panel.ColumnsOf(SearchControl::SubSearch), ElementsAre(SearchColumn::Name));
+  EXPECT_THAT(panel.List().Details, ElementsAre(SearchDetail{"beta", 7000}));
+}
+
+TEST_F(SearchColumns, AHeadSortsUpDownAndAsFoundAgain) {
+  panel.Open(scope, SearchType::Equipment);
+  ASSERT_THAT(Names(), ElementsAre("Cove", "Anvil", "Brook"));
+
+  Sort(SearchColumn::Name);
+  EXPECT_THAT(Names(), ElementsAre("Anvil", "Brook", "Cove"));
+  Sort(SearchColumn::Name);
+  EXPECT_THAT(Names(), ElementsAre("Cove", "Brook", "Anvil"));
+  Sort(SearchColumn::Name);
+  EXPECT_THAT(Names(), ElementsAre("Cove", "Anvil", "Brook"));
+}
+
+TEST_F(SearchColumns, RowsWithoutAValueComeLastEitherWay) {
+  panel.Open(scope, SearchType::Equipment);
+
+  Sort(SearchColumn::Price);
+  EXPECT_THAT(Names(), ElementsAre("Cove", "Anvil", "Brook"));
+  Sort(SearchColumn::Price);
+  EXPECT_THAT(Names(), ElementsAre("Anvil", "Cove", "Brook"));
+}
+
+TEST_F(SearchColumns, SystemsAreSortedWhateverTheirCase) {
+  panel.Open(scope, SearchType::Place);
+
+  Sort(SearchColumn::System);
+
+  EXPECT_THAT(Names(), ElementsAre("Brook", "Anvil", "Cove", "Deep"));
+  EXPECT_EQ(panel.List().Selected, 0u);
+}
+
+TEST_F(SearchColumns, WhatIsTypedAfterThatIsSortedTooUntilThePanelOpensAnew) {
+  panel.Open(scope, SearchType::Place);
+  Sort(SearchColumn::Name);
+  Sort(SearchColumn::Name);
+
+  panel.SetText(scope, "o");
+  EXPECT_THAT(Names(), ElementsAre("Cove", "Brook"));
+
+  panel.Open(scope, SearchType::Place);
+  EXPECT_THAT(Names(), ElementsAre("Anvil", "Brook", "Cove", "Deep"));
 }
 
 }  // namespace
