@@ -96,7 +96,7 @@ int RunProgram(int argc, char** argv, const StartPaths& paths) {
   DesktopMessageBoxes messages(choice);
   const auto sound = MakeDesktopSound();
   DesktopLinks links;
-  DesktopPrinters printers;
+  DesktopPrinters printers(choice);
   DesktopNetwork network;
   ErrorLog log(messages, CurrentVersion(), choice);
   const auto native = NativeRegistry();

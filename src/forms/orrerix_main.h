@@ -21,6 +21,7 @@
 #include "forms/map/map_way.h"
 #include "forms/map/news_controller.h"
 #include "forms/map/search_controller.h"
+#include "forms/map/summary_view.h"
 #include "forms/map/tools_entry.h"
 #include "forms/reentry.h"
 #include "forms/start/import_screen.h"
@@ -33,6 +34,7 @@ namespace orrerix {
 
 class BookmarksPage;
 class FindPage;
+class LayersPage;
 
 // The main form. It shows one of three screens, chosen by every redraw: first run, importing,
 // or the map.
@@ -56,8 +58,9 @@ class OrrerixMain : public QWidget, public WorkbenchHost, private MapHost {
   // The one redraw of the form; everything that changes what the map shows calls it.
   void Redraw() override;
 
-  // Prints the map as it is shown, on white paper: the form is a square of the screen's height
-  // meanwhile. After a failure that the user cancels it stays one, drawn for print.
+  // Prints the map as it is shown, on white paper, once the user has chosen a printer: the form is
+  // a square of the screen's height meanwhile. After a failure that the user cancels it stays one,
+  // drawn for print.
   void PrintTheMap();
 
   // Also true after an import that was given up.
@@ -124,6 +127,9 @@ class OrrerixMain : public QWidget, public WorkbenchHost, private MapHost {
 
   void OpenLogoPage(bool firstHalf) override;
 
+  void TellThatThereIsNoPrinter();
+  void ShowSummary();
+  void FollowSummary(const SummaryLine& line);
   void MakeTools();
   void ReadSpace() { space_.Read(UniverseFile(), GameText()); }
   void GoThroughGate(const Control& icon);
@@ -187,7 +193,9 @@ class OrrerixMain : public QWidget, public WorkbenchHost, private MapHost {
   MapNotice changeNotice_;
   MapMarks* marks_;
   MapWay* way_;
-  FindPage* findPage_ = nullptr;  // both are made with the tools' window
+  SummaryView* summary_;
+  LayersPage* layersPage_ = nullptr;  // these are made with the tools' window
+  FindPage* findPage_ = nullptr;
   BookmarksPage* bookmarksPage_ = nullptr;
   std::string lastStation_;  // that was opened, by its nickname
 };

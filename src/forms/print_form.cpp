@@ -3,7 +3,6 @@
 
 #include <QImage>
 #include <QPainter>
-#include <QPrinter>
 
 #include <fmt/format.h>
 
@@ -23,6 +22,11 @@ void SetTarget(QPrinter& printer, const PrintTarget& target) {
     printer.setOutputFormat(QPrinter::PdfFormat);
     printer.setOutputFileName(QString::fromStdString(target.File.string()));
   }
+}
+
+std::string NameOf(const PrintTarget& target, const QPrinter& printer) {
+  if (!target.File.empty()) return target.File.string();
+  return target.Printer.empty() ? printer.printerName().toStdString() : target.Printer;
 }
 
 // In the middle of the page's printable part.
@@ -73,15 +77,16 @@ void PrintForm(const QWidget& form, QGraphicsView& map, const std::optional<Prin
   if (!target) {
     throw Failure{kPrinterError, std::string(TextIn(language, TextId::NoPrinter))};
   }
-  QPrinter printer(QPrinter::HighResolution);
-  SetTarget(printer, *target);
+  auto* device = dynamic_cast<QtPrintDevice*>(target->Device.get());
+  QtPrintDevice own;
+  QPrinter& printer = device == nullptr ? own.Printer : device->Printer;
+  if (device == nullptr) SetTarget(printer, *target);
   printer.setResolution(kDotsPerInch);
   printer.setDocName("FL Orrerix");
   QPainter painter;
   if (!painter.begin(&printer)) {
     throw Failure{kPrinterError,
-                  FormatIn(language, TextId::PrinterTakesNoPages,
-                           target->File.empty() ? target->Printer : target->File.string())};
+                  FormatIn(language, TextId::PrinterTakesNoPages, NameOf(*target, printer))};
   }
   const QRectF place = PlaceOnPage(form.size(), printer);
   painter.translate(place.topLeft());

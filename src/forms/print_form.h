@@ -3,6 +3,7 @@
 
 #include <QGraphicsView>
 #include <QPainter>
+#include <QPrinter>
 #include <optional>
 
 #include "platform/printer.h"
@@ -12,6 +13,12 @@ namespace orrerix {
 
 // The failure number of a printer that does not do its work.
 inline constexpr int kPrinterError = 482;
+
+// A printer as the desktop's dialog has set it up.
+class QtPrintDevice : public PrintDevice {
+ public:
+  QPrinter Printer{QPrinter::HighResolution};
+};
 
 // Prints the inside of a form on one page: its map, and the widgets that stand on the map, on white
 // paper. As large as the page's proportions allow, never larger than on a screen of 96 pixels an

@@ -11,6 +11,7 @@
 #include <QGuiApplication>
 #include <QMessageBox>
 #include <QPlainTextEdit>
+#include <QPrintDialog>
 #include <QPrinterInfo>
 #include <QScreen>
 #include <QUrl>
@@ -18,6 +19,7 @@
 #include <utility>
 
 #include "forms/controls/captions.h"
+#include "forms/print_form.h"
 #include "picture/picture_store.h"
 
 namespace orrerix {
@@ -191,6 +193,17 @@ void DesktopLinks::OpenManual() {
     QDesktopServices::openUrl(QUrl::fromLocalFile(manual.canonicalFilePath()));
     return;
   }
+}
+
+PrinterChoice DesktopPrinters::Choose() {
+  if (QPrinterInfo::availablePrinterNames().isEmpty()) return {PrinterAnswer::None};
+  auto device = std::make_shared<QtPrintDevice>();
+  QPrintDialog dialog(&device->Printer, QApplication::activeWindow());
+  dialog.setObjectName("PrintDialog");
+  dialog.setWindowTitle(CaptionIn(choice_.Current, TextId::PrintMap));
+  dialog.setOption(QAbstractPrintDialog::PrintPageRange, false);
+  if (dialog.exec() != QDialog::Accepted) return {PrinterAnswer::GivenUp};
+  return {PrinterAnswer::Chosen, {{}, {}, std::move(device)}};
 }
 
 std::optional<PrintTarget> DesktopPrinters::DefaultPrinter() {

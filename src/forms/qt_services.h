@@ -29,7 +29,15 @@ class DesktopLinks : public LinkOpener {
 
 class DesktopPrinters : public Printers {
  public:
+  // `choice`, the language of the dialog's title, must outlive this.
+  explicit DesktopPrinters(const LanguageChoice& choice = kEnglishOnly) : choice_(choice) {}
+
+  // Shows the desktop's print dialog.
+  PrinterChoice Choose() override;
   std::optional<PrintTarget> DefaultPrinter() override;
+
+ private:
+  const LanguageChoice& choice_;
 };
 
 }  // namespace orrerix

@@ -56,6 +56,8 @@ class FakePrinters : public Printers {
  public:
   std::filesystem::path File;
   std::function<void()> OnAsked;
+  PrinterChoice Choice;  // the user's answer to the print dialog
+  PrinterChoice Choose() override { return Choice; }
   std::optional<PrintTarget> DefaultPrinter() override {
     if (OnAsked) OnAsked();
     if (File.empty()) return std::nullopt;

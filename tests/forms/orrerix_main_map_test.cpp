@@ -185,6 +185,42 @@ TEST_F(OrrerixMainMapTest, WithoutAPrinterTheUserIsToldAndTheFormIsRestored) {
   EXPECT_TRUE(form->isMaximized());
 }
 
+TEST_F(OrrerixMainMapTest, OnADesktopWithoutPrintersAMessageSaysSoAndTheFormStaysAsItIs) {
+  printers.Choice.Answer = PrinterAnswer::None;
+  messages.Answer = MessageAnswer::Cancel;
+  const QRect before = form->geometry();
+
+  form->PrintTheMap();
+
+  ASSERT_EQ(messages.Shown.size(), 1U);
+  EXPECT_EQ(
+      messages.Shown[0].Text,
+      "The map cannot be printed: this computer has no printer. Ctrl+S saves the map as a PDF "
+      "file instead.");
+  EXPECT_FALSE(form->Map().State().PrintMode);
+  EXPECT_EQ(form->geometry(), before);
+}
+
+TEST_F(OrrerixMainMapTest, WhoGivesUpThePrintDialogPrintsNothing) {
+  printers.Choice.Answer = PrinterAnswer::GivenUp;
+
+  form->PrintTheMap();
+
+  EXPECT_EQ(printedSize, QSize());
+  EXPECT_FALSE(std::filesystem::exists(printers.File));
+  EXPECT_TRUE(form->isMaximized());
+  EXPECT_TRUE(messages.Shown.empty());
+}
+
+TEST_F(OrrerixMainMapTest, ThePrinterOfTheDialogGetsThePage) {
+  printers.Choice = {PrinterAnswer::Chosen, {{}, folder.Path() / "chosen.pdf"}};
+
+  form->PrintTheMap();
+
+  EXPECT_TRUE(std::filesystem::exists(folder.Path() / "chosen.pdf"));
+  EXPECT_FALSE(std::filesystem::exists(printers.File));
+}
+
 TEST_F(OrrerixMainMapTest, GivenUpAfterAFailureTheFormStaysSquareAndInPrint) {
   printers.File.clear();
   messages.Answer = MessageAnswer::Cancel;

@@ -99,6 +99,17 @@ TEST_F(PrintFormTest, OnePageIsWritten) {
   EXPECT_TRUE(bytes.contains("/Count 1"));
 }
 
+TEST_F(PrintFormTest, ADeviceOfTheDialogIsPrintedOnAsItWasSetUp) {
+  const auto file = folder.Path() / "device.pdf";
+  auto device = std::make_shared<QtPrintDevice>();
+  device->Printer.setOutputFormat(QPrinter::PdfFormat);
+  device->Printer.setOutputFileName(QString::fromStdString(file.string()));
+
+  PrintForm(form, map, PrintTarget{{}, {}, device}, Language::English);
+
+  EXPECT_TRUE(QFile::exists(QString::fromStdString(file.string())));
+}
+
 TEST_F(PrintFormTest, AMachineWithoutAPrinterIsAFailureThatSaysSo) {
   EXPECT_EQ(FailureOf(std::nullopt), "The map cannot be printed: this computer has no printer.");
 }

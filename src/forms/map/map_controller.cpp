@@ -3,6 +3,7 @@
 
 #include <utility>
 
+#include "derived/lookup.h"
 #include "map/game_sounds.h"
 #include "online/web_pages.h"
 #include "shell/routine.h"
@@ -20,6 +21,7 @@ MapController::MapController(MapScreen& screen, MapHost& form, ErrorLog& log, Se
       switches_(log, settings, language, screen.State(),
                 [this](std::string_view path) { Play(path); }),
       box_(screen.Scene()),
+      iconKeys_(screen.Frame(), IconEvents()),
       panelKeys_(screen.Frame(), [this](ControlId id, int index) { PanelKeyClick(id, index); }) {
   screen_.Frame().SetMouse(this);
   screen_.Frame().SetKeys(this);
@@ -34,6 +36,8 @@ void MapController::MapRedrawn() {
   box_.MapRedrawn();
   ShowCursor();
   NewsMoved();
+  iconKeys_.Follow(screen_.Drawing(), language_.Text(TextId::MapObjectsName),
+                   [this](const auto& icons) { return NamesOfIcons(icons); });
 }
 
 void MapController::NewsMoved() {
@@ -264,6 +268,34 @@ void MapController::ZoomInOnCursor() {
   const auto y = static_cast<float>(box.Top + box.Height / 2);
   PressOnMap(x, y);
   ReleaseOnMap(PointerButton::Left, x, y);
+}
+
+// The keyboard on an icon does what the mouse does there.
+IconKeys::Events MapController::IconEvents() {
+  return {[this](int icon) {
+            box_.EndHover();
+            HoverIcon(icon);
+          },
+          [this] { box_.EndHover(); }, [this](int icon) { ClickIcon(icon); },
+          [this](MapKey key) { KeyDown(key); }};
+}
+
+// A place by its name, the end of a jump connection by its description.
+std::vector<std::string> MapController::NamesOfIcons(const std::vector<const Control*>& icons) {
+  std::vector<std::string> names;
+  for (const Control* icon : icons) names.push_back(IconText(*icon));
+  Routine routine(log_, "OrrerixMain.Form_Resize");
+  routine.Run([&] {
+    Universe universe = form_.OpenUniverse(routine);
+    for (std::size_t i = 0; i < icons.size(); ++i) {
+      if (!std::holds_alternative<DockableObject>(icons[i]->Subject)) continue;
+      Recordset dock = RowNamed(routine, universe, "DockObjects", names[i]);
+      if (dock.AtEnd()) continue;
+      const std::string name = dock["realname"].Get().Text();
+      if (!name.empty()) names[i] = name;
+    }
+  });
+  return names;
 }
 
 void MapController::ShowCursor() {

@@ -5,7 +5,9 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
+#include "forms/map/icon_keys.h"
 #include "forms/map/map_box.h"
 #include "forms/map/map_host.h"
 #include "forms/map/map_keys.h"
@@ -88,6 +90,8 @@ class MapController : private MapMouse, private MapKeys {
   void Follow(const SwitchAnswer& answer);
   void ZoomInOnCursor();
   void ShowCursor();
+  IconKeys::Events IconEvents();
+  std::vector<std::string> NamesOfIcons(const std::vector<const Control*>& icons);
   void Play(std::string_view sound);
   const ZoomRectangle& Visible() const { return screen_.State().Zoom.Current(); }
 
@@ -101,6 +105,7 @@ class MapController : private MapMouse, private MapKeys {
   OptionSwitches switches_;
   MapBox box_;
   CellCursor cursor_;
+  IconKeys iconKeys_;
   PanelKeys panelKeys_;
   std::optional<Target> pressed_;
   bool firstHalfClick_ = false;  // the logo's half that the mouse was on last

@@ -34,6 +34,9 @@ class MapScreen {
   // line's.
   void SetNews(std::string ownLink, std::vector<NewsItem> news);
 
+  // Whether there are news besides the program's own line.
+  bool HasNews() const { return !news_.empty(); }
+
   // Reads the systems' names; once, however often it is called.
   void InitDataUsage(Universe& universe);
 

@@ -10,7 +10,6 @@
 #include "shell/routine.h"
 
 namespace orrerix {
-namespace {}  // namespace
 
 SearchController::SearchController(MapScreen& screen, MapHost& form, MapController& controller,
                                    ErrorLog& log, LanguageFile& language)
@@ -68,6 +67,11 @@ void SearchController::CloseSearch() {
 
 void SearchController::FindGood() {
   if (OnFindGood) OnFindGood(panel_.Text());
+}
+
+void SearchController::SortList(SearchControl list, SearchColumn column) {
+  Follow(Ask("OrrerixMain.StSearchText_Change", "",
+             [&](const SearchScope& scope) { return panel_.Sort(scope, list, column); }));
 }
 
 bool SearchController::MoveKey(int by) {

@@ -44,6 +44,7 @@ class SearchController : private SearchEvents {
   void GoToPlace() override;
   void CloseSearch() override;
   void FindGood() override;
+  void SortList(SearchControl list, SearchColumn column) override;
   bool MoveKey(int by) override;
   void EnterKey(SearchControl in) override;
 

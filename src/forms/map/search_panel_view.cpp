@@ -3,14 +3,15 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QLocale>
 #include <QSignalBlocker>
+#include <algorithm>
 #include <functional>
 #include <utility>
 
 #include "forms/controls/control_name.h"
 #include "forms/controls/form_geometry.h"
 #include "forms/controls/plain_label.h"
-#include "forms/controls/row_list.h"
 #include "picture/form_font.h"
 
 namespace orrerix {
@@ -26,6 +27,28 @@ constexpr const char* kSearchPanelViewStyle =
     "QLineEdit, QListWidget { background: #0a1034; color: #e0e8ff; border: 1px solid #3a54a0; }"
     "QLabel { color: #00cccc; }"
     "QLineEdit:focus, QListWidget:focus { border-color: #7ac8f0; }";
+
+// The first column takes what the others leave.
+ColumnList::Column HeadOf(SearchColumn column, bool isUpper, TextSource& texts) {
+  constexpr double systemShare = 0.34;
+  constexpr double priceShare = 0.22;
+  const auto caption = [&](TextId id) { return QString::fromStdString(texts.Text(id)); };
+  switch (column) {
+    case SearchColumn::Name:
+      return {caption(isUpper ? TextId::HeadName : TextId::KindPlace), 0, false};
+    case SearchColumn::System:
+      return {caption(TextId::HeadSystem), systemShare, false};
+    case SearchColumn::Price:
+      return {caption(TextId::HeadPrice), priceShare, true};
+  }
+  return {};
+}
+
+QString CellOf(SearchColumn column, const SearchDetail& detail) {
+  if (column == SearchColumn::System) return QString::fromStdString(detail.System);
+  if (column != SearchColumn::Price || !detail.Price) return {};
+  return QLocale().toString(static_cast<qlonglong>(*detail.Price));
+}
 
 // Acts on the Escape key wherever on a panel's window the focus is, while the panel is seen.
 class EscapeKey : public QObject {
@@ -79,11 +102,11 @@ SearchPanelView::SearchPanelView(SearchEvents& events, QWidget* map)
   goods_->setAutoRaise(true);
   goods_->setCursor(Qt::PointingHandCursor);
   QObject::connect(goods_, &QToolButton::clicked, this, [this] { events_.FindGood(); });
-  subSearch_ = AddList(ControlId::FoundList);
+  subSearch_ = AddList(ControlId::FoundList, SearchControl::SubSearch);
   QObject::connect(subSearch_, &QListWidget::currentRowChanged, this, [this](int row) {
     if (row >= 0) events_.ChooseFound(static_cast<std::size_t>(row));
   });
-  list_ = AddList(ControlId::PlaceList);
+  list_ = AddList(ControlId::PlaceList, SearchControl::List);
   QObject::connect(list_, &QListWidget::currentRowChanged, this, [this](int row) {
     if (row >= 0) events_.ChoosePlace(static_cast<std::size_t>(row));
   });
@@ -91,11 +114,33 @@ SearchPanelView::SearchPanelView(SearchEvents& events, QWidget* map)
   hide();
 }
 
-QListWidget* SearchPanelView::AddList(ControlId id) {
-  auto* list = new RowList(this);
+ColumnList* SearchPanelView::AddList(ControlId id, SearchControl control) {
+  auto* list = new ColumnList(this);
   list->setObjectName(NameOf(id));
   list->installEventFilter(this);
+  list->OnHead = [this, control](int head) {
+    const auto& columns = columns_[control == SearchControl::SubSearch ? 0 : 1];
+    events_.SortList(control, columns[static_cast<std::size_t>(head)]);
+  };
   return list;
+}
+
+void SearchPanelView::ShowColumns(ColumnList& list, const SearchPanel& panel, SearchControl control,
+                                  TextSource& texts) {
+  const bool isUpper = control == SearchControl::SubSearch;
+  std::vector<SearchColumn>& columns = columns_[isUpper ? 0 : 1];
+  columns = panel.ColumnsOf(control);
+  std::vector<ColumnList::Column> shown;
+  for (const SearchColumn column : columns) shown.push_back(HeadOf(column, isUpper, texts));
+  double first = 1;
+  for (std::size_t i = 1; i < shown.size(); ++i) first -= shown[i].Share;
+  shown.front().Share = first;
+  list.SetColumns(std::move(shown), QString::fromStdString(texts.Text(TextId::SortTip)));
+  const auto& sorting = (isUpper ? panel.SubSearch() : panel.List()).Sorting;
+  const auto found =
+      sorting ? std::find(columns.begin(), columns.end(), sorting->By) : columns.end();
+  list.ShowSorting(found == columns.end() ? -1 : static_cast<int>(found - columns.begin()),
+                   sorting && sorting->Descending);
 }
 
 void SearchPanelView::ShowCaptions(TextSource& texts) {
@@ -134,8 +179,10 @@ void SearchPanelView::Show(const SearchPanel& panel, TextSource& texts) {
   text_->setVisible(panel.TextVisible());
   // Places fill the one list, which lies over the other.
   subSearch_->setVisible(panel.SubSearchVisible() && panel.Type() != SearchType::Place);
-  Fill(*subSearch_, shownSubSearch_, panel.SubSearch());
-  Fill(*list_, shownList_, panel.List());
+  ShowColumns(*subSearch_, panel, SearchControl::SubSearch, texts);
+  ShowColumns(*list_, panel, SearchControl::List, texts);
+  Fill(*subSearch_, shownSubSearch_, panel.SubSearch(), columns_[0]);
+  Fill(*list_, shownList_, panel.List(), columns_[1]);
   show();
   raise();
 }
@@ -146,13 +193,21 @@ void SearchPanelView::PlaceGoods(int height) {
   goods_->setGeometry(width() - wide - 1, 1, wide, height - 1);
 }
 
-void SearchPanelView::Fill(QListWidget& list, SearchList& shown, const SearchList& wanted) {
+void SearchPanelView::Fill(ColumnList& list, SearchList& shown, const SearchList& wanted,
+                           const std::vector<SearchColumn>& columns) {
   const QSignalBlocker quiet(&list);
-  if (shown.Rows != wanted.Rows) {
-    QStringList names;
-    for (const SearchRow& row : wanted.Rows) names << QString::fromStdString(row.RealName);
+  if (shown.Rows != wanted.Rows || shown.Details != wanted.Details) {
     list.clear();
-    list.addItems(names);
+    for (std::size_t row = 0; row < wanted.Rows.size(); ++row) {
+      const QString name = QString::fromStdString(wanted.Rows[row].RealName);
+      QStringList cells;
+      for (std::size_t i = 1; i < columns.size(); ++i) {
+        cells << CellOf(columns[i], wanted.Details[row]);
+      }
+      auto* item = new QListWidgetItem(name, &list);
+      item->setData(ColumnList::kCellsRole, cells);
+      item->setData(Qt::AccessibleTextRole, (QStringList(name) + cells).join(", "));
+    }
   }
   shown = wanted;
   list.setCurrentRow(wanted.Selected ? static_cast<int>(*wanted.Selected) : -1);

@@ -5,9 +5,11 @@
 #include <QFrame>
 #include <QLabel>
 #include <QLineEdit>
-#include <QListWidget>
 #include <QToolButton>
+#include <array>
+#include <vector>
 
+#include "forms/controls/column_list.h"
 #include "info/search/search_panel.h"
 #include "shell/language.h"
 
@@ -23,6 +25,7 @@ class SearchEvents {
   virtual void GoToPlace() = 0;
   virtual void CloseSearch() = 0;
   virtual void FindGood() = 0;
+  virtual void SortList(SearchControl list, SearchColumn column) = 0;
 
   // Keys of the three controls. True if the key means nothing else.
   virtual bool MoveKey(int by) = 0;
@@ -46,19 +49,23 @@ class SearchPanelView : public QFrame {
  private:
   void ShowCaptions(TextSource& texts);
   void PlaceGoods(int height);
-  QListWidget* AddList(ControlId id);
-  void Fill(QListWidget& list, SearchList& shown, const SearchList& wanted);
+  ColumnList* AddList(ControlId id, SearchControl control);
+  void ShowColumns(ColumnList& list, const SearchPanel& panel, SearchControl control,
+                   TextSource& texts);
+  void Fill(ColumnList& list, SearchList& shown, const SearchList& wanted,
+            const std::vector<SearchColumn>& columns);
   bool KeyPress(QObject* control, int key);
 
   SearchEvents& events_;
   QLabel* caption_;
   QLineEdit* text_;
-  QListWidget* subSearch_;
-  QListWidget* list_;
+  ColumnList* subSearch_;
+  ColumnList* list_;
   QToolButton* close_;
   QToolButton* goods_;
   SearchList shownSubSearch_;
   SearchList shownList_;
+  std::array<std::vector<SearchColumn>, 2> columns_;  // of the upper and the lower list
 };
 
 }  // namespace orrerix

@@ -13,6 +13,7 @@
 
 #include "forms/controls/control_name.h"
 #include "forms/controls/form_geometry.h"
+#include "forms/station/price_colors.h"
 #include "picture/form_font.h"
 #include "picture/plain_tool_tip.h"
 
@@ -25,17 +26,15 @@ int Pixel(double twips) {
   return static_cast<int>(std::lround(Pixels(twips)));
 }
 
-// Letters that were measured to fill a label edge to edge become narrower, not lower, to leave its
-// margins free.
-void DrawText(QPainter& painter, const QRect& place, int alignment, const QString& text) {
-  const double width = QFontMetricsF(painter.font()).horizontalAdvance(text);
-  const double narrow = width > place.width() ? place.width() / width : 1;
-  painter.save();
-  painter.translate(place.left(), 0);
-  painter.scale(narrow, 1);
-  painter.drawText(QRectF(0, place.top(), place.width() / narrow, place.height()),
-                   alignment | Qt::TextSingleLine | Qt::TextDontClip, text);
-  painter.restore();
+// Letters as high as a row allows, within what reads well.
+int LettersFor(const std::vector<PriceTable>& tables) {
+  constexpr int smallest = 7;
+  constexpr int largest = 11;
+  constexpr double twipsPerPoint = 20;
+  constexpr double lineHeight = 1.25;  // of the letters
+  if (tables.empty()) return largest;
+  const double room = tables.front().Head.Place.Height / (twipsPerPoint * lineHeight);
+  return std::clamp(static_cast<int>(room), smallest, largest);
 }
 
 class LabelDelegate : public QStyledItemDelegate {
@@ -52,11 +51,14 @@ class LabelDelegate : public QStyledItemDelegate {
       painter->drawLine(option.rect.topLeft(), option.rect.bottomLeft());
     }
     painter->setFont(index.data(Qt::FontRole).value<QFont>());
-    painter->setPen(index.data(Qt::ForegroundRole).value<QColor>());
-    DrawText(*painter, option.rect.adjusted(kPriceTableViewMargin, 0, -kPriceTableViewMargin, 0),
-             index.data(Qt::TextAlignmentRole).toInt(), index.data().toString());
+    const auto letters = index.data(Qt::ForegroundRole).value<QColor>();
+    painter->setPen(letters);
+    const QRect place = option.rect.adjusted(kPriceTableViewMargin, 0, -kPriceTableViewMargin, 0);
+    painter->drawText(place, index.data(Qt::TextAlignmentRole).toInt() | Qt::TextSingleLine,
+                      QFontMetrics(painter->font())
+                          .elidedText(index.data().toString(), Qt::ElideRight, place.width()));
     if (option.state & QStyle::State_Selected) {
-      painter->setPen(Qt::white);
+      painter->setPen(QPen(letters, 2));
       painter->drawLine(option.rect.topLeft(), option.rect.topRight());
       painter->drawLine(option.rect.bottomLeft(), option.rect.bottomRight());
     }
@@ -70,9 +72,10 @@ void PriceTableModel::Show(std::vector<PriceTable> tables) {
   tables_ = std::move(tables);
   lines_.clear();
   for (const PriceTable& table : tables_) {
-    lines_.push_back({&table.Head, nullptr});
-    for (const PriceRow& row : table.Rows) lines_.push_back({nullptr, &row});
+    lines_.push_back({&table.Head, nullptr, table.Group});
+    for (const PriceRow& row : table.Rows) lines_.push_back({nullptr, &row, table.Group});
   }
+  fontSize_ = LettersFor(tables_);
   endResetModel();
 }
 
@@ -89,34 +92,41 @@ int PriceTableModel::columnCount(const QModelIndex& parent) const {
   return parent.isValid() ? 0 : kPriceColumns;
 }
 
+QString PriceTableModel::Text(const Line& line, int column) const {
+  if (const PriceLabel* label = line.Label(column)) return QString::fromStdString(label->Caption);
+  return QString::fromStdString(
+      texts_.Text(column == 1 ? TextId::HeadPrice : TextId::HeadDifference));
+}
+
 QVariant PriceTableModel::data(const QModelIndex& index, int role) const {
   const Line& line = At(index.row());
-  const PriceLabel* label = line.Label(index.column());
-  if (label == nullptr) return {};
+  const PriceColors colors = line.Row == nullptr ? PriceHeadColors() : PriceRowColors(line.Group);
   switch (role) {
     case Qt::DisplayRole:
-      return QString::fromStdString(label->Caption);
-    case Qt::FontRole:
-      return FormFont(label->FontSize);
+      return Text(line, index.column());
+    case Qt::FontRole: {
+      QFont font = FormFont(fontSize_);
+      font.setBold(line.Row == nullptr && index.column() == 0);
+      return font;
+    }
     case Qt::BackgroundRole:
-      return ToQColor(label->BackColor);
+      return colors.Ground;
     case Qt::ForegroundRole:
-      return ToQColor(label->ForeColor);
+      return colors.Letters;
     case Qt::TextAlignmentRole: {
       const bool isFigure = index.column() > 0;
       return static_cast<int>((isFigure ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
     }
-    case Qt::ToolTipRole: {
-      // The name of a trade may be cut off in its label.
-      const bool isTradeName = index.column() == 0 && line.Row != nullptr && line.Row->IsTrade;
-      return isTradeName ? PlainToolTip(label->Caption) : QVariant();
-    }
+    case Qt::ToolTipRole:
+      // A text may be cut off in its cell.
+      return PlainToolTip(Text(line, index.column()).toStdString());
     default:
       return {};
   }
 }
 
-PriceTableView::PriceTableView(QWidget* parent) : QTableView(parent), model_(this) {
+PriceTableView::PriceTableView(TextSource& texts, QWidget* parent)
+    : QTableView(parent), model_(texts, this) {
   setObjectName(NameOf(ControlId::PriceTable));
   setModel(&model_);
   setItemDelegate(new LabelDelegate(this));
@@ -137,7 +147,6 @@ PriceTableView::PriceTableView(QWidget* parent) : QTableView(parent), model_(thi
 }
 
 void PriceTableView::Show(std::vector<PriceTable> tables) {
-  clearSpans();
   model_.Show(std::move(tables));
   if (model_.rowCount() == 0) return;
   bool hasPrices = false;
@@ -147,10 +156,7 @@ void PriceTableView::Show(std::vector<PriceTable> tables) {
     const auto& box = line.Label(0)->Place;
     bottom = Pixel(box.Bottom());
     setRowHeight(row, bottom - Pixel(box.Top));
-    if (line.Row == nullptr) {
-      setSpan(row, 0, 1, kPriceColumns);
-      continue;
-    }
+    if (line.Row == nullptr) continue;
     hasPrices = true;
     for (int column = 0; column < kPriceColumns; ++column) {
       const auto& cell = line.Label(column)->Place;
@@ -160,7 +166,7 @@ void PriceTableView::Show(std::vector<PriceTable> tables) {
   const auto& head = model_.At(0).Label(0)->Place;
   if (!hasPrices) {
     for (int column = 0; column < kPriceColumns; ++column) {
-      setColumnWidth(column, Pixel(head.Width) / kPriceColumns);
+      setColumnWidth(column, Pixel(head.Width) * (column == 0 ? 4 : 1) / 6);
     }
   }
   // The labels reach to the window's outer edge; what its frame hides goes off the last column,

@@ -7,20 +7,25 @@
 #include <vector>
 
 #include "info/station/price_table.h"
+#include "shell/language.h"
 
 namespace orrerix {
 
 inline constexpr int kPriceColumns = 3;  // name, price and difference
 
-// The price tables of a station window as one list of rows: each head, then the prices below it.
+// The price tables of a station window as one list of rows: each head, with the captions of the
+// columns beside it, then the prices below it. All rows have letters of one size.
 class PriceTableModel : public QAbstractTableModel {
  public:
-  using QAbstractTableModel::QAbstractTableModel;
+  // `texts` outlives this.
+  PriceTableModel(TextSource& texts, QObject* parent)
+      : QAbstractTableModel(parent), texts_(texts) {}
 
-  // A row of the list: a head over all columns, or prices.
+  // A row of the list: a head, or prices.
   struct Line {
     const PriceLabel* Head;  // null of prices
     const PriceRow* Row;     // null of a head
+    int Group = 0;
 
     // What stands in a column; null beside a head.
     const PriceLabel* Label(int column) const;
@@ -35,15 +40,20 @@ class PriceTableModel : public QAbstractTableModel {
   QVariant data(const QModelIndex& index, int role) const override;
 
  private:
+  QString Text(const Line& line, int column) const;
+
+  TextSource& texts_;
   std::vector<PriceTable> tables_;
   std::vector<Line> lines_;  // into tables_
+  int fontSize_ = 0;         // points
 };
 
-// The price tables of a station window: every label in its own colour and font. Rows can be
-// selected; copying takes them as text, a TAB between the columns.
+// The price tables of a station window, each group in its own colour. Rows can be selected; copying
+// takes them as text, a TAB between the columns.
 class PriceTableView : public QTableView {
  public:
-  explicit PriceTableView(QWidget* parent);
+  // `texts` outlives this.
+  PriceTableView(TextSource& texts, QWidget* parent);
 
   // Shows the tables at their places, twips from the parent's corner.
   void Show(std::vector<PriceTable> tables);

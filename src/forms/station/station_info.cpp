@@ -22,6 +22,10 @@
 namespace orrerix {
 namespace {
 
+constexpr int kCascadeStep = 32;  // pixels, about a title bar
+constexpr int kCascadeSteps = 8;
+constexpr QSize kSmallestStation{320, 240};
+constexpr const char* kSizeKey = "station/size";
 constexpr int kIconPixels = 64;
 constexpr int kTravelIconPixels = 36;
 constexpr QRgb kStationInfoBackground = 0xFF000040;
@@ -48,8 +52,9 @@ constexpr std::array<TextId, kModeButtons> kModeNames = {
 
 }  // namespace
 
-StationInfo::StationInfo(const StationParts& parts, std::string nickname, std::string picture)
-    : parts_(parts), nick_(std::move(nickname)), picture_(std::move(picture)) {
+StationInfo::StationInfo(const StationParts& parts, std::string nickname, std::string picture,
+                         int step)
+    : parts_(parts), nick_(std::move(nickname)), picture_(std::move(picture)), step_(step) {
   setObjectName("StationInfo");
   QPalette colors = palette();
   colors.setColor(QPalette::Window, QColor(kStationInfoBackground));
@@ -59,7 +64,7 @@ StationInfo::StationInfo(const StationParts& parts, std::string nickname, std::s
   MakeTravelButtons();
   infoText_ = new TextBox(ControlId::BoxText, this);
   infoText_->setAccessibleName(Caption(TextId::Information));
-  prices_ = new PriceTableView(this);
+  prices_ = new PriceTableView(parts_.Texts, this);
   prices_->setAccessibleName(Caption(TextId::Prices));
   searchFrame_ = new QGroupBox(this);
   searchFrame_->setObjectName(NameOf(ControlId::ForSaleFrame));
@@ -146,15 +151,22 @@ void StationInfo::MakeTravelButtons() {
   }
 }
 
-// The right-hand third of the screen, decoration included.
+// Decoration included: the right-hand third of the screen, or the size that the user gave a window
+// before. Each step is one of a title bar to the left and down, and ends above the same lower edge.
 void StationInfo::Place() {
   constexpr int kept = 400;  // twips of the screen's height
   const QRect all = screen()->geometry();
-  const int third = all.width() / 3;
-  place_ = QRect(all.left() + all.width() - third, all.top(), third,
-                 all.height() - static_cast<int>(Pixels(kept)));
+  QSize size(all.width() / 3, all.height() - static_cast<int>(Pixels(kept)));
+  const QSize remembered = RememberedSize();
+  if (remembered.isValid()) size = remembered.boundedTo(size.expandedTo({all.width(), 0}));
+  const int shift = step_ * kCascadeStep;
+  const int left = std::max(all.left(), all.left() + all.width() - size.width() - shift);
+  const int lowest = all.top() + all.height() - static_cast<int>(Pixels(kept));
+  size.setHeight(std::min(size.height(), lowest - all.top() - shift));
+  place_ = QRect(QPoint(left, all.top() + shift), size);
   move(place_.topLeft());
   resize(place_.size() - Decoration());
+  placedSize_ = this->size();
 }
 
 // Only once it is on the screen does the window know its own decoration, which may be another than
@@ -162,9 +174,24 @@ void StationInfo::Place() {
 void StationInfo::Settle() {
   if (std::exchange(settled_, true)) return;
   const QSize inner = place_.size() - Decoration();
+  placedSize_ = inner;
   if (size() == inner) return ShowView();
   move(place_.topLeft());
   resize(inner);
+}
+
+// Outer; not valid if there is none.
+QSize StationInfo::RememberedSize() const {
+  QSettings* settings = parts_.Remembered ? parts_.Remembered() : nullptr;
+  const QSize size = settings == nullptr ? QSize() : settings->value(kSizeKey).toSize();
+  return size.isValid() ? size.expandedTo(kSmallestStation) : QSize();
+}
+
+// Only what the user has changed: the size of a place is not one to be kept.
+void StationInfo::RememberSize() const {
+  QSettings* settings = parts_.Remembered ? parts_.Remembered() : nullptr;
+  const bool isOwn = settled_ && size() != placedSize_ && windowState() == Qt::WindowNoState;
+  if (settings != nullptr && isOwn) settings->setValue(kSizeKey, frameGeometry().size());
 }
 
 QSize StationInfo::Decoration() const {
@@ -306,14 +333,30 @@ void StationInfo::paintEvent(QPaintEvent* event) {
 
 void StationInfo::closeEvent(QCloseEvent* event) {
   event->accept();
+  RememberSize();
   if (OnClosed) OnClosed();
 }
 
 void StationWindows::Open(const std::string& nickname, const std::string& picture) {
-  windows_.push_back(std::make_unique<StationInfo>(parts_, nickname, picture));
+  windows_.push_back(std::make_unique<StationInfo>(parts_, nickname, picture, FreeStep()));
   StationInfo* window = windows_.back().get();
   window->OnClosed = [this, window] { Forget(window); };
   window->show();
+}
+
+void StationWindows::CloseAll() {
+  for (const auto& window : windows_) window->RememberSize();
+  windows_.clear();
+}
+
+// The first place at which no window stands; beyond the last they cover each other.
+int StationWindows::FreeStep() const {
+  for (int step = 0; step < kCascadeSteps; ++step) {
+    const bool isTaken = std::any_of(windows_.begin(), windows_.end(),
+                                     [&](const auto& window) { return window->Step() == step; });
+    if (!isTaken) return step;
+  }
+  return static_cast<int>(windows_.size()) % kCascadeSteps;
 }
 
 // The window's own event is on the stack: it goes with the next turn of the event loop.

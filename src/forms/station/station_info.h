@@ -5,6 +5,7 @@
 #include <QAbstractButton>
 #include <QGroupBox>
 #include <QListWidget>
+#include <QSettings>
 #include <QWidget>
 #include <array>
 #include <functional>
@@ -39,17 +40,29 @@ struct StationParts {
   std::function<void(const std::string&)> OnGoods = nullptr;
   std::function<void(const std::string&)> OnTrades = nullptr;
   std::function<void(const std::string&)> OnWay = nullptr;
+
+  // Where the size is kept that the user gave a window; null, or without it, none is.
+  std::function<QSettings*()> Remembered = nullptr;
 };
 
 // The station window of one object of the map: five views of what the universe knows of it.
 class StationInfo : public QWidget {
  public:
-  // `picture` is the name of the object's icon picture.
-  StationInfo(const StationParts& parts, std::string nickname, std::string picture);
+  // `picture` is the name of the object's icon picture. The window stands so many steps off the
+  // right-hand edge of the screen that those which stand there show beside it.
+  StationInfo(const StationParts& parts, std::string nickname, std::string picture, int step = 0);
+
+  int Step() const { return step_; }
 
   const std::string& Nick() const { return nick_; }
   const std::string& Picture() const { return picture_; }
   StationMode Mode() const { return modes_.Mode(); }
+
+  // Whether it has the size that its place asks for, which is once it is on the screen.
+  bool IsSettled() const { return settled_; }
+
+  // Keeps the size if the user has changed it. Closing does so, too.
+  void RememberSize() const;
 
   // Called when the user closes it, with nothing of it on the stack after that.
   std::function<void()> OnClosed;
@@ -67,6 +80,7 @@ class StationInfo : public QWidget {
   void MakeTravelButtons();
   void Place();
   void Settle();
+  QSize RememberedSize() const;
   QSize Decoration() const;
   void ReadAnew();
   void ShowView();
@@ -83,10 +97,12 @@ class StationInfo : public QWidget {
   const StationParts parts_;
   std::string nick_;
   std::string picture_;
+  int step_;
   StationData data_;
   StationModes modes_;
   StationTexts texts_;
   QRect place_;           // outer, pixels of the screen
+  QSize placedSize_;      // inner, as it was placed
   bool settled_ = false;  // it has the size that its place asks for with its real decoration
   QtTextMeasure formMeasure_;
   QtTextMeasure fixedMeasure_{FixedFont};
@@ -102,16 +118,17 @@ class StationWindows {
  public:
   explicit StationWindows(StationParts parts) : parts_(std::move(parts)) {}
 
-  // Shows one more. It is freed when it is closed, or with this.
+  // Shows one more, a step beside those that are open. It is freed when it is closed, or with this.
   void Open(const std::string& nickname, const std::string& picture);
 
-  void CloseAll() { windows_.clear(); }
+  void CloseAll();
 
   // Those that are open, the oldest first.
   const std::vector<std::unique_ptr<StationInfo>>& Windows() const { return windows_; }
 
  private:
   void Forget(const StationInfo* window);
+  int FreeStep() const;
 
   const StationParts parts_;
   std::vector<std::unique_ptr<StationInfo>> windows_;

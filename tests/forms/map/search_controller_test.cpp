@@ -39,8 +39,8 @@ class SearchControllerTest : public MapControllerFixture {
     return Find<Child>(map.Frame(), id);
   }
   QLineEdit& Text() { return Part<QLineEdit>(ControlId::SearchText); }
-  QListWidget& Upper() { return Part<QListWidget>(ControlId::FoundList); }
-  QListWidget& Lower() { return Part<QListWidget>(ControlId::PlaceList); }
+  ColumnList& Upper() { return Part<ColumnList>(ControlId::FoundList); }
+  ColumnList& Lower() { return Part<ColumnList>(ControlId::PlaceList); }
   bool InfoShown() { return Part(ControlId::BoxText).isVisible(); }
 
   SearchController search{map, Form(), play, log, language};
@@ -253,6 +253,42 @@ TEST_F(SearchControllerTest, ItsEntryForCommoditiesHandsTheTextOn) {
 
   EXPECT_EQ(sought, "gold");
   EXPECT_EQ(search.Text(), "gold");
+}
+
+TEST_F(SearchControllerTest, APlaceKeepsItsTextAndShowsItsSystemBeside) {
+  Add("Systems", {{"nickname", "quays"}, {"realname", "Harbour"}, {"pos", "3, 4"}});
+  search.OpenSearch(SearchType::Place);
+  QTest::keyClicks(&Text(), "quay");
+
+  const QListWidgetItem& item = *Lower().item(0);
+  EXPECT_EQ(item.text(), "Quay");
+  EXPECT_EQ(item.data(ColumnList::kCellsRole).toStringList(), QStringList{"Harbour"});
+  EXPECT_EQ(item.data(Qt::AccessibleTextRole).toString(), "Quay, Harbour");
+}
+
+TEST_F(SearchControllerTest, AHeadSortsAndMarksItself) {
+  search.OpenSearch(SearchType::Place);
+  auto& head = Find<QToolButton>(Lower(), "Head0");
+  ASSERT_EQ(Lower().item(4)->text(), "Quay");
+
+  head.click();
+  EXPECT_TRUE(head.text().endsWith("\u25B2")) << head.text().toStdString();
+  head.click();
+
+  EXPECT_EQ(Lower().item(0)->text(), "Quay");
+  EXPECT_TRUE(head.text().endsWith("\u25BC")) << head.text().toStdString();
+  EXPECT_FALSE(Find<QToolButton>(Lower(), "Head1").text().isEmpty());
+}
+
+TEST_F(SearchControllerTest, EnterGoesToTheRowThatIsSeenSelected) {
+  search.OpenSearch(SearchType::Place);
+  auto& head = Find<QToolButton>(Lower(), "Head0");
+  head.click();
+  head.click();
+
+  QTest::keyClick(&Text(), Qt::Key_Return);
+
+  EXPECT_THAT(stations, ElementsAre(testing::Pair("quay", testing::_)));
 }
 
 }  // namespace

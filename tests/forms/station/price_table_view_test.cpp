@@ -3,7 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include "forms/station/price_colors.h"
 #include "picture/form_font.h"
+#include "shell/language.h"
 
 namespace orrerix {
 namespace {
@@ -24,8 +26,9 @@ PriceTable Table() {
 
 class PriceTableViewTest : public ::testing::Test {
  protected:
+  FixedLanguage english{Language::English};
   QWidget form;
-  PriceTableView view{&form};
+  PriceTableView view{english, &form};
 };
 
 TEST_F(PriceTableViewTest, ItsRowsAreHeadsAndPrices) {
@@ -34,7 +37,14 @@ TEST_F(PriceTableViewTest, ItsRowsAreHeadsAndPrices) {
   ASSERT_EQ(view.model()->rowCount(), 2);
   EXPECT_EQ(view.model()->index(0, 0).data().toString(), "Head");
   EXPECT_EQ(view.model()->index(1, 1).data().toString(), "50");
-  EXPECT_EQ(view.columnSpan(0, 0), 3);
+}
+
+TEST_F(PriceTableViewTest, EachHeadNamesTheColumnsOfItsGroup) {
+  view.Show({Table()});
+
+  EXPECT_EQ(view.columnSpan(0, 0), 1);
+  EXPECT_EQ(view.model()->index(0, 1).data().toString(), "Price");
+  EXPECT_EQ(view.model()->index(0, 2).data().toString(), "Difference");
 }
 
 TEST_F(PriceTableViewTest, LabelsKeepTheirPlacesOnThePixelGrid) {
@@ -48,37 +58,53 @@ TEST_F(PriceTableViewTest, LabelsKeepTheirPlacesOnThePixelGrid) {
   EXPECT_EQ(view.columnWidth(1), 100);
 }
 
-TEST_F(PriceTableViewTest, EachLabelHasItsColourAndFont) {
+// A row of 710 twips would have letters of 28 points with a quarter of their height between lines.
+TEST_F(PriceTableViewTest, AllLettersHaveOneSizeThatReadsWell) {
+  PriceTable table = Table();
+  table.Rows[0].Price.FontSize = 30;
+  view.Show({table});
+
+  for (int column = 0; column < kPriceColumns; ++column) {
+    EXPECT_EQ(view.model()->index(1, column).data(Qt::FontRole).value<QFont>(), FormFont(11));
+  }
+}
+
+// 250 twips are 10 points and a line's distance.
+TEST_F(PriceTableViewTest, LowRowsHaveLowerLetters) {
+  PriceTable table = Table();
+  table.Head.Place.Height = 250;
+  view.Show({table});
+
+  EXPECT_EQ(view.model()->index(1, 0).data(Qt::FontRole).value<QFont>(), FormFont(10));
+}
+
+TEST_F(PriceTableViewTest, ARowHasTheColoursOfItsGroup) {
   view.Show({Table()});
 
   const QModelIndex cell = view.model()->index(1, 0);
-  EXPECT_EQ(cell.data(Qt::BackgroundRole).value<QColor>(), QColor(0, 0xC0, 0));
-  EXPECT_EQ(cell.data(Qt::FontRole).value<QFont>(), FormFont(12));
+  EXPECT_EQ(cell.data(Qt::BackgroundRole).value<QColor>(), PriceRowColors(2).Ground);
+  EXPECT_EQ(cell.data(Qt::ForegroundRole).value<QColor>(), PriceRowColors(2).Letters);
 }
 
-// Their size is that at which they fill the column.
-TEST_F(PriceTableViewTest, LettersThatFillAColumnLeaveItsMarginsFree) {
+TEST_F(PriceTableViewTest, ATextThatDoesNotFitLeavesTheMarginsFree) {
   PriceTable table = Table();
-  table.Rows[0].Price.Caption = "MMMMMMMMMM";  // ten of 12 points and more, in 100 pixels
+  table.Rows[0].Price.Caption = "MMMMMMMMMMMMMMMM";  // 16 of 11 points and more, in 100 pixels
   view.Show({table});
 
   const QImage image = view.grab().toImage();
 
-  const QColor ground(0, 0xC0, 0);
   for (int y = 48; y < 95; ++y) {
     for (const int x : {401, 402, 403, 497, 498, 499}) {  // at 400 a line parts the columns
-      EXPECT_EQ(image.pixelColor(x, y), ground) << x << ", " << y;
+      EXPECT_EQ(image.pixelColor(x, y), PriceRowColors(2).Ground) << x << ", " << y;
     }
   }
 }
 
-TEST_F(PriceTableViewTest, ATradeTellsItsWholeNameInATip) {
-  PriceTable table = Table();
-  table.Rows[0].IsTrade = true;
-  view.Show({table});
+TEST_F(PriceTableViewTest, EachCellTellsItsWholeTextInATip) {
+  view.Show({Table()});
 
   EXPECT_EQ(view.model()->index(1, 0).data(Qt::ToolTipRole).toString(), "<span>Gold</span>");
-  EXPECT_FALSE(view.model()->index(1, 1).data(Qt::ToolTipRole).isValid());
+  EXPECT_EQ(view.model()->index(1, 1).data(Qt::ToolTipRole).toString(), "<span>50</span>");
 }
 
 TEST_F(PriceTableViewTest, HeadsAloneFillTheWidth) {
@@ -94,7 +120,7 @@ TEST_F(PriceTableViewTest, HeadsAloneFillTheWidth) {
 TEST_F(PriceTableViewTest, WhatTheWindowsFrameHidesGoesOffTheLastColumn) {
   QWidget window;
   window.resize(590, 400);
-  auto* inWindow = new PriceTableView(&window);
+  auto* inWindow = new PriceTableView(english, &window);
 
   // 600 pixels: 400, 100 and 100
   PriceTable table;

@@ -22,11 +22,14 @@ class StationWindowsTest : public FormFixture {
   CellNames names;
   FailTest mustWork;
   Database db = DBEngine::CreateInMemory(mustWork);
+  QSettings remembered{QString::fromStdString((folder.Path() / "tools.ini").string()),
+                       QSettings::IniFormat};
   StationWindows stations{{log, pictures, sound, english, names,
                            [this](Routine&) {
                              return Universe{log, db};
                            },
-                           [] { return QSize(0, 0); }}};
+                           [] { return QSize(0, 0); }, nullptr, nullptr, nullptr,
+                           [this] { return &remembered; }}};
 };
 
 TEST_F(StationWindowsTest, SeveralStandSideBySideEvenOfOneObject) {
@@ -63,6 +66,57 @@ TEST_F(StationWindowsTest, AWindowOpensInTheRightThirdOfTheScreen) {
   ASSERT_TRUE(WaitUntil([&] { return window.frameGeometry().width() == all.width() / 3; }));
   EXPECT_EQ(window.frameGeometry().right(), all.right());
   EXPECT_EQ(window.frameGeometry().height(), all.height() - 26);  // 400 twips
+}
+
+// Steps of 32 pixels.
+TEST_F(StationWindowsTest, FurtherWindowsStandAStepBesideThoseBefore) {
+  for (const char* name : {"li01_01_base", "li01_02_base", "li01_03_base"}) {
+    stations.Open(name, "Outpost");
+  }
+
+  const auto& windows = stations.Windows();
+  const QRect first = windows[0]->geometry();
+  EXPECT_EQ(windows[1]->geometry().topLeft(), first.topLeft() + QPoint(-32, 32));
+  EXPECT_EQ(windows[2]->geometry().topLeft(), first.topLeft() + QPoint(-64, 64));
+  // None reaches lower than the first.
+  EXPECT_EQ(windows[2]->geometry().bottom(), first.bottom());
+  EXPECT_EQ(windows[2]->width(), first.width());
+}
+
+TEST_F(StationWindowsTest, ThePlaceOfAClosedWindowIsTakenAgain) {
+  stations.Open("li01_01_base", "Outpost");
+  stations.Open("li01_02_base", "Outpost");
+  const QPoint first = stations.Windows()[0]->pos();
+  stations.Windows()[0]->close();
+
+  stations.Open("li01_03_base", "Outpost");
+
+  EXPECT_EQ(stations.Windows()[1]->pos(), first);
+}
+
+TEST_F(StationWindowsTest, ASizeThatTheUserGaveIsThatOfTheNext) {
+  stations.Open("li01_01_base", "Outpost");
+  StationInfo& window = *stations.Windows()[0];
+  ASSERT_TRUE(WaitUntil([&] { return window.IsSettled(); }));
+  window.resize(400, 300);
+  PassEvents();
+  const QSize outer = window.frameGeometry().size();
+  window.close();
+
+  stations.Open("li01_02_base", "Outpost");
+
+  const StationInfo& next = *stations.Windows()[0];
+  ASSERT_TRUE(WaitUntil([&] { return next.frameGeometry().size() == outer; }));
+  EXPECT_EQ(next.frameGeometry().right(), next.screen()->geometry().right());
+}
+
+TEST_F(StationWindowsTest, ASizeThatNobodyChangedIsNotKept) {
+  stations.Open("li01_01_base", "Outpost");
+  ASSERT_TRUE(WaitUntil([&] { return stations.Windows()[0]->IsSettled(); }));
+
+  stations.CloseAll();
+
+  EXPECT_TRUE(remembered.allKeys().isEmpty());
 }
 
 }  // namespace
