@@ -5,6 +5,7 @@
 #include <QPalette>
 #include <QToolTip>
 
+#include "forms/focus_style.h"
 #include "picture/form_font.h"
 
 namespace orrerix {
@@ -34,7 +35,7 @@ QPalette ProgramColors() {
 }  // namespace
 
 void SetProgramStyle() {
-  QApplication::setStyle("Fusion");
+  QApplication::setStyle(new FocusStyle);
   const QPalette colors = ProgramColors();
   QApplication::setPalette(colors);
   QToolTip::setPalette(colors);

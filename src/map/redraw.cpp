@@ -140,14 +140,16 @@ class Redraw {
                          state_.OptionsOpen,
                          state_.PrintMode,
                          view_.Measure,
-                         state_.InfoBackgroundHeight};
+                         state_.InfoBackgroundHeight,
+                         view_.Compact && !state_.PrintMode};
     Control panel = MakeFrame(ControlId::PanelFrame, 0, drawing_.PanelBox, kPanelBack);
     panel.ForeColor = kPanelText;
     SidePanel content;
     if (drawing_.Panel == PanelPlace::Right) {
       content = LayOutPanelRight(drawing_.PanelBox, view);
+      panel.ClipsChildren = !content.Overhangs;
       // A print has a form of its own; the screen's panel does not move because of it.
-      if (!state_.PrintMode) {
+      if (!state_.PrintMode && !content.Overhangs) {
         state_.PanelAtRight = drawing_.PanelBox;
         state_.InfoBackgroundHeight = content.BackgroundHeight;
       }

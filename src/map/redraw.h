@@ -53,6 +53,7 @@ struct MapView {
   const TextMeasure& Measure;
   const PanelContent& Panel;
   std::optional<std::string> StarMapFile = std::nullopt;  // in the place of the painted universe
+  bool Compact = false;  // a window so narrow that the panel has to make do; see there
 };
 
 enum class PanelPlace { None, Right, Below };

@@ -10,6 +10,7 @@
 
 #include "orrerix_main_fixture.h"
 #include "platform/path_text.h"
+#include "support/accessible_tree.h"
 #include "support/failure_sinks.h"
 
 namespace orrerix {
@@ -183,6 +184,50 @@ TEST_F(OrrerixMainMapTest, WithoutAPrinterTheUserIsToldAndTheFormIsRestored) {
   EXPECT_NE(messages.Shown[0].Text.find("this computer has no printer"), std::string::npos);
   EXPECT_FALSE(form->Map().State().PrintMode);
   EXPECT_TRUE(form->isMaximized());
+}
+
+TEST_F(OrrerixMainMapTest, WhileThereAreNoNewsTheirRoomTellsOfTheUniverse) {
+  auto& summary = Find<QListWidget>(*form, "Summary");
+  ASSERT_TRUE(WaitUntil([&] { return summary.isVisible(); }));
+  EXPECT_EQ(summary.item(0)->text(), "The universe in numbers");
+  EXPECT_EQ(summary.item(1)->text(), "Systems: 12");
+
+  ZoomIn();
+  EXPECT_NE(summary.item(0)->text(), "The universe in numbers");
+
+  form->ShowNews("1.0\r\ntip\r\nlink\r\nNews\r\nTip\r\nhttp://a\r\n");
+  form->Redraw();
+  EXPECT_FALSE(summary.isVisible());
+}
+
+TEST_F(OrrerixMainMapTest, ABaseOfTheSummaryOpensItsStation) {
+  auto& summary = Find<QListWidget>(*form, "Summary");
+  ASSERT_TRUE(WaitUntil([&] { return summary.isVisible(); }));
+  ZoomIn();
+  int base = 0;
+  while (base < summary.count() && !summary.item(base)->text().startsWith("    ")) ++base;
+  ASSERT_LT(base, summary.count());
+
+  summary.setCurrentRow(base);
+  QTest::keyClick(&summary, Qt::Key_Return);
+
+  ASSERT_EQ(form->Stations().Windows().size(), 1U);
+}
+
+// Every icon and tool, station window included, as a screen reader is told of it.
+TEST_F(OrrerixMainMapTest, TheTreeForScreenReadersNamesEverythingThatCanBePressed) {
+  ZoomIn();
+  form->Controller().OpenStationOf(StationIcon());
+
+  for (QWidget* window : {static_cast<QWidget*>(&*form),
+                          static_cast<QWidget*>(form->Stations().Windows().front().get())}) {
+    const std::vector<AccessibleLine> tree = AccessibleTree(*window);
+    EXPECT_GT(tree.size(), 10U);
+    for (const AccessibleLine& line : tree) {
+      if (line.Role != QAccessible::Button && line.Role != QAccessible::List) continue;
+      EXPECT_NE(line.Name, "") << TextOf(tree);
+    }
+  }
 }
 
 TEST_F(OrrerixMainMapTest, OnADesktopWithoutPrintersAMessageSaysSoAndTheFormStaysAsItIs) {

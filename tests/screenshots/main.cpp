@@ -15,6 +15,7 @@
 #include "forms/program_style.h"
 #include "forms/qt_services.h"
 #include "silent_services.h"
+#include "support/accessible_tree.h"
 #include "tour.h"
 
 namespace {
@@ -28,6 +29,7 @@ struct Words {
   std::string Format = "jpg";
   std::string Game;
   bool Contrast = false;
+  bool Tree = false;
 };
 
 // A screen of a size in device pixels, for a platform without any.
@@ -70,9 +72,10 @@ bool TakeAll(const Words& words, const std::filesystem::path& scratch) {
   run.OnEnd = [] {};
   Album album(QString::fromStdString(words.Folder), QString::fromStdString(words.Format));
   ContrastReport contrast;
-  if (words.Contrast) {
-    album.OnTaken = [&](const QString& name, QWidget& window) { contrast.Measure(name, window); };
-  }
+  album.OnTaken = [&](const QString& name, QWidget& window) {
+    if (words.Contrast) contrast.Measure(name, window);
+    if (words.Tree) fmt::print("{}\n{}\n", name.toStdString(), TextOf(AccessibleTree(window)));
+  };
   const bool complete = Tour(run, log, pictures, album).Go();
   return contrast.Print() && complete;
 }
@@ -94,6 +97,7 @@ int main(int argc, char** argv) {
   app.add_option("--game", words.Game, "A game folder; default: a demo game");
   app.add_flag("--contrast", words.Contrast,
                "Print the contrast of all texts; exit code 1 if one is below 4.5 to 1");
+  app.add_flag("--tree", words.Tree, "Print what a screen reader is told of each window");
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& error) {

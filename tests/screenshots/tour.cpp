@@ -2,10 +2,13 @@
 #include "tour.h"
 
 #include <QApplication>
+#include <QLineEdit>
 #include <QListWidget>
+#include <QStackedWidget>
 #include <QTest>
 #include <QTimer>
 #include <QTreeView>
+#include <QTreeWidget>
 #include <algorithm>
 #include <chrono>
 #include <stdexcept>
@@ -15,6 +18,7 @@
 
 #include <fmt/format.h>
 
+#include "forms/controls/captions.h"
 #include "forms/controls/control_name.h"
 #include "forms/start/spoiler.h"
 #include "forms/start/update.h"
@@ -112,6 +116,7 @@ bool Tour::Go() {
     TakeHover();
     TakeSearch();
     TakeStation();
+    TakeNarrow();
     TakeTools();
     TakeTravel();
     TakeUpdate();
@@ -252,6 +257,9 @@ void Tour::ClickPanel(ControlId id, int index) {
 
 void Tour::TakeSearch() {
   ClickPanel(ControlId::Tool, 0);
+  auto& places = ChildOf<QWidget>(*run_.Main(), NameOf(ControlId::PlaceList));
+  ChildOf<QAbstractButton>(places, "Head1").click();
+  PassEvents();
   TakeMain("search-places");
   ClickPanel(ControlId::Tool, 1);
   TakeMain("search-ships");
@@ -290,6 +298,43 @@ void Tour::TakeStation() {
   };
   for (const int mode : {0, 0, 2, 3}) take(mode);
   station->close();
+  PassEvents();
+}
+
+// Beside a game in a window of its own.
+void Tour::TakeNarrow() {
+  OrrerixMain& main = *run_.Main();
+  main.showNormal();
+  main.resize(720, 780);
+  PassEvents();
+  TakeMain("map-narrow");
+  main.ShowMaximised();
+  PassEvents();
+}
+
+// The tools' page of a name, with what it has read.
+QWidget& Tour::OpenPage(QWidget& window, TextId name) {
+  auto& pages = ChildOf<QListWidget>(window, "PageList");
+  const auto found = pages.findItems(CaptionIn(Language::English, name), Qt::MatchExactly);
+  if (found.isEmpty()) throw std::runtime_error("a page is missing");
+  pages.setCurrentItem(found.front());
+  PassEvents();
+  return *ChildOf<QStackedWidget>(window, "PageStack").currentWidget();
+}
+
+void Tour::TakeMapPages(QWidget& window) {
+  OpenPage(window, TextId::LayersPage);
+  Wait("the layers", [this] { return run_.Main()->Layers().Shown() != nullptr; });
+  album_.Take("tools-layers", window);
+  QWidget& find = OpenPage(window, TextId::FindPage);
+  auto& rows = ChildOf<QTreeWidget>(find, "FindRows");
+  ChildOf<QLineEdit>(find, "FindText").setText("station");
+  Wait("what was found", [&] { return rows.topLevelItemCount() > 0; });
+  album_.Take("tools-find", window);
+  QWidget& bookmarks = OpenPage(window, TextId::BookmarksPage);
+  ChildOf<QAbstractButton>(bookmarks, "BookmarkAdd").click();
+  PassEvents();
+  album_.Take("tools-bookmarks", window);
 }
 
 void Tour::TakeTools() {
@@ -310,6 +355,7 @@ void Tour::TakeTools() {
   pages.setCurrentRow(pages.count() - 1);
   PassEvents();
   album_.Take("tools-log", *window);
+  TakeMapPages(*window);
   window->close();
 }
 

@@ -28,7 +28,10 @@ class Tour {
   void TakeHover();
   void TakeSearch();
   void TakeStation();
+  void TakeNarrow();
   void TakeTools();
+  void TakeMapPages(QWidget& window);
+  static QWidget& OpenPage(QWidget& window, TextId name);
   void TakeTravel();
   void TakeUpdate();
   void TakeErrorLog();

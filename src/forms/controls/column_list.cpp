@@ -17,10 +17,10 @@ namespace {
 
 constexpr int kCellMargin = 3;  // pixels between a text and the ends of its column
 constexpr const char* kHeadStyle =
-    "QToolButton { border: none; border-bottom: 1px solid #3a54a0; background: #101c4c;"
-    " color: #c8d8ff; padding: 0 2px; }"
-    "QToolButton:hover { background: #1c2c60; }"
-    "QToolButton:focus { border: 1px solid #80ffff; }";
+    "QPushButton { border: none; border-bottom: 1px solid #3a54a0; background: #101c4c;"
+    " color: #c8d8ff; padding: 0 2px; text-align: left; }"
+    "QPushButton:hover { background: #1c2c60; }"
+    "QPushButton:focus { border: 1px solid #80ffff; }";
 
 class CellDelegate : public QStyledItemDelegate {
  public:
@@ -59,12 +59,12 @@ ColumnList::ColumnList(QWidget* parent) : RowList(parent) {
 void ColumnList::SetColumns(std::vector<Column> columns, const QString& headTip) {
   columns_ = std::move(columns);
   while (heads_.size() < columns_.size()) {
-    auto* head = new QToolButton(this);
+    auto* head = new QPushButton(this);
     const int column = static_cast<int>(heads_.size());
     head->setObjectName(QString("Head%1").arg(column));
     head->setStyleSheet(kHeadStyle);
     head->setFocusPolicy(Qt::TabFocus);
-    QObject::connect(head, &QToolButton::clicked, this, [this, column] {
+    QObject::connect(head, &QPushButton::clicked, this, [this, column] {
       if (OnHead) OnHead(column);
     });
     heads_.push_back(head);

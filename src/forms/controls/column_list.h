@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QToolButton>
+#include <QPushButton>
 #include <functional>
 #include <vector>
 
@@ -49,7 +49,7 @@ class ColumnList : public RowList {
   bool IsCut(const QModelIndex& index) const;
 
   std::vector<Column> columns_;
-  std::vector<QToolButton*> heads_;
+  std::vector<QPushButton*> heads_;
   int sortedBy_ = -1;
   bool descending_ = false;
 };

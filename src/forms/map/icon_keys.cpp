@@ -23,13 +23,18 @@ constexpr int kIconFocusRoom = 5;  // pixels around an icon
 
 class IconKeys::Key : public QAbstractButton {
  public:
-  Key(IconKeys& owner, QWidget* parent) : QAbstractButton(parent), owner_(owner) {
+  Key(IconKeys& owner, QWidget* parent) : QAbstractButton(parent), owner_(&owner) {
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setFocusPolicy(Qt::TabFocus);
     hide();
   }
 
   int Icon = 0;
+
+  void Detach() {
+    owner_ = nullptr;
+    disconnect();
+  }
 
   // `place` is that of the icon as it is at rest.
   void Follow(int icon, const QRect& place) {
@@ -52,20 +57,20 @@ class IconKeys::Key : public QAbstractButton {
   }
 
   void keyPressEvent(QKeyEvent* event) override {
-    if (!owner_.KeyPress(event->key())) event->ignore();
+    if (owner_ == nullptr || !owner_->KeyPress(event->key())) event->ignore();
   }
 
   void focusInEvent(QFocusEvent* event) override {
     QAbstractButton::focusInEvent(event);
     Surround();
     raise();
-    owner_.events_.Enter(Icon);
+    if (owner_ != nullptr) owner_->events_.Enter(Icon);
   }
 
   void focusOutEvent(QFocusEvent* event) override {
     QAbstractButton::focusOutEvent(event);
     Surround();
-    owner_.events_.Leave();
+    if (owner_ != nullptr) owner_->events_.Leave();
   }
 
  private:
@@ -77,12 +82,17 @@ class IconKeys::Key : public QAbstractButton {
     setGeometry(icon.adjusted(-kIconFocusRoom, -kIconFocusRoom, kIconFocusRoom, kIconFocusRoom));
   }
 
-  IconKeys& owner_;
+  IconKeys* owner_;  // null when it is gone
   QRect place_;
 };
 
 IconKeys::IconKeys(QAbstractScrollArea& frame, Events events)
     : frame_(frame), events_(std::move(events)) {}
+
+// The buttons live on and lose the focus later.
+IconKeys::~IconKeys() {
+  for (Key* key : keys_) key->Detach();
+}
 
 void IconKeys::MakeKeys(std::size_t count) {
   while (keys_.size() < count) {

@@ -27,8 +27,11 @@ class IconKeys {
   // Names of icons, for screen readers, in the order of the controls.
   using NamesOf = std::function<std::vector<std::string>(const std::vector<const Control*>& icons)>;
 
-  // The buttons belong to `frame`.
+  // The buttons belong to `frame`, which outlives this.
   IconKeys(QAbstractScrollArea& frame, Events events);
+  ~IconKeys();
+  IconKeys(const IconKeys&) = delete;
+  IconKeys& operator=(const IconKeys&) = delete;
 
   // Puts them where the icons of a drawing are. The names are asked for if the icons are others.
   // A focus on an icon that is gone goes to the map.

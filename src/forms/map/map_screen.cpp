@@ -12,6 +12,11 @@
 #include "picture/twips.h"
 
 namespace orrerix {
+namespace {
+
+constexpr int kCompactForm = 1020;  // outer width of a form beside the game, pixels
+
+}  // namespace
 
 MapScreen::MapScreen(PictureStore& pictures, Settings& settings, TextSource& texts, QWidget* form)
     : pictures_(pictures),
@@ -79,8 +84,9 @@ void MapScreen::Redraw(Universe& universe, int formWidth, int formHeight) {
   options_ = ReadOptions();
   // News and language may change while a question about a failure is open.
   const PanelContent panel = panel_;
-  MapDrawing drawing =
-      DrawMap(universe, state_, {formWidth, formHeight, options_, measure_, panel, starMap_});
+  MapDrawing drawing = DrawMap(universe, state_,
+                               {formWidth, formHeight, options_, measure_, panel, starMap_,
+                                formWidth <= Twips(kCompactForm)});
   // Leaves out pixels that the drawing covers only in part.
   const QRectF frame = Pixels(drawing.Frame);
   frame_->setGeometry(QRect(frame.topLeft().toPoint(), QSize(static_cast<int>(frame.width()),

@@ -30,8 +30,8 @@ constexpr const char* kSearchPanelViewStyle =
 
 // The first column takes what the others leave.
 ColumnList::Column HeadOf(SearchColumn column, bool isUpper, TextSource& texts) {
-  constexpr double systemShare = 0.34;
-  constexpr double priceShare = 0.22;
+  constexpr double systemShare = 0.3;
+  constexpr double priceShare = 0.21;
   const auto caption = [&](TextId id) { return QString::fromStdString(texts.Text(id)); };
   switch (column) {
     case SearchColumn::Name:

@@ -13,7 +13,7 @@
 namespace orrerix {
 namespace {
 
-constexpr int kSummaryFont = 9;
+constexpr int kSummaryFont = 10;
 constexpr int kSummaryInset = 8;  // pixels
 constexpr QSize kSmallestSummary{130, 54};
 constexpr int kOptionsFrame = 1;  // indices of the panel's frames
@@ -22,6 +22,7 @@ constexpr const char* kSummaryStyle =
     "QListWidget { background: transparent; color: #b8dcff; border: 1px solid transparent;"
     " outline: none; }"
     "QListWidget:focus { border-color: #80ffff; }"
+    "QListWidget::item { padding: 1px 2px; }"
     "QListWidget::item:hover { color: #ffffff; background: rgba(60, 90, 180, 90); }"
     "QListWidget::item:selected { color: #ffffff; background: rgba(60, 90, 180, 140); }";
 

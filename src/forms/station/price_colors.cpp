@@ -6,11 +6,11 @@
 namespace orrerix {
 
 PriceColors PriceRowColors(int group) {
-  // Dark slate, ochre, and a light blue with dark letters.
+  // Dark slate, ochre, and a steel blue with dark letters.
   static const std::array<PriceColors, kPriceGroups> colors = {
       PriceColors{QColor(0xFF262C4A), QColor(0xFFE4ECFF)},
       PriceColors{QColor(0xFF6E541A), QColor(0xFFFFF4DC)},
-      PriceColors{QColor(0xFF8CB4D2), QColor(0xFF06122A)}};
+      PriceColors{QColor(0xFF6A92B4), QColor(0xFF06122A)}};
   return colors[static_cast<std::size_t>(group)];
 }
 

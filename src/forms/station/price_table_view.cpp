@@ -26,16 +26,8 @@ int Pixel(double twips) {
   return static_cast<int>(std::lround(Pixels(twips)));
 }
 
-// Letters as high as a row allows, within what reads well.
-int LettersFor(const std::vector<PriceTable>& tables) {
-  constexpr int smallest = 7;
-  constexpr int largest = 11;
-  constexpr double twipsPerPoint = 20;
-  constexpr double lineHeight = 1.25;  // of the letters
-  if (tables.empty()) return largest;
-  const double room = tables.front().Head.Place.Height / (twipsPerPoint * lineHeight);
-  return std::clamp(static_cast<int>(room), smallest, largest);
-}
+constexpr int kSmallestLetters = 8;  // points
+constexpr int kLargestLetters = 11;
 
 class LabelDelegate : public QStyledItemDelegate {
  public:
@@ -75,7 +67,7 @@ void PriceTableModel::Show(std::vector<PriceTable> tables) {
     lines_.push_back({&table.Head, nullptr, table.Group});
     for (const PriceRow& row : table.Rows) lines_.push_back({nullptr, &row, table.Group});
   }
-  fontSize_ = LettersFor(tables_);
+  fontSize_ = LetterSize();
   endResetModel();
 }
 
@@ -92,10 +84,33 @@ int PriceTableModel::columnCount(const QModelIndex& parent) const {
   return parent.isValid() ? 0 : kPriceColumns;
 }
 
+// Beside a head the caption of the column.
 QString PriceTableModel::Text(const Line& line, int column) const {
   if (const PriceLabel* label = line.Label(column)) return QString::fromStdString(label->Caption);
   return QString::fromStdString(
       texts_.Text(column == 1 ? TextId::HeadPrice : TextId::HeadDifference));
+}
+
+// The largest size within what reads well at which no text is cut; the smallest if there is none.
+int PriceTableModel::LetterSize() const {
+  int size = kLargestLetters;
+  while (size > kSmallestLetters && !Fits(size)) --size;
+  return size;
+}
+
+bool PriceTableModel::Fits(int fontSize) const {
+  const QFontMetrics letters(FormFont(fontSize));
+  return std::all_of(lines_.begin(), lines_.end(), [&](const Line& line) {
+    if (letters.height() > Pixel(line.Label(0)->Place.Height)) return false;
+    if (line.Row == nullptr) return true;
+    for (int column = 0; column < kPriceColumns; ++column) {
+      const int room = Pixel(line.Label(column)->Place.Width) - 2 * kPriceTableViewMargin;
+      const int head =
+          column == 0 ? 0 : letters.horizontalAdvance(Text({nullptr, nullptr}, column));
+      if (std::max(head, letters.horizontalAdvance(Text(line, column))) > room) return false;
+    }
+    return true;
+  });
 }
 
 QVariant PriceTableModel::data(const QModelIndex& index, int role) const {

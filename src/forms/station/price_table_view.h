@@ -41,6 +41,8 @@ class PriceTableModel : public QAbstractTableModel {
 
  private:
   QString Text(const Line& line, int column) const;
+  int LetterSize() const;
+  bool Fits(int fontSize) const;
 
   TextSource& texts_;
   std::vector<PriceTable> tables_;

@@ -39,6 +39,12 @@ constexpr int kCreditFont = 8;
 constexpr int kNewsFont = 9;
 constexpr int kOptionFont = 8;
 
+// Of a compact panel: the least room for news, and the smallest logo, twips.
+constexpr double kNewsWidth = 3000;
+constexpr double kNewsRoom = 1500;
+constexpr double kSmallestLogo = 1500;
+constexpr double kCompactGap = 50;
+
 // Design size of the head band; only the ratio counts.
 constexpr double kHeadBandHeight = 615;
 constexpr double kHeadBandWidth = 8115;
@@ -209,9 +215,14 @@ InfoBox MakeInfoBox(const TwipRect& panel, double top, const PanelView& view) {
       WithSize(kInnerLeft, top, panel.Width - kInnerLeft - kInnerRight, panel.Height - top);
   info.Frame = InfoFrame(box);
   InfoBoxFoot foot = FootOf(box, content, view.Measure);
+  const double bandHeight = box.Width / kHeadBandWidth * kHeadBandHeight;
+  const bool hasLogo =
+      !view.Compact || foot.Slogan.Place.Top >= kBorderThickness + bandHeight + kNewsRoom;
+  if (!hasLogo) {
+    foot.Slogan.Place.Top = NotBelowZero(foot.Credit.Place.Top - foot.Slogan.Place.Height);
+  }
   const double sloganTop = foot.Slogan.Place.Top;
 
-  const double bandHeight = box.Width / kHeadBandWidth * kHeadBandHeight;
   TwipRect background =
       WithSize(kBorderThickness, kBorderThickness, box.Width - 2 * kBorderThickness,
                sloganTop - kBorderThickness - kBorderThickness);
@@ -224,7 +235,7 @@ InfoBox MakeInfoBox(const TwipRect& panel, double top, const PanelView& view) {
   Append(children, NewsLabels(content, box.Width, kBorderThickness + bandHeight));
   info.NewsScrolls = !content.News.empty() && children.back().Place.Bottom() > sloganTop;
   Append(children, Border(view, BorderSet::InfoBox, box.Width, sloganTop));
-  children.push_back(std::move(foot.LogoPicture));
+  if (hasLogo) children.push_back(std::move(foot.LogoPicture));
   children.push_back(std::move(foot.Slogan));
   children.push_back(std::move(foot.Credit));
   return info;
@@ -264,6 +275,49 @@ Control InfoFrameBelow(const TwipRect& panel, const PanelContent& content) {
   return frame;
 }
 
+// Tools, news and logo side by side. The tools give way first, then the logo.
+struct CompactRow {
+  double Tools = 0;  // widths
+  double News = 0;
+  double Logo = 0;  // 0 for none
+};
+
+CompactRow CompactRowIn(const TwipRect& panel, double toolsWidth, const PanelContent& content) {
+  const double logo = FitLogo(content, panel.Width, panel.Height - 2 * kCompactGap).Width;
+  const double others = kNewsWidth + logo + 3 * kCompactGap;
+  CompactRow row;
+  row.Tools = std::min(toolsWidth, std::max(kNarrowestPanel, NotBelowZero(panel.Width - others)));
+  const double room = NotBelowZero(panel.Width - row.Tools);
+  row.Logo = std::min(logo, room - kNewsWidth - 3 * kCompactGap);
+  if (row.Logo < kSmallestLogo) row.Logo = 0;
+  row.News = NotBelowZero(room - row.Logo - 3 * kCompactGap);
+  return row;
+}
+
+Control CompactInfoFrame(const TwipRect& panel, const CompactRow& row,
+                         const PanelContent& content) {
+  Control frame = InfoFrame(WithSize(0, 0, panel.Width, panel.Height));
+  ControlList news = NewsLabels(content, row.News, 0);
+  for (Control& label : news) label.Place.Left = row.Tools + kCompactGap;
+  Append(frame.Children, std::move(news));
+  if (row.Logo <= 0) return frame;
+  TwipRect logo = FitLogo(content, row.Logo, NotBelowZero(panel.Height - 2 * kCompactGap));
+  logo.Left = panel.Width - logo.Width - kCompactGap;
+  logo.Top = panel.Height - logo.Height - kCompactGap;
+  frame.Children.push_back(Logo(content, logo));
+  return frame;
+}
+
+// A panel too narrow for tools: they reach over the map at its left, and nothing else is there.
+SidePanel LayOutNarrowRight(const TwipRect& panel, const PanelView& view) {
+  SidePanel laidOut;
+  laidOut.Overhangs = true;
+  laidOut.Controls = ToolsAndOptions(kNarrowestPanel, view);
+  const double left = std::min(panel.Left, kNarrowestPanel - panel.Width);
+  for (Control& control : laidOut.Controls) control.Place.Left -= left;
+  return laidOut;
+}
+
 }  // namespace
 
 PanelContent PanelTexts(TextSource& texts) {
@@ -284,6 +338,7 @@ PanelContent PanelTexts(TextSource& texts) {
 }
 
 SidePanel LayOutPanelRight(const TwipRect& panel, const PanelView& view) {
+  if (view.Compact && panel.Width < kNarrowestPanel) return LayOutNarrowRight(panel, view);
   SidePanel laidOut;
   laidOut.Controls = ToolsAndOptions(panel.Width, view);
   Control optionsFrame = std::move(laidOut.Controls.back());
@@ -297,7 +352,9 @@ SidePanel LayOutPanelRight(const TwipRect& panel, const PanelView& view) {
 }
 
 SidePanel LayOutPanelBelow(const TwipRect& panel, const TwipRect& atRight, const PanelView& view) {
-  const double width = FittingWidth(panel, std::min(atRight.Width, panel.Width), view);
+  const double fitting = FittingWidth(panel, std::min(atRight.Width, panel.Width), view);
+  const CompactRow row = CompactRowIn(panel, fitting, view.Content);
+  const double width = view.Compact ? row.Tools : fitting;
   ControlList inFront = ToolsAndOptions(width, view);
   SidePanel laidOut;
   const double missing = inFront.back().Place.Bottom() - panel.Height;
@@ -306,7 +363,8 @@ SidePanel LayOutPanelBelow(const TwipRect& panel, const TwipRect& atRight, const
     const double up = std::min(missing, panel.Top);
     for (Control& control : inFront) control.Place.Top -= up;
   }
-  laidOut.Controls.push_back(InfoFrameBelow(panel, view.Content));
+  laidOut.Controls.push_back(view.Compact ? CompactInfoFrame(panel, row, view.Content)
+                                          : InfoFrameBelow(panel, view.Content));
   Append(laidOut.Controls, std::move(inFront));
   return laidOut;
 }

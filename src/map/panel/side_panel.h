@@ -49,6 +49,9 @@ struct PanelView {
   const TextMeasure& Measure;
   // Of the info box's background as the screen last showed it, twips; a print keeps it.
   std::optional<double> BackgroundHeight = std::nullopt;
+  // The form is narrow, beside the game: tools become smaller before anything else goes, and the
+  // logo goes before the news.
+  bool Compact = false;
 };
 
 struct SidePanel {

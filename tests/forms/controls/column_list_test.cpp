@@ -19,8 +19,8 @@ class ColumnListTest : public ::testing::Test {
     list.show();
   }
 
-  QToolButton& Head(int column) {
-    return *list.findChild<QToolButton*>(QString("Head%1").arg(column));
+  QPushButton& Head(int column) {
+    return *list.findChild<QPushButton*>(QString("Head%1").arg(column));
   }
 
   ColumnList list{nullptr};

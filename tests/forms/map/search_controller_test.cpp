@@ -268,7 +268,7 @@ TEST_F(SearchControllerTest, APlaceKeepsItsTextAndShowsItsSystemBeside) {
 
 TEST_F(SearchControllerTest, AHeadSortsAndMarksItself) {
   search.OpenSearch(SearchType::Place);
-  auto& head = Find<QToolButton>(Lower(), "Head0");
+  auto& head = Find<QPushButton>(Lower(), "Head0");
   ASSERT_EQ(Lower().item(4)->text(), "Quay");
 
   head.click();
@@ -277,12 +277,12 @@ TEST_F(SearchControllerTest, AHeadSortsAndMarksItself) {
 
   EXPECT_EQ(Lower().item(0)->text(), "Quay");
   EXPECT_TRUE(head.text().endsWith("\u25BC")) << head.text().toStdString();
-  EXPECT_FALSE(Find<QToolButton>(Lower(), "Head1").text().isEmpty());
+  EXPECT_FALSE(Find<QPushButton>(Lower(), "Head1").text().isEmpty());
 }
 
 TEST_F(SearchControllerTest, EnterGoesToTheRowThatIsSeenSelected) {
   search.OpenSearch(SearchType::Place);
-  auto& head = Find<QToolButton>(Lower(), "Head0");
+  auto& head = Find<QPushButton>(Lower(), "Head0");
   head.click();
   head.click();
 

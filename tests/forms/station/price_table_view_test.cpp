@@ -58,8 +58,7 @@ TEST_F(PriceTableViewTest, LabelsKeepTheirPlacesOnThePixelGrid) {
   EXPECT_EQ(view.columnWidth(1), 100);
 }
 
-// A row of 710 twips would have letters of 28 points with a quarter of their height between lines.
-TEST_F(PriceTableViewTest, AllLettersHaveOneSizeThatReadsWell) {
+TEST_F(PriceTableViewTest, AllLettersHaveOneSizeWhateverTheLabelsHave) {
   PriceTable table = Table();
   table.Rows[0].Price.FontSize = 30;
   view.Show({table});
@@ -69,13 +68,23 @@ TEST_F(PriceTableViewTest, AllLettersHaveOneSizeThatReadsWell) {
   }
 }
 
-// 250 twips are 10 points and a line's distance.
-TEST_F(PriceTableViewTest, LowRowsHaveLowerLetters) {
+// 92 pixels are too few for ten wide letters of 9 points, let alone more.
+TEST_F(PriceTableViewTest, ALongTextMakesAllLettersSmallerButNotTooSmall) {
   PriceTable table = Table();
-  table.Head.Place.Height = 250;
+  table.Rows[0].Price.Caption = "MMMMMMMMMM";
   view.Show({table});
 
-  EXPECT_EQ(view.model()->index(1, 0).data(Qt::FontRole).value<QFont>(), FormFont(10));
+  EXPECT_EQ(view.model()->index(1, 0).data(Qt::FontRole).value<QFont>(), FormFont(8));
+}
+
+// 210 twips are 14 pixels: lower than a line of 11 points, which are 15 pixels.
+TEST_F(PriceTableViewTest, LowRowsHaveLowerLetters) {
+  PriceTable table = Table();
+  table.Head.Place.Height = 210;
+  view.Show({table});
+
+  EXPECT_LT(view.model()->index(1, 0).data(Qt::FontRole).value<QFont>().pixelSize(),
+            FormFont(11).pixelSize());
 }
 
 TEST_F(PriceTableViewTest, ARowHasTheColoursOfItsGroup) {

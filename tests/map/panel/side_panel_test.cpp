@@ -236,5 +236,77 @@ TEST_F(Panel, ABorderThatFailsLeavesTheRestOfThePanel) {
   EXPECT_NE(Find(panel.Controls, ControlId::Logo, std::nullopt), nullptr);
 }
 
+class CompactPanel : public Panel {
+ protected:
+  PanelView Compact() {
+    PanelView view = View();
+    view.Compact = true;
+    return view;
+  }
+  SidePanel Below(double width, double height) {
+    return LayOutPanelBelow({0, 9000, width, height}, kAtRight, Compact());
+  }
+};
+
+// The logo is four times as wide as high. 3000 high it would be 2900 high and 11600 wide.
+TEST_F(CompactPanel, BelowToolsNewsAndLogoStandSideBySide) {
+  const SidePanel panel = Below(12000, 3000);
+
+  const TwipRect& tools = Find(panel.Controls, ControlId::PanelFrame, 1)->Place;
+  const TwipRect& news = Find(panel.Controls, ControlId::NewsLabel, 0)->Place;
+  const TwipRect& logo = Find(panel.Controls, ControlId::Logo, std::nullopt)->Place;
+  EXPECT_GE(news.Left, tools.Right());
+  EXPECT_GE(news.Width, 3000);
+  EXPECT_GE(logo.Left, news.Right());
+  EXPECT_LE(logo.Right(), 12000);
+}
+
+// 1750 high the logo is 1650 high and 6600 wide: beside it, the news' 3000 and three gaps of 50
+// twips 14000 - 6600 - 3000 - 150 = 4250 are left for the tools, which are 5 x 830 + 100 with it.
+TEST_F(CompactPanel, ToolsBecomeSmallerBeforeTheLogoDoes) {
+  const SidePanel panel = Below(14000, 1750);
+
+  EXPECT_EQ(Find(panel.Controls, ControlId::Logo, std::nullopt)->Place.Width, 6600);
+  EXPECT_LT(Find(panel.Controls, ControlId::Tool, 0)->Place.Width, 840);
+}
+
+// Beside the narrowest tools' 3000 and the news' 3000, 7400 leaves 1250: too little for a logo.
+TEST_F(CompactPanel, TheLogoGoesBeforeTheNews) {
+  const SidePanel panel = Below(7400, 3000);
+
+  EXPECT_EQ(Find(panel.Controls, ControlId::Logo, std::nullopt), nullptr);
+  EXPECT_EQ(CountOf(panel.Controls, ControlId::Tool), 5);
+  EXPECT_GE(Find(panel.Controls, ControlId::NewsLabel, 0)->Place.Width, 3000);
+}
+
+TEST_F(CompactPanel, APanelTooNarrowForToolsHasThemOverTheMap) {
+  const SidePanel panel = LayOutPanelRight({9000, 0, 1000, 9000}, Compact());
+
+  EXPECT_TRUE(panel.Overhangs);
+  // 3000 wide: the icons are (3000 - 100) / 5 = 580, the first 50 off the left edge at 7000.
+  EXPECT_EQ(Find(panel.Controls, ControlId::Tool, 0)->Place, (TwipRect{-1950, 50, 580, 580}));
+  EXPECT_NE(Find(panel.Controls, ControlId::OptionsCaption, std::nullopt), nullptr);
+  EXPECT_EQ(Find(panel.Controls, ControlId::Logo, std::nullopt), nullptr);
+}
+
+TEST_F(CompactPanel, AtTheRightTheLogoGoesWhereTheNewsHaveNoRoom) {
+  const SidePanel high = LayOutPanelRight({0, 0, 4000, 12000}, Compact());
+  const SidePanel low = LayOutPanelRight({0, 0, 4000, 4600}, Compact());
+
+  EXPECT_NE(Find(high.Controls, ControlId::Logo, std::nullopt), nullptr);
+  EXPECT_EQ(Find(low.Controls, ControlId::Logo, std::nullopt), nullptr);
+  EXPECT_NE(Find(low.Controls, ControlId::NewsLabel, 0), nullptr);
+}
+
+TEST_F(CompactPanel, WithRoomForAllItIsLikeAnyOther) {
+  const SidePanel compact = LayOutPanelRight({0, 0, 7100, 17450}, Compact());
+  const SidePanel other = LayOut(7100);
+
+  for (const auto& [id, index] :
+       {std::pair{ControlId::Logo, std::optional<int>()}, {ControlId::Tool, 4}}) {
+    EXPECT_EQ(Find(compact.Controls, id, index)->Place, Find(other.Controls, id, index)->Place);
+  }
+}
+
 }  // namespace
 }  // namespace orrerix
