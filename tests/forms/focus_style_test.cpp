@@ -19,6 +19,7 @@ class FocusStyleTest : public ::testing::Test {
     }
     form.show();
     form.activateWindow();
+    PassEvents();
   }
 
   static bool ShowsMark(QWidget& widget) {

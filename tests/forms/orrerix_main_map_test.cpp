@@ -48,6 +48,13 @@ class OrrerixMainMapTest : public OrrerixMainTest {
     }
   }
 
+  // With room for a panel at the map's right.
+  void MakeWide() {
+    form->setWindowState(Qt::WindowNoState);
+    form->resize(790, 540);  // the screen has 800 by 800
+    PassEvents();
+  }
+
   // Index of an object's icon.
   int StationIcon() {
     for (const Control& control : form->Map().Drawing().Controls) {
@@ -187,6 +194,7 @@ TEST_F(OrrerixMainMapTest, WithoutAPrinterTheUserIsToldAndTheFormIsRestored) {
 }
 
 TEST_F(OrrerixMainMapTest, WhileThereAreNoNewsTheirRoomTellsOfTheUniverse) {
+  MakeWide();
   auto& summary = Find<QListWidget>(*form, "Summary");
   ASSERT_TRUE(WaitUntil([&] { return summary.isVisible(); }));
   EXPECT_EQ(summary.item(0)->text(), "The universe in numbers");
@@ -201,6 +209,7 @@ TEST_F(OrrerixMainMapTest, WhileThereAreNoNewsTheirRoomTellsOfTheUniverse) {
 }
 
 TEST_F(OrrerixMainMapTest, ABaseOfTheSummaryOpensItsStation) {
+  MakeWide();
   auto& summary = Find<QListWidget>(*form, "Summary");
   ASSERT_TRUE(WaitUntil([&] { return summary.isVisible(); }));
   ZoomIn();

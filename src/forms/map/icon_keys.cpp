@@ -31,9 +31,10 @@ class IconKeys::Key : public QAbstractButton {
 
   int Icon = 0;
 
-  void Detach() {
-    owner_ = nullptr;
-    disconnect();
+  void Detach() { owner_ = nullptr; }
+
+  void Press() const {
+    if (owner_ != nullptr) owner_->events_.Press(Icon);
   }
 
   // `place` is that of the icon as it is at rest.
@@ -99,8 +100,7 @@ void IconKeys::MakeKeys(std::size_t count) {
     auto* key = new Key(*this, frame_.viewport());
     QWidget::setTabOrder(&frame_, key);
     key->setFocusPolicy(Qt::NoFocus);
-    QObject::connect(key, &QAbstractButton::clicked, &frame_,
-                     [this, key] { events_.Press(key->Icon); });
+    QObject::connect(key, &QAbstractButton::clicked, key, [key] { key->Press(); });
     keys_.push_back(key);
   }
 }

@@ -217,7 +217,8 @@ InfoBox MakeInfoBox(const TwipRect& panel, double top, const PanelView& view) {
   InfoBoxFoot foot = FootOf(box, content, view.Measure);
   const double bandHeight = box.Width / kHeadBandWidth * kHeadBandHeight;
   const bool hasLogo =
-      !view.Compact || foot.Slogan.Place.Top >= kBorderThickness + bandHeight + kNewsRoom;
+      !view.Compact || (panel.Width >= kNarrowestPanel &&
+                        foot.Slogan.Place.Top >= kBorderThickness + bandHeight + kNewsRoom);
   if (!hasLogo) {
     foot.Slogan.Place.Top = NotBelowZero(foot.Credit.Place.Top - foot.Slogan.Place.Height);
   }
@@ -308,16 +309,6 @@ Control CompactInfoFrame(const TwipRect& panel, const CompactRow& row,
   return frame;
 }
 
-// A panel too narrow for tools: they reach over the map at its left, and nothing else is there.
-SidePanel LayOutNarrowRight(const TwipRect& panel, const PanelView& view) {
-  SidePanel laidOut;
-  laidOut.Overhangs = true;
-  laidOut.Controls = ToolsAndOptions(kNarrowestPanel, view);
-  const double left = std::min(panel.Left, kNarrowestPanel - panel.Width);
-  for (Control& control : laidOut.Controls) control.Place.Left -= left;
-  return laidOut;
-}
-
 }  // namespace
 
 PanelContent PanelTexts(TextSource& texts) {
@@ -338,9 +329,14 @@ PanelContent PanelTexts(TextSource& texts) {
 }
 
 SidePanel LayOutPanelRight(const TwipRect& panel, const PanelView& view) {
-  if (view.Compact && panel.Width < kNarrowestPanel) return LayOutNarrowRight(panel, view);
   SidePanel laidOut;
-  laidOut.Controls = ToolsAndOptions(panel.Width, view);
+  // Where the panel is too narrow for them tools and options reach over the map at its left.
+  laidOut.Overhangs = view.Compact && panel.Width < kNarrowestPanel;
+  const double width = laidOut.Overhangs ? kNarrowestPanel : panel.Width;
+  laidOut.Controls = ToolsAndOptions(width, view);
+  for (Control& control : laidOut.Controls) {
+    control.Place.Left -= std::min(panel.Left, width - panel.Width);
+  }
   Control optionsFrame = std::move(laidOut.Controls.back());
   laidOut.Controls.pop_back();
   InfoBox info = MakeInfoBox(panel, optionsFrame.Place.Bottom(), view);

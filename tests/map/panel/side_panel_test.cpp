@@ -286,6 +286,7 @@ TEST_F(CompactPanel, APanelTooNarrowForToolsHasThemOverTheMap) {
   // 3000 wide: the icons are (3000 - 100) / 5 = 580, the first 50 off the left edge at 7000.
   EXPECT_EQ(Find(panel.Controls, ControlId::Tool, 0)->Place, (TwipRect{-1950, 50, 580, 580}));
   EXPECT_NE(Find(panel.Controls, ControlId::OptionsCaption, std::nullopt), nullptr);
+  EXPECT_NE(Find(panel.Controls, ControlId::NewsLabel, 0), nullptr);
   EXPECT_EQ(Find(panel.Controls, ControlId::Logo, std::nullopt), nullptr);
 }
 
