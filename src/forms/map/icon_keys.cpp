@@ -19,6 +19,17 @@ constexpr QRgb kIconFocus = 0xFF80FFFF;
 constexpr QRgb kIconFocusEdge = 0xFF04081C;
 constexpr int kIconFocusRoom = 5;  // pixels around an icon
 
+// Some lie beside the cells that are shown, or under the panel.
+bool IsSeen(const Control& icon, const MapDrawing& drawing) {
+  const double x = icon.Place.Left + icon.Place.Width / 2;
+  const double y = icon.Place.Top + icon.Place.Height / 2;
+  const bool hasPanelAtRight = drawing.Panel == PanelPlace::Right;
+  const bool hasPanelBelow = drawing.Panel == PanelPlace::Below;
+  const double right = hasPanelAtRight ? drawing.PanelBox.Left : drawing.Frame.Width;
+  const double bottom = hasPanelBelow ? drawing.PanelBox.Top : drawing.Frame.Height;
+  return x >= 0 && y >= 0 && x < right && y < bottom;
+}
+
 }  // namespace
 
 class IconKeys::Key : public QAbstractButton {
@@ -109,7 +120,7 @@ void IconKeys::Follow(const MapDrawing& drawing, const std::string& description,
                       const NamesOf& namesOf) {
   std::vector<const Control*> icons;
   for (const Control& control : drawing.Controls) {
-    if (control.Id == ControlId::MapIcon) icons.push_back(&control);
+    if (control.Id == ControlId::MapIcon && IsSeen(control, drawing)) icons.push_back(&control);
   }
   MakeKeys(icons.size());
   SetNames(icons, description, namesOf);

@@ -12,9 +12,10 @@
 
 namespace orrerix {
 
-// Gives the icons of the map one place in the order of the Tab key, after the map itself, and each
-// of them a name for screen readers: a button over each, unseen but for the mark of the focus. The
-// arrow keys go from one to the next, Home to the first. The mouse goes through them.
+// Gives the icons that are seen on the map one place in the order of the Tab key, after the map
+// itself, and each of them a name for screen readers: a button over each, unseen but for the mark
+// of the focus. The arrow keys go from one to the next, Home to the first. The mouse goes through
+// them.
 class IconKeys {
  public:
   struct Events {

@@ -22,7 +22,7 @@ constexpr const char* kSummaryStyle =
     "QListWidget { background: transparent; color: #b8dcff; border: 1px solid transparent;"
     " outline: none; }"
     "QListWidget:focus { border-color: #80ffff; }"
-    "QListWidget::item { padding: 1px 2px; }"
+    "QListWidget::item { padding: 0 2px; }"
     "QListWidget::item:hover { color: #ffffff; background: rgba(60, 90, 180, 90); }"
     "QListWidget::item:selected { color: #ffffff; background: rgba(60, 90, 180, 140); }";
 

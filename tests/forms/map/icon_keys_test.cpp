@@ -28,7 +28,9 @@ class IconKeysTest : public MapControllerFixture {
   std::string Focused() {
     for (const Control& control : map.Drawing().Controls) {
       if (control.Id != ControlId::MapIcon) continue;
-      if (Button(*control.Index).hasFocus()) return IconText(control);
+      const auto* button = form.findChild<QAbstractButton*>(
+          QString::fromStdString(ObjectName(ControlId::MapIcon, *control.Index)));
+      if (button != nullptr && button->hasFocus()) return IconText(control);
     }
     return "";
   }
@@ -93,6 +95,17 @@ TEST_F(IconKeysTest, EscapeGoesBackWithTheFocusOnTheMap) {
 
   EXPECT_EQ(Visible(), ZoomRectangle{});
   EXPECT_TRUE(map.Frame().hasFocus());
+}
+
+// The map draws what lies beside a system's square, too: nobody sees it.
+TEST_F(IconKeysTest, WhatLiesBesideTheMapIsNoStop) {
+  Dock("li01_off_base", 0.5, -0.2);
+  UnloadObjects(map.State());
+  DrawMap();
+
+  Press(Qt::Key_Tab);
+
+  EXPECT_EQ(Focused(), "li01_nw_base");
 }
 
 TEST_F(IconKeysTest, TheFocusIsSeen) {
