@@ -18,7 +18,7 @@ namespace {
 constexpr int kCellMargin = 3;  // pixels between a text and the ends of its column
 constexpr const char* kHeadStyle =
     "QPushButton { border: none; border-bottom: 1px solid #3a54a0; background: #101c4c;"
-    " color: #c8d8ff; padding: 0 2px; text-align: left; }"
+    " color: #c8d8ff; padding: 0 2px; text-align: %1; }"
     "QPushButton:hover { background: #1c2c60; }"
     "QPushButton:focus { border: 1px solid #80ffff; }";
 
@@ -57,12 +57,12 @@ ColumnList::ColumnList(QWidget* parent) : RowList(parent) {
 }
 
 void ColumnList::SetColumns(std::vector<Column> columns, const QString& headTip) {
+  if (columns == columns_) return;
   columns_ = std::move(columns);
   while (heads_.size() < columns_.size()) {
     auto* head = new QPushButton(this);
     const int column = static_cast<int>(heads_.size());
     head->setObjectName(QString("Head%1").arg(column));
-    head->setStyleSheet(kHeadStyle);
     head->setFocusPolicy(Qt::TabFocus);
     QObject::connect(head, &QPushButton::clicked, this, [this, column] {
       if (OnHead) OnHead(column);
@@ -72,6 +72,7 @@ void ColumnList::SetColumns(std::vector<Column> columns, const QString& headTip)
   for (std::size_t i = 0; i < heads_.size(); ++i) {
     heads_[i]->setVisible(i < columns_.size());
     if (i >= columns_.size()) continue;
+    heads_[i]->setStyleSheet(QString(kHeadStyle).arg(columns_[i].IsNumber ? "right" : "left"));
     heads_[i]->setToolTip(headTip);
     heads_[i]->setAccessibleName(columns_[i].Head);
     heads_[i]->setAccessibleDescription(headTip);

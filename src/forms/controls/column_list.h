@@ -20,6 +20,8 @@ class ColumnList : public RowList {
     QString Head;
     double Share = 1;  // of the list's width; all shares together are 1
     bool IsNumber = false;
+
+    bool operator==(const Column&) const = default;
   };
 
   explicit ColumnList(QWidget* parent);
