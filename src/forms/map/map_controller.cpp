@@ -280,10 +280,12 @@ IconKeys::Events MapController::IconEvents() {
           [this](MapKey key) { KeyDown(key); }};
 }
 
-// A place by its name, the end of a jump connection by its description.
+// A place by its name, the end of a jump connection by its description in one line.
 std::vector<std::string> MapController::NamesOfIcons(const std::vector<const Control*>& icons) {
   std::vector<std::string> names;
-  for (const Control* icon : icons) names.push_back(IconText(*icon));
+  for (const Control* icon : icons) {
+    names.push_back(QString::fromStdString(IconText(*icon)).simplified().toStdString());
+  }
   Routine routine(log_, "OrrerixMain.Form_Resize");
   routine.Run([&] {
     Universe universe = form_.OpenUniverse(routine);

@@ -214,12 +214,13 @@ void AddSellers(Routine& routine, Universe& universe, SearchType type, const Sea
 
 constexpr const char* kSellersSource = "OrrerixMain.SubSearch_Click";
 
+// A ship costs what its package does, which the import has added up.
 std::optional<double> UsualPrice(Routine& routine, Universe& universe, SearchType type,
                                  const SearchRow& row) {
   if (type == SearchType::Place || type == SearchType::Bribe) return std::nullopt;
-  Recordset good =
-      RowNamed(routine, universe, "Goods", type == SearchType::Ship ? row.Package : row.Nickname);
-  return good.AtEnd() ? std::nullopt : PriceIn(good["price"].Get());
+  Recordset item =
+      RowNamed(routine, universe, type == SearchType::Ship ? "Ships" : "Goods", row.Nickname);
+  return item.AtEnd() ? std::nullopt : PriceIn(item["price"].Get());
 }
 
 }  // namespace

@@ -44,7 +44,7 @@ TEST_F(PriceTableViewTest, EachHeadNamesTheColumnsOfItsGroup) {
 
   EXPECT_EQ(view.columnSpan(0, 0), 1);
   EXPECT_EQ(view.model()->index(0, 1).data().toString(), "Price");
-  EXPECT_EQ(view.model()->index(0, 2).data().toString(), "Difference");
+  EXPECT_EQ(view.model()->index(0, 2).data().toString(), "Gain");
 }
 
 TEST_F(PriceTableViewTest, LabelsKeepTheirPlacesOnThePixelGrid) {

@@ -276,6 +276,20 @@ TEST_F(SearchColumns, EquipmentHasItsPriceAndItsSellersHaveTheirs) {
                                                 SearchDetail{"Alpha", std::nullopt}));
 }
 
+TEST_F(SearchColumns, AShipHasItsPriceAndItsSellersHaveTheirs) {
+  Add("Ships", {{"NickName", "arrow"},
+                {"RealName", "Arrow"},
+                {"packagename", "arrow_package"},
+                {"price", 1000},
+                {"ids_info", 0}});
+  Add("BaseGoods", {{"Base", "cove"}, {"GoodNick", "arrow_package"}, {"val5", 0}, {"val6", 1.5}});
+
+  panel.Open(scope, SearchType::Ship);
+
+  EXPECT_THAT(panel.SubSearch().Details, ElementsAre(SearchDetail{"", 1000}));
+  EXPECT_THAT(panel.List().Details, ElementsAre(SearchDetail{"beta", 1500}));
+}
+
 TEST_F(SearchColumns, ABribeHasItsPriceAtEachPlace) {
   Add("Groups", {{"NickName", "wardens"}, {"Name", "Wardens"}, {"ids_info", 0}});
   Add("GF_NPC", {{"BaseNick", "anvil"}, {"bribe", "wardens"}, {"bribe_2", 7000}});
