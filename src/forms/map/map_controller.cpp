@@ -291,7 +291,7 @@ std::vector<std::string> MapController::NamesOfIcons(const std::vector<const Con
     Universe universe = form_.OpenUniverse(routine);
     for (std::size_t i = 0; i < icons.size(); ++i) {
       if (!std::holds_alternative<DockableObject>(icons[i]->Subject)) continue;
-      Recordset dock = RowNamed(routine, universe, "DockObjects", names[i]);
+      Recordset dock = RowNamed(routine, universe, "DockObjects", IconText(*icons[i]));
       if (dock.AtEnd()) continue;
       const std::string name = dock["realname"].Get().Text();
       if (!name.empty()) names[i] = name;

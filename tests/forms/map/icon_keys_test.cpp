@@ -141,5 +141,33 @@ TEST_F(IconKeysTest, AScreenReaderIsToldTheNameOfEachObject) {
   }
 }
 
+TEST_F(IconKeysTest, AGateIsNamedInOneLine) {
+  Add("JumpNodes", {{"nickname", "gate"},
+                    {"nickname2", "back"},
+                    {"MapX1", 8},
+                    {"MapY1", 10},
+                    {"PosX1", 0.5},
+                    {"PosY1", 0.5},
+                    {"MapX2", 3},
+                    {"MapY2", 4},
+                    {"PosX2", 0.5},
+                    {"PosY2", 0.5},
+                    {"Type", 1}});
+  UnloadObjects(map.State());
+  DrawMap();
+
+  int gates = 0;
+  for (const Control& control : map.Drawing().Controls) {
+    if (!std::holds_alternative<JumpEnd>(control.Subject)) continue;
+    const QAbstractButton* button = form.findChild<QAbstractButton*>(
+        QString::fromStdString(ObjectName(ControlId::MapIcon, *control.Index)));
+    if (button == nullptr || button->isHidden()) continue;
+    ++gates;
+    EXPECT_TRUE(button->accessibleName().contains("Jump"));
+    EXPECT_FALSE(button->accessibleName().contains('\n'));
+  }
+  EXPECT_EQ(gates, 1);
+}
+
 }  // namespace
 }  // namespace orrerix
