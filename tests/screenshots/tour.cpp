@@ -119,6 +119,7 @@ bool Tour::Go() {
     TakeNarrow();
     TakeTools();
     TakeTravel();
+    TakeSummary();
     TakeUpdate();
     TakeErrorLog();
     TakeFailure();
@@ -366,6 +367,16 @@ void Tour::TakeTravel() {
       [this](const char* what, const std::function<bool()>& isSo) { Wait(what, isSo); },
       [this](const QString& name) { TakeMain(name); })
       .Go();
+}
+
+// What stands in the room of the news while there are none.
+void Tour::TakeSummary() {
+  run_.Main()->ShowNews("1.0\r\n\r\n\r\n");
+  ZoomInto(0);
+  auto& summary = ChildOf<QWidget>(*run_.Main(), "Summary");
+  Wait("the summary", [&] { return summary.isVisible(); });
+  TakeMain("map-summary");
+  ZoomOut();
 }
 
 void Tour::TakeErrorLog() {

@@ -29,6 +29,7 @@ class Tour {
   void TakeSearch();
   void TakeStation();
   void TakeNarrow();
+  void TakeSummary();
   void TakeTools();
   void TakeMapPages(QWidget& window);
   static QWidget& OpenPage(QWidget& window, TextId name);

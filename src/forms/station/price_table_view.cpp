@@ -29,6 +29,12 @@ int Pixel(double twips) {
 constexpr int kSmallestLetters = 8;  // points
 constexpr int kLargestLetters = 11;
 
+// Twips. A head stands over all columns, which have four, one and one sixth of its width.
+double ColumnWidth(const PriceTableModel::Line& line, int column) {
+  if (line.Row != nullptr) return line.Label(column)->Place.Width;
+  return line.Head->Place.Width * (column == 0 ? 4 : 1) / 6;
+}
+
 class LabelDelegate : public QStyledItemDelegate {
  public:
   using QStyledItemDelegate::QStyledItemDelegate;
@@ -100,14 +106,15 @@ int PriceTableModel::LetterSize() const {
 
 bool PriceTableModel::Fits(int fontSize) const {
   const QFontMetrics letters(FormFont(fontSize));
+  QFont bold = FormFont(fontSize);
+  bold.setBold(true);
+  const QFontMetrics heads(bold);
   return std::all_of(lines_.begin(), lines_.end(), [&](const Line& line) {
     if (letters.height() > Pixel(line.Label(0)->Place.Height)) return false;
-    if (line.Row == nullptr) return true;
     for (int column = 0; column < kPriceColumns; ++column) {
-      const int room = Pixel(line.Label(column)->Place.Width) - 2 * kPriceTableViewMargin;
-      const int head =
-          column == 0 ? 0 : letters.horizontalAdvance(Text({nullptr, nullptr}, column));
-      if (std::max(head, letters.horizontalAdvance(Text(line, column))) > room) return false;
+      const bool isTitle = line.Row == nullptr && column == 0;
+      const int wide = (isTitle ? heads : letters).horizontalAdvance(Text(line, column));
+      if (wide > Pixel(ColumnWidth(line, column)) - 2 * kPriceTableViewMargin) return false;
     }
     return true;
   });

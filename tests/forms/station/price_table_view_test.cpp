@@ -77,6 +77,16 @@ TEST_F(PriceTableViewTest, ALongTextMakesAllLettersSmallerButNotTooSmall) {
   EXPECT_EQ(view.model()->index(1, 0).data(Qt::FontRole).value<QFont>(), FormFont(8));
 }
 
+// 30 wide letters in 400 pixels leave 13 for each: those of 11 points are wider.
+TEST_F(PriceTableViewTest, ALongHeadMakesThemSmallerToo) {
+  PriceTable table = Table();
+  table.Head.Caption = QString(30, 'M').toStdString();
+  view.Show({table});
+
+  EXPECT_LT(view.model()->index(1, 0).data(Qt::FontRole).value<QFont>().pixelSize(),
+            FormFont(11).pixelSize());
+}
+
 // 210 twips are 14 pixels: lower than a line of 11 points, which are 15 pixels.
 TEST_F(PriceTableViewTest, LowRowsHaveLowerLetters) {
   PriceTable table = Table();
