@@ -77,10 +77,10 @@ TEST_F(PriceTableViewTest, ALongTextMakesAllLettersSmallerButNotTooSmall) {
   EXPECT_EQ(view.model()->index(1, 0).data(Qt::FontRole).value<QFont>(), FormFont(8));
 }
 
-// 30 wide letters in 400 pixels leave 13 for each: those of 11 points are wider.
+// 50 wide letters in 400 pixels leave 8 for each: those of 11 points are wider.
 TEST_F(PriceTableViewTest, ALongHeadMakesThemSmallerToo) {
   PriceTable table = Table();
-  table.Head.Caption = QString(30, 'M').toStdString();
+  table.Head.Caption = QString(50, 'M').toStdString();
   view.Show({table});
 
   EXPECT_LT(view.model()->index(1, 0).data(Qt::FontRole).value<QFont>().pixelSize(),
