@@ -64,7 +64,7 @@ class SearchPanel {
 
   // A click on the head of a column: sorts that list by it, the next time the other way round, then
   // as found again. Rows without a value come last either way. What a search that follows finds is
-  // sorted in the same way, until the panel is opened anew.
+  // sorted in the same way, until the panel is opened again.
   SearchAnswer Sort(const SearchScope& scope, SearchControl list, SearchColumn column);
 
   // The columns that a list has.
