@@ -351,9 +351,27 @@ enum class TextId : int {
   SaveMap,
   MapSaved,
   InterfaceScale,
+  AtlasField,
+  AtlasFieldTip,
+  AtlasFieldWrong,
+  AtlasPrint,
+  AtlasNoPrinter,
+  AtlasPageNumber,
+  RelationsPage,
+  RelationsHint,
+  RelationsSums,
+  RelationsNone,
+  RelationOf,
+  RelationHostile,
+  RelationUnfriendly,
+  RelationNeutral,
+  RelationFriendly,
+  RelationAllied,
+  RelationUnknown,
+  LightPanels,
 };
 inline constexpr int kStoredTexts = 29;
-inline constexpr int kTexts = static_cast<int>(TextId::InterfaceScale) + 1;
+inline constexpr int kTexts = static_cast<int>(TextId::LightPanels) + 1;
 
 // The language in use. Owned by the program; everything that shows a text reads it here.
 struct LanguageChoice {
