@@ -19,8 +19,10 @@ MapScreen::MapScreen(PictureStore& pictures, Settings& settings, TextSource& tex
       texts_(texts),
       scene_(pictures),
       frame_(new SysmapFrame(scene_, form)),
+      glide_(new MapGlide(*frame_)),
       sharpening_(new QTimer(frame_)) {
   frame_->hide();
+  glide_->SetTime(DesktopGlideTime(*frame_));
   overlay_ = std::make_unique<HoverOverlay>(scene_, frame_);
   QObject::connect(sharpening_, &QTimer::timeout, frame_, [this] { Sharpen(); });
   pictures_.OnWanted = [this] { sharpening_->start(0); };
@@ -81,12 +83,14 @@ void MapScreen::Redraw(Universe& universe, int formWidth, int formHeight) {
   const PanelContent panel = panel_;
   MapDrawing drawing =
       DrawMap(universe, state_, {formWidth, formHeight, options_, measure_, panel, starMap_});
+  glide_->Take(scene_.Drawing(), drawing);
   // Leaves out pixels that the drawing covers only in part.
   const QRectF frame = Pixels(drawing.Frame);
   frame_->setGeometry(QRect(frame.topLeft().toPoint(), QSize(static_cast<int>(frame.width()),
                                                              static_cast<int>(frame.height()))));
   scene_.Show(std::move(drawing));
   frame_->show();
+  glide_->Start();
 }
 
 }  // namespace orrerix
