@@ -67,8 +67,13 @@ std::string RelationsFile(const SourceTables& tables) {
 
 std::vector<RelatedFaction> ReadRelations(const SourceTables& tables, const GameFolder& game) {
   std::vector<RelatedFaction> factions = RelationsOf(ReadGameSections(game, RelationsFile(tables)));
+  std::map<std::string, std::size_t> counts;
   for (RelatedFaction& faction : factions) {
     faction.Name = FactionNameOf(tables, faction.Nickname);
+    ++counts[faction.Name];
+  }
+  for (RelatedFaction& faction : factions) {
+    if (counts[faction.Name] > 1) faction.Name += " (" + faction.Nickname + ")";
   }
   return factions;
 }

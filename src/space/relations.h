@@ -36,7 +36,8 @@ std::vector<RelatedFaction> RelationsOf(const std::vector<GameSection>& sections
 std::string RelationsFile(const SourceTables& tables);
 
 // All factions with the names that the universe gives them; a faction without a name is called as
-// its nickname. None if the file cannot be read.
+// its nickname, and those of one name have their nicknames after it. None if the file cannot be
+// read.
 std::vector<RelatedFaction> ReadRelations(const SourceTables& tables, const GameFolder& game);
 
 }  // namespace orrerix

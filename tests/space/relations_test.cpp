@@ -57,6 +57,21 @@ TEST_F(RelationFiles, AreThoseThatTheUniverseNames) {
   EXPECT_EQ(factions[1].Name, "rogues");
 }
 
+TEST_F(RelationFiles, TellFactionsOfOneNameByTheirNicknames) {
+  for (const char* nickname : {"navy", "navy_story"}) {
+    Add("Groups", {{"NickName", nickname}, {"Name", "Navy"}});
+  }
+  folder.Write("DATA/initialworld.ini",
+               "[Group]\nnickname = navy\n[Group]\nnickname = navy_story\n");
+  const SourceTables tables(mustWork, db);
+
+  const auto factions = ReadRelations(tables, GameFolder(folder.Path().string()));
+
+  ASSERT_EQ(factions.size(), 2u);
+  EXPECT_EQ(factions[0].Name, "Navy (navy)");
+  EXPECT_EQ(factions[1].Name, "Navy (navy_story)");
+}
+
 TEST_F(RelationFiles, AreNoneWhereTheUsualFileIsMissing) {
   const SourceTables tables(mustWork, db);
 

@@ -148,11 +148,14 @@ TEST_F(WorkbenchTest, AnEntryOfTheLogOpensItsFileAtItsLine) {
 }
 
 TEST_F(WorkbenchTest, LightPanelsAreChosenAndRemembered) {
+  const QPalette usual = QApplication::palette();
+  QApplication::setPalette(DarkPanels());
   Workbench first(settings, choice);
   auto page = std::make_unique<GamePage>(host, settings, choice);
   GamePage& game = *page;
   game.OnLightPanels = [&first](bool on) { first.UseLightPanels(on); };
   first.Add(std::move(page));
+  first.Open();
   EXPECT_FALSE(IsLight(game.palette()));
 
   Find<QCheckBox>(game, "LightPanels").click();
@@ -163,6 +166,7 @@ TEST_F(WorkbenchTest, LightPanelsAreChosenAndRemembered) {
   EXPECT_TRUE(Find<QCheckBox>(GamePage(host, settings, choice), "LightPanels").isChecked());
   first.UseLightPanels(false);
   EXPECT_FALSE(IsLight(game.palette()));
+  QApplication::setPalette(usual);
 }
 
 TEST_F(WorkbenchTest, TheGamePageAsksForWhatItsButtonsSay) {

@@ -19,6 +19,8 @@ constexpr int kFieldGap = 1;
 FilterHeader::FilterHeader(QTableView* view) : QHeaderView(Qt::Horizontal, view), view_(*view) {
   setSectionsClickable(true);
   setHighlightSections(false);
+  setAutoFillBackground(true);
+  setBackgroundRole(QPalette::Button);
   connect(this, &QHeaderView::sectionResized, this, [this] { PlaceFields(); });
   connect(this, &QHeaderView::sectionMoved, this, [this] { PlaceFields(); });
   connect(view->horizontalScrollBar(), &QScrollBar::valueChanged, this, [this] { PlaceFields(); });
@@ -69,7 +71,7 @@ void FilterHeader::PlaceFields() {
   const int height = FieldHeight();
   for (int column = 0; column < std::min(count(), static_cast<int>(edits_.size())); ++column) {
     QLineEdit* line = edits_[static_cast<std::size_t>(column)].Line;
-    line->setVisible(!isSectionHidden(column));
+    line->setVisible(sectionSize(column) > 0);
     line->setGeometry(sectionViewportPosition(column) + kFieldGap,
                       viewport()->geometry().bottom() + 1 + kFieldGap,
                       sectionSize(column) - 2 * kFieldGap, height - 2 * kFieldGap);

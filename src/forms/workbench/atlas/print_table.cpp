@@ -14,6 +14,7 @@ namespace orrerix {
 namespace {
 
 constexpr int kLetterPoints = 7;
+constexpr int kPointsPerInch = 72;
 constexpr int kMostLetters = 36;  // a cell's width
 constexpr int kMeasuredRows = 500;
 constexpr double kGap = 0.8;  // between columns, of the letters' height
@@ -22,6 +23,13 @@ constexpr int kPdfDotsPerInch = 300;
 constexpr double kMarginMillimeters = 12;
 
 using Columns = std::vector<int>;
+
+// As large on any paper, whatever its dots.
+QFont FontOn(const QPaintDevice& paper) {
+  QFont font = FormFont(kLetterPoints);
+  font.setPixelSize(kLetterPoints * paper.logicalDpiY() / kPointsPerInch);
+  return font;
+}
 
 // One painting of a table: all lengths are dots of the paper.
 class TablePrinter {
@@ -32,7 +40,7 @@ class TablePrinter {
         painter_(painter),
         table_(table),
         language_(language),
-        font_(FormFont(kLetterPoints)),
+        font_(FontOn(paper)),
         metrics_(font_, &paper),
         area_(painter.viewport()) {
     painter_.setFont(font_);

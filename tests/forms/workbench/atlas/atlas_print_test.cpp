@@ -21,7 +21,9 @@ class AtlasPrintTest : public AtlasPageTest {
     QFile content(name);
     return content.open(QIODevice::ReadOnly) ? content.readAll() : QByteArray();
   }
-  static int PagesOf(const QString& name) { return ContentOf(name).count("/Type /Page\n"); }
+  static qsizetype PagesOf(const QString& name) {
+    return ContentOf(name).count("/Type /Page\n");
+  }
   static PrintedTable Numbers(int rows, int columns) {
     PrintedTable table{"Numbers", {}, {}, rows, [](int row, int column) {
                          return QString("%1 and %2").arg(row).arg(column);
@@ -86,9 +88,9 @@ TEST_F(AtlasPrintTest, ANameThatEndsInPdfGivesAPdfFile) {
 
 TEST_F(AtlasPrintTest, RowsAndColumnsWithoutRoomFollowOnOtherPages) {
   ASSERT_TRUE(WriteTablePdf(file, Numbers(3, 2), Language::English));
-  const int few = PagesOf(file);
+  const qsizetype few = PagesOf(file);
   ASSERT_TRUE(WriteTablePdf(file, Numbers(500, 2), Language::English));
-  const int manyRows = PagesOf(file);
+  const qsizetype manyRows = PagesOf(file);
   ASSERT_TRUE(WriteTablePdf(file, Numbers(3, 60), Language::English));
 
   EXPECT_EQ(few, 1);
