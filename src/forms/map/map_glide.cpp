@@ -13,8 +13,8 @@
 namespace orrerix {
 namespace {
 
-constexpr int kMostTime = 150;      // milliseconds
-constexpr int kMostPaintTime = 40;  // of one picture of the map
+constexpr int kMostTime = 150;  // milliseconds
+constexpr int kMostSlowPictures = 3;
 
 QTransform Between(const CellGeometry& from, const CellGeometry& to) {
   const double scale = double(to.CellSize()) / from.CellSize();
@@ -73,7 +73,8 @@ void MapGlide::Stop() {
 
 void MapGlide::Take(const MapDrawing& shown, const MapDrawing& next) {
   Stop();
-  const bool isWanted = movement_.duration() > 0 && frame_.isVisible() && !isTooSlow_;
+  const bool isWanted =
+      movement_.duration() > 0 && frame_.isVisible() && slowPictures_ < kMostSlowPictures;
   if (!isWanted || !CanMove(shown, next)) return;
   end_ = Between(shown.Cells, next.Cells);
   if (end_.isIdentity()) return;
@@ -81,12 +82,12 @@ void MapGlide::Take(const MapDrawing& shown, const MapDrawing& next) {
   clock.start();
   open_ = OpenPart(shown).intersected(OpenPart(next));
   before_ = frame_.viewport()->grab();
-  isTooSlow_ = clock.elapsed() > kMostPaintTime;
+  slowPictures_ = clock.elapsed() > patience_ ? slowPictures_ + 1 : 0;
 }
 
 void MapGlide::Start() {
   if (before_.isNull()) return;
-  if (isTooSlow_) return Stop();
+  if (slowPictures_ > 0) return Stop();
   setGeometry(open_.toRect());
   show();
   raise();

@@ -27,8 +27,12 @@ class MapGlide : public QWidget {
   // 0: nothing moves.
   void SetTime(int milliseconds) { movement_.setDuration(milliseconds); }
 
+  // How long painting the map may take, in milliseconds. After three pictures in a row that took
+  // longer nothing moves any more.
+  void SetPatience(int milliseconds) { patience_ = milliseconds; }
+
   // To be called while the old drawing is on the frame. Does nothing if both show the same cells
-  // in the same places, if one of them is for paper, or on a machine that is too slow.
+  // in the same places, if one of them is for paper, or where painting takes too long.
   void Take(const MapDrawing& shown, const MapDrawing& next);
 
   // Starts the movement of what was taken; without that nothing happens.
@@ -48,7 +52,8 @@ class MapGlide : public QWidget {
   QPixmap before_;
   QRectF open_;
   QTransform end_;
-  bool isTooSlow_ = false;
+  int patience_ = 40;
+  int slowPictures_ = 0;  // in a row
 };
 
 }  // namespace orrerix

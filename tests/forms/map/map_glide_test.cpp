@@ -9,6 +9,7 @@ namespace {
 // Cells of the whole grid have 30 pixels.
 class MapGlideTest : public MapControllerFixture {
  protected:
+  MapGlideTest() { Glide().SetPatience(1'000'000); }
   MapGlide& Glide() { return map.Glide(); }
 };
 
@@ -53,6 +54,32 @@ TEST_F(MapGlideTest, NothingMovesWhereTheCellsStay) {
   DrawMap();
 
   EXPECT_FALSE(Glide().isVisible());
+}
+
+// No clock runs backwards: each picture takes longer than that.
+TEST_F(MapGlideTest, NothingMovesWherePaintingTakesTooLong) {
+  Glide().SetTime(60);
+  Glide().SetPatience(-1);
+  Zoom({8, 10, 9, 11});
+  EXPECT_FALSE(Glide().isVisible());
+  Zoom({8, 10, 8, 10});
+  Zoom({7, 9, 9, 11});
+
+  Glide().SetPatience(1'000'000);
+  Zoom({8, 10, 9, 11});
+
+  EXPECT_FALSE(Glide().isVisible());
+}
+
+TEST_F(MapGlideTest, OneSlowPictureIsForgotten) {
+  Glide().SetTime(60);
+  Glide().SetPatience(-1);
+  Zoom({8, 10, 9, 11});
+
+  Glide().SetPatience(1'000'000);
+  Zoom({8, 10, 8, 10});
+
+  EXPECT_TRUE(Glide().isVisible());
 }
 
 TEST_F(MapGlideTest, NobodySeesMovementsWithoutAScreen) {

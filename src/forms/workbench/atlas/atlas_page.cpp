@@ -195,6 +195,7 @@ QWidget* AtlasPage::MakeButtons() {
 void AtlasPage::MakeColumnMenus(QPushButton& button) {
   auto* menu = new QMenu(&button);
   menu->setObjectName("ColumnMenu");
+  menu->setAttribute(Qt::WA_WindowPropagation);
   connect(menu, &QMenu::aboutToShow, this, [this, menu] { columns_->Fill(*menu, -1); });
   button.setMenu(menu);
   QHeaderView* head = view_->horizontalHeader();
@@ -202,6 +203,7 @@ void AtlasPage::MakeColumnMenus(QPushButton& button) {
   connect(head, &QWidget::customContextMenuRequested, this, [this, head](const QPoint& place) {
     auto* headMenu = new QMenu(this);
     headMenu->setAttribute(Qt::WA_DeleteOnClose);
+    headMenu->setAttribute(Qt::WA_WindowPropagation);
     columns_->Fill(*headMenu, head->logicalIndexAt(place));
     headMenu->popup(head->mapToGlobal(place));
   });

@@ -75,6 +75,9 @@ QTableView* RelationsPage::MakeMatrix() {
   matrix->setSortingEnabled(true);
   connect(matrix->selectionModel(), &QItemSelectionModel::currentChanged, this,
           [this] { ShowState(); });
+  connect(matrix, &QTableView::activated, matrix, [matrix](const QModelIndex& index) {
+    matrix->horizontalHeader()->setSortIndicator(index.column(), Qt::DescendingOrder);
+  });
   return matrix;
 }
 

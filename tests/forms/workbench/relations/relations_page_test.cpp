@@ -101,6 +101,16 @@ TEST_F(RelationsPageTest, AClickOnAHeadSortsByWhatIsThoughtOfIt) {
   EXPECT_THAT(Heads(Qt::Vertical), ElementsAre("Navy", "Police", "Rogues"));
 }
 
+TEST_F(RelationsPageTest, EnterOnACellSortsByItsColumn) {
+  Open();
+  Matrix().setCurrentIndex(Model().index(2, 0));
+
+  QTest::keyClick(&Matrix(), Qt::Key_Return);
+
+  EXPECT_THAT(Heads(Qt::Vertical), ElementsAre("Police", "Rogues", "Navy"));
+  EXPECT_EQ(Matrix().currentIndex().row(), 1);
+}
+
 TEST_F(RelationsPageTest, TypingLeavesTheRowsThatHoldIt) {
   Open();
 
