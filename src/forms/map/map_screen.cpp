@@ -83,11 +83,11 @@ void MapScreen::Redraw(Universe& universe, int formWidth, int formHeight) {
   const PanelContent panel = panel_;
   MapDrawing drawing =
       DrawMap(universe, state_, {formWidth, formHeight, options_, measure_, panel, starMap_});
-  glide_->Take(scene_.Drawing(), drawing);
   // Leaves out pixels that the drawing covers only in part.
   const QRectF frame = Pixels(drawing.Frame);
   frame_->setGeometry(QRect(frame.topLeft().toPoint(), QSize(static_cast<int>(frame.width()),
                                                              static_cast<int>(frame.height()))));
+  glide_->Take(scene_.Drawing(), drawing);
   scene_.Show(std::move(drawing));
   frame_->show();
   glide_->Start();
