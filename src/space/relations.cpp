@@ -21,7 +21,7 @@ bool IsGroup(const GameSection& section) {
 }
 
 // "0.91, li_n_grp"
-void TakeLine(std::string_view line, const PlacesByFaction& places, RelatedFaction& faction) {
+void TakeReputation(std::string_view line, const PlacesByFaction& places, RelatedFaction& faction) {
   const std::size_t comma = line.find(',');
   if (comma == std::string_view::npos) return;
   const Figure reputation = ParseFigure(line.substr(0, comma));
@@ -53,7 +53,7 @@ std::vector<RelatedFaction> RelationsOf(const std::vector<GameSection>& sections
     if (!IsGroup(section)) continue;
     RelatedFaction& faction = factions[places.find(FoldAscii(section.Value("nickname")))->second];
     for (const auto& [key, value] : section.Entries) {
-      if (key == "rep") TakeLine(value, places, faction);
+      if (key == "rep") TakeReputation(value, places, faction);
     }
   }
   return factions;

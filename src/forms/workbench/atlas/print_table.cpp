@@ -16,9 +16,9 @@ namespace {
 constexpr int kLetterPoints = 7;
 constexpr int kPointsPerInch = 72;
 constexpr int kMostLetters = 36;  // a cell's width
-constexpr int kMeasuredRows = 500;
+constexpr int kSampledRows = 500;
 constexpr double kGap = 0.8;  // between columns, of the letters' height
-constexpr double kRowHeight = 1.3;
+constexpr double kLineSpacing = 1.3;
 constexpr int kPdfDotsPerInch = 300;
 constexpr double kMarginMillimeters = 12;
 
@@ -61,7 +61,7 @@ class TablePrinter {
   }
 
  private:
-  double Line() const { return metrics_.height() * kRowHeight; }
+  double Line() const { return metrics_.height() * kLineSpacing; }
   double Gap() const { return metrics_.height() * kGap; }
   double HeadHeight() const { return headLines_ * metrics_.height() + Line() / 2; }
   double TopHeight() const { return 1.5 * Line(); }
@@ -76,7 +76,7 @@ class TablePrinter {
       const QStringList lines = table_.Heads[column].split('\n');
       headLines_ = std::max(headLines_, static_cast<int>(lines.size()));
       for (const QString& line : lines) width = std::max(width, metrics_.horizontalAdvance(line));
-      for (int row = 0; row < std::min(table_.RowCount, kMeasuredRows); ++row) {
+      for (int row = 0; row < std::min(table_.RowCount, kSampledRows); ++row) {
         width = std::max(width, metrics_.horizontalAdvance(table_.Cell(row, column)));
       }
       widths_.push_back(std::min(width, most) + 1);

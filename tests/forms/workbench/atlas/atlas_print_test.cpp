@@ -21,9 +21,7 @@ class AtlasPrintTest : public AtlasPageTest {
     QFile content(name);
     return content.open(QIODevice::ReadOnly) ? content.readAll() : QByteArray();
   }
-  static qsizetype PagesOf(const QString& name) {
-    return ContentOf(name).count("/Type /Page\n");
-  }
+  static qsizetype PagesOf(const QString& name) { return ContentOf(name).count("/Type /Page\n"); }
   static PrintedTable Numbers(int rows, int columns) {
     PrintedTable table{"Numbers", {}, {}, rows, [](int row, int column) {
                          return QString("%1 and %2").arg(row).arg(column);
