@@ -80,7 +80,8 @@ void MapGlide::Take(const MapDrawing& shown, const MapDrawing& next) {
   if (end_.isIdentity()) return;
   QElapsedTimer clock;
   clock.start();
-  open_ = OpenPart(shown).intersected(OpenPart(next));
+  from_ = OpenPart(shown);
+  open_ = OpenPart(next);
   before_ = frame_.viewport()->grab();
   slowPictures_ = clock.elapsed() > patience_ ? slowPictures_ + 1 : 0;
 }
@@ -101,9 +102,9 @@ void MapGlide::paintEvent(QPaintEvent*) {
   painter.translate(-geometry().topLeft());
   painter.setClipRect(open_);
   painter.setTransform(PartOf(end_, part), true);
-  painter.drawPixmap(open_, before_,
-                     QRectF(open_.topLeft() * before_.devicePixelRatio(),
-                            open_.size() * before_.devicePixelRatio()));
+  painter.drawPixmap(from_, before_,
+                     QRectF(from_.topLeft() * before_.devicePixelRatio(),
+                            from_.size() * before_.devicePixelRatio()));
 }
 
 }  // namespace orrerix

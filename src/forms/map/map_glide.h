@@ -50,7 +50,8 @@ class MapGlide : public QWidget {
   QGraphicsView& frame_;
   QVariantAnimation movement_;  // from 0 to 1
   QPixmap before_;
-  QRectF open_;
+  QRectF from_;  // the part of it that moves
+  QRectF open_;  // where it is seen
   QTransform end_;
   int patience_ = 40;
   int slowPictures_ = 0;  // in a row
