@@ -111,9 +111,10 @@ QTableView* AtlasPage::MakeView(const char* name, TextId caption, QAbstractItemM
 
 QWidget* AtlasPage::MakePanes() {
   view_ = MakeView("AtlasTable", TextId::AtlasPage, model_);
-  fields_ = new FilterHeader(view_);
-  fields_->OnEdited = [this] { Filter(); };
-  view_->setHorizontalHeader(fields_);
+  auto* header = new FilterHeader(view_);
+  header->OnEdited = [this] { Filter(); };
+  view_->setHorizontalHeader(header);
+  fields_ = std::make_unique<AtlasFields>(*header, model_, settings_, choice_);
   view_->horizontalHeader()->setSortIndicatorClearable(true);
   view_->horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
   view_->setSortingEnabled(true);
@@ -285,7 +286,7 @@ void AtlasPage::ShowTable(int index) {
   details_->Clear();
   PinsChanged();
   ships_->setEnabled(HardpointColumnOf(*table.About).has_value());
-  OfferFields();
+  fields_->Offer();
   columns_->Recall();
   {
     const QSignalBlocker quietFilter(filter_);
@@ -293,22 +294,9 @@ void AtlasPage::ShowTable(int index) {
     filter_->setText(settings_.value(Key(setting_key::kAtlasFilter)).toString());
     conditions_->setText(settings_.value(Key(setting_key::kAtlasConditions)).toString());
   }
-  fields_->SetTexts(settings_.value(Key(setting_key::kAtlasFields)).toStringList());
+  fields_->Recall();
   chart_->OfferColumns(settings_.value(Key(setting_key::kAtlasAxes)).toString());
   Filter();
-}
-
-void AtlasPage::OfferFields() {
-  std::vector<FilterHeader::Field> fields;
-  for (int i = 0; i < model_.columnCount(); ++i) {
-    const auto column = static_cast<std::size_t>(i);
-    const QString head = model_.Head(column);
-    fields.push_back(
-        {"Field_" + QString::fromStdString(model_.Table()->Columns[column].Id),
-         QString::fromStdString(FormatIn(choice_.Current, TextId::AtlasField, head.toStdString())),
-         Caption(TextId::AtlasFieldTip), model_.IsNumber(i) ? QString("1..9") : QString()});
-  }
-  fields_->SetFields(fields);
 }
 
 void AtlasPage::ShowRows(const QString& table, const QString& text) {
@@ -327,18 +315,17 @@ void AtlasPage::RememberTable() {
   settings_.setValue(setting_key::kAtlasShip, ships_->currentData().toString());
   settings_.setValue(Key(setting_key::kAtlasFilter), filter_->text());
   settings_.setValue(Key(setting_key::kAtlasConditions), conditions_->text());
-  settings_.setValue(Key(setting_key::kAtlasFields), fields_->Texts());
+  fields_->Remember();
   settings_.setValue(Key(setting_key::kAtlasAxes), chart_->Axes());
 }
 
-// The conditions of the text and those of the fields. What is wrong in a field is also said there.
+// Those of the text and those of the fields; what is wrong first is said.
 AtlasConditions AtlasPage::ReadConditions() {
   AtlasConditions all = ParseConditions(*model_.Table(), conditions_->text(), choice_.Current);
-  const AtlasFieldConditions fields = ParseFields(model_, fields_->Texts(), choice_.Current);
+  const AtlasFieldConditions fields = fields_->Read();
   all.All.insert(all.All.end(), fields.All.begin(), fields.All.end());
-  for (int column = 0; column < fields.Errors.size(); ++column) {
-    fields_->MarkWrong(column, fields.Errors[column]);
-    if (all.Error.isEmpty()) all.Error = fields.Errors[column];
+  for (const QString& error : fields.Errors) {
+    if (all.Error.isEmpty()) all.Error = error;
   }
   return all;
 }

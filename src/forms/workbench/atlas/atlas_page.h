@@ -16,10 +16,10 @@
 #include "forms/workbench/atlas/atlas_conditions.h"
 #include "forms/workbench/atlas/atlas_content.h"
 #include "forms/workbench/atlas/atlas_details.h"
+#include "forms/workbench/atlas/atlas_fields.h"
 #include "forms/workbench/atlas/atlas_model.h"
 #include "forms/workbench/atlas/atlas_output.h"
 #include "forms/workbench/atlas/atlas_pins.h"
-#include "forms/workbench/atlas/filter_header.h"
 #include "forms/workbench/workbench_host.h"
 #include "forms/workbench/workbench_page.h"
 
@@ -57,7 +57,6 @@ class AtlasPage : public WorkbenchPage {
   void Show(AtlasContent content);
   void ShowTable(int index);
   void RememberTable();
-  void OfferFields();
   void OfferShips();
   AtlasConditions ReadConditions();
   void Filter();
@@ -84,7 +83,7 @@ class AtlasPage : public WorkbenchPage {
   QWidget* pinPane_;
   AtlasChartPane* chart_;
   AtlasDetails* details_;
-  FilterHeader* fields_;
+  std::unique_ptr<AtlasFields> fields_;
   std::unique_ptr<AtlasColumns> columns_;
   std::unique_ptr<AtlasOutput> output_;
   bool isRead_ = false;

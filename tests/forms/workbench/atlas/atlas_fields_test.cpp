@@ -97,6 +97,7 @@ TEST_F(AtlasFieldsTest, ComeBackWithTheAxesOfTheChart) {
 
   EXPECT_THAT(Nicknames(again), ElementsAre("shield_b", "shield_c"));
   EXPECT_EQ(Find<QLineEdit>(again, "Field_capacity").text(), "1500..");
+  EXPECT_EQ(settings.value("atlas/shields/fields").toStringList(), QStringList{"capacity=1500.."});
   EXPECT_EQ(Find<QComboBox>(again, "AtlasAxisX").currentText(), "Price (credits)");
   ChooseTable(again, "Bases");
   ChooseTable(again, "Shields");
