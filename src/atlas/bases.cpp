@@ -69,7 +69,8 @@ Column<BaseRow> WareColumn(std::string id, std::string head, std::string what, W
 
 ColumnList<BaseRow> BaseColumns() {
   return {
-      BaseText("name", "Name", "name of strid_name of [Base], else that of its first dock",
+      BaseText("name", "Name",
+               "name of strid_name of [Base], else that of its first dock, else the nickname",
                &AtlasBase::Name),
       BaseText("nickname", "Nickname", "dock_with of its docks", &AtlasBase::Nickname),
       BaseText("system", "System", "name of the system of its first dock", &AtlasBase::SystemName),
@@ -77,7 +78,7 @@ ColumnList<BaseRow> BaseColumns() {
                &AtlasBase::Sector),
       BaseText("owner", "Owner", "name of the faction in reputation of its first dock",
                &AtlasBase::OwnerName),
-      {"docks", "Docks (objects)", "number of objects that dock with it",
+      {"docks", "Docks (objects)", "number of objects that dock with it, without docking fixtures",
        [](const BaseRow& row) { return Value(static_cast<std::int64_t>(row.Base.Docks)); }},
       WareColumn("ships", "Ships", "ship packages", Ware::Ship),
       {"ship_names", "Ships", "the names of these ships",
@@ -138,7 +139,11 @@ ColumnList<SystemRow> SystemColumns() {
                                return TextValueOf(s.System.Text(field));
                              }};
   };
-  return {text("name", "Name", "name of strid_name of [System]", "realname"),
+  return {{"name", "Name", "name of strid_name of [System]",
+           [](const SystemRow& s) {
+             const std::string nickname = s.System.Text("nickname");
+             return TextValueOf(GivenName(s.System.Text("realname"), nickname));
+           }},
           text("nickname", "Nickname", "nickname of [System]", "nickname"),
           text("place", "Place (column, row)", "cell of the universe map", "pos"),
           {"scale", "Map scale (factor)", "navmapscale of [System]",

@@ -99,9 +99,10 @@ ColumnList<Bribe> BribeColumns() {
 
 ColumnList<Faction> FactionColumns() {
   const auto field = [](std::string id, std::string head, std::string formula, std::string name) {
-    return Column<Faction>{
-        std::move(id), std::move(head), std::move(formula),
-        [name = std::move(name)](const Faction& f) { return TextValueOf(f.Row.Text(name)); }};
+    return Column<Faction>{std::move(id), std::move(head), std::move(formula),
+                           [name = std::move(name)](const Faction& f) {
+                             return TextValueOf(GivenName(f.Row.Text(name), {}));
+                           }};
   };
   const auto count = [](std::string id, std::string head, std::string formula,
                         Sellers Faction::*bases) {

@@ -3,6 +3,7 @@
 
 #include <array>
 #include <charconv>
+#include <utility>
 
 #include "db/values/text.h"
 #include "tables/value_order.h"
@@ -34,6 +35,42 @@ std::optional<double> NumberOf(std::string_view text) {
   return isNumber ? std::optional(number) : std::nullopt;
 }
 
+Filter BySize(Comparison how, double number) {
+  return {{}, how, {}, number};
+}
+
+// One end of a range may be missing.
+std::optional<std::vector<Filter>> ParseRange(std::string_view first, std::string_view last) {
+  std::optional<double> least = NumberOf(first);
+  std::optional<double> most = NumberOf(last);
+  const bool isWrong = (!least && !first.empty()) || (!most && !last.empty());
+  if (isWrong || (!least && !most)) return std::nullopt;
+  if (least && most && *least > *most) std::swap(least, most);
+  std::vector<Filter> filters;
+  if (least) filters.push_back(BySize(Comparison::GreaterOrEqual, *least));
+  if (most) filters.push_back(BySize(Comparison::LessOrEqual, *most));
+  return filters;
+}
+
+std::optional<std::vector<Filter>> ParseNumbers(std::string_view text) {
+  constexpr std::string_view kTo = "..";
+  if (const std::size_t to = text.find(kTo); to != std::string_view::npos) {
+    return ParseRange(Trim(text.substr(0, to)), Trim(text.substr(to + kTo.size())));
+  }
+  for (const Symbol& symbol : kSymbols) {
+    if (!text.starts_with(symbol.Text)) continue;
+    const std::string_view digits = Trim(text.substr(symbol.Text.size()));
+    const auto number = NumberOf(digits);
+    if (!number || symbol.How == Comparison::Holds || symbol.How == Comparison::HoldsNot) {
+      return std::nullopt;
+    }
+    return std::vector{Filter{{}, symbol.How, std::string(digits), *number}};
+  }
+  const auto number = NumberOf(text);
+  if (!number) return std::nullopt;
+  return std::vector{Filter{{}, Comparison::Is, std::string(text), *number}};
+}
+
 bool HoldsPart(const Value& value, std::string_view part) {
   return Contains(Ucase(value.Text()), Ucase(part));
 }
@@ -57,6 +94,13 @@ std::optional<Filter> ParseFilter(std::string_view text) {
     return filter;
   }
   return std::nullopt;
+}
+
+std::optional<std::vector<Filter>> ParseColumnFilter(std::string_view text, bool holdsNumbers) {
+  const std::string_view wanted = Trim(text);
+  if (wanted.empty()) return std::vector<Filter>();
+  if (holdsNumbers) return ParseNumbers(wanted);
+  return std::vector{Filter{{}, Comparison::Holds, std::string(wanted), 0}};
 }
 
 bool Meets(const Value& value, const Filter& filter) {

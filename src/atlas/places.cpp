@@ -86,11 +86,13 @@ std::optional<std::size_t> BaseBook::FindByDock(std::string_view object) const {
 }
 
 std::string SystemNameOf(const SourceTables& tables, std::string_view nickname) {
-  return NameOr(tables["Systems"].Find("nickname", nickname).Text("realname"), nickname);
+  const std::string name = tables["Systems"].Find("nickname", nickname).Text("realname");
+  return NameOr(GivenName(name, nickname), nickname);
 }
 
 std::string FactionNameOf(const SourceTables& tables, std::string_view nickname) {
-  return NameOr(tables["Groups"].Find("nickname", nickname).Text("Name"), nickname);
+  const std::string name = tables["Groups"].Find("nickname", nickname).Text("Name");
+  return NameOr(GivenName(name, {}), nickname);
 }
 
 }  // namespace orrerix

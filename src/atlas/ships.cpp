@@ -53,12 +53,21 @@ std::string ClassName(const Ship& ship) {
   return kNames[static_cast<std::size_t>(*number)];
 }
 
+std::string TypeOf(const Ship& ship) {
+  std::string type = ship.Row.Text("Type");
+  if (Contains(type, "\\")) type.clear();
+  return type;
+}
+
 ShipColumns ShipNameColumns() {
   return {
       ShipText("name", "Name", "the name of ids_name", [](const Ship& s) { return s.Name; }),
       ShipText("nickname", "Nickname", "nickname of [Ship]",
                [](const Ship& s) { return s.Row.Text("NickName"); }),
-      ShipText("type", "Type", "type of [Ship]", [](const Ship& s) { return s.Row.Text("Type"); }),
+      ShipText("type", "Type",
+               "type of [Ship]; empty where the universe file has taken another line for it, whose "
+               "content is a path",
+               TypeOf),
       ShipText("class", "Class",
                "ship_class of [Ship]: 0 light fighter, 1 heavy fighter, 2 freighter, 3 very "
                "heavy fighter",

@@ -75,7 +75,7 @@ class SourceTables {
 };
 
 // A name of the import that is one: empty where it is the nickname with a number in brackets, which
-// stands for a name that is missing.
+// stands for a name that is missing. Names of factions are made without the nickname.
 std::string GivenName(std::string name, std::string_view nickname);
 
 }  // namespace orrerix

@@ -42,6 +42,14 @@ TEST_F(Factions, HaveBasesAndBribes) {
                                       {"bribe_places", "fort (New York); yard (New York)"}});
 }
 
+TEST_F(Factions, HaveNoNameWhereTheImportFoundNone) {
+  Add("Groups", {{"NickName", "lost"}, {"Name", "(197510)"}, {"SName", "(197560)"}});
+  Base("hideout", "Li01", "lost");
+
+  ExpectFields(Atlas("factions")[2], {{"name", {}}, {"short_name", {}}, {"nickname", "lost"}});
+  ExpectFields(Atlas("bases")[2], {{"owner", "lost"}});
+}
+
 TEST_F(Factions, AreBribedOnceABase) {
   Bribe("fort", "junkers", 7000);
   Bribe("yard", "junkers", 0);

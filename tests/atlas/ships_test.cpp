@@ -48,6 +48,15 @@ TEST_F(Ships, HaveTheirFigures) {
                                   {"power", {}}});
 }
 
+// The import takes the end of a DA_archetype line for a type if it comes first.
+TEST_F(Ships, HaveNoPathForAType) {
+  Add("Ships", {{"NickName", "ghost"}, {"Type", "ships\\liberty\\li_fighter.cmp"}});
+  Fighter();
+
+  ExpectFields(Atlas("ships")[0], {{"type", {}}});
+  ExpectFields(Atlas("ships")[1], {{"type", "FIGHTER"}});
+}
+
 TEST_F(Ships, LeaveEmptyWhatNoShipIsWithout) {
   Add("Ships", {{"NickName", "hulk"},
                 {"ship_class", 0},

@@ -7,6 +7,7 @@
 
 #include "forms/layers/layer_areas.h"
 #include "forms/layers/universe_snapshot.h"
+#include "forms/map/map_glide.h"
 #include "forms/workbench/setting_keys.h"
 #include "forms/workbench/throw_failures.h"
 #include "picture/form_font.h"
@@ -95,10 +96,7 @@ LayerView MapSpace::ViewOf(const MapDrawing& drawing) const {
   view.OnPaper = drawing.PrintMode;
   view.Cells = drawing.Cells;
   view.Visible = screen_.State().Zoom.Current();
-  view.Open = QRectF(0, 0, Pixels(drawing.Frame.Width), Pixels(drawing.Frame.Height));
-  const QRectF panel = Pixels(drawing.PanelBox);
-  if (drawing.Panel == PanelPlace::Right) view.Open.setRight(panel.left());
-  if (drawing.Panel == PanelPlace::Below) view.Open.setBottom(panel.top());
+  view.Open = OpenPart(drawing);
   for (const Control& control : drawing.Controls) {
     if (control.Id == ControlId::MapIcon) view.Icons.push_back(Pixels(control.Place));
   }

@@ -24,8 +24,10 @@ MapScreen::MapScreen(PictureStore& pictures, Settings& settings, TextSource& tex
       texts_(texts),
       scene_(pictures),
       frame_(new SysmapFrame(scene_, form)),
+      glide_(new MapGlide(*frame_)),
       sharpening_(new QTimer(frame_)) {
   frame_->hide();
+  glide_->SetTime(DesktopGlideTime(*frame_));
   overlay_ = std::make_unique<HoverOverlay>(scene_, frame_);
   QObject::connect(sharpening_, &QTimer::timeout, frame_, [this] { Sharpen(); });
   pictures_.OnWanted = [this] { sharpening_->start(0); };
@@ -91,8 +93,10 @@ void MapScreen::Redraw(Universe& universe, int formWidth, int formHeight) {
   const QRectF frame = Pixels(drawing.Frame);
   frame_->setGeometry(QRect(frame.topLeft().toPoint(), QSize(static_cast<int>(frame.width()),
                                                              static_cast<int>(frame.height()))));
+  glide_->Take(scene_.Drawing(), drawing);
   scene_.Show(std::move(drawing));
   frame_->show();
+  glide_->Start();
 }
 
 }  // namespace orrerix

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "forms/map/hover_overlay.h"
+#include "forms/map/map_glide.h"
 #include "forms/map/sysmap_frame.h"
 #include "map/redraw.h"
 #include "picture/qt_text_measure.h"
@@ -50,6 +51,7 @@ class MapScreen {
   MapState& State() { return state_; }
   SysmapFrame& Frame() { return *frame_; }
   MapScene& Scene() { return scene_; }
+  MapGlide& Glide() { return *glide_; }
   const MapDrawing& Drawing() const { return scene_.Drawing(); }
 
   // The switches as the last redraw has read them: what the panel shows.
@@ -73,6 +75,7 @@ class MapScreen {
   std::optional<std::string> starMap_;
   MapScene scene_;
   SysmapFrame* frame_;
+  MapGlide* glide_;
   std::unique_ptr<HoverOverlay> overlay_;  // on the frame, but gone before the scene
   QTimer* sharpening_;
 };

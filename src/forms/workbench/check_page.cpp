@@ -16,6 +16,7 @@
 #include "check/rules/rule.h"
 #include "forms/controls/captions.h"
 #include "forms/controls/plain_label.h"
+#include "forms/program_style.h"
 #include "picture/form_font.h"
 #include "platform/path_text.h"
 
@@ -69,6 +70,11 @@ CheckPage::CheckPage(WorkbenchHost& host, const LanguageChoice& choice, OpenFile
   connect(&watchTimer_, &QTimer::timeout, this, [this] {
     if (watch_ && watch_->TakeRound(std::chrono::steady_clock::now())) Check();
   });
+}
+
+void CheckPage::changeEvent(QEvent* event) {
+  if (event->type() == QEvent::PaletteChange) findings_.StandOn(IsLight(palette()));
+  WorkbenchPage::changeEvent(event);
 }
 
 QString CheckPage::Caption(TextId id) const {

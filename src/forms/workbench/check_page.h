@@ -37,6 +37,9 @@ class CheckPage : public WorkbenchPage {
   // Starts a check of the game folder; cancels one that runs.
   void Check();
 
+ protected:
+  void changeEvent(QEvent* event) override;
+
  private:
   struct Outcome {
     check::CheckAnswer Answer;

@@ -29,14 +29,14 @@ TextId NameOf(Severity severity) {
   }
 }
 
-QColor ColorOf(Severity severity) {
+QColor ColorOf(Severity severity, bool onLight) {
   switch (severity) {
     case Severity::Error:
-      return QColor(0xFFFF9080);
+      return onLight ? QColor(0xFFB02010) : QColor(0xFFFF9080);
     case Severity::Warning:
-      return QColor(0xFFFFD070);
+      return onLight ? QColor(0xFF7A5200) : QColor(0xFFFFD070);
     default:
-      return QColor(0xFFA8C8FF);
+      return onLight ? QColor(0xFF1A50A0) : QColor(0xFFA8C8FF);
   }
 }
 
@@ -54,6 +54,12 @@ void FindingModel::GroupBy(Grouping grouping) {
   beginResetModel();
   grouping_ = grouping;
   Regroup();
+  endResetModel();
+}
+
+void FindingModel::StandOn(bool light) {
+  beginResetModel();
+  onLight_ = light;
   endResetModel();
 }
 
@@ -102,7 +108,7 @@ QVariant FindingModel::data(const QModelIndex& index, int role) const {
     return QString::fromStdString(fmt::format("{} ({})", group.Title, group.Findings.size()));
   }
   if (role == Qt::ForegroundRole && index.column() == SeverityColumn) {
-    return ColorOf(finding->Severity);
+    return ColorOf(finding->Severity, onLight_);
   }
   if (role == Qt::ToolTipRole) return PlainToolTip(data(index, Qt::DisplayRole).toString());
   if (role != Qt::DisplayRole) return {};

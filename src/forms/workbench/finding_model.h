@@ -24,6 +24,9 @@ class FindingModel : public QAbstractItemModel {
   void Show(std::vector<check::Finding> findings);
   void GroupBy(Grouping grouping);
 
+  // Severities have colors that are read on a light background, or on a dark one.
+  void StandOn(bool light);
+
   // Null for the row of a group.
   const check::Finding* FindingAt(const QModelIndex& index) const;
 
@@ -46,6 +49,7 @@ class FindingModel : public QAbstractItemModel {
   std::vector<check::Finding> findings_;
   std::vector<Group> groups_;
   Grouping grouping_ = Grouping::ByRule;
+  bool onLight_ = false;
 };
 
 // Leaves the findings of some severities whose texts hold a text, and the groups that have any.

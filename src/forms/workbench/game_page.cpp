@@ -68,6 +68,13 @@ GamePage::GamePage(WorkbenchHost& host, QSettings& settings, const LanguageChoic
   layout->addSpacing(16);
   layout->addWidget(new PlainLabel(Caption(TextId::InterfaceScale), this));
   layout->addWidget(scale, 0, Qt::AlignLeft);
+  auto* light = new QCheckBox(Caption(TextId::LightPanels), this);
+  light->setObjectName("LightPanels");
+  light->setChecked(settings.value(setting_key::kLightPanels, false).toBool());
+  layout->addWidget(light);
+  connect(light, &QCheckBox::toggled, this, [this](bool on) {
+    if (OnLightPanels) OnLightPanels(on);
+  });
   connect(scale, &QComboBox::currentIndexChanged, this,
           [this, scale] { StoreScale(settings_, scale->currentData().toInt()); });
   connect(again, &QPushButton::clicked, this, [this] { host_.ImportAgain(); });

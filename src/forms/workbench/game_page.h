@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QSettings>
+#include <functional>
 
 #include "forms/workbench/workbench_host.h"
 #include "forms/workbench/workbench_page.h"
@@ -16,6 +17,9 @@ class GamePage : public WorkbenchPage {
  public:
   // `settings` keeps the games that were opened.
   GamePage(WorkbenchHost& host, QSettings& settings, const LanguageChoice& choice);
+
+  // Called with the player's choice between light and dark panels.
+  std::function<void(bool)> OnLightPanels;
 
   void Enter() override;
   void UniverseChanged() override;

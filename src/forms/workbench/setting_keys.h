@@ -10,6 +10,7 @@ inline constexpr const char* kWatch = "game/watch";
 inline constexpr const char* kRecentGames = "game/recent";
 inline constexpr const char* kEditor = "editor/command";
 inline constexpr const char* kLayers = "map/layers";
+inline constexpr const char* kLightPanels = "window/light_panels";
 inline constexpr const char* kScale = "window/scale";  // percent
 
 // What the pages of travel share. `kFrom` is there only if the player chose a start.
@@ -33,6 +34,8 @@ inline constexpr const char* kAtlasFilter = "filter";
 inline constexpr const char* kAtlasConditions = "conditions";
 inline constexpr const char* kAtlasSorting = "sorting";
 inline constexpr const char* kAtlasHidden = "hidden";
+inline constexpr const char* kAtlasFields = "fields";
+inline constexpr const char* kAtlasAxes = "axes";
 
 // Widths of the columns of a table, by its object name, are below this and the page's name.
 inline constexpr const char* kWidths = "widths";

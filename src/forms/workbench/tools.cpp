@@ -12,6 +12,7 @@
 #include "forms/workbench/check_page.h"
 #include "forms/workbench/differences_page.h"
 #include "forms/workbench/log_page.h"
+#include "forms/workbench/relations/relations_page.h"
 #include "forms/workbench/setting_keys.h"
 #include "forms/workbench/travel/goods_page.h"
 #include "forms/workbench/travel/trades_page.h"
@@ -58,9 +59,11 @@ Workbench& Tools::Window() {
   auto atlas = std::make_unique<AtlasPage>(host_, parts_.Speech, settings_);
   atlasPage_ = atlas.get();
   window_->Add(std::move(atlas));
+  window_->Add(std::make_unique<RelationsPage>(host_, parts_.Speech));
   for (const MakePage& make : morePages_) window_->Add(make());
   auto game = std::make_unique<GamePage>(host_, settings_, parts_.Speech);
   gamePage_ = game.get();
+  gamePage_->OnLightPanels = [this](bool on) { window_->UseLightPanels(on); };
   window_->Add(std::move(game));
   window_->Add(std::make_unique<LogPage>(
       host_, parts_.Speech, [this](const fs::path& file, int line) { OpenInEditor(file, line); }));

@@ -11,6 +11,7 @@
 #include <algorithm>
 
 #include "forms/controls/captions.h"
+#include "forms/program_style.h"
 #include "forms/workbench/setting_keys.h"
 #include "picture/application_icon.h"
 
@@ -35,7 +36,6 @@ Workbench::Workbench(QSettings& settings, const LanguageChoice& choice)
       stack_(new QStackedWidget(this)) {
   setObjectName("Workbench");
   setWindowTitle(CaptionIn(choice.Current, TextId::Tools));
-  setStyleSheet(kWorkbenchStyle);
   setWindowIcon(ApplicationIcon());
   list_->setObjectName("PageList");
   list_->setAccessibleName(CaptionIn(choice.Current, TextId::Tools));
@@ -46,6 +46,7 @@ Workbench::Workbench(QSettings& settings, const LanguageChoice& choice)
   layout->addWidget(list_);
   layout->addWidget(stack_, 1);
   connect(list_, &QListWidget::currentRowChanged, this, [this](int row) { Choose(row); });
+  ColorPanels(settings_.value(setting_key::kLightPanels, false).toBool());
   resize(kFirstSize.boundedTo(screen()->availableSize()));
   restoreGeometry(settings_.value(setting_key::kGeometry).toByteArray());
 }
@@ -109,6 +110,16 @@ void Workbench::ShowKeys() {
   keys->setAttribute(Qt::WA_DeleteOnClose);
   keys->button(QMessageBox::Close)->setText(CaptionIn(choice_.Current, TextId::ButtonClose));
   keys->open();
+}
+
+void Workbench::UseLightPanels(bool on) {
+  settings_.setValue(setting_key::kLightPanels, on);
+  ColorPanels(on);
+}
+
+void Workbench::ColorPanels(bool light) {
+  setStyleSheet(light ? QString() : QString(kWorkbenchStyle));
+  setPalette(light ? LightPanels() : DarkPanels());
 }
 
 void Workbench::closeEvent(QCloseEvent* event) {

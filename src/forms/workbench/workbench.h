@@ -33,11 +33,15 @@ class Workbench : public QWidget {
   // Lists the keys of the whole program.
   void ShowKeys();
 
+  // Dark letters on light panels, or the other way round, in this window. Remembered.
+  void UseLightPanels(bool on);
+
  protected:
   void closeEvent(QCloseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
+  void ColorPanels(bool light);
   void Choose(int row);
   void Bring(int row);
   void LeavePage();

@@ -8,6 +8,7 @@
 #include "db/engine/engine.h"
 #include "demo/demo_game.h"
 #include "fake_workbench_host.h"
+#include "forms/program_style.h"
 #include "forms/workbench/check_page.h"
 #include "forms/workbench/differences_page.h"
 #include "forms/workbench/game_page.h"
@@ -144,6 +145,28 @@ TEST_F(WorkbenchTest, AnEntryOfTheLogOpensItsFileAtItsLine) {
   EXPECT_EQ(table.model()->index(0, LogModel::FileColumn).data(), "DATA/goods.ini");
   EXPECT_EQ(table.model()->index(0, LogModel::LineColumn).data(), 3);
   EXPECT_EQ(opened, std::vector<std::string>{game.Path().generic_string() + "/DATA/goods.ini:3"});
+}
+
+TEST_F(WorkbenchTest, LightPanelsAreChosenAndRemembered) {
+  const QPalette usual = QApplication::palette();
+  QApplication::setPalette(DarkPanels());
+  Workbench first(settings, choice);
+  auto page = std::make_unique<GamePage>(host, settings, choice);
+  GamePage& game = *page;
+  game.OnLightPanels = [&first](bool on) { first.UseLightPanels(on); };
+  first.Add(std::move(page));
+  first.Open();
+  EXPECT_FALSE(IsLight(game.palette()));
+
+  Find<QCheckBox>(game, "LightPanels").click();
+
+  EXPECT_TRUE(IsLight(game.palette()));
+  Workbench again(settings, choice);
+  EXPECT_TRUE(IsLight(again.palette()));
+  EXPECT_TRUE(Find<QCheckBox>(GamePage(host, settings, choice), "LightPanels").isChecked());
+  first.UseLightPanels(false);
+  EXPECT_FALSE(IsLight(game.palette()));
+  QApplication::setPalette(usual);
 }
 
 TEST_F(WorkbenchTest, TheGamePageAsksForWhatItsButtonsSay) {

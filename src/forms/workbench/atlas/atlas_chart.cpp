@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "forms/program_style.h"
 #include "picture/plain_tool_tip.h"
 
 namespace orrerix {
@@ -16,6 +17,7 @@ namespace {
 
 constexpr int kTicks = 4;  // about as many steps an axis has
 constexpr QRgb kPointColor = 0xffffd24a;
+constexpr QRgb kPointOnLight = 0xff9a5a00;
 constexpr double kReach = 10;  // pixels from a point that count as on it
 constexpr double kRadius = 3.5;
 constexpr double kMarkRadius = 7;
@@ -130,7 +132,7 @@ void AtlasChart::PaintAxes(QPainter& painter) const {
 
 void AtlasChart::PaintPoints(QPainter& painter) const {
   painter.setPen(Qt::NoPen);
-  painter.setBrush(QColor(kPointColor));
+  painter.setBrush(QColor(IsLight(palette()) ? kPointOnLight : kPointColor));
   for (const ChartPoint& point : points_) painter.drawEllipse(PlaceOf(point), kRadius, kRadius);
   painter.setBrush(Qt::NoBrush);
   painter.setPen(QPen(palette().color(QPalette::WindowText), 2));

@@ -47,29 +47,44 @@ QComboBox* AtlasChartPane::AddAxis(const char* name, TextId caption) {
   return box;
 }
 
-void AtlasChartPane::OfferColumns() {
+void AtlasChartPane::OfferColumns(const QString& axes) {
   const QSignalBlocker quietX(x_);
   const QSignalBlocker quietY(y_);
   x_->clear();
   y_->clear();
   for (int column = 0; column < model_.columnCount(); ++column) {
     if (!model_.IsNumber(column)) continue;
-    const std::string& head = model_.Table()->Columns[static_cast<std::size_t>(column)].Head;
-    for (QComboBox* box : {x_, y_}) box->addItem(QString::fromStdString(head), column);
+    const QString head = model_.Head(static_cast<std::size_t>(column));
+    for (QComboBox* box : {x_, y_}) box->addItem(head, column);
   }
-  ChooseAxes();
+  ChooseAxes(axes);
   Refresh();
 }
 
-void AtlasChartPane::ChooseAxes() {
+void AtlasChartPane::ChooseAxes(const QString& axes) {
   if (model_.Table() == nullptr) return;
-  const auto choose = [this](QComboBox& box, const char* id, int otherwise) {
-    const auto column = model_.Table()->Find(id);
-    const int item = column ? box.findData(static_cast<int>(*column)) : -1;
+  const QStringList known = axes.split(' ', Qt::SkipEmptyParts);
+  const auto itemOf = [this](const QString& id) {
+    const auto column = model_.Table()->Find(id.toStdString());
+    return column ? x_->findData(static_cast<int>(*column)) : -1;
+  };
+  const auto choose = [&](QComboBox& box, const QString& wanted, const char* usual, int otherwise) {
+    int item = itemOf(wanted);
+    if (item < 0) item = itemOf(usual);
     box.setCurrentIndex(item >= 0 ? item : std::min(otherwise, box.count() - 1));
   };
-  choose(*x_, kFirstX, 0);
-  choose(*y_, kFirstY, 1);
+  choose(*x_, known.value(0), kFirstX, 0);
+  choose(*y_, known.value(1), kFirstY, 1);
+}
+
+QString AtlasChartPane::Axes() const {
+  QStringList ids;
+  for (const QComboBox* box : {x_, y_}) {
+    if (model_.Table() == nullptr || box->currentIndex() < 0) return {};
+    const auto column = static_cast<std::size_t>(box->currentData().toInt());
+    ids.append(QString::fromStdString(model_.Table()->Columns[column].Id));
+  }
+  return ids.join(' ');
 }
 
 void AtlasChartPane::Refresh() {

@@ -18,15 +18,17 @@ class AtlasChartPane : public QWidget {
 
   AtlasChart& Chart() { return *chart_; }
 
-  // Offers the columns of another table.
-  void OfferColumns();
+  // Offers the columns of another table. `axes` are the IDs of the two to begin with, as Axes()
+  // gives them; those that the table lacks are replaced by the usual ones.
+  void OfferColumns(const QString& axes);
+  QString Axes() const;
 
   // Shows the rows that the model shows now.
   void Refresh();
 
  private:
   QComboBox* AddAxis(const char* name, TextId caption);
-  void ChooseAxes();
+  void ChooseAxes(const QString& axes);
 
   const AtlasModel& model_;
   const LanguageChoice& choice_;

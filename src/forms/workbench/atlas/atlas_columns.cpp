@@ -107,8 +107,8 @@ void AtlasColumns::Fill(QMenu& menu, int column) {
   menu.addAction(CaptionIn(choice_.Current, TextId::AtlasAllColumns), [this] { ShowAll(); });
   menu.addSeparator();
   for (int i = 1; i < model_.columnCount(); ++i) {
-    const std::string& head = model_.Table()->Columns[static_cast<std::size_t>(i)].Head;
-    QAction* action = menu.addAction(QString::fromStdString(head).replace("&", "&&"));
+    const QString head = model_.Head(static_cast<std::size_t>(i));
+    QAction* action = menu.addAction(QString(head).replace("&", "&&"));
     action->setCheckable(true);
     action->setChecked(!view_.isColumnHidden(i));
     QObject::connect(action, &QAction::toggled, &view_,

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/workbench/atlas/atlas_conditions.h"
 
-#include <QStringList>
+#include <algorithm>
 
 #include "shell/language_texts.h"
 
@@ -25,6 +25,24 @@ AtlasConditions ParseConditions(const AtlasTable& table, const QString& text, La
     } else {
       conditions.All.push_back({*column, *filter});
     }
+  }
+  return conditions;
+}
+
+AtlasFieldConditions ParseFields(const AtlasModel& model, const QStringList& texts,
+                                 Language language) {
+  AtlasFieldConditions conditions;
+  for (int i = 0; i < std::min(static_cast<int>(texts.size()), model.columnCount()); ++i) {
+    const auto column = static_cast<std::size_t>(i);
+    const std::string text = texts[i].toStdString();
+    const auto filters = ParseColumnFilter(text, model.IsNumber(i));
+    conditions.Errors.append(QString());
+    if (!filters) {
+      conditions.Errors.back() = QString::fromStdString(
+          FormatIn(language, TextId::AtlasFieldWrong, model.Head(column).toStdString(), text));
+      continue;
+    }
+    for (const Filter& filter : *filters) conditions.All.push_back({column, filter});
   }
   return conditions;
 }

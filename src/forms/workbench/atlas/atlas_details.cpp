@@ -8,6 +8,7 @@
 #include "forms/controls/captions.h"
 #include "forms/controls/locale_separators.h"
 #include "forms/controls/plain_label.h"
+#include "forms/workbench/atlas/atlas_captions.h"
 #include "forms/workbench/atlas/atlas_model.h"
 #include "forms/workbench/silent_boxes.h"
 #include "info/texts/info_text.h"
@@ -25,12 +26,12 @@ std::optional<InfoType> InfoTypeOf(const std::string& table) {
   return InfoType::Equipment;
 }
 
-QString FieldsOf(const AtlasContent::Table& table, std::size_t row) {
+QString FieldsOf(const AtlasContent::Table& table, std::size_t row, Language language) {
   QStringList lines;
   for (std::size_t i = 0; i < table.About->Columns.size(); ++i) {
     const Value& value = table.Rows.Row(row)[i];
     if (value.IsNull()) continue;
-    lines.append(QString::fromStdString(table.About->Columns[i].Head) + ": " + CellText(value));
+    lines.append(AtlasCaption(language, table.About->Columns[i].Head) + ": " + CellText(value));
   }
   return lines.join('\n');
 }
@@ -91,7 +92,7 @@ QString AtlasDetails::TextOf(const AtlasContent::Table& table, std::size_t row) 
   const auto nickname = table.About->Find("nickname");
   QString text;
   if (nickname) text = InfoText(table.About->Id, table.Rows.Row(row)[*nickname].Text());
-  return text.isEmpty() ? FieldsOf(table, row) : text;
+  return text.isEmpty() ? FieldsOf(table, row, choice_.Current) : text;
 }
 
 // A line that cannot be written is left out without a question.

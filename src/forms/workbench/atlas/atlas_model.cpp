@@ -6,6 +6,7 @@
 
 #include "atlas/hardpoints.h"
 #include "db/values/text.h"
+#include "forms/workbench/atlas/atlas_captions.h"
 #include "forms/workbench/cell_alignment.h"
 #include "picture/plain_tool_tip.h"
 #include "tables/value_order.h"
@@ -180,14 +181,20 @@ QVariant AtlasModel::data(const QModelIndex& index, int role) const {
   }
 }
 
+QString AtlasModel::Head(std::size_t column) const {
+  return AtlasCaption(language_.Current, table_->Columns[column].Head);
+}
+
 QVariant AtlasModel::headerData(int section, Qt::Orientation orientation, int role) const {
   if (orientation != Qt::Horizontal || section < 0 || section >= columnCount()) return {};
-  const ColumnHead& column = table_->Columns[static_cast<std::size_t>(section)];
+  const auto place = static_cast<std::size_t>(section);
+  const ColumnHead& column = table_->Columns[place];
   switch (role) {
     case Qt::DisplayRole:
-      return QString::fromStdString(column.Head).replace(" (", "\n(");  // the unit below
+      return Head(place).replace(" (", "\n(");  // the unit below
     case Qt::ToolTipRole:
-      return PlainToolTip(column.Head + "\n" + column.Id + ": " + column.Formula);
+      return PlainToolTip(Head(place) + "\n" +
+                          QString::fromStdString(column.Id + ": " + column.Formula));
     case Qt::TextAlignmentRole:
       return CellAlignment(IsNumber(section));
     default:

@@ -10,6 +10,7 @@
 #include "atlas/atlas_table.h"
 #include "atlas/filter.h"
 #include "db/rows/stored_table.h"
+#include "shell/text_id.h"
 #include "tables/table_choice.h"
 #include "tables/table_formats.h"
 
@@ -35,6 +36,9 @@ class AtlasModel : public QAbstractTableModel {
  public:
   using Order = TableQuestion::Order;
 
+  // Heads are in this language; it outlives the model.
+  explicit AtlasModel(const LanguageChoice& choice = kEnglishOnly) : language_(choice) {}
+
   // Shows all rows of a table in stored order; both outlive this or the next call.
   void Show(const AtlasTable& table, const StoredTable& rows);
   void Clear();
@@ -52,6 +56,9 @@ class AtlasModel : public QAbstractTableModel {
   const AtlasTable* Table() const { return table_; }
   const StoredTable& Stored() const { return *stored_; }
   std::size_t StoredCount() const { return stored_ == nullptr ? 0 : stored_->RowCount(); }
+
+  // The head of a column on one line, in the language in use.
+  QString Head(std::size_t column) const;
   bool IsNumber(int column) const { return isNumber_[static_cast<std::size_t>(column)]; }
 
   // From the rows that are shown to the stored ones, and back; -1 for one that is not shown.
@@ -71,6 +78,7 @@ class AtlasModel : public QAbstractTableModel {
   bool IsWanted(std::size_t row, const QString& folded) const;
   bool IsRowBefore(std::size_t a, std::size_t b) const;
 
+  const LanguageChoice& language_;
   const AtlasTable* table_ = nullptr;
   const StoredTable* stored_ = nullptr;
   std::vector<bool> isNumber_;

@@ -2,10 +2,6 @@
 #include "forms/workbench/atlas/atlas_page.h"
 
 #include <QAction>
-#include <QApplication>
-#include <QClipboard>
-#include <QFile>
-#include <QFileDialog>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QScrollBar>
@@ -19,6 +15,7 @@
 #include "atlas/registry.h"
 #include "forms/controls/captions.h"
 #include "forms/controls/plain_label.h"
+#include "forms/workbench/atlas/atlas_captions.h"
 #include "forms/workbench/atlas/atlas_conditions.h"
 #include "forms/workbench/setting_keys.h"
 
@@ -40,7 +37,7 @@ AtlasPage::AtlasPage(WorkbenchHost& host, const LanguageChoice& choice, QSetting
   tables_->setAccessibleName(Caption(TextId::AtlasTables));
   tables_->setFixedWidth(kListWidth);
   for (const AtlasTable& table : AtlasTables()) {
-    auto* item = new QListWidgetItem(QString::fromStdString(table.Title), tables_);
+    auto* item = new QListWidgetItem(AtlasCaption(choice.Current, table.Title), tables_);
     item->setToolTip(QString::fromStdString(table.About));
   }
   layout->addWidget(tables_);
@@ -51,6 +48,8 @@ AtlasPage::AtlasPage(WorkbenchHost& host, const LanguageChoice& choice, QSetting
   column->addWidget(state_);
   column->addWidget(MakePanes(), 1);
   columns_ = std::make_unique<AtlasColumns>(*view_, model_, settings_, choice_);
+  output_ = std::make_unique<AtlasOutput>(*view_, model_, *columns_, choice_);
+  output_->OnState = [this](const QString& text) { state_->setText(text); };
   column->addWidget(MakeButtons());
   layout->addLayout(column, 1);
   KeepPinsAligned();
@@ -112,6 +111,10 @@ QTableView* AtlasPage::MakeView(const char* name, TextId caption, QAbstractItemM
 
 QWidget* AtlasPage::MakePanes() {
   view_ = MakeView("AtlasTable", TextId::AtlasPage, model_);
+  auto* header = new FilterHeader(view_);
+  header->OnEdited = [this] { Filter(); };
+  view_->setHorizontalHeader(header);
+  fields_ = std::make_unique<AtlasFields>(*header, model_, settings_, choice_);
   view_->horizontalHeader()->setSortIndicatorClearable(true);
   view_->horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
   view_->setSortingEnabled(true);
@@ -176,14 +179,16 @@ QWidget* AtlasPage::MakeButtons() {
     if (on) chart_->Refresh();
   });
   connect(AddButton(*bar, "CopyRows", TextId::AtlasCopyRows), &QPushButton::clicked, this,
-          [this] { CopyRows(); });
+          [this] { output_->CopyRows(); });
   connect(AddButton(*bar, "Export", TextId::Export), &QPushButton::clicked, this,
-          [this] { Export(); });
+          [this] { output_->Export(); });
+  connect(AddButton(*bar, "Print", TextId::AtlasPrint), &QPushButton::clicked, this,
+          [this] { output_->Print(); });
   row->addStretch(1);
   auto* copy = new QAction(view_);
   copy->setShortcut(QKeySequence::Copy);
   copy->setShortcutContext(Qt::WidgetShortcut);
-  connect(copy, &QAction::triggered, this, [this] { CopyRows(); });
+  connect(copy, &QAction::triggered, this, [this] { output_->CopyRows(); });
   view_->addAction(copy);
   return bar;
 }
@@ -191,6 +196,7 @@ QWidget* AtlasPage::MakeButtons() {
 void AtlasPage::MakeColumnMenus(QPushButton& button) {
   auto* menu = new QMenu(&button);
   menu->setObjectName("ColumnMenu");
+  menu->setAttribute(Qt::WA_WindowPropagation);
   connect(menu, &QMenu::aboutToShow, this, [this, menu] { columns_->Fill(*menu, -1); });
   button.setMenu(menu);
   QHeaderView* head = view_->horizontalHeader();
@@ -198,6 +204,7 @@ void AtlasPage::MakeColumnMenus(QPushButton& button) {
   connect(head, &QWidget::customContextMenuRequested, this, [this, head](const QPoint& place) {
     auto* headMenu = new QMenu(this);
     headMenu->setAttribute(Qt::WA_DeleteOnClose);
+    headMenu->setAttribute(Qt::WA_WindowPropagation);
     columns_->Fill(*headMenu, head->logicalIndexAt(place));
     headMenu->popup(head->mapToGlobal(place));
   });
@@ -279,6 +286,7 @@ void AtlasPage::ShowTable(int index) {
   details_->Clear();
   PinsChanged();
   ships_->setEnabled(HardpointColumnOf(*table.About).has_value());
+  fields_->Offer();
   columns_->Recall();
   {
     const QSignalBlocker quietFilter(filter_);
@@ -286,7 +294,8 @@ void AtlasPage::ShowTable(int index) {
     filter_->setText(settings_.value(Key(setting_key::kAtlasFilter)).toString());
     conditions_->setText(settings_.value(Key(setting_key::kAtlasConditions)).toString());
   }
-  chart_->OfferColumns();
+  fields_->Recall();
+  chart_->OfferColumns(settings_.value(Key(setting_key::kAtlasAxes)).toString());
   Filter();
 }
 
@@ -295,6 +304,7 @@ void AtlasPage::ShowRows(const QString& table, const QString& text) {
   settings_.setValue(setting_key::kAtlasTable, table);
   settings_.setValue(QString("atlas/%1/%2").arg(table, setting_key::kAtlasFilter), text);
   settings_.setValue(QString("atlas/%1/%2").arg(table, setting_key::kAtlasConditions), QString());
+  settings_.setValue(QString("atlas/%1/%2").arg(table, setting_key::kAtlasFields), QStringList());
   if (!content_.Tables.empty()) Show(std::move(content_));
 }
 
@@ -305,6 +315,19 @@ void AtlasPage::RememberTable() {
   settings_.setValue(setting_key::kAtlasShip, ships_->currentData().toString());
   settings_.setValue(Key(setting_key::kAtlasFilter), filter_->text());
   settings_.setValue(Key(setting_key::kAtlasConditions), conditions_->text());
+  fields_->Remember();
+  settings_.setValue(Key(setting_key::kAtlasAxes), chart_->Axes());
+}
+
+// Those of the text and those of the fields; what is wrong first is said.
+AtlasConditions AtlasPage::ReadConditions() {
+  AtlasConditions all = ParseConditions(*model_.Table(), conditions_->text(), choice_.Current);
+  const AtlasFieldConditions fields = fields_->Read();
+  all.All.insert(all.All.end(), fields.All.begin(), fields.All.end());
+  for (const QString& error : fields.Errors) {
+    if (all.Error.isEmpty()) all.Error = error;
+  }
+  return all;
 }
 
 // The chosen row stays chosen if it is still there, else the first one is. Its details are not
@@ -312,8 +335,7 @@ void AtlasPage::RememberTable() {
 void AtlasPage::Filter() {
   if (model_.Table() == nullptr) return;
   const std::size_t chosen = chosen_.value_or(0);
-  AtlasConditions conditions =
-      ParseConditions(*model_.Table(), conditions_->text(), choice_.Current);
+  AtlasConditions conditions = ReadConditions();
   AtlasChoice choice{filter_->text().trimmed(), std::move(conditions.All), {}};
   const int ship = ships_->currentIndex() - 1;
   if (ship >= 0) choice.Types = content_.Ships[static_cast<std::size_t>(ship)].Types;
@@ -350,47 +372,8 @@ void AtlasPage::ShowChosen() {
   details_->Show(content_, content_.Tables[static_cast<std::size_t>(tables_->currentRow())], *row);
 }
 
-std::vector<int> AtlasPage::ChosenRows() const {
-  std::vector<int> rows;
-  for (const QModelIndex& index : view_->selectionModel()->selectedRows()) {
-    rows.push_back(index.row());
-  }
-  std::sort(rows.begin(), rows.end());
-  return rows;
-}
-
-void AtlasPage::CopyRows() {
-  QStringList lines;
-  for (const int row : ChosenRows()) {
-    QStringList cells;
-    for (const std::size_t column : columns_->Shown()) {
-      cells.append(model_.index(row, static_cast<int>(column)).data().toString());
-    }
-    lines.append(cells.join('\t'));
-  }
-  if (!lines.isEmpty()) QApplication::clipboard()->setText(lines.join('\n'));
-}
-
-bool AtlasPage::SaveTo(const QString& name) const {
-  if (model_.Table() == nullptr) return false;
-  const std::string text = CsvOf(model_.Part(columns_->Shown()));
-  const auto size = static_cast<qint64>(text.size());
-  QFile file(name);
-  return file.open(QIODevice::WriteOnly) && file.write(text.data(), size) == size && file.flush();
-}
-
-void AtlasPage::Export() {
-  if (model_.Table() == nullptr) return;
-  const QString name = QFileDialog::getSaveFileName(
-      this, Caption(TextId::Export), QString::fromStdString(model_.Table()->Id) + ".csv",
-      "CSV (*.csv)");
-  if (name.isEmpty() || SaveTo(name)) return;
-  state_->setText(QString::fromStdString(
-      FormatIn(choice_.Current, TextId::CannotWriteFile, name.toStdString())));
-}
-
 void AtlasPage::PinChosen() {
-  for (const int row : ChosenRows()) pins_.Pin(model_.StoredRow(row));
+  for (const int row : output_->ChosenRows()) pins_.Pin(model_.StoredRow(row));
   PinsChanged();
 }
 

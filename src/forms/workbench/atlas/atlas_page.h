@@ -13,9 +13,12 @@
 
 #include "forms/workbench/atlas/atlas_chart_pane.h"
 #include "forms/workbench/atlas/atlas_columns.h"
+#include "forms/workbench/atlas/atlas_conditions.h"
 #include "forms/workbench/atlas/atlas_content.h"
 #include "forms/workbench/atlas/atlas_details.h"
+#include "forms/workbench/atlas/atlas_fields.h"
 #include "forms/workbench/atlas/atlas_model.h"
+#include "forms/workbench/atlas/atlas_output.h"
 #include "forms/workbench/atlas/atlas_pins.h"
 #include "forms/workbench/workbench_host.h"
 #include "forms/workbench/workbench_page.h"
@@ -37,8 +40,7 @@ class AtlasPage : public WorkbenchPage {
   // the universe.
   void ShowRows(const QString& table, const QString& text);
 
-  // Writes the rows and columns that are shown into a file as CSV. False if it cannot be written.
-  bool SaveTo(const QString& file) const;
+  AtlasOutput& Output() { return *output_; }
 
  private:
   QString Caption(TextId id) const;
@@ -56,13 +58,11 @@ class AtlasPage : public WorkbenchPage {
   void ShowTable(int index);
   void RememberTable();
   void OfferShips();
+  AtlasConditions ReadConditions();
   void Filter();
   void ShowSums(const QString& error);
   void ShowChosen();
   void Choose(std::size_t storedRow);
-  std::vector<int> ChosenRows() const;
-  void CopyRows();
-  void Export();
   void PinChosen();
   void PinsChanged();
   QString Key(const char* what) const;
@@ -71,7 +71,7 @@ class AtlasPage : public WorkbenchPage {
   const LanguageChoice& choice_;
   QSettings& settings_;
   AtlasContent content_;
-  AtlasModel model_;
+  AtlasModel model_{choice_};
   AtlasPins pins_{model_};
   QListWidget* tables_;
   QLineEdit* filter_;
@@ -83,7 +83,9 @@ class AtlasPage : public WorkbenchPage {
   QWidget* pinPane_;
   AtlasChartPane* chart_;
   AtlasDetails* details_;
+  std::unique_ptr<AtlasFields> fields_;
   std::unique_ptr<AtlasColumns> columns_;
+  std::unique_ptr<AtlasOutput> output_;
   bool isRead_ = false;
   bool isFiltering_ = false;
   std::optional<std::size_t> chosen_;  // the stored row of which there are details
