@@ -5,6 +5,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QStackedWidget>
+#include <QTableView>
 #include <QTest>
 #include <QTimer>
 #include <QTreeView>
@@ -338,6 +339,18 @@ void Tour::TakeMapPages(QWidget& window) {
   album_.Take("tools-bookmarks", window);
 }
 
+void Tour::TakeAtlas(QWidget& window) {
+  QWidget& atlas = OpenPage(window, TextId::AtlasPage);
+  auto& tables = ChildOf<QListWidget>(atlas, "AtlasTables");
+  auto& rows = ChildOf<QTableView>(atlas, "AtlasTable");
+  Wait("the tables of the atlas", [&] { return rows.model()->rowCount() > 0; });
+  tables.setCurrentRow(1);
+  PassEvents();
+  rows.selectRow(0);
+  PassEvents();
+  album_.Take("tools-atlas", window);
+}
+
 void Tour::TakeTools() {
   run_.Main()->MapTools().Open();
   QWidget* window = nullptr;
@@ -357,6 +370,7 @@ void Tour::TakeTools() {
   PassEvents();
   album_.Take("tools-log", *window);
   TakeMapPages(*window);
+  TakeAtlas(*window);
   window->close();
 }
 

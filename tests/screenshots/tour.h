@@ -32,6 +32,7 @@ class Tour {
   void TakeSummary();
   void TakeTools();
   void TakeMapPages(QWidget& window);
+  void TakeAtlas(QWidget& window);
   static QWidget& OpenPage(QWidget& window, TextId name);
   void TakeTravel();
   void TakeUpdate();
