@@ -70,6 +70,7 @@ int Run(const ProgramArguments& arguments) {
   AddImportVerb(app, options, run);
   AddTableVerbs(app, options, run);
   AddAtlasVerb(app, options, run);
+  AddRelationsVerb(app, options, run);
   AddDiffVerb(app, options, run);
   AddWatchVerb(app, options, run);
   AddSceneVerb(app, options, run);

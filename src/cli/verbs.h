@@ -27,6 +27,7 @@ void AddCheckVerb(CLI::App& app, const CommonOptions& options, Verb& run);
 void AddAtlasVerb(CLI::App& app, const CommonOptions& options, Verb& run);
 void AddImportVerb(CLI::App& app, const CommonOptions& options, Verb& run);
 void AddTableVerbs(CLI::App& app, const CommonOptions& options, Verb& run);
+void AddRelationsVerb(CLI::App& app, const CommonOptions& options, Verb& run);
 void AddDiffVerb(CLI::App& app, const CommonOptions& options, Verb& run);
 void AddWatchVerb(CLI::App& app, const CommonOptions& options, Verb& run);
 void AddSceneVerb(CLI::App& app, const CommonOptions& options, Verb& run);

@@ -137,6 +137,7 @@ void IconKeys::Follow(const MapDrawing& drawing, const std::string& description,
 void IconKeys::SetNames(const std::vector<const Control*>& icons, const std::string& description,
                         const NamesOf& namesOf) {
   std::vector<std::string> texts;
+  texts.reserve(icons.size());
   for (const Control* icon : icons) texts.push_back(IconText(*icon));
   if (texts == texts_ && description == description_) return;
   const bool hadFocus = stop_ < keys_.size() && keys_[stop_]->hasFocus();

@@ -283,6 +283,7 @@ IconKeys::Events MapController::IconEvents() {
 // A place by its name, the end of a jump connection by its description in one line.
 std::vector<std::string> MapController::NamesOfIcons(const std::vector<const Control*>& icons) {
   std::vector<std::string> names;
+  names.reserve(icons.size());
   for (const Control* icon : icons) {
     names.push_back(QString::fromStdString(IconText(*icon)).simplified().toStdString());
   }

@@ -131,6 +131,7 @@ void SearchPanelView::ShowColumns(ColumnList& list, const SearchPanel& panel, Se
   std::vector<SearchColumn>& columns = columns_[isUpper ? 0 : 1];
   columns = panel.ColumnsOf(control);
   std::vector<ColumnList::Column> shown;
+  shown.reserve(columns.size());
   for (const SearchColumn column : columns) shown.push_back(HeadOf(column, isUpper, texts));
   double first = 1;
   for (std::size_t i = 1; i < shown.size(); ++i) first -= shown[i].Share;
