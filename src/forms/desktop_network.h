@@ -14,7 +14,9 @@ struct FetchLimits {
   qint64 Bytes = 1024 * 1024;
 };
 
-// The network as the desktop knows it. While it waits, the user's keys and clicks wait, too.
+// The network as the desktop knows it. A fetch goes on where a server leads it, but neither to
+// another kind of address nor from https to http. While it waits, the user's keys and clicks wait,
+// too.
 class DesktopNetwork : public Network {
  public:
   explicit DesktopNetwork(FetchLimits limits = {}) : limits_(limits) {}
@@ -26,9 +28,5 @@ class DesktopNetwork : public Network {
   FetchLimits limits_;
   QNetworkAccessManager manager_;
 };
-
-// Whether a fetch goes on where a server leads it: within the same kind of address, and from http
-// to https.
-bool IsRedirectFollowed(const QUrl& from, const QUrl& to);
 
 }  // namespace orrerix

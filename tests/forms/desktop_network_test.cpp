@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/desktop_network.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include "loopback_server.h"
 #include "online/news.h"
@@ -84,18 +84,6 @@ TEST_F(DesktopNetworkTest, ARedirectWithinTheSameKindOfAddressIsFollowed) {
   EXPECT_EQ(Get("/here"), "1.5");
 }
 
-TEST(Redirects, AreFollowedWithinAKindOfAddressAndToItsSecureForm) {
-  const QUrl http("http://a.example/news");
-  const QUrl https("https://a.example/news");
-
-  EXPECT_TRUE(IsRedirectFollowed(http, http));
-  EXPECT_TRUE(IsRedirectFollowed(https, https));
-  EXPECT_TRUE(IsRedirectFollowed(http, https));
-  EXPECT_FALSE(IsRedirectFollowed(https, http));
-  EXPECT_FALSE(IsRedirectFollowed(http, QUrl("ftp://a.example/news")));
-  EXPECT_FALSE(IsRedirectFollowed(https, QUrl("file:///etc/hostname")));
-}
-
 TEST_F(DesktopNetworkTest, ARedirectToTheSecureAddressIsFollowed) {
   server.On("/here", QByteArray("HTTP/1.1 302 Found\r\nLocation: https://127.0.0.1:1/x"
                                 "\r\nContent-Length: 0\r\n\r\n"));
@@ -104,7 +92,7 @@ TEST_F(DesktopNetworkTest, ARedirectToTheSecureAddressIsFollowed) {
     Get("/here");
     FAIL() << "there is no server at the secure address";
   } catch (const NetworkError& error) {
-    EXPECT_STRNE(error.what(), "The server leads to another kind of address");
+    EXPECT_THAT(error.what(), testing::HasSubstr("refused"));
   }
 }
 
