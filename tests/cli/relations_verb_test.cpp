@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "cli/command_line_fixture.h"
+#include "shell/game_record.h"
 
 namespace orrerix {
 namespace {
@@ -37,6 +38,13 @@ TEST_F(RelationsVerb, GivesNumbersAsJson) {
   EXPECT_EQ(Relations("rogues --json " + Other()).Json(), nlohmann::json::parse(R"([
                 {"nickname": "rogues", "name": "rogues", "towards": [
                   {"nickname": "navy", "name": "navy", "value": 0.1, "attitude": "neutral"}]}])"));
+}
+
+TEST_F(RelationsVerb, TakesTheGameThatTheUniverseCameFrom) {
+  EXPECT_THAT(Relations("rogues").Errors, HasSubstr("needs --game"));
+  ASSERT_TRUE(WriteGameRecord(folder.Path() / "u.fl", {(folder.Path() / "other").string(), 1}));
+
+  EXPECT_EQ(Relations("rogues").Output, "rogues\tnavy\t0.1\tneutral\n");
 }
 
 TEST_F(RelationsVerb, SaysWhatItCannotDo) {

@@ -58,7 +58,7 @@ TEST(AttitudeColors, AreEasyToRead) {
   }
 }
 
-// Extremes are told from the shades beside them, and from each other, without colors.
+// Extremes differ from the shades beside them, and from each other, without colors.
 TEST(AttitudeColors, DifferInLightness) {
   const auto light = [](Attitude attitude) { return LuminanceOf(LookOf(attitude).Ground); };
 
