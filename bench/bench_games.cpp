@@ -5,6 +5,7 @@
 #include <cstdlib>
 #include <stdexcept>
 
+#include "bench_sinks.h"
 #include "demo/demo_game.h"
 #include "derived/stages.h"
 #include "platform/tick_count.h"
@@ -24,11 +25,6 @@ class SilentHost : public ImportHost {
   std::uint32_t TickCount() override { return GetTickCount(); }
   bool IsMinimised() const override { return false; }
   bool IsDebugging() const override { return false; }
-};
-
-class SilentMessages : public MessageBoxes {
- public:
-  MessageAnswer Show(const Message&) override { return MessageAnswer::Ok; }
 };
 
 }  // namespace

@@ -2,22 +2,17 @@
 // An import beside what it cannot do without: reading the folder's bytes, and SQLite's inserts.
 #include <fstream>
 #include <memory>
-#include <stdexcept>
 
 #include <benchmark/benchmark.h>
 #include <sqlite3.h>
 
 #include "bench_games.h"
+#include "bench_sinks.h"
 #include "db/engine/engine.h"
 
 namespace orrerix {
 namespace fs = std::filesystem;
 namespace {
-
-class MustWork : public FailureSink {
- public:
-  void Fail(const Failure& failure) override { throw std::runtime_error(failure.Description); }
-};
 
 void ReadAllBytes(benchmark::State& state, const BenchGame& game) {
   std::size_t bytes = 0;

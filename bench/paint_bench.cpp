@@ -5,11 +5,11 @@
 #include <QGraphicsView>
 #include <QImage>
 #include <memory>
-#include <stdexcept>
 
 #include <benchmark/benchmark.h>
 
 #include "bench_games.h"
+#include "bench_sinks.h"
 #include "db/engine/working_copy.h"
 #include "map/redraw.h"
 #include "picture/map_scene.h"
@@ -23,16 +23,6 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr QSize kWindow(1920, 1050);
-
-class MustWork : public FailureSink {
- public:
-  void Fail(const Failure& failure) override { throw std::runtime_error(failure.Description); }
-};
-
-class SilentMessages : public MessageBoxes {
- public:
-  MessageAnswer Show(const Message&) override { return MessageAnswer::Ok; }
-};
 
 struct Redraw {
   ZoomRectangle Rectangle;

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 // The drawing list of the map, whole grid and zoomed.
 #include <memory>
-#include <stdexcept>
 
 #include <benchmark/benchmark.h>
 
 #include "bench_games.h"
+#include "bench_sinks.h"
 #include "db/engine/working_copy.h"
 #include "map/redraw.h"
 #include "shell/version.h"
@@ -13,16 +13,6 @@
 namespace orrerix {
 namespace fs = std::filesystem;
 namespace {
-
-class MustWork : public FailureSink {
- public:
-  void Fail(const Failure& failure) override { throw std::runtime_error(failure.Description); }
-};
-
-class SilentMessages : public MessageBoxes {
- public:
-  MessageAnswer Show(const Message&) override { return MessageAnswer::Ok; }
-};
 
 void DrawingList(benchmark::State& state, const BenchGame& game, const fs::path& work,
                  const ZoomRectangle& rectangle) {
