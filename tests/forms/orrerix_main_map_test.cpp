@@ -105,7 +105,6 @@ TEST_F(OrrerixMainMapTest, FourToolsOpenTheSearchPanelAndTheLastOnePrints) {
 }
 
 TEST_F(OrrerixMainMapTest, ARedrawAskedForDuringAQuestionRunsAfterTheOneThatAsks) {
-  if (kFileNamesIgnoreCase) GTEST_SKIP() << "Windows without a display asks for no redraw here";
   FailTest mustWork;
   DBEngine::OpenDatabase(mustWork, UniverseFile()).Execute(mustWork, "DROP TABLE TradeLanes");
   form->showNormal();
@@ -127,7 +126,6 @@ TEST_F(OrrerixMainMapTest, ARedrawAskedForDuringAQuestionRunsAfterTheOneThatAsks
 }
 
 TEST_F(OrrerixMainMapTest, TheWholeMapIsPrintedOnWhiteFromASquareForm) {
-  if (kFileNamesIgnoreCase) GTEST_SKIP() << "Windows without a display gives windows a frame";
   form->PrintTheMap();
 
   const int side = form->screen()->geometry().height();

@@ -5,11 +5,8 @@
 
 #include <gmock/gmock.h>
 
+#include "support/folder_reports.h"
 #include "support/temp_folder.h"
-
-#ifdef _WIN32
-#include <windows.h>
-#endif
 
 namespace orrerix {
 namespace {
@@ -17,15 +14,6 @@ namespace {
 namespace fs = std::filesystem;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
-
-// Wine reports nothing of the folders below a watched one, as Windows does.
-bool ReportsFoldersBelow() {
-#ifdef _WIN32
-  return GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "wine_get_version") == nullptr;
-#else
-  return true;
-#endif
-}
 
 class GameFolders : public ::testing::Test {
  protected:
