@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <functional>
 
+#include "platform/file_time.h"
 #include "platform/folder_watch.h"
 #include "platform/path_text.h"
 
@@ -33,7 +34,7 @@ FileSnapshot::FileSnapshot(const std::vector<fs::path>& folders,
          entry.increment(error)) {
       std::error_code gone;
       if (!entry->is_regular_file(gone) || IsExcepted(entry->path(), except)) continue;
-      const Stamp stamp{entry->file_size(gone), entry->last_write_time(gone)};
+      const Stamp stamp{entry->file_size(gone), LastChanged(entry->path(), gone)};
       files_.emplace(entry->path(), stamp);
     }
   });

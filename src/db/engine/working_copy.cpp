@@ -8,6 +8,7 @@
 #include <sqlite3.h>
 
 #include "db/engine/engine.h"
+#include "platform/file_time.h"
 #include "platform/path_text.h"
 
 namespace orrerix {
@@ -83,7 +84,7 @@ WorkingCopy::Stamp WorkingCopy::StampOf(const fs::path& path) {
   std::error_code error;
   stamp.Path = path;
   stamp.Size = fs::file_size(path, error);
-  stamp.Changed = fs::last_write_time(path, error);
+  stamp.Changed = LastChanged(path, error);
   return stamp;
 }
 

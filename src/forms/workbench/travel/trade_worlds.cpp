@@ -5,6 +5,7 @@
 
 #include "db/engine/working_copy.h"
 #include "forms/workbench/throw_failures.h"
+#include "platform/file_time.h"
 
 namespace orrerix {
 namespace {
@@ -32,7 +33,7 @@ std::shared_ptr<const TradeWorld> TradeWorlds::Of(const fs::path& universe,
                                                   const TravelRequest& request,
                                                   const BackgroundTask::IsCancelled& isCancelled) {
   std::error_code none;
-  const fs::file_time_type changed = fs::last_write_time(universe, none);
+  const fs::file_time_type changed = LastChanged(universe, none);
   const auto isIt = [&](const Known& known) {
     return known.File == universe && known.Changed == changed && known.Request == request;
   };
