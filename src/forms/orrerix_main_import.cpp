@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The game folder, the universe file and its import.
 #include <QScreen>
+#include <QWindow>
 #include <optional>
 #include <utility>
 
@@ -92,6 +93,9 @@ void OrrerixMain::SetOuterGeometry(const QRect& outer) {
   const QSize decoration = frameGeometry().size() - size();
   move(outer.topLeft());
   resize(outer.size() - decoration);
+  // A form that was of this size while maximised takes it for done, though its window goes back to
+  // the size before.
+  if (windowHandle() != nullptr) windowHandle()->resize(size());
 }
 
 void OrrerixMain::StartImport() {

@@ -3,6 +3,7 @@
 
 #include <QFontMetricsF>
 #include <QLineF>
+#include <QMarginsF>
 #include <array>
 #include <cmath>
 
@@ -21,6 +22,7 @@ constexpr double kScaleInset = 14;
 constexpr std::size_t kMostLoot = 2;  // items that a wreck's name ends with
 constexpr double kSameNameReach = 60;
 constexpr double kLeastZone = 26;  // pixels across, of a zone with its name
+constexpr double kMapBorder = 8;   // what the painted border covers of the map, pixels
 
 class NameWishes {
  public:
@@ -38,7 +40,9 @@ class NameWishes {
   }
 
   std::vector<LayerLabel> Placed() const {
-    const auto places = PlaceLabels(wishes_, BoxOf(view_.Area()), Obstacles());
+    const QMarginsF border(kMapBorder, kMapBorder, kMapBorder, kMapBorder);
+    const auto places =
+        PlaceLabels(wishes_, BoxOf(view_.Area().marginsRemoved(border)), Obstacles());
     std::vector<LayerLabel> placed;
     for (std::size_t i = 0; i < places.size(); ++i) {
       if (!places[i]) continue;

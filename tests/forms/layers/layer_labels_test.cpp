@@ -39,6 +39,18 @@ TEST(LayerLabels, NamesOfSystemsNeverRunTogetherAndNoneIsLeftOut) {
   }
 }
 
+TEST(LayerLabels, ANameAtTheEdgeKeepsClearOfThePaintedBorder) {
+  Space space;
+  space.Systems = {{"s", "Omicron Major", {MapMaxX, MapMaxY}, 200000, std::nullopt}};
+
+  const auto names = PlaceNames(WholeGrid(std::move(space)), FormFont(kLabelPoints));
+
+  ASSERT_EQ(names.size(), 1u);
+  // 8 pixels off the right and the lower edge of the cells.
+  EXPECT_LE(names[0].Box.right(), 18 * 36 - 8);
+  EXPECT_LE(names[0].Box.bottom(), 19 * 36 - 8);
+}
+
 TEST(LayerLabels, OfOneSystemAreShownWhereItFillsTheMap) {
   Space space;
   space.Bodies = {{"a", "Planet Rho", BodyKind::Planet, {8, 10}, {0.5, 0.5}, 0.01}};
