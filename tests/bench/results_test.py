@@ -32,6 +32,10 @@ class Load(unittest.TestCase):
     def test_takes_the_time_that_a_benchmark_took_itself(self):
         self.assertEqual(self.load(run("a/manual_time", 1)), {"a/manual_time": [1000]})
 
+    def test_takes_the_time_that_passes_until_the_map_is_drawn(self):
+        self.assertEqual(self.load(run("SwitchRedraw/x", 1), run("DrawingList/x", 1)),
+                         {"SwitchRedraw/x": [1000], "DrawingList/x": [1]})
+
     def test_leaves_out_what_failed(self):
         self.assertEqual(self.load(run("a", 1, error_occurred=True)), {})
 
