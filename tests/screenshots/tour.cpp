@@ -351,6 +351,13 @@ void Tour::TakeAtlas(QWidget& window) {
   album_.Take("tools-atlas", window);
 }
 
+void Tour::TakeRelations(QWidget& window) {
+  QWidget& page = OpenPage(window, TextId::RelationsPage);
+  const auto& relations = ChildOf<QTableView>(page, "Relations");
+  Wait("the relations", [&] { return relations.model()->rowCount() > 0; });
+  album_.Take("tools-relations", window);
+}
+
 void Tour::TakeTools() {
   run_.Main()->MapTools().Open();
   QWidget* window = nullptr;
@@ -371,6 +378,7 @@ void Tour::TakeTools() {
   album_.Take("tools-log", *window);
   TakeMapPages(*window);
   TakeAtlas(*window);
+  TakeRelations(*window);
   window->close();
 }
 

@@ -33,6 +33,7 @@ class Tour {
   void TakeTools();
   void TakeMapPages(QWidget& window);
   void TakeAtlas(QWidget& window);
+  void TakeRelations(QWidget& window);
   static QWidget& OpenPage(QWidget& window, TextId name);
   void TakeTravel();
   void TakeUpdate();
