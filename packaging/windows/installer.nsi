@@ -26,6 +26,8 @@ VIAddVersionKey /LANG=0 "LegalCopyright" "MIT licence"
 
 !define MUI_ICON "orrerix.ico"
 !define MUI_UNICON "orrerix.ico"
+; A part of the star map with the program's icon, 164 by 314 pixels in 256 colours.
+!define MUI_WELCOMEFINISHPAGE_BITMAP "installer.bmp"
 !define MUI_ABORTWARNING
 !define MUI_FINISHPAGE_RUN "$INSTDIR\orrerix.exe"
 !define MUI_COMPONENTSPAGE_NODESC
