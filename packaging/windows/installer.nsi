@@ -28,6 +28,10 @@ VIAddVersionKey /LANG=0 "LegalCopyright" "MIT licence"
 !define MUI_UNICON "orrerix.ico"
 ; A part of the star map with the program's icon, 164 by 314 pixels in 256 colours.
 !define MUI_WELCOMEFINISHPAGE_BITMAP "installer.bmp"
+; The language is asked for once: a newer version and the uninstaller take the same.
+!define MUI_LANGDLL_REGISTRY_ROOT HKCU
+!define MUI_LANGDLL_REGISTRY_KEY "Software\Orrerix"
+!define MUI_LANGDLL_REGISTRY_VALUENAME "Language"
 !define MUI_ABORTWARNING
 !define MUI_FINISHPAGE_RUN "$INSTDIR\orrerix.exe"
 !define MUI_COMPONENTSPAGE_NODESC
@@ -89,6 +93,8 @@ Section "$(PROGRAM)" SectionProgram
   SetOutPath "$INSTDIR"
   File /r "${FILES}/*"
   WriteUninstaller "$INSTDIR\uninstall.exe"
+  ; Shortcuts of an earlier installation may have names in another language.
+  RMDir /r "$SMPROGRAMS\Orrerix"
   CreateDirectory "$SMPROGRAMS\Orrerix"
   CreateShortcut "$SMPROGRAMS\Orrerix\Orrerix.lnk" "$INSTDIR\orrerix.exe"
   CreateShortcut "$SMPROGRAMS\Orrerix\$(CONSOLE_LINK).lnk" "$SYSDIR\cmd.exe" '/k "cd /d $INSTDIR && orrerix-cli --help"'
