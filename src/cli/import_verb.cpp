@@ -50,11 +50,10 @@ void PrintText(const std::string& target, const ImportAnswer& result) {
 // Without a file the log stands in the answer.
 void WriteLog(const CommonOptions& options, const ImportOptions& import,
               const ImportAnswer& result) {
-  const std::string text = LogText(result.LogEntries);
   if (import.Log) {
-    WriteFile(*import.Log, text);
+    WriteFile(*import.Log, LogText(result.LogEntries));
   } else if (!options.Json && !import.Quiet) {
-    fmt::print("{}", text);
+    fmt::print("{}", LogText(result.LogEntries));
   }
 }
 

@@ -66,9 +66,8 @@ ImportAnswer UniverseImport::Run(bool quiet, const std::function<bool()>& isEnde
   } catch (const CannotReplace& error) {
     throw CouldNot(error.what());
   }
-  for (const std::string& line : log.DataLines()) {
-    answer.LogEntries.push_back(WithSameLineEnds(line));
-  }
+  answer.LogEntries = log.TakeDataLines();
+  for (std::string& line : answer.LogEntries) line = WithSameLineEnds(line);
   answer.Failures = log.Failures();
   answer.Seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
   return answer;

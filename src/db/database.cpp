@@ -9,25 +9,13 @@
 
 #include "db/engine/connection.h"
 #include "db/engine/query_text.h"
+#include "db/guard.h"
 #include "db/schema_aside.h"
 #include "db/values/text.h"
 #include "platform/path_text.h"
 
 namespace orrerix {
 namespace {
-
-// Runs a step that throws its failure, and hands that to the sink. False if it failed.
-template <typename Step>
-bool Guard(FailureSink& sink, Step&& step) {
-  std::optional<Failure> failed;
-  try {
-    step();
-  } catch (...) {
-    failed = CaughtFailure();
-  }
-  if (failed) sink.Fail(*failed);
-  return !failed;
-}
 
 Failure TableExists(const TableDef& table) {
   return EngineFailure(failure_number::kTableExists,
@@ -185,11 +173,7 @@ Recordset Database::OpenTable(FailureSink& sink, std::string_view table) {
   recordset.connection_ = connection_;
   Guard(sink, [&] {
     RequireOpen();
-    recordset.table_ = connection_->Find(table);
-    if (recordset.table_ == nullptr) {
-      throw EngineFailure(failure_number::kNoSuchTable,
-                          fmt::format("Cannot find the input table '{}'.", table));
-    }
+    recordset.table_ = connection_->Require(table);
     recordset.editable_ = true;
   });
   return recordset;
@@ -340,6 +324,7 @@ void Database::UseForBuilding(FailureSink& sink) {
   UseForFilling(sink);
   // Needs no rollback: a statement checks its keys before it writes.
   ExecuteNative(sink, "PRAGMA journal_mode = OFF; PRAGMA synchronous = OFF;");
+  if (IsOpen()) connection_->IndexNames();
 }
 
 void Database::DrawUniqueIDsFrom(UniqueNumbers::Source source) {

@@ -78,6 +78,29 @@ class Database {
                           std::initializer_list<Value> values = {},
                           RecordsetType type = RecordsetType::Snapshot);
 
+  // Opens all rows of a table, or those of the given numbers in their order. A table in memory stays
+  // there.
+  Recordset OpenRows(FailureSink& sink, std::string_view table,
+                     RecordsetType type = RecordsetType::Dynaset);
+  Recordset OpenRows(FailureSink& sink, std::string_view table, std::vector<std::int64_t> numbers,
+                     RecordsetType type = RecordsetType::Dynaset);
+
+  // Opens the rows of a table whose texts in these fields, one or two, are the given ones, whatever
+  // their case. A table in memory stays there.
+  struct NamedField {
+    std::string_view Field;
+    std::string_view Text;
+  };
+  Recordset OpenRowsNamed(FailureSink& sink, std::string_view table, NamedField name,
+                          std::optional<NamedField> other = std::nullopt,
+                          RecordsetType type = RecordsetType::Snapshot);
+
+  // Shows `visit` the number and the content of some fields of each row, in stored order. Texts are
+  // good until it returns. A table in memory stays there. False if the rows could not be read.
+  using RowVisitor = std::function<void(std::int64_t, std::span<const HeldRows::Cell>)>;
+  bool VisitRows(FailureSink& sink, std::string_view table,
+                 std::initializer_list<std::string_view> fields, const RowVisitor& visit);
+
   // What a field holds in the first row whose `keyField`, a number, has this value; nothing if
   // there is no such row or the question fails. A table in memory that has this key stays there.
   std::optional<Value> LookUp(FailureSink& sink, std::string_view table, std::string_view field,

@@ -1,29 +1,184 @@
 // SPDX-License-Identifier: MIT
 #include "derived/base_prices.h"
 
+#include <algorithm>
 #include <cmath>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <utility>
+#include <variant>
+#include <vector>
 
+#include "db/values/number_text.h"
 #include "db/values/text.h"
-#include "derived/lookup.h"
+#include "db/values/text_store.h"
 #include "platform/tick_count.h"
 #include "shell/routine.h"
 
 namespace orrerix {
 namespace {
 
-// Market lines of unknown goods or bases give no row, so inner joins will do, written in the order
-// in which the indexes serve them best. Most lines are not about commodities: joining the list of
-// commodities first drops them before anything is looked up.
-constexpr std::string_view kAppendPrices =
-    "INSERT INTO BaseGoodPrices (BaseNick, GoodNick, Price, Sell, SysNick) "
-    "SELECT Objects.nickname, BaseGoods.GoodNick, fitlong(Goods.price*BaseGoods.val6) AS Preis, "
-    "fitbyte(1+BaseGoods.val5) AS Sell, "
-    "IIf(sys_nick Is Null,Left(BaseGoods.Base,4),sys_nick) AS SysNick "
-    "FROM BaseGoods NOT INDEXED CROSS JOIN Goods ON Goods.nickname = BaseGoods.GoodNick "
-    "CROSS JOIN Objects ON BaseGoods.Base = Objects.dock_with "
-    "WHERE BaseGoods.GoodNick IN (SELECT nickname FROM Goods WHERE category = 'COMMODITY') "
-    "And Goods.category = 'COMMODITY' And Len(Objects.nickname) > 0 "
-    "ORDER BY Goods.realname, BaseGoods.rowid, Objects.rowid";
+using Cells = std::span<const HeldRows::Cell>;
+
+// The same for all texts that are equal to the engine: it ignores the case of ASCII letters, and
+// compares texts of one length no further than to a NUL.
+std::string NameKey(std::string_view text) {
+  std::string key = FoldAscii(text);
+  if (const std::size_t end = key.find('\0'); end != std::string::npos) {
+    key.resize(end + 1);
+    key += std::to_string(text.size());
+  }
+  return key;
+}
+
+const std::string_view* TextIn(const HeldRows::Cell& cell) {
+  return std::get_if<std::string_view>(&cell);
+}
+
+std::optional<double> NumberIn(const HeldRows::Cell& cell) {
+  const Value value = HeldRows::ValueOf(cell);
+  return value.IsNull() ? std::nullopt : std::optional(value.Number());
+}
+
+// A number rounded to a whole one, ties to even; Null if it leaves the range between the bounds.
+Value Fitted(std::optional<double> number, double lowest, double highest) {
+  if (!number) return {};
+  const double whole = RoundToEven(*number);
+  return whole >= lowest && whole <= highest ? Value(static_cast<std::int64_t>(whole)) : Value();
+}
+
+// Hands on all failures but that of a key which is there already.
+class DropDoubles : public FailureSink {
+ public:
+  explicit DropDoubles(FailureSink& sink) : sink_(sink) {}
+  void Fail(const Failure& failure) override {
+    if (failure.Number != failure_number::kDuplicateKey) sink_.Fail(failure);
+  }
+
+ private:
+  FailureSink& sink_;
+};
+
+// Joins market lines with the commodities that they name and the objects that dock with their
+// bases; lines of unknown goods or bases give no row. The tables stay in memory.
+class MarketStage {
+ public:
+  MarketStage(Routine& routine, Database& database) : routine_(routine), db_(database) {}
+
+  void Run() {
+    if (!NoteCommodities() || !NoteDocks() || !JoinMarkets()) return;
+    std::stable_sort(prices_.begin(), prices_.end(), [](const Price& a, const Price& b) {
+      return ComesBefore(a.Of->RealName, b.Of->RealName);
+    });
+    Append();
+  }
+
+ private:
+  struct Commodity {
+    std::optional<double> Price;
+    std::optional<std::string_view> RealName;
+  };
+  struct Dock {
+    std::string_view Nickname;
+    std::optional<std::string_view> System;
+  };
+  struct Price {
+    const Commodity* Of;
+    std::string_view Good;
+    const Dock* At;
+    std::string_view System;
+    Value Amount;
+    Value Sell;
+  };
+
+  // Null comes first.
+  static bool ComesBefore(std::optional<std::string_view> a, std::optional<std::string_view> b) {
+    if (!a || !b) return !a && b.has_value();
+    return CompareIgnoringCase(*a, *b) < 0;
+  }
+
+  std::optional<std::string_view> Kept(const HeldRows::Cell& cell) {
+    const std::string_view* text = TextIn(cell);
+    return text == nullptr ? std::nullopt : std::optional(texts_.Keep(*text));
+  }
+
+  bool NoteCommodities() {
+    return db_.VisitRows(
+        routine_, "Goods", {"category", "nickname", "price", "realname"},
+        [this](std::int64_t, Cells good) {
+          const std::string_view* category = TextIn(good[0]);
+          const std::string_view* nickname = TextIn(good[1]);
+          if (category == nullptr || !EqualIgnoringCase(*category, "commodity")) return;
+          if (nickname == nullptr) return;
+          commodities_.emplace(NameKey(*nickname), Commodity{NumberIn(good[2]), Kept(good[3])});
+        });
+  }
+
+  bool NoteDocks() {
+    return db_.VisitRows(
+        routine_, "Objects", {"dock_with", "nickname", "sys_nick"},
+        [this](std::int64_t, Cells object) {
+          const std::string_view* base = TextIn(object[0]);
+          const std::string_view* nickname = TextIn(object[1]);
+          if (base == nullptr || nickname == nullptr || nickname->empty()) return;
+          docks_[NameKey(*base)].push_back({texts_.Keep(*nickname), Kept(object[2])});
+        });
+  }
+
+  bool JoinMarkets() {
+    return db_.VisitRows(routine_, "BaseGoods", {"Base", "GoodNick", "val5", "val6"},
+                         [this](std::int64_t, Cells market) { Join(market); });
+  }
+
+  void Join(Cells market) {
+    const std::string_view* base = TextIn(market[0]);
+    const std::string_view* good = TextIn(market[1]);
+    if (base == nullptr || good == nullptr) return;
+    // Most lines are not about commodities.
+    const auto commodity = commodities_.find(NameKey(*good));
+    if (commodity == commodities_.end()) return;
+    const auto docks = docks_.find(NameKey(*base));
+    if (docks == docks_.end()) return;
+    const std::string_view kept = texts_.Keep(*good);
+    for (const Dock& dock : docks->second) AddPrice(market, commodity->second, kept, dock);
+  }
+
+  void AddPrice(Cells market, const Commodity& commodity, std::string_view good, const Dock& dock) {
+    constexpr std::size_t systemInBase = 4;
+    const auto val5 = NumberIn(market[2]);
+    const auto val6 = NumberIn(market[3]);
+    const auto price =
+        commodity.Price && val6 ? std::optional(*commodity.Price * *val6) : std::nullopt;
+    const std::string_view system =
+        dock.System ? *dock.System : texts_.Keep(Left(*TextIn(market[0]), systemInBase));
+    prices_.push_back({&commodity, good, &dock, system, Fitted(price, -2147483648.0, 2147483647.0),
+                       Fitted(val5 ? std::optional(1 + *val5) : std::nullopt, 0, 255)});
+  }
+
+  void Append() {
+    DropDoubles sink(routine_);
+    Recordset rows = db_.OpenTable(sink, "BaseGoodPrices");
+    for (Price& price : prices_) {
+      rows.AddNew();
+      rows["SysNick"] = price.System;
+      rows["BaseNick"] = price.At->Nickname;
+      rows["GoodNick"] = price.Good;
+      rows["Price"] = std::move(price.Amount);
+      rows["Sell"] = std::move(price.Sell);
+      rows.Update();
+    }
+  }
+
+  Routine& routine_;
+  Database& db_;
+  TextStore texts_;
+  std::unordered_map<std::string, Commodity> commodities_;
+  std::unordered_map<std::string, std::vector<Dock>> docks_;
+  std::vector<Price> prices_;
+};
 
 class PriceStage {
  public:
@@ -102,8 +257,7 @@ class PriceStage {
 void CalcBasePrices2(Universe& universe) {
   Routine routine(universe.Log, "OrrerixMain.CalcBasePrices2");
   routine.Run([&] {
-    LookUpBy(routine, universe, "Objects", "dock_with");
-    universe.DB.Execute(routine, kAppendPrices, {}, ExecuteOption::DropBadRows);
+    MarketStage(routine, universe.DB).Run();
   });
 }
 

@@ -1,6 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "derived/dock_objects.h"
 
+#include <span>
+#include <string_view>
+#include <utility>
+#include <variant>
+#include <vector>
+
 #include "db/schema.h"
 #include "db/values/text.h"
 #include "derived/lookup.h"
@@ -13,9 +19,17 @@ namespace {
 // A base's nickname begins with that of its planet: system, "_", two digits.
 constexpr std::size_t kPlanetNickname = 7;
 
-constexpr std::string_view kDockable =
-    "SELECT * from Objects where (len(dock_with)>0 and not nickname like '*docking_fixture*') OR "
-    "left(loadout,7) = 'SECRET_'";
+// Anything to dock with but docking fixtures, and anything with a secret loadout.
+bool IsDockable(const HeldRows::Cell& dockWith, const HeldRows::Cell& nickname,
+                const HeldRows::Cell& loadout) {
+  constexpr std::string_view secret = "SECRET_";
+  const auto* load = std::get_if<std::string_view>(&loadout);
+  if (load != nullptr && EqualIgnoringCase(load->substr(0, secret.size()), secret)) return true;
+  const auto* base = std::get_if<std::string_view>(&dockWith);
+  const auto* name = std::get_if<std::string_view>(&nickname);
+  return base != nullptr && !base->empty() && name != nullptr &&
+         !Contains(FoldAscii(*name), "docking_fixture");
+}
 
 class DockStage {
  public:
@@ -23,21 +37,29 @@ class DockStage {
       : routine_(routine), universe_(universe), host_(host), grid_(routine, universe) {}
 
   void Run() {
-    universe_.DB.CreateTable(routine_, DockObjectsTable());
-    LookUpBy(routine_, universe_, "Objects", "ucase(nickname)");
+    universe_.DB.CreateHeldTable(routine_, DockObjectsTable());
     docks_ = universe_.DB.OpenTable(routine_, "DockObjects");
-    for (Recordset objects =
-             universe_.DB.OpenRecordset(routine_, kDockable, {}, RecordsetType::Dynaset);
-         !objects.AtEnd(); objects.MoveNext()) {
+    for (Recordset objects = OpenDockables(); !objects.AtEnd(); objects.MoveNext()) {
       routine_.Try([&] { Append(objects); });
       host_.Yield();
     }
   }
 
  private:
+  Recordset OpenDockables() {
+    std::vector<std::int64_t> numbers;
+    universe_.DB.VisitRows(routine_, "Objects", {"dock_with", "nickname", "loadout"},
+                           [&](std::int64_t number, std::span<const HeldRows::Cell> object) {
+                             if (IsDockable(object[0], object[1], object[2])) {
+                               numbers.push_back(number);
+                             }
+                           });
+    return universe_.DB.OpenRows(routine_, "Objects", std::move(numbers));
+  }
+
   void Append(Recordset& object) {
     cell_ = routine_.Or(cell_, [&] { return grid_.FindCell(object["sys_nick"].Get().Text()); });
-    const double scale = SystemScale(routine_, universe_, cell_);
+    const double scale = grid_.Scale(cell_);
     const auto [position, place] = routine_.Or(PlacedObject{{}, place_}, [&] {
       return PlaceObject(routine_, object["pos"].Get().Text(), scale, place_);
     });

@@ -1,6 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "derived/jump_objects.h"
 
+#include <algorithm>
+#include <span>
+#include <utility>
+#include <vector>
+
 #include <fmt/format.h>
 
 #include "db/schema.h"
@@ -27,19 +32,36 @@ class JumpStage {
       : routine_(routine), universe_(universe), host_(host), grid_(routine, universe) {}
 
   void Run() {
-    universe_.DB.CreateTable(routine_, JumpNodesTable());
-    LookUpBy(routine_, universe_, "JumpNodes", "ucase(nickname)");
-    LookUpBy(routine_, universe_, "Objects", "ucase(nickname)");
+    universe_.DB.CreateHeldTable(routine_, JumpNodesTable());
     nodes_ = universe_.DB.OpenTable(routine_, "JumpNodes");
-    for (Recordset objects = universe_.DB.OpenRecordset(
-             routine_, "SELECT * from Objects where len(jump_effect)>0 ORDER BY jump_effect");
-         !objects.AtEnd(); objects.MoveNext()) {
+    for (Recordset objects = OpenJumps(); !objects.AtEnd(); objects.MoveNext()) {
       routine_.Try([&] { Connect(objects); });
       host_.Yield();
     }
   }
 
  private:
+  // All objects with a jump effect, ordered by it.
+  Recordset OpenJumps() {
+    struct Jump {
+      std::string Effect;
+      std::int64_t Number;
+    };
+    std::vector<Jump> jumps;
+    universe_.DB.VisitRows(routine_, "Objects", {"jump_effect"},
+                           [&](std::int64_t number, std::span<const HeldRows::Cell> object) {
+                             std::string effect = HeldRows::ValueOf(object[0]).TakeText();
+                             if (!effect.empty()) jumps.push_back({std::move(effect), number});
+                           });
+    std::sort(jumps.begin(), jumps.end(), [](const Jump& a, const Jump& b) {
+      const int order = CompareIgnoringCase(a.Effect, b.Effect);
+      return order != 0 ? order < 0 : a.Number < b.Number;
+    });
+    std::vector<std::int64_t> numbers;
+    for (const Jump& jump : jumps) numbers.push_back(jump.Number);
+    return universe_.DB.OpenRows(routine_, "Objects", std::move(numbers), RecordsetType::Snapshot);
+  }
+
   void Connect(Recordset& object) {
     const std::string target = TextOf(object, "goto");
     from_.Nickname = routine_.Or(from_.Nickname, [&] { return object["nickname"].Get().Text(); });
@@ -65,7 +87,7 @@ class JumpStage {
 
   void Locate(JumpEnd& end, std::string_view system) {
     end.Cell = routine_.Or(end.Cell, [&] { return grid_.FindCell(system); });
-    end.Scale = SystemScale(routine_, universe_, end.Cell);
+    end.Scale = grid_.Scale(end.Cell);
   }
 
   // The second of the parts of `GoTo`.

@@ -9,11 +9,6 @@
 
 namespace orrerix {
 
-// Makes queries on an expression of a table ("ucase(nickname)") fast while the import runs; the
-// finished file has no indexes.
-void LookUpBy(FailureSink& routine, Universe& universe, std::string_view table,
-              std::string_view expression);
-
 // The rows of a table with a nickname, whatever its case; without rows if there is none.
 Recordset RowNamed(FailureSink& routine, Universe& universe, std::string_view table,
                    std::string_view nickname);

@@ -31,9 +31,8 @@ std::string LookUp(Universe& universe, std::string_view source, std::string_view
 void CalcOwnerNames(Universe& universe) {
   Routine routine(universe.Log, "OrrerixMain.CalcOwnerNames", "While Calculating OwnerNames");
   routine.Run([&] {
-    for (Recordset groups =
-             universe.DB.OpenRecordset(routine, "SELECT * from Groups", {}, RecordsetType::Dynaset);
-         !groups.AtEnd(); groups.MoveNext()) {
+    for (Recordset groups = universe.DB.OpenRows(routine, "Groups"); !groups.AtEnd();
+         groups.MoveNext()) {
       groups.Edit();
       groups["Name"] = [&] { return GetName(universe, groups["ids_name"].RequireLong(), ""); };
       groups["SName"] = [&] {

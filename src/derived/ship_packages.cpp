@@ -20,35 +20,31 @@ class PackageStage {
   PackageStage(Routine& routine, Universe& universe) : routine_(routine), universe_(universe) {}
 
   void Run() {
-    LookUpBy(routine_, universe_, "Goods", "ucase(nickname)");
-    LookUpBy(routine_, universe_, "Goods", "ucase(ship)");
-    LookUpBy(routine_, universe_, "Goods", "ucase(hull)");
-    LookUpBy(routine_, universe_, "Packages", "ucase(PackageName)");
-    for (Recordset ships = universe_.DB.OpenRecordset(routine_, "SELECT * from Ships", {},
-                                                      RecordsetType::Dynaset);
-         !ships.AtEnd(); ships.MoveNext()) {
+    for (Recordset ships = universe_.DB.OpenRows(routine_, "Ships"); !ships.AtEnd();
+         ships.MoveNext()) {
       routine_.Try([&] { TakeHull(ships); });
       routine_.Try([&] { AddPackage(ships); });
     }
   }
 
  private:
-  Recordset Goods(std::string_view condition, const std::string& nickname) {
+  // The goods of a category that name a ship or a hull in this field.
+  Recordset Goods(std::string_view field, const std::string& nickname, std::string_view category) {
     return routine_.Or(Recordset(), [&] {
-      return universe_.DB.OpenRecordset(
-          routine_, "SELECT * from Goods WHERE " + std::string(condition), {Ucase(nickname)});
+      return universe_.DB.OpenRowsNamed(routine_, "Goods", {field, nickname},
+                                        Database::NamedField{"category", category});
     });
   }
 
   void TakeHull(Recordset& ship) {
     const std::string nickname = TextOf(ship, "NickName");
-    Recordset hull = Goods("ucase(ship) = '{}' AND ucase(category) = 'SHIPHULL'", nickname);
+    Recordset hull = Goods("ship", nickname, "SHIPHULL");
     if (hull.AtEnd()) return WarnOf("Shiphull for", nickname);
     const std::string hullNickname = TextOf(hull, "nickname");
     ship.Edit();
     ship["price"] = hull["price"];
     ship.Update();
-    Recordset package = Goods("ucase(hull) = '{}' AND ucase(category) = 'SHIP'", hullNickname);
+    Recordset package = Goods("hull", hullNickname, "SHIP");
     if (package.AtEnd()) return WarnOf("Packagename for Shiphull", hullNickname);
     ship.Edit();
     ship["packagename"] = package["nickname"];
@@ -66,19 +62,26 @@ class PackageStage {
     });
   }
 
+  // The prices of all goods of this nickname together; Null if none of them has one.
+  Value PriceOf(const std::string& nickname) {
+    Value sum;
+    for (Recordset goods = RowNamed(routine_, universe_, "Goods", nickname); !goods.AtEnd();
+         goods.MoveNext()) {
+      const Value price = goods["price"].Get();
+      if (!price.IsNull()) sum = sum.Number() + price.Number();
+    }
+    return sum;
+  }
+
   void AddPackage(Recordset& ship) {
-    for (Recordset items = universe_.DB.OpenRecordset(
-             routine_, "SELECT * from Packages WHERE ucase(PackageName) = '{}'",
-             {Ucase(TextOf(ship, "packagename"))}, RecordsetType::Dynaset);
+    for (Recordset items = universe_.DB.OpenRowsNamed(
+             routine_, "Packages", {"PackageName", TextOf(ship, "packagename")}, std::nullopt,
+             RecordsetType::Dynaset);
          !items.AtEnd(); items.MoveNext()) {
-      Recordset prices = universe_.DB.OpenRecordset(
-          routine_,
-          "SELECT sum(Price) as summe from Goods WHERE ucase(nickname) = '{}' and NOT "
-          "ISNULL(Price)",
-          {Ucase(TextOf(items, "NickName"))});
-      if (prices.AtEnd() || prices["summe"].IsNull()) continue;
+      const Value price = PriceOf(TextOf(items, "NickName"));
+      if (price.IsNull()) continue;
       ship.Edit();
-      ship["price"] = [&] { return Sum(ship["price"].Get(), prices["summe"].Get()); };
+      ship["price"] = [&] { return Sum(ship["price"].Get(), price); };
       ship.Update();
       items.Edit();
       items["Val"] = [&] { return Sum(items["Val"].Get(), 1); };

@@ -26,6 +26,11 @@ Recordset SystemAt(FailureSink& routine, Universe& universe, MapCell cell) {
                                    {CellText(cell)});
 }
 
+double ScaleOf(const Value& navmapscale) {
+  const double scale = Val(navmapscale.Text());
+  return scale > 0 ? scale : 1.0;
+}
+
 std::int32_t WholeNumber(std::string_view text) {
   const auto number = ToLong(Val(text));
   if (!number) throw RuntimeFailure(failure_number::kOverflow);
@@ -39,14 +44,25 @@ std::string CellText(MapCell cell) {
 }
 
 SystemGrid::SystemGrid(FailureSink& routine, Universe& universe) {
-  universe.DB.ExecuteNative(routine,
-                            "CREATE INDEX IF NOT EXISTS \"Systems lookup pos\" ON Systems (pos)");
+  std::unordered_map<std::string, std::string> nicknames;  // of the first system in each cell
+  universe.DB.VisitRows(
+      routine, "Systems", {"pos", "nickname", "navmapscale"},
+      [&](std::int64_t, std::span<const HeldRows::Cell> system) {
+        if (nicknames.emplace(HeldRows::ValueOf(system[0]).Text(),
+                              HeldRows::ValueOf(system[1]).Text())
+                .second) {
+          scales_.emplace(HeldRows::ValueOf(system[0]).Text(),
+                          ScaleOf(HeldRows::ValueOf(system[2])));
+        }
+      });
   for (int y = 0; y <= MapMaxY; ++y) {
-    for (int x = 0; x <= MapMaxX; ++x) {
-      Recordset system = SystemAt(routine, universe, {x, y});
-      text_ += GridCell(system.AtEnd() ? std::string() : system["nickname"].Get().Text());
-    }
+    for (int x = 0; x <= MapMaxX; ++x) text_ += GridCell(nicknames[CellText({x, y})]);
   }
+}
+
+double SystemGrid::Scale(MapCell cell) const {
+  const auto found = scales_.find(CellText(cell));
+  return found == scales_.end() ? 1.0 : found->second;
 }
 
 MapCell SystemGrid::FindCell(std::string_view systemNickname) {
@@ -67,8 +83,7 @@ MapCell SystemGrid::Search(const std::string& gridCell) const {
 
 double SystemScale(FailureSink& routine, Universe& universe, MapCell cell) {
   Recordset system = SystemAt(routine, universe, cell);
-  const double scale = system.AtEnd() ? 0 : Val(system["navmapscale"].Get().Text());
-  return scale > 0 ? scale : 1.0;
+  return system.AtEnd() ? 1.0 : ScaleOf(system["navmapscale"].Get());
 }
 
 ObjectPosition ParsePosition(std::string_view pos) {

@@ -49,12 +49,16 @@ std::string CellText(MapCell cell);
 // cut or padded to 10 characters, "*".
 class SystemGrid {
  public:
-  // Reads `Systems`, which gets an index on `pos`.
+  // Reads `Systems`.
   SystemGrid(FailureSink& routine, Universe& universe);
 
   // The cell of a system; column 0, row 0 for one that is not in the grid. Only the first 10
   // characters of a nickname count.
   MapCell FindCell(std::string_view systemNickname);
+
+  // How much larger than usual the coordinates of a cell's system are drawn: its `navmapscale` if
+  // that is above 0, else 1.
+  double Scale(MapCell cell) const;
 
   const std::string& Text() const { return text_; }
 
@@ -63,6 +67,7 @@ class SystemGrid {
 
   std::string text_;
   std::unordered_map<std::string, MapCell> found_;  // by the cell's text
+  std::unordered_map<std::string, double> scales_;  // by `pos`
 };
 
 // How much larger than usual a system's coordinates are drawn: its `navmapscale` if that is above

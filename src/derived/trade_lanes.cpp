@@ -1,7 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "derived/trade_lanes.h"
 
+#include <span>
+#include <string_view>
 #include <unordered_set>
+#include <utility>
+#include <variant>
+#include <vector>
 
 #include <fmt/format.h>
 
@@ -28,19 +33,30 @@ class LaneStage {
       : routine_(routine), universe_(universe), host_(host), grid_(routine, universe) {}
 
   void Run() {
-    universe_.DB.CreateTable(routine_, TradeLanesTable());
-    LookUpBy(routine_, universe_, "TradeLanes", "ucase(nickname)");
-    LookUpBy(routine_, universe_, "Objects", "ucase(nickname)");
+    universe_.DB.CreateHeldTable(routine_, TradeLanesTable());
     lanes_ = universe_.DB.OpenTable(routine_, "TradeLanes");
-    for (Recordset starts = universe_.DB.OpenRecordset(
-             routine_, "SELECT * from Objects where len(prev_ring)=0 and len(next_ring)>0");
-         !starts.AtEnd(); starts.MoveNext()) {
+    for (Recordset starts = OpenStarts(); !starts.AtEnd(); starts.MoveNext()) {
       routine_.Try([&] { Walk(starts); });
       host_.Yield();
     }
   }
 
  private:
+  // All rings with a next one whose text for the one before is empty, not Null.
+  Recordset OpenStarts() {
+    std::vector<std::int64_t> numbers;
+    universe_.DB.VisitRows(routine_, "Objects", {"prev_ring", "next_ring"},
+                           [&](std::int64_t number, std::span<const HeldRows::Cell> object) {
+                             const auto* before = std::get_if<std::string_view>(&object[0]);
+                             const auto* next = std::get_if<std::string_view>(&object[1]);
+                             if (before != nullptr && before->empty() && next != nullptr &&
+                                 !next->empty()) {
+                               numbers.push_back(number);
+                             }
+                           });
+    return universe_.DB.OpenRows(routine_, "Objects", std::move(numbers), RecordsetType::Snapshot);
+  }
+
   void Walk(Recordset& start) {
     TakeEnd(first_, start);
     first_.Nickname = routine_.Or(first_.Nickname, [&] { return start["nickname"].Get().Text(); });
@@ -80,7 +96,7 @@ class LaneStage {
 
   void TakeEnd(LaneEnd& end, Recordset& ring) {
     end.Cell = routine_.Or(end.Cell, [&] { return grid_.FindCell(ring["sys_nick"].Get().Text()); });
-    const double scale = SystemScale(routine_, universe_, end.Cell);
+    const double scale = grid_.Scale(end.Cell);
     end.Place = routine_.Or(end.Place, [&] {
       return PlaceObject(routine_, ring["pos"].Get().Text(), scale, end.Place).Place;
     });

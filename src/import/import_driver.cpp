@@ -69,10 +69,6 @@ class ImportRun {
 
   void CreateFixedTables() {
     for (const TableDef& table : FixedTables()) database_.CreateHeldTable(routine_, table);
-    // The reader of goods looks commodities up by nickname.
-    database_.ExecuteNative(routine_,
-                            "CREATE INDEX \"commodity lookup\" ON commodity "
-                            "(ucase(nickname) COLLATE NOCASE)");
   }
 
   void Read(std::string_view path, const std::string& system = {}) {
@@ -83,7 +79,8 @@ class ImportRun {
 
   void ReadTexts() {
     std::int32_t place = 1;
-    for (Recordset libraries = database_.OpenRecordset(routine_, "SELECT * from resources");
+    for (Recordset libraries =
+             database_.OpenRows(routine_, "resources", RecordsetType::Snapshot);
          !libraries.AtEnd(); libraries.MoveNext(), ++place) {
       routine_.Try([&] { ReadLibrary(libraries["DLL"].Get().Text(), place); });
     }
@@ -104,9 +101,8 @@ class ImportRun {
 
   // Names are known only now that the libraries are read.
   void NameSystems() {
-    for (Recordset systems =
-             database_.OpenRecordset(routine_, "SELECT * from Systems", {}, RecordsetType::Dynaset);
-         !systems.AtEnd(); systems.MoveNext()) {
+    for (Recordset systems = database_.OpenRows(routine_, "Systems"); !systems.AtEnd();
+         systems.MoveNext()) {
       systems.Edit();
       systems["realname"] = [&] {
         return GetName(import_.Target, systems["stridname"].RequireLong(),
@@ -117,7 +113,7 @@ class ImportRun {
   }
 
   void ReadDataFiles() {
-    for (Recordset files = database_.OpenRecordset(routine_, "SELECT * FROM DataFiles");
+    for (Recordset files = database_.OpenRows(routine_, "DataFiles", RecordsetType::Snapshot);
          !files.AtEnd(); files.MoveNext()) {
       routine_.Try(
           [&] { ReadDataFile(files["type"].Get().Text(), files["pathfile"].Get().Text()); });
@@ -134,7 +130,7 @@ class ImportRun {
   }
 
   void ReadSystemFiles() {
-    for (Recordset systems = database_.OpenRecordset(routine_, "SELECT * from Systems");
+    for (Recordset systems = database_.OpenRows(routine_, "Systems", RecordsetType::Snapshot);
          !systems.AtEnd(); systems.MoveNext()) {
       routine_.Try([&] {
         Read("\\data\\universe\\" + systems["file"].Get().Text(), systems["nickname"].Get().Text());

@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "db/failure.h"
@@ -64,6 +65,9 @@ class ErrorLog {
   // What came in since the program started, whatever became of the window.
   const std::vector<std::string>& DataLines() const { return dataLines_; }
   const std::vector<FailureEntry>& Failures() const { return failures_; }
+
+  // Hands the data lines over: of millions of them no second copy is made.
+  std::vector<std::string> TakeDataLines() { return std::exchange(dataLines_, {}); }
 
   // The text of a program error as log and question show it, each line with its CR LF.
   static std::string EntryText(std::string_view source, const Failure& failure,

@@ -74,6 +74,13 @@ std::shared_ptr<const TableDef> Connection::Find(std::string_view table) {
   return definition;
 }
 
+std::shared_ptr<const TableDef> Connection::Require(std::string_view table) {
+  auto found = Find(table);
+  if (found != nullptr) return found;
+  throw EngineFailure(failure_number::kNoSuchTable,
+                      fmt::format("Cannot find the input table '{}'.", table));
+}
+
 // Looks into the schema that the engine has in memory; its table has no index on names.
 bool Connection::Exists(const std::string& table) const {
   return sqlite3_table_column_metadata(handle_, "main", table.c_str(), nullptr, nullptr, nullptr,
@@ -211,6 +218,15 @@ void Connection::WriteTable(std::string_view table) {
   if (!rows.Definition().PrimaryKey) return;
   lateKeys_.push_back(rows.Definition());
   if (!rows.Definition().PrimaryKey->IsLate) MakeLateKey(rows.Definition().Name);
+}
+
+void Connection::BeforeQuestionFor(std::string_view table, std::string_view field) {
+  if (!indexesNames_) return;
+  const std::string name = fmt::format("{} lookup {}", table, field);
+  if (nameIndexes_.contains(name)) return;
+  RunAll(fmt::format("CREATE INDEX IF NOT EXISTS {} ON {} (ucase({}) COLLATE NOCASE)",
+                     QuoteName(name), QuoteName(table), QuoteName(field)));
+  nameIndexes_.insert(name);
 }
 
 // Making a key out of all rows costs less than placing each of them in it.

@@ -4,6 +4,7 @@
 
 #include <filesystem>
 #include <memory>
+#include <set>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -72,6 +73,8 @@ class Connection {
 
   // The definition of a table, nothing if there is none of that name in whatever case.
   std::shared_ptr<const TableDef> Find(std::string_view table);
+  // The same, of a table that must be there. Throws 3078.
+  std::shared_ptr<const TableDef> Require(std::string_view table);
   // All tables in the order of their creation.
   std::vector<std::shared_ptr<const TableDef>> FindAll();
   void Forget(std::string_view table);
@@ -85,6 +88,11 @@ class Connection {
   HeldRows* Held(std::string_view table);
   HeldRows* Held(const std::shared_ptr<const TableDef>& table);
   void WriteHeld();  // with all keys
+
+  // From now on a field whose texts are asked for whatever their case gets an index with the first
+  // question: for a file that is thrown away later.
+  void IndexNames() { indexesNames_ = true; }
+  void BeforeQuestionFor(std::string_view table, std::string_view field);
   std::vector<HeldRows> TakeHeld();
 
   // The numbers of a table's unique IDs; those that stand in its rows are never drawn.
@@ -120,6 +128,8 @@ class Connection {
   std::filesystem::path path_;
   std::vector<HeldRows> held_;
   std::vector<TableDef> lateKeys_;  // not made yet
+  bool indexesNames_ = false;
+  std::set<std::string> nameIndexes_;  // that were made, by table and field
   struct Request {
     std::string Table;
     bool ChangesKeys;

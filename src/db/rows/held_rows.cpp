@@ -2,6 +2,7 @@
 #include "db/rows/held_rows.h"
 
 #include <algorithm>
+#include <functional>
 #include <utility>
 
 #include "db/failure.h"
@@ -13,6 +14,14 @@ namespace {
 // Rows keep their addresses when more are added.
 constexpr std::size_t kRowsOfChunk = 64;
 
+// To the engine texts of one length are equal if they are up to a NUL, without regard to the case
+// of ASCII letters.
+bool IsSameKey(const HeldRows::Cell& a, const HeldRows::Cell& b) {
+  const auto* x = std::get_if<std::string_view>(&a);
+  const auto* y = std::get_if<std::string_view>(&b);
+  return x != nullptr && y != nullptr ? CompareIgnoringCase(*x, *y) == 0 : a == b;
+}
+
 }  // namespace
 
 HeldRows::HeldRows(TableDef table) : table_(std::make_shared<TableDef>(std::move(table))) {
@@ -22,21 +31,39 @@ HeldRows::HeldRows(TableDef table) : table_(std::make_shared<TableDef>(std::move
   }
 }
 
-// The lengths keep ("ab", "c") and ("a", "bc") apart. The engine compares texts of one length no
-// further than to a NUL, and without regard to the case of ASCII letters.
-void HeldRows::AddToKey(std::string& key, const Value& value) {
-  const std::string* text = value.TextContent();
-  const std::string number = text == nullptr ? value.Text() : std::string();
-  const std::string_view content = text == nullptr ? number : *text;
-  key += std::to_string(content.size());
-  key += ':';
-  AppendFolded(key, content.substr(0, content.find('\0')));
+HeldRows::Cell HeldRows::ViewOf(const Value& value) {
+  if (const std::string* text = value.TextContent()) return std::string_view(*text);
+  if (const std::int64_t* whole = value.Whole()) return *whole;
+  if (const double* real = value.Real()) return *real;
+  return Null{};
 }
 
-std::string_view HeldRows::KeyOf(std::span<const Value> row) {
-  key_.clear();
-  for (const std::size_t field : keyFields_) AddToKey(key_, row[field]);
-  return key_;
+std::size_t HeldRows::HashOfKey(std::size_t before, const Cell& cell) {
+  std::uint64_t hash = before;
+  if (const auto* text = std::get_if<std::string_view>(&cell)) {
+    hash += HashIgnoringCase(*text);
+  } else if (const auto* whole = std::get_if<std::int64_t>(&cell)) {
+    hash += static_cast<std::uint64_t>(*whole);
+  } else if (const auto* real = std::get_if<double>(&cell)) {
+    hash += std::hash<double>()(*real);
+  }
+  // The sets of keys look at the last bits, in which the numbers of texts hardly differ.
+  hash *= 0x9E3779B97F4A7C15;
+  return static_cast<std::size_t>(hash ^ hash >> 32);
+}
+
+std::size_t HeldRows::HashOfRow(std::size_t row) const {
+  std::size_t hash = 0;
+  for (const std::size_t field : keyFields_) hash = HashOfKey(hash, Row(row)[field]);
+  return hash;
+}
+
+bool HeldRows::HoldsKey(std::span<const Value> row, std::size_t hash) const {
+  return keys_.Holds(hash, [&](KeySet::Row other) {
+    return std::all_of(keyFields_.begin(), keyFields_.end(), [&](std::size_t field) {
+      return IsSameKey(Row(other)[field], ViewOf(row[field]));
+    });
+  });
 }
 
 bool HeldRows::IsKeyedBy(std::string_view field) const {
@@ -44,27 +71,88 @@ bool HeldRows::IsKeyedBy(std::string_view field) const {
 }
 
 std::optional<std::size_t> HeldRows::Find(const Value& key) const {
-  std::string text;
-  AddToKey(text, key);
-  const auto found = keys_.find(text);
-  return found == keys_.end() ? std::nullopt : std::optional(found->second);
+  std::optional<std::size_t> found;
+  const Cell wanted = ViewOf(key);
+  keys_.Holds(HashOfKey(0, wanted), [&](KeySet::Row row) {
+    if (!IsSameKey(Row(row)[keyFields_.front()], wanted)) return false;
+    found = row;
+    return true;
+  });
+  return found;
 }
 
 Value HeldRows::Content(std::size_t row, std::string_view field) const {
   const auto place = table_->Find(field);
   if (!place) return {};
-  return std::visit([](auto content) { return Value(content); }, Row(row)[*place]);
+  return ValueOf(Row(row)[*place]);
+}
+
+Value HeldRows::ValueOf(const Cell& cell) {
+  return std::visit([](auto content) { return Value(content); }, cell);
+}
+
+bool HeldRows::IsOfKey(std::size_t field) const {
+  return std::find(keyFields_.begin(), keyFields_.end(), field) != keyFields_.end();
+}
+
+void HeldRows::Change(std::size_t row, std::span<const Value> values,
+                      const std::vector<bool>& marked) {
+  const std::span<const Cell> before = Row(row);
+  std::vector<Cell> cells(before.begin(), before.end());
+  for (std::size_t field = 0; field < cells.size(); ++field) {
+    if (marked[field]) cells[field] = Keep(values[field]);
+  }
+  for (std::size_t field = 0; field < cells.size(); ++field) {
+    if (marked[field]) indexes_.erase(field);
+  }
+  std::copy(cells.begin(), cells.end(),
+            chunks_[row / kRowsOfChunk].begin() +
+                static_cast<std::ptrdiff_t>(row % kRowsOfChunk * cells.size()));
+}
+
+HeldRows::FieldIndex& HeldRows::IndexOf(std::size_t field) {
+  FieldIndex& index = indexes_[field];
+  for (; index.RowsSeen < rowCount_; ++index.RowsSeen) {
+    const auto* text = std::get_if<std::string_view>(&Row(index.RowsSeen)[field]);
+    if (text != nullptr) index.Rows.emplace(HashIgnoringCase(Ucase(*text)), index.RowsSeen);
+  }
+  return index;
+}
+
+std::vector<std::size_t> HeldRows::RowsNamed(std::size_t field, std::string_view text) {
+  std::vector<std::size_t> rows;
+  const auto [first, last] = IndexOf(field).Rows.equal_range(HashIgnoringCase(Ucase(text)));
+  for (auto candidate = first; candidate != last; ++candidate) {
+    if (IsNamed(candidate->second, field, text)) rows.push_back(candidate->second);
+  }
+  std::sort(rows.begin(), rows.end());
+  return rows;
+}
+
+bool HeldRows::IsNamed(std::size_t row, std::size_t field, std::string_view text) const {
+  const auto* found = std::get_if<std::string_view>(&Row(row)[field]);
+  return found != nullptr && CompareIgnoringCase(Ucase(*found), Ucase(text)) == 0;
 }
 
 HeldRows::Cell HeldRows::Keep(const Value& value) {
-  if (const std::int64_t* whole = value.Whole()) return *whole;
-  if (const double* real = value.Real()) return *real;
-  const std::string* text = value.TextContent();
-  if (text == nullptr) return Null{};
-  return texts_.Keep(*text);
+  const Cell cell = ViewOf(value);
+  const auto* text = std::get_if<std::string_view>(&cell);
+  return text == nullptr ? cell : texts_.Keep(*text);
 }
 
 void HeldRows::Add(std::span<const Value> row) {
+  std::size_t hash = 0;
+  if (!keyFields_.empty()) {
+    keys_.MakeRoom([this](KeySet::Row other) { return HashOfRow(other); });
+    for (const std::size_t field : keyFields_) hash = HashOfKey(hash, ViewOf(row[field]));
+    if (HoldsKey(row, hash)) throw DuplicateKey();
+  }
+  AddCells(row);
+  if (!keyFields_.empty()) keys_.Put(static_cast<KeySet::Row>(rowCount_), hash);
+  ++rowCount_;
+}
+
+void HeldRows::AddCells(std::span<const Value> row) {
   if (chunks_.size() * kRowsOfChunk == rowCount_) {
     std::vector<Cell> chunk;
     chunk.reserve(kRowsOfChunk * row.size());
@@ -74,14 +162,10 @@ void HeldRows::Add(std::span<const Value> row) {
   const std::size_t before = chunk.size();
   try {
     for (const Value& value : row) chunk.push_back(Keep(value));
-    if (!keyFields_.empty() && !keys_.emplace(texts_.Keep(KeyOf(row)), rowCount_).second) {
-      throw DuplicateKey();
-    }
   } catch (...) {
     chunk.resize(before);  // no half a row stays
     throw;
   }
-  ++rowCount_;
 }
 
 std::span<const HeldRows::Cell> HeldRows::Row(std::size_t row) const {

@@ -13,6 +13,7 @@
 #include <variant>
 #include <vector>
 
+#include "db/rows/key_set.h"
 #include "db/rows/table_def.h"
 #include "db/values/text_store.h"
 #include "db/values/value.h"
@@ -43,22 +44,50 @@ class HeldRows {
   // What a field of a row holds, the field's name as the definition has it; Null without such one.
   Value Content(std::size_t row, std::string_view field) const;
 
+  // Whether a field, counted from 0, belongs to the table's key.
+  bool IsOfKey(std::size_t field) const;
+  // Changes the fields of a row that are marked; none of them is of the key. A change that fails
+  // for lack of memory has not happened.
+  void Change(std::size_t row, std::span<const Value> values, const std::vector<bool>& marked);
+
+  // The rows whose text in a field is this one, whatever its case, in their order. The first
+  // question about a field makes an index of it.
+  std::vector<std::size_t> RowsNamed(std::size_t field, std::string_view text);
+  bool IsNamed(std::size_t row, std::size_t field, std::string_view text) const;
+
+  // Number of a row in the file once the rows are written, and back.
+  static std::int64_t NumberOf(std::size_t row) { return static_cast<std::int64_t>(row) + 1; }
+  static std::size_t PlaceOf(std::int64_t number) { return static_cast<std::size_t>(number - 1); }
+
   std::size_t RowCount() const { return rowCount_; }
   std::span<const Cell> Row(std::size_t row) const;
+
+  // A value with a text of its own.
+  static Value ValueOf(const Cell& cell);
 
   // Length of the longest text in each Text field, characters; 0 for all other fields.
   std::vector<std::size_t> LongestTexts() const;
 
  private:
-  static void AddToKey(std::string& key, const Value& value);
-  std::string_view KeyOf(std::span<const Value> row);
+  // The rows of each hash of a field's texts.
+  struct FieldIndex {
+    std::size_t RowsSeen = 0;
+    std::unordered_multimap<std::size_t, std::size_t> Rows;
+  };
+
+  FieldIndex& IndexOf(std::size_t field);
+  static Cell ViewOf(const Value& value);
+  static std::size_t HashOfKey(std::size_t before, const Cell& cell);
+  std::size_t HashOfRow(std::size_t row) const;
+  void AddCells(std::span<const Value> row);
+  bool HoldsKey(std::span<const Value> row, std::size_t hash) const;
   Cell Keep(const Value& value);
 
   std::shared_ptr<const TableDef> table_;
   std::vector<std::size_t> keyFields_;
-  std::unordered_map<std::string_view, std::size_t> keys_;  // with their rows
-  std::string key_;                                         // of the row to come
+  KeySet keys_;
   TextStore texts_;
+  std::unordered_map<std::size_t, FieldIndex> indexes_;  // by their fields
   std::vector<std::vector<Cell>> chunks_;  // of a fixed number of rows, row by row
   std::size_t rowCount_ = 0;
 };

@@ -15,8 +15,11 @@
 namespace orrerix {
 namespace {
 
-// Fields of a table that are kept in memory, about 100 MB; a game of 500 systems has a sixth of it.
-constexpr std::size_t kMostHeldCells = 4 << 20;
+// Fields of a table that are kept in memory, about 50 MB; a game of 500 systems has a third of it.
+constexpr std::size_t kMostHeldCells = 2 << 20;
+
+// Rows that a dynaset reads at a time.
+constexpr std::size_t kRowsAtATime = 256;
 
 Failure NoCurrentRecord() {
   return EngineFailure(failure_number::kNoCurrentRecord, "No current record.");
@@ -52,6 +55,15 @@ std::optional<Failure> FitWhole(Value& value, double lowest, double highest) {
   if (!(whole >= lowest && whole <= highest)) return RuntimeFailure(failure_number::kOverflow);
   value = static_cast<std::int64_t>(whole);
   return std::nullopt;
+}
+
+// Whether FitInto would leave the value alone; said of what is stored most.
+bool FitsAsItIs(const Field& field, const Value& value) {
+  if (const std::string* text = value.TextContent()) {
+    return field.Type == FieldType::Text && !text->empty() && text->size() <= field.Size;
+  }
+  const double* real = value.Real();
+  return real != nullptr && field.Type == FieldType::Double && std::isfinite(*real);
 }
 
 }  // namespace
@@ -117,7 +129,9 @@ void Recordset::ReadRows(std::shared_ptr<const TableDef> columns, sqlite3_stmt* 
   const int fields = static_cast<int>(table_->Fields.size());
   int result = sqlite3_step(statement);
   for (; result == SQLITE_ROW; result = sqlite3_step(statement)) {
-    for (int i = 0; i < fields; ++i) cells_.push_back(Column(statement, i));
+    for (int i = 0; i < fields && (!editable_ || rowCount_ < kRowsAtATime); ++i) {
+      cells_.push_back(Column(statement, i));
+    }
     if (editable_) rowids_.push_back(sqlite3_column_int64(statement, fields));
     ++rowCount_;
   }
@@ -130,6 +144,69 @@ void Recordset::ReadRows(std::shared_ptr<const TableDef> columns, sqlite3_stmt* 
   }
 }
 
+void Recordset::ReadNumbered(std::shared_ptr<const TableDef> table,
+                             std::vector<std::int64_t> rowids, RecordsetType type) {
+  table_ = std::move(table);
+  editable_ = type == RecordsetType::Dynaset;
+  rowids_ = std::move(rowids);
+  rowCount_ = rowids_.size();
+  ReadFrom(0, editable_ ? kRowsAtATime : rowCount_);
+}
+
+void Recordset::ReadFrom(std::size_t first, std::size_t count) {
+  connection_->RequireOpen();
+  cells_.clear();
+  firstRead_ = first;
+  for (std::size_t row = first; row < rowids_.size() && row - first < count;) {
+    if (ReadRow(rowids_[row])) {
+      ++row;
+    } else {
+      rowids_.erase(rowids_.begin() + static_cast<std::ptrdiff_t>(row));
+    }
+  }
+  rowCount_ = rowids_.size();
+}
+
+// False if the row was deleted.
+bool Recordset::ReadRow(std::int64_t rowid) {
+  if (const HeldRows* held = connection_->Held(table_->Name)) {
+    for (const HeldRows::Cell& cell : held->Row(HeldRows::PlaceOf(rowid))) {
+      cells_.push_back(HeldRows::ValueOf(cell));
+    }
+    return true;
+  }
+  const StatementLoan row(
+      connection_->Prepare("SELECT * FROM " + QuoteName(table_->Name) + " WHERE _rowid_ = ?1"));
+  Bind(row.get(), 1, rowid);
+  const int result = sqlite3_step(row.get());
+  if (result == SQLITE_DONE) return false;
+  if (result != SQLITE_ROW) throw connection_->LastFailure();
+  for (std::size_t i = 0; i < table_->Fields.size(); ++i) {
+    cells_.push_back(Column(row.get(), static_cast<int>(i)));
+  }
+  return true;
+}
+
+std::size_t Recordset::CountRead() const {
+  return rowids_.empty() ? rowCount_ : cells_.size() / table_->Fields.size();
+}
+
+void Recordset::ComeTo(std::size_t row) {
+  current_ = row;
+  if (AtEnd() || (row >= firstRead_ && row < firstRead_ + CountRead())) return;
+  std::optional<Failure> failed;
+  try {
+    ReadFrom(row, kRowsAtATime);
+  } catch (...) {
+    failed = CaughtFailure();
+  }
+  if (!failed) return;
+  rowids_.resize(row);
+  rowCount_ = row;
+  Fail(*failed);
+}
+
+
 // A recordset that was never opened has nobody to hand its failures to.
 void Recordset::Fail(const Failure& failure) const {
   if (sink_ != nullptr) sink_->Fail(failure);
@@ -137,7 +214,11 @@ void Recordset::Fail(const Failure& failure) const {
 
 void Recordset::MoveNext() {
   if (AtEnd()) return Fail(NoCurrentRecord());
-  ++current_;
+  ComeTo(current_ + 1);
+}
+
+void Recordset::MoveFirst() {
+  ComeTo(0);
 }
 
 std::optional<std::size_t> Recordset::FindField(std::string_view name) {
@@ -165,19 +246,21 @@ Value Recordset::Read(std::optional<std::size_t> field) const {
     return {};
   }
   if (editing_ != Editing::None) return edited_[*field];
-  return cells_[current_ * table_->Fields.size() + *field];
+  return cells_[(current_ - firstRead_) * table_->Fields.size() + *field];
 }
 
 void Recordset::Assign(std::optional<std::size_t> field, Value& value) {
   if (editing_ == Editing::None) return Fail(NotBeingEdited());
   if (!field) return Fail(NoSuchItem());
-  std::optional<Failure> refused;
-  try {
-    refused = FitInto(table_->Fields[*field], table_->Name, value);
-  } catch (const std::bad_alloc&) {
-    refused = RuntimeFailure(failure_number::kOutOfMemory);
+  if (!FitsAsItIs(table_->Fields[*field], value)) {
+    std::optional<Failure> refused;
+    try {
+      refused = FitInto(table_->Fields[*field], table_->Name, value);
+    } catch (const std::bad_alloc&) {
+      refused = RuntimeFailure(failure_number::kOutOfMemory);
+    }
+    if (refused) return Fail(*refused);
   }
-  if (refused) return Fail(*refused);
   edited_[*field] = std::move(value);
   assigned_[*field] = true;
 }
@@ -223,7 +306,7 @@ void Recordset::AddNew() {
 void Recordset::Edit() {
   if (AtEnd() || !editable_) return Fail(NoCurrentRecord());
   const std::size_t fields = table_->Fields.size();
-  const auto row = cells_.begin() + static_cast<std::ptrdiff_t>(current_ * fields);
+  const auto row = cells_.begin() + static_cast<std::ptrdiff_t>((current_ - firstRead_) * fields);
   editing_ = Editing::None;
   try {
     edited_.assign(row, row + static_cast<std::ptrdiff_t>(fields));
@@ -284,6 +367,23 @@ void Recordset::Insert() {
 
 // Only assigned fields are written, so that one edit never undoes another.
 void Recordset::Rewrite() {
+  if (!RewriteHeld()) RewriteStored();
+  const std::size_t place = (current_ - firstRead_) * edited_.size();
+  std::move(edited_.begin(), edited_.end(), cells_.begin() + static_cast<std::ptrdiff_t>(place));
+}
+
+// False if the table is not in memory, or a field of its key changes.
+bool Recordset::RewriteHeld() {
+  HeldRows* held = connection_->Held(table_->Name);
+  if (held == nullptr) return false;
+  for (std::size_t i = 0; i < assigned_.size(); ++i) {
+    if (assigned_[i] && held->IsOfKey(i)) return false;
+  }
+  held->Change(HeldRows::PlaceOf(rowids_[current_]), edited_, assigned_);
+  return true;
+}
+
+void Recordset::RewriteStored() {
   std::string assignments;
   for (std::size_t i = 0; i < edited_.size(); ++i) {
     if (!assigned_[i]) continue;
@@ -295,12 +395,10 @@ void Recordset::Rewrite() {
       connection_->Prepare("UPDATE " + QuoteName(table_->Name) + " SET " + assignments +
                            fmt::format(" WHERE _rowid_ = ?{}", edited_.size() + 1)));
   for (std::size_t i = 0; i < edited_.size(); ++i) {
-    if (assigned_[i]) Bind(update.get(), static_cast<int>(i) + 1, edited_[i]);
+    if (assigned_[i]) Bind(update.get(), static_cast<int>(i) + 1, edited_[i], BoundText::Stays);
   }
   Bind(update.get(), static_cast<int>(edited_.size()) + 1, rowids_[current_]);
   if (sqlite3_step(update.get()) != SQLITE_DONE) throw connection_->LastFailure();
-  std::move(edited_.begin(), edited_.end(),
-            cells_.begin() + static_cast<std::ptrdiff_t>(current_ * edited_.size()));
 }
 
 void Recordset::CancelUpdate() {

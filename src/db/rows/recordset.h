@@ -73,9 +73,11 @@ class FieldRef {
 // the value is then of no use.
 std::optional<Failure> FitInto(const Field& field, std::string_view table, Value& value);
 
-// All rows are read when the recordset is opened, so that stages may change tables while they walk
-// them. Every failed operation goes to the sink of the routine that opened the recordset. Once
-// its database is closed a recordset can still be read; its edits fail with 3420.
+// Which rows it has is settled when the recordset is opened, so that stages may change tables while
+// they walk them. A snapshot reads all of them then. A dynaset reads some at a time, as it comes to
+// them: it passes over rows that were deleted meanwhile, and rows that cannot be read end it. Every
+// failed operation goes to the sink of the routine that opened the recordset. Once its database is
+// closed, rows that were read stay readable; edits, and rows that were not read, fail with 3420.
 class Recordset {
  public:
   Recordset() = default;
@@ -86,7 +88,7 @@ class Recordset {
   bool Empty() const { return rowCount_ == 0; }
   std::size_t RecordCount() const { return rowCount_; }
   void MoveNext();
-  void MoveFirst() { current_ = 0; }
+  void MoveFirst();
 
   FieldRef operator[](std::string_view field);
   FieldRef operator[](std::size_t field);
@@ -112,6 +114,12 @@ class Recordset {
 
   void ReadRows(std::shared_ptr<const TableDef> columns, sqlite3_stmt* statement,
                 RecordsetType type);
+  void ReadNumbered(std::shared_ptr<const TableDef> table, std::vector<std::int64_t> rowids,
+                    RecordsetType type);
+  void ReadFrom(std::size_t first, std::size_t count);
+  bool ReadRow(std::int64_t rowid);
+  void ComeTo(std::size_t row);
+  std::size_t CountRead() const;
   Value Read(std::optional<std::size_t> field) const;
   void Fail(const Failure& failure) const;
   void Assign(std::optional<std::size_t> field, Value& value);
@@ -120,13 +128,16 @@ class Recordset {
   bool KeyHoldsNull() const;
   void Insert();
   void Rewrite();
+  bool RewriteHeld();
+  void RewriteStored();
 
   FailureSink* sink_ = nullptr;
   std::shared_ptr<Connection> connection_;
   std::shared_ptr<const TableDef> table_;  // definition of the fields; of one table if editable
   bool editable_ = false;
-  std::vector<Value> cells_;  // row by row
-  std::vector<std::int64_t> rowids_;
+  std::vector<Value> cells_;          // of the rows that were read, row by row
+  std::size_t firstRead_ = 0;         // of those rows
+  std::vector<std::int64_t> rowids_;  // of all rows that can be edited
   std::size_t rowCount_ = 0;
   std::size_t current_ = 0;
   Editing editing_ = Editing::None;

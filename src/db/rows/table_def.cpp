@@ -49,15 +49,21 @@ std::string Column(const Field& field) {
   return column;
 }
 
+// Most names of one length differ in their last letter already.
+bool IsSpelled(std::string_view name, std::string_view field) {
+  return name.size() == field.size() && !name.empty() && name.back() == field.back() &&
+         name == field;
+}
+
 }  // namespace
 
 std::optional<std::size_t> TableDef::Find(std::string_view field, std::size_t guess) const {
   // Most callers spell the name as the table does.
   for (std::size_t i = guess; i < Fields.size(); ++i) {
-    if (Fields[i].Name == field) return i;
+    if (IsSpelled(Fields[i].Name, field)) return i;
   }
   for (std::size_t i = 0; i < std::min(guess, Fields.size()); ++i) {
-    if (Fields[i].Name == field) return i;
+    if (IsSpelled(Fields[i].Name, field)) return i;
   }
   for (std::size_t i = 0; i < Fields.size(); ++i) {
     if (EqualIgnoringCase(Fields[i].Name, field)) return i;

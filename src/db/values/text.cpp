@@ -87,6 +87,32 @@ bool EqualIgnoringCase(std::string_view a, std::string_view b) {
          });
 }
 
+std::size_t HashIgnoringCase(std::string_view text) {
+  constexpr std::uint64_t caseBits = 0x2020202020202020;
+  constexpr std::uint64_t factor = 0x9E3779B97F4A7C15;
+  std::uint64_t hash = text.size() * factor;
+  for (std::string_view rest = text.substr(0, text.find('\0')); !rest.empty();) {
+    std::uint64_t eight = 0;
+    std::memcpy(&eight, rest.data(), std::min(rest.size(), sizeof eight));
+    hash = (hash ^ (eight | caseBits)) * factor;
+    hash ^= hash >> 32;
+    rest.remove_prefix(std::min(rest.size(), sizeof eight));
+  }
+  return static_cast<std::size_t>(hash);
+}
+
+int CompareIgnoringCase(std::string_view a, std::string_view b) {
+  const std::size_t common = std::min(a.size(), b.size());
+  const LowerAscii lower;
+  for (std::size_t i = 0; i < common; ++i) {
+    const auto x = static_cast<unsigned char>(lower(a[i]));
+    const auto y = static_cast<unsigned char>(lower(b[i]));
+    if (x != y) return int(x) - int(y);
+    if (x == 0) break;
+  }
+  return int(a.size() > b.size()) - int(a.size() < b.size());
+}
+
 std::size_t Len(std::string_view text) {
   return static_cast<std::size_t>(
       std::count_if(text.begin(), text.end(), [](char c) { return !IsContinuation(c); }));

@@ -24,6 +24,13 @@ void AppendFolded(std::string& folded, std::string_view text);
 // Whether two texts are equal when the case of ASCII letters is ignored.
 bool EqualIgnoringCase(std::string_view a, std::string_view b);
 
+// The same for texts of one length that are equal in this sense, or that agree so up to a NUL.
+std::size_t HashIgnoringCase(std::string_view text);
+
+// Below 0, 0 or above 0: how the engine orders two texts, without regard to the case of ASCII
+// letters. Texts that agree up to a NUL are ordered by their lengths.
+int CompareIgnoringCase(std::string_view a, std::string_view b);
+
 // Lets a container of texts be searched for a view of one.
 struct TextHash {
   using is_transparent = void;

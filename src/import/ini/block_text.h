@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace orrerix {
 
@@ -38,6 +39,7 @@ class BlockText {
 
   std::string_view text_;
   std::string upper_;
+  std::vector<std::size_t> signs_;  // of the whole text
   std::size_t begin_ = 0;
 };
 

@@ -18,16 +18,6 @@ constexpr std::size_t kMostFields = 1999;
 constexpr std::string_view kSourceFileName = "SourceFileName";
 constexpr SectionTable::FieldIndex kSourceFile = 0;
 
-// A hash of a key in whose text case does not count. Takes no memory.
-std::size_t HashOfKey(std::string_view key) {
-  std::uint64_t hash = 0xCBF29CE484222325;
-  for (const char c : key) {
-    hash ^= static_cast<unsigned char>(c >= 'A' && c <= 'Z' ? c + 32 : c);
-    hash *= 0x100000001B3;
-  }
-  return static_cast<std::size_t>(hash ^ hash >> 29);
-}
-
 void RequireName(std::string_view name) {
   if (name.find('\0') == std::string_view::npos) return;
   throw EngineFailure(failure_number::kInvalidName,
@@ -83,8 +73,8 @@ std::optional<std::string_view> SectionTable::KeyOf(const Row& row) const {
 
 // Whether a row has this key. There is room for one more afterwards.
 bool SectionTable::HoldsKey(std::string_view key) {
-  keys_.MakeRoom([this](KeySet::Row row) { return HashOfKey(*KeyOf(rows_[row])); });
-  return keys_.Holds(HashOfKey(key),
+  keys_.MakeRoom([this](KeySet::Row row) { return HashIgnoringCase(*KeyOf(rows_[row])); });
+  return keys_.Holds(HashIgnoringCase(key),
                      [&](KeySet::Row row) { return EqualIgnoringCase(*KeyOf(rows_[row]), key); });
 }
 
@@ -97,7 +87,7 @@ void SectionTable::MakeNicknameKey() {
       keyField_.reset();
       throw key ? DuplicateKey() : NullInKey();
     }
-    keys_.Put(static_cast<KeySet::Row>(i), HashOfKey(*key));
+    keys_.Put(static_cast<KeySet::Row>(i), HashIgnoringCase(*key));
   }
 }
 
@@ -172,8 +162,8 @@ void SectionTable::CheckKey(const EditedRow& row) {
   if (before && EqualIgnoringCase(*before, *key)) return;
   if (HoldsKey(*key)) throw DuplicateKey();
   const auto place = static_cast<KeySet::Row>(editedPlace_.value_or(rows_.size()));
-  if (before) keys_.Erase(place, HashOfKey(*before));
-  keys_.Put(place, HashOfKey(*key));
+  if (before) keys_.Erase(place, HashIgnoringCase(*before));
+  keys_.Put(place, HashIgnoringCase(*key));
 }
 
 void SectionTable::Update() {

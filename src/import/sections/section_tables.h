@@ -15,9 +15,9 @@
 
 #include "db/database.h"
 #include "db/failure.h"
+#include "db/rows/key_set.h"
 #include "db/values/text.h"
 #include "db/values/text_store.h"
-#include "import/sections/key_set.h"
 
 namespace orrerix {
 

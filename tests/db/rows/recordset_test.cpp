@@ -442,7 +442,7 @@ TEST_F(OpenRecordset, RowsOfTwoTablesCannotBeEdited) {
   EXPECT_THAT(failures.Numbers(), ElementsAre(3078, 3027));
 }
 
-// 2^22 fields at most are kept in memory: of 1,000 fields that is row 4,195.
+// 2^21 fields at most are kept in memory: of 1,000 fields that is row 2,098.
 TEST_F(OpenRecordset, RowsThatAreTooManyForMemoryGoIntoTheFile) {
   TableDef wide{"wide", {}, Index{"key", {"f0"}, false}};
   for (int i = 0; i < 1000; ++i) {
@@ -453,7 +453,7 @@ TEST_F(OpenRecordset, RowsThatAreTooManyForMemoryGoIntoTheFile) {
   }
   db.CreateHeldTable(mustWork, wide);
   Recordset rows = db.OpenTable(failures, "wide");
-  for (int row = 0; row < 4200; ++row) {
+  for (int row = 0; row < 2100; ++row) {
     rows.AddNew();
     rows[std::size_t{0}] = row;
     rows.Update();
@@ -464,7 +464,100 @@ TEST_F(OpenRecordset, RowsThatAreTooManyForMemoryGoIntoTheFile) {
 
   EXPECT_THAT(failures.Numbers(), ElementsAre(3022));
   EXPECT_TRUE(db.TakeHeldRows().empty());
-  EXPECT_EQ(db.RowCount(mustWork, "wide"), 4200);
+  EXPECT_EQ(db.RowCount(mustWork, "wide"), 2100);
+}
+
+// A dynaset reads 256 rows at a time: 600 are three times.
+class LongDynaset : public OpenRecordset {
+ protected:
+  LongDynaset() {
+    db.Begin(mustWork);
+    for (int i = 0; i < 600; ++i) Add(NameOf(i), "long", i);
+    db.Commit(mustWork);
+  }
+
+  static std::string NameOf(int row) { return "row " + std::to_string(row); }
+
+  static void Skip(Recordset& rows, int count) {
+    for (int i = 0; i < count; ++i) rows.MoveNext();
+  }
+};
+
+TEST_F(LongDynaset, WalksAllRowsThereAndFromTheStartAgain) {
+  Recordset rows = All(mustWork, RecordsetType::Dynaset);
+  EXPECT_EQ(rows.RecordCount(), 600u);
+  for (int pass = 0; pass < 2; ++pass) {
+    for (int i = 0; i < 600; ++i, rows.MoveNext()) ASSERT_EQ(rows["long"].Get(), i);
+    EXPECT_TRUE(rows.AtEnd());
+    rows.MoveFirst();
+  }
+}
+
+TEST_F(LongDynaset, ChangesTheRowItIsAtWhereverThatIs) {
+  for (Recordset rows = All(mustWork, RecordsetType::Dynaset); !rows.AtEnd(); rows.MoveNext()) {
+    rows.Edit();
+    rows["long"] = rows["long"].RequireLong() + 1000;
+    rows.Update();
+    ASSERT_EQ(rows["name"].Get().Text(), NameOf(rows["long"].RequireLong() - 1000));
+  }
+
+  int i = 1000;
+  for (Recordset rows = All(mustWork); !rows.AtEnd(); rows.MoveNext(), ++i) {
+    ASSERT_EQ(rows["long"].Get(), i);
+  }
+}
+
+TEST_F(LongDynaset, ShowsWhatBecameOfARowBeforeItsTurn) {
+  Recordset rows = All(mustWork, RecordsetType::Dynaset);
+
+  db.Execute(mustWork, "UPDATE t SET long = 7 WHERE name = 'row 599'");
+
+  Skip(rows, 599);
+  EXPECT_EQ(rows["long"].Get(), 7);
+}
+
+TEST_F(LongDynaset, PassesOverRowsThatWereDeletedBeforeTheirTurn) {
+  Recordset rows = All(mustWork, RecordsetType::Dynaset);
+
+  db.Execute(mustWork, "DELETE FROM t WHERE long = 256 OR long >= 300");
+
+  Skip(rows, 256);
+  EXPECT_EQ(rows["long"].Get(), 257);
+  Skip(rows, 43);
+  EXPECT_TRUE(rows.AtEnd());
+}
+
+TEST_F(LongDynaset, DoesNotShowRowsThatCameLater) {
+  Recordset rows = All(mustWork, RecordsetType::Dynaset);
+
+  Add("late");
+
+  Skip(rows, 600);
+  EXPECT_TRUE(rows.AtEnd());
+}
+
+TEST_F(LongDynaset, EndsAtTheFirstRowThatItCannotRead) {
+  Recordset rows = All(failures, RecordsetType::Dynaset);
+
+  db.Close();
+
+  Skip(rows, 255);
+  EXPECT_EQ(rows["long"].Get(), 255);
+  rows.MoveNext();
+  EXPECT_TRUE(rows.AtEnd());
+  EXPECT_THAT(failures.Numbers(), ElementsAre(3420));
+}
+
+TEST_F(LongDynaset, EndsWhereMemoryIsLacking) {
+  db.Execute(mustWork, "UPDATE t SET memo = '{}' WHERE long = 300", {std::string(5000, 'x')});
+  Recordset rows = All(failures, RecordsetType::Dynaset);
+  {
+    const FailingSizes lack(5000, 5100);
+    Skip(rows, 256);
+  }
+
+  EXPECT_TRUE(rows.AtEnd());
+  EXPECT_THAT(failures.Numbers(), ElementsAre(failure_number::kOutOfMemory));
 }
 
 TEST_F(OpenRecordset, ATableWithAKeyOnACalculatedColumnTakesRows) {

@@ -113,5 +113,26 @@ TEST(NextCodePoint, WalksAnyTextToItsEnd) {
   EXPECT_EQ(walked, (std::u32string{U'a', U'€', 0xFF, 0xE2, 0x82}));
 }
 
+TEST(CompareIgnoringCase, OrdersAsTheEngineDoes) {
+  using namespace std::string_literals;
+  EXPECT_LT(CompareIgnoringCase("alpha", "Beta"), 0);
+  EXPECT_GT(CompareIgnoringCase("beta", "Alpha"), 0);
+  EXPECT_EQ(CompareIgnoringCase("FoX", "fOx"), 0);
+  EXPECT_LT(CompareIgnoringCase("fox", "Foxes"), 0);
+  EXPECT_LT(CompareIgnoringCase("", "a"), 0);
+  EXPECT_LT(CompareIgnoringCase("z", "\xC3\xA4"), 0);  // bytes count without a sign
+  EXPECT_NE(CompareIgnoringCase("\xC3\xA4", "\xC3\x84"), 0);
+  EXPECT_EQ(CompareIgnoringCase("a\0b"s, "A\0c"s), 0);
+  EXPECT_LT(CompareIgnoringCase("a\0b"s, "a\0bc"s), 0);
+}
+
+TEST(HashIgnoringCase, IsThatOfAnyTextThatIsEqual) {
+  using namespace std::string_literals;
+  EXPECT_EQ(HashIgnoringCase("Commodity_Water"), HashIgnoringCase("COMMODITY_WATER"));
+  EXPECT_EQ(HashIgnoringCase("a\0b"s), HashIgnoringCase("A\0c"s));
+  EXPECT_NE(HashIgnoringCase("Commodity_Water"), HashIgnoringCase("Commodity_Wafer"));
+  EXPECT_NE(HashIgnoringCase("a"), HashIgnoringCase("aa"));
+}
+
 }  // namespace
 }  // namespace orrerix

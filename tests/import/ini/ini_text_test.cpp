@@ -40,6 +40,9 @@ INSTANTIATE_TEST_SUITE_P(
         ValueCase{"cost = 3", "price", ""}, ValueCase{"", "price", ""},
         // Tabs are no blanks, and a lone LF ends no value.
         ValueCase{"a = \t1\r\n", "a", "\t1"}, ValueCase{"a = 1\nb = 2\r\n", "a", "1\nb = 2"},
+        // A key with a "=" of its own, and two signs after one key.
+        ValueCase{"x=a = 1\r\n", "x=a", "1"}, ValueCase{"a==1\r\n", "a", "=1"},
+        ValueCase{"=1\r\n", "", "1"}, ValueCase{"xa=1\r\n", "xxa", ""},
         // After "key =" one character is skipped, whatever it is: here the CR.
         ValueCase{"a =\r\nb = 2\r\n", "a", "\nb = 2"}));
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "import/sections/key_set.h"
+#include "db/rows/key_set.h"
 
 #include <gtest/gtest.h>
 
