@@ -267,7 +267,7 @@ void Connection::RunAll(const std::string& statements) {
 }
 
 void Connection::InsertRows(const HeldRows& rows, const TableDef& table) {
-  RowInserter inserter(*this, table, rows.RowCount());
+  RowInserter inserter(*this, table, rows.RowCount(), RowsAre::Whole);
   for (std::size_t row = 0; row < rows.RowCount(); ++row) {
     const std::span<const HeldRows::Cell> cells = rows.Row(row);
     for (std::size_t field = 0; field < cells.size(); ++field) inserter.Set(field, cells[field]);

@@ -27,20 +27,23 @@ struct StatementDeleter {
 };
 using PreparedStatement = std::unique_ptr<sqlite3_stmt, StatementDeleter>;
 
-// A prepared statement on loan: it is reset when the loan ends.
+// A prepared statement on loan: it is reset when the loan ends, and forgets its values unless each
+// of them is bound anew next time.
 class StatementLoan {
  public:
-  explicit StatementLoan(sqlite3_stmt* statement) : statement_(statement) {}
+  explicit StatementLoan(sqlite3_stmt* statement, bool forgets = true)
+      : statement_(statement), forgets_(forgets) {}
   StatementLoan(const StatementLoan&) = delete;
   StatementLoan& operator=(const StatementLoan&) = delete;
   ~StatementLoan() {
     sqlite3_reset(statement_);
-    sqlite3_clear_bindings(statement_);
+    if (forgets_) sqlite3_clear_bindings(statement_);
   }
   sqlite3_stmt* get() const { return statement_; }
 
  private:
   sqlite3_stmt* statement_;
+  bool forgets_;
 };
 
 class Connection {

@@ -16,7 +16,8 @@ class KeySet {
   // Makes sure that one more row can be put in without memory. `hashOf` gives the hash of a row.
   template <typename HashOf>
   void MakeRoom(const HashOf& hashOf) {
-    if (4 * (used_ + 1) <= 3 * slots_.size()) return;
+    // Half of the slots stay free: a key that is not there is found out after two or three of them.
+    if (2 * (used_ + 1) <= slots_.size()) return;
     std::vector<Row> before(slots_.empty() ? kFewestSlots : 2 * slots_.size(), kFree);
     before.swap(slots_);
     used_ = 0;

@@ -18,9 +18,11 @@ std::size_t RowsOfMany(std::size_t fields, std::size_t rowCount) {
 
 }  // namespace
 
-RowInserter::RowInserter(Connection& connection, const TableDef& table, std::size_t rowCount)
+RowInserter::RowInserter(Connection& connection, const TableDef& table, std::size_t rowCount,
+                         RowsAre rows)
     : connection_(connection),
       idField_(table.UniqueIDField()),
+      rows_(rows),
       fields_(table.Fields.size()),
       rowsOfMany_(RowsOfMany(fields_, rowCount)),
       rowsLeft_(rowCount),
@@ -50,12 +52,16 @@ void RowInserter::Set(std::size_t field, double real) {
   sqlite3_bind_double(statement_, Parameter(field), real);
 }
 
+void RowInserter::Set(std::size_t field, Null) {
+  sqlite3_bind_null(statement_, Parameter(field));
+}
+
 void RowInserter::EndRow() {
   if (ids_ != nullptr) Set(*idField_, ids_->Draw());
   ++row_;
   if (statement_ == many_.get() && row_ < rowsOfMany_) return;
   rowsLeft_ -= std::min(rowsLeft_, row_);
-  const StatementLoan loan(statement_);
+  const StatementLoan loan(statement_, rows_ == RowsAre::Sparse);
   BeginStatement();
   if (sqlite3_step(loan.get()) != SQLITE_DONE) throw connection_.LastFailure();
 }

@@ -22,8 +22,7 @@ CommaCut Require(std::string_view text) {
 
 }  // namespace
 
-BlockText::BlockText(std::string_view text)
-    : text_(text), upper_(UpperAscii(text)), signs_(FindSigns(text)) {}
+BlockText::BlockText(std::string_view text) : text_(text), upper_(UpperAscii(text)) {}
 
 std::optional<std::size_t> BlockText::Find(std::string_view upperPart) const {
   return FindIn(Upper(), upperPart);
@@ -38,7 +37,7 @@ bool BlockText::StartsWith(std::string_view upperPart) const {
 }
 
 std::string_view BlockText::Value(std::string_view upperKey) const {
-  return FindINIValue({text_, upper_, signs_, begin_}, upperKey);
+  return FindINIValue(Text(), Upper(), upperKey);
 }
 
 void BlockText::Cut(std::size_t characters) {

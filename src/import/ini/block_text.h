@@ -6,7 +6,6 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace orrerix {
 
@@ -39,7 +38,6 @@ class BlockText {
 
   std::string_view text_;
   std::string upper_;
-  std::vector<std::size_t> signs_;  // of the whole text
   std::size_t begin_ = 0;
 };
 

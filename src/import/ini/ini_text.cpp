@@ -14,13 +14,6 @@ std::string_view UpToCarriageReturn(std::string_view text) {
   return Trim(text.substr(0, text.find('\r')));
 }
 
-// Most texts that do not end in a key differ from it in the last letter.
-bool EndsIn(std::string_view text, std::string_view key) {
-  if (key.empty()) return true;
-  return text.size() >= key.size() && text.back() == key.back() &&
-         text.substr(text.size() - key.size()) == key;
-}
-
 // The next three functions never leave their loops early, so that the compiler can vectorise them.
 
 // How many of the CR and LF between the first and the last character lack their partner.
@@ -91,38 +84,26 @@ std::size_t FindText(std::string_view text, std::string_view part) {
   return text.find(part);
 }
 
-std::vector<std::size_t> FindSigns(std::string_view text) {
-  std::vector<std::size_t> signs;
-  for (std::size_t sign = text.find('='); sign != std::string_view::npos;
-       sign = text.find('=', sign + 1)) {
-    signs.push_back(sign);
-  }
-  return signs;
-}
-
-// Whoever looks for the keys themselves meets their first letters everywhere.
-std::string_view FindINIValue(const KeyedText& text, std::string_view upperKey) {
-  const auto valueFrom = [&text](std::size_t start) {
-    return start < text.Text.size() ? UpToCarriageReturn(text.Text.substr(start))
-                                    : std::string_view();
-  };
+std::string_view FindINIValue(std::string_view text, std::string_view upperText,
+                              std::string_view upperKey) {
   std::optional<std::size_t> tight;
-  for (auto sign = std::lower_bound(text.Signs.begin(), text.Signs.end(), text.Begin);
-       sign != text.Signs.end(); ++sign) {
-    const std::string_view before = text.Upper.substr(text.Begin, *sign - text.Begin);
-    const bool isSpaced = !before.empty() && before.back() == ' ';
-    if (isSpaced && EndsIn(before.substr(0, before.size() - 1), upperKey)) {
-      return valueFrom(*sign + 2);
+  for (std::size_t from = 0; from < upperText.size();) {
+    const std::size_t found = FindText(upperText.substr(from), upperKey);
+    if (found == std::string_view::npos) break;
+    const std::size_t sign = from + found + upperKey.size();
+    const std::string_view behind = upperText.substr(sign);
+    if (behind.starts_with(" =")) {
+      const std::size_t start = sign + 3;
+      return start < text.size() ? UpToCarriageReturn(text.substr(start)) : std::string_view();
     }
-    if (!tight && EndsIn(before, upperKey)) tight = *sign + 1;
+    if (!tight && behind.starts_with("=")) tight = sign + 1;
+    from += found + 1;
   }
-  return tight ? valueFrom(*tight) : std::string_view();
+  return tight ? UpToCarriageReturn(text.substr(*tight)) : std::string_view();
 }
 
 std::string_view GetINIValue(std::string_view text, std::string_view key) {
-  const std::string upper = UpperAscii(text);
-  const std::vector<std::size_t> signs = FindSigns(text);
-  return FindINIValue({text, upper, signs}, UpperAscii(key));
+  return FindINIValue(text, UpperAscii(text), UpperAscii(key));
 }
 
 std::string RemoveComments(std::string_view text) {

@@ -2,11 +2,8 @@
 // Operations on whole blocks of ini text, as raw bytes of one character each.
 #pragma once
 
-#include <cstddef>
-#include <span>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace orrerix {
 
@@ -16,20 +13,9 @@ namespace orrerix {
 // not bound to the start of a line: asking for "type" finds a line of "hp_type", too.
 std::string_view GetINIValue(std::string_view text, std::string_view key);
 
-// A text that many keys are looked for in: with its ASCII upper-case form and the places of all
-// "=", only from `Begin` on.
-struct KeyedText {
-  std::string_view Text;
-  std::string_view Upper;
-  std::span<const std::size_t> Signs;
-  std::size_t Begin = 0;
-};
-
-// The same in such a text; `key` in upper case.
-std::string_view FindINIValue(const KeyedText& text, std::string_view upperKey);
-
-// The places of all "=".
-std::vector<std::size_t> FindSigns(std::string_view text);
+// The same in a text whose ASCII upper-case form is at hand; `key` in upper case.
+std::string_view FindINIValue(std::string_view text, std::string_view upperText,
+                              std::string_view upperKey);
 
 // ASCII letters in upper case; all other bytes stay.
 std::string UpperAscii(std::string_view text);
