@@ -74,9 +74,11 @@ class PathSearch {
     }
     if (kFileNamesIgnoreCase) return std::nullopt;
     const std::vector<fs::path> others = listings_.OtherSpellings(folder, name);
-    if (isThere && !others.empty()) IsNew(exact, at + 1);
+    // A single way cannot meet another.
+    const bool isFork = others.size() + (isThere ? 1 : 0) > 1;
+    if (isThere && isFork) IsNew(exact, at + 1);
     for (const fs::path& other : others) {
-      if (!IsNew(other, at + 1)) continue;
+      if (isFork && !IsNew(other, at + 1)) continue;
       if (auto found = From(other, at + 1, level + 1)) return found;
     }
     return std::nullopt;

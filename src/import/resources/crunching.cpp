@@ -42,7 +42,10 @@ std::vector<TableDef>::const_iterator EndOfFixedTables(const std::vector<TableDe
 
 // All tables of a file that are not the engine's own.
 std::vector<TableDef> TablesOf(FailureSink& routine, const fs::path& file) {
-  std::vector<TableDef> tables = DBEngine::OpenDatabase(routine, file).TableDefs(routine);
+  Database database = DBEngine::OpenDatabase(routine, file);
+  database.Begin(routine);  // one lock for all questions
+  std::vector<TableDef> tables = database.TableDefs(routine);
+  database.Close();
   std::erase_if(tables,
                 [](const TableDef& table) { return Ucase(table.Name).starts_with("MSYS"); });
   return tables;
