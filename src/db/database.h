@@ -78,8 +78,8 @@ class Database {
                           std::initializer_list<Value> values = {},
                           RecordsetType type = RecordsetType::Snapshot);
 
-  // Opens all rows of a table, or those of the given numbers in their order. A table in memory stays
-  // there.
+  // Opens all rows of a table, or those of the given numbers in their order. A table in memory
+  // stays there.
   Recordset OpenRows(FailureSink& sink, std::string_view table,
                      RecordsetType type = RecordsetType::Dynaset);
   Recordset OpenRows(FailureSink& sink, std::string_view table, std::vector<std::int64_t> numbers,

@@ -69,8 +69,7 @@ HeldRows::Cell ColumnCell(sqlite3_stmt* statement, int column) {
   }
   const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(statement, column));
   if (text == nullptr) throw std::bad_alloc();
-  return std::string_view(text,
-                          static_cast<std::size_t>(sqlite3_column_bytes(statement, column)));
+  return std::string_view(text, static_cast<std::size_t>(sqlite3_column_bytes(statement, column)));
 }
 
 void VisitStored(Connection& connection, std::string_view table,

@@ -256,9 +256,7 @@ class PriceStage {
 
 void CalcBasePrices2(Universe& universe) {
   Routine routine(universe.Log, "OrrerixMain.CalcBasePrices2");
-  routine.Run([&] {
-    MarketStage(routine, universe.DB).Run();
-  });
+  routine.Run([&] { MarketStage(routine, universe.DB).Run(); });
 }
 
 void CalcBasePrices(Routine& caller, Import& import) {

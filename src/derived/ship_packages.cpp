@@ -74,9 +74,9 @@ class PackageStage {
   }
 
   void AddPackage(Recordset& ship) {
-    for (Recordset items = universe_.DB.OpenRowsNamed(
-             routine_, "Packages", {"PackageName", TextOf(ship, "packagename")}, std::nullopt,
-             RecordsetType::Dynaset);
+    for (Recordset items = universe_.DB.OpenRowsNamed(routine_, "Packages",
+                                                      {"PackageName", TextOf(ship, "packagename")},
+                                                      std::nullopt, RecordsetType::Dynaset);
          !items.AtEnd(); items.MoveNext()) {
       const Value price = PriceOf(TextOf(items, "NickName"));
       if (price.IsNull()) continue;

@@ -48,8 +48,8 @@ SystemGrid::SystemGrid(FailureSink& routine, Universe& universe) {
   universe.DB.VisitRows(
       routine, "Systems", {"pos", "nickname", "navmapscale"},
       [&](std::int64_t, std::span<const HeldRows::Cell> system) {
-        if (nicknames.emplace(HeldRows::ValueOf(system[0]).Text(),
-                              HeldRows::ValueOf(system[1]).Text())
+        if (nicknames
+                .emplace(HeldRows::ValueOf(system[0]).Text(), HeldRows::ValueOf(system[1]).Text())
                 .second) {
           scales_.emplace(HeldRows::ValueOf(system[0]).Text(),
                           ScaleOf(HeldRows::ValueOf(system[2])));

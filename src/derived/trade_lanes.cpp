@@ -45,15 +45,15 @@ class LaneStage {
   // All rings with a next one whose text for the one before is empty, not Null.
   Recordset OpenStarts() {
     std::vector<std::int64_t> numbers;
-    universe_.DB.VisitRows(routine_, "Objects", {"prev_ring", "next_ring"},
-                           [&](std::int64_t number, std::span<const HeldRows::Cell> object) {
-                             const auto* before = std::get_if<std::string_view>(&object[0]);
-                             const auto* next = std::get_if<std::string_view>(&object[1]);
-                             if (before != nullptr && before->empty() && next != nullptr &&
-                                 !next->empty()) {
-                               numbers.push_back(number);
-                             }
-                           });
+    universe_.DB.VisitRows(
+        routine_, "Objects", {"prev_ring", "next_ring"},
+        [&](std::int64_t number, std::span<const HeldRows::Cell> object) {
+          const auto* before = std::get_if<std::string_view>(&object[0]);
+          const auto* next = std::get_if<std::string_view>(&object[1]);
+          if (before != nullptr && before->empty() && next != nullptr && !next->empty()) {
+            numbers.push_back(number);
+          }
+        });
     return universe_.DB.OpenRows(routine_, "Objects", std::move(numbers), RecordsetType::Snapshot);
   }
 

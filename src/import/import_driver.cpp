@@ -79,8 +79,7 @@ class ImportRun {
 
   void ReadTexts() {
     std::int32_t place = 1;
-    for (Recordset libraries =
-             database_.OpenRows(routine_, "resources", RecordsetType::Snapshot);
+    for (Recordset libraries = database_.OpenRows(routine_, "resources", RecordsetType::Snapshot);
          !libraries.AtEnd(); libraries.MoveNext(), ++place) {
       routine_.Try([&] { ReadLibrary(libraries["DLL"].Get().Text(), place); });
     }

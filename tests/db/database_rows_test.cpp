@@ -140,12 +140,12 @@ TEST_P(RowsOf, ATableAreVisitedWithTheFieldsAskedFor) {
   Add("b", "food");
   std::vector<std::string> seen;
 
-  EXPECT_TRUE(db.VisitRows(
-      mustWork, "goods", {"price", "name"},
-      [&](std::int64_t number, std::span<const HeldRows::Cell> cells) {
-        seen.push_back(std::to_string(number) + " " + HeldRows::ValueOf(cells[0]).Text() + " " +
-                       HeldRows::ValueOf(cells[1]).Text());
-      }));
+  EXPECT_TRUE(db.VisitRows(mustWork, "goods", {"price", "name"},
+                           [&](std::int64_t number, std::span<const HeldRows::Cell> cells) {
+                             seen.push_back(std::to_string(number) + " " +
+                                            HeldRows::ValueOf(cells[0]).Text() + " " +
+                                            HeldRows::ValueOf(cells[1]).Text());
+                           }));
 
   EXPECT_THAT(seen, ElementsAre("1 7 a", "2  b"));
   ExpectStaysInItsPlace();

@@ -38,8 +38,10 @@ class HeldTables : public DerivedFixture {
   void FillTables() {
     System("Li01", "7, 4", "1.5");
     System("Li02", "8, 4");
-    Object("hole_b", {.System = "Li02", .JumpEffect = "jump_effect_hole", .Goto = "Li01, Hole_A, x"});
-    Object("hole_a", {.System = "Li01", .JumpEffect = "Jump_Effect_Hole", .Goto = "Li02, Hole_B, x"});
+    Object("hole_b",
+           {.System = "Li02", .JumpEffect = "jump_effect_hole", .Goto = "Li01, Hole_A, x"});
+    Object("hole_a",
+           {.System = "Li01", .JumpEffect = "Jump_Effect_Hole", .Goto = "Li02, Hole_B, x"});
     Object("ring_1", {.NextRing = "RING_2", .SpaceName = "Start"});
     Object("ring_2", {.Pos = "7, 8, 9", .PrevRing = "ring_1", .SpaceName = "End"});
     Object("li01_01", {.RealName = "Pittsburgh"});
@@ -49,10 +51,8 @@ class HeldTables : public DerivedFixture {
     Add("Goods", {{"nickname", "hull"}, {"category", "ShipHull"}, {"ship", "Fox"}, {"price", 9}});
     Add("Goods", {{"nickname", "pack"}, {"category", "ship"}, {"hull", "HULL"}});
     Add("Goods", {{"nickname", "gun"}, {"category", "equipment"}, {"price", 5}});
-    Add("BaseGoods", {{"Base", "Li01_01_Base"},
-                      {"GoodNick", "Commodity_Water"},
-                      {"val5", 1.0},
-                      {"val6", 1.15}});
+    Add("BaseGoods",
+        {{"Base", "Li01_01_Base"}, {"GoodNick", "Commodity_Water"}, {"val5", 1.0}, {"val6", 1.15}});
     Add("Packages", {{"PackageName", "PACK"}, {"NickName", "Gun"}, {"Val", 1}});
     Add("Ships", {{"NickName", "fox"}});
     Add("Groups", {{"NickName", "grp"}, {"ids_name", 7}, {"ids_short_name", 8}});
@@ -64,7 +64,8 @@ TEST_F(HeldTables, GiveTheSameRowsAsThoseInTheFile) {
   const std::vector<std::string> stored = RowsAfterStages(false);
 
   EXPECT_THAT(RowsAfterStages(true), ::testing::ElementsAreArray(stored));
-  // One connection, one lane, two docks, one price, one ship, one package, one group, seven objects.
+  // One connection, one lane, two docks, one price, one ship, one package, one group, seven
+  // objects.
   EXPECT_EQ(stored.size(), 15u);
   EXPECT_THAT(log.Failures(), ::testing::IsEmpty());
 }

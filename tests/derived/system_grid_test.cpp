@@ -11,7 +11,12 @@ namespace {
 class SystemGridTest : public DerivedFixture {
  protected:
   SystemGrid Grid() { return SystemGrid(mustWork, universe); }
-  double ScaleAt(MapCell cell) { return SystemScale(mustWork, universe, cell); }
+  // As one question, and as the grid has it.
+  double ScaleAt(MapCell cell) {
+    const double scale = SystemScale(mustWork, universe, cell);
+    EXPECT_EQ(Grid().Scale(cell), scale);
+    return scale;
+  }
 };
 
 TEST_F(SystemGridTest, EveryCellTakesTwelveCharactersRowByRow) {
@@ -71,6 +76,18 @@ TEST_F(SystemGridTest, AScaleAboveZeroIsTaken) {
   System("li01", "7, 4", "1.36");
 
   EXPECT_EQ(ScaleAt({7, 4}), 1.36);
+}
+
+TEST_F(SystemGridTest, ACellWithoutASystemHasAScaleOfOne) {
+  EXPECT_EQ(ScaleAt({7, 4}), 1.0);
+}
+
+TEST_F(SystemGridTest, TheFirstSystemOfACellGivesItsScale) {
+  System("li01", "7, 4", "1.5");
+  System("li02", "7, 4", "3");
+
+  EXPECT_EQ(ScaleAt({7, 4}), 1.5);
+  EXPECT_EQ(Grid().FindCell("li02"), (MapCell{0, 0}));
 }
 
 TEST_F(SystemGridTest, AScaleOfZeroLeavesOne) {

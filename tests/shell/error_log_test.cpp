@@ -40,6 +40,15 @@ const std::string kHeading = "FreeLancer-Files Error Logfile\r\n================
 const std::string kProgramHeading =
     "FL Orrerix v1.7 R12  ErrorLog\r\n==============================\r\n\r\n";
 
+TEST_F(Log, HandsItsLinesOverAndKeepsItsText) {
+  log.AddErrorLine("first");
+
+  EXPECT_THAT(log.TakeDataLines(), ElementsAre("first"));
+
+  EXPECT_TRUE(log.DataLines().empty());
+  EXPECT_EQ(log.DataLog(), kHeading + "\r\nfirst");
+}
+
 TEST_F(Log, ARemarkIsALineOfTheDataLog) {
   EXPECT_FALSE(log.AddErrorLine("first"));
   EXPECT_FALSE(log.AddErrorLine("second"));

@@ -14,8 +14,7 @@ Appender::Appender(FailureSink& sink, std::shared_ptr<Connection> connection, co
                    std::size_t rowCount)
     : sink_(&sink),
       connection_(std::move(connection)),
-      inserter_(std::make_unique<RowInserter>(*connection_, table, rowCount,
-                                               RowsAre::Sparse)) {}
+      inserter_(std::make_unique<RowInserter>(*connection_, table, rowCount, RowsAre::Sparse)) {}
 
 void Appender::Set(std::size_t field, std::string_view text) {
   if (inserter_ != nullptr) inserter_->Set(field, text);

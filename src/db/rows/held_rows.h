@@ -88,7 +88,7 @@ class HeldRows {
   KeySet keys_;
   TextStore texts_;
   std::unordered_map<std::size_t, FieldIndex> indexes_;  // by their fields
-  std::vector<std::vector<Cell>> chunks_;  // of a fixed number of rows, row by row
+  std::vector<std::vector<Cell>> chunks_;                // of a fixed number of rows, row by row
   std::size_t rowCount_ = 0;
 };
 

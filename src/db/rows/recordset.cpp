@@ -206,7 +206,6 @@ void Recordset::ComeTo(std::size_t row) {
   Fail(*failed);
 }
 
-
 // A recordset that was never opened has nobody to hand its failures to.
 void Recordset::Fail(const Failure& failure) const {
   if (sink_ != nullptr) sink_->Fail(failure);

@@ -50,8 +50,7 @@ void KnownSections::ReadGood(BlockText& block) {
 
 void KnownSections::AssignCommodityName(const std::string& nickname, const std::string& equipment) {
   constexpr std::size_t prefix = std::string_view("commodity_").size();
-  Recordset found =
-      import_.Target.DB.OpenRowsNamed(routine_, "commodity", {"nickname", nickname});
+  Recordset found = import_.Target.DB.OpenRowsNamed(routine_, "commodity", {"nickname", nickname});
   if (found.AtEnd()) {
     const std::string_view front = Left(equipment, prefix);
     goods_["realname"] = Trim(std::string_view(equipment).substr(front.size()));
