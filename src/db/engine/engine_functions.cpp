@@ -10,7 +10,6 @@
 
 #include "db/failure.h"
 #include "db/values/like_pattern.h"
-#include "db/values/number_text.h"
 #include "db/values/text.h"
 
 namespace orrerix {
@@ -72,15 +71,6 @@ void CutFunction(sqlite3_context* context, sqlite3_value** arguments) {
   ReturnText(context, Cut(TextOf(arguments[0]), static_cast<std::size_t>(count)));
 }
 
-// A number rounded to a whole one, ties to even; Null if it leaves the range between the bounds.
-template <std::int64_t Lowest, std::int64_t Highest>
-void FitFunction(sqlite3_context* context, sqlite3_value** arguments) {
-  if (IsNull(arguments[0])) return sqlite3_result_null(context);
-  const double whole = RoundToEven(sqlite3_value_double(arguments[0]));
-  if (!(whole >= Lowest && whole <= Highest)) return sqlite3_result_null(context);
-  sqlite3_result_int64(context, static_cast<sqlite3_int64>(whole));
-}
-
 void IsNullFunction(sqlite3_context* context, sqlite3_value** arguments) {
   sqlite3_result_int(context, IsNull(arguments[0]) ? 1 : 0);
 }
@@ -129,8 +119,6 @@ void RegisterEngineFunctions(sqlite3* connection) {
   add("right", 2, Guarded<CutFunction<Right>>);
   add("isnull", 1, Guarded<IsNullFunction>);
   add("like", 2, Guarded<LikeFunction>);
-  add("fitlong", 1, Guarded<FitFunction<-2147483648LL, 2147483647LL>>);
-  add("fitbyte", 1, Guarded<FitFunction<0, 255>>);
 }
 
 }  // namespace orrerix
