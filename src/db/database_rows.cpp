@@ -117,13 +117,14 @@ Recordset Database::OpenRows(FailureSink& sink, std::string_view table,
 Recordset Database::OpenRowsNamed(FailureSink& sink, std::string_view table, NamedField name,
                                   std::optional<NamedField> other, RecordsetType type) {
   std::optional<std::vector<std::int64_t>> held;
-  const bool found = Guard(sink, [&] {
+  const bool looked = Guard(sink, [&] {
     RequireOpen();
     held = HeldRowsNamed(*connection_, table, name, other);
-    if (!held) connection_->BeforeQuestionFor(table, name.Field);
   });
-  if (!found) return Recordset();
+  if (!looked) return Recordset();
   if (held) return OpenRows(sink, table, std::move(*held), type);
+  // Without the index the question takes longer; it has the same answer.
+  Guard(sink, [&] { connection_->BeforeQuestionFor(table, name.Field); });
   const std::string query =
       fmt::format("SELECT * from {} WHERE ucase({}) = '{{}}'", table, name.Field);
   if (!other) return OpenRecordset(sink, query, {Ucase(name.Text)}, type);

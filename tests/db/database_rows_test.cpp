@@ -5,6 +5,7 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sqlite3.h>
 
 #include "db/engine/engine.h"
 #include "db/rows/field_of.h"
@@ -15,6 +16,7 @@ namespace orrerix {
 namespace {
 
 using ::testing::ElementsAre;
+using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using ::testing::SizeIs;
 
@@ -220,6 +222,18 @@ TEST_P(RowsOf, AChangeThatMemoryLacksForKeepTheirContent) {
               (price == Value(2) && kind == Value(std::string(200, 'k'))));
 }
 
+// How the engine answers a native query, in its own words.
+std::string PlanOf(const Database& db, const std::string& query) {
+  sqlite3_stmt* plan = nullptr;
+  sqlite3_prepare_v2(db.Native(), ("EXPLAIN QUERY PLAN " + query).c_str(), -1, &plan, nullptr);
+  std::string text;
+  while (sqlite3_step(plan) == SQLITE_ROW) {
+    text += reinterpret_cast<const char*>(sqlite3_column_text(plan, 3));
+  }
+  sqlite3_finalize(plan);
+  return text;
+}
+
 TEST(RowsNamed, GetAnIndexInAFileThatIsThrownAwayLater) {
   FailTest mustWork;
   Database db = DBEngine::CreateInMemory(mustWork);
@@ -236,6 +250,8 @@ TEST(RowsNamed, GetAnIndexInAFileThatIsThrownAwayLater) {
   db.OpenRowsNamed(mustWork, "goods", {"name", "b"});
 
   EXPECT_EQ(indexes(), 1u);
+  EXPECT_THAT(PlanOf(db, "SELECT * FROM goods WHERE ucase(name) = ?1 COLLATE NOCASE"),
+              HasSubstr("USING INDEX goods lookup name"));
 }
 
 }  // namespace

@@ -223,10 +223,9 @@ void Connection::WriteTable(std::string_view table) {
 void Connection::BeforeQuestionFor(std::string_view table, std::string_view field) {
   if (!indexesNames_) return;
   const std::string name = fmt::format("{} lookup {}", table, field);
-  if (nameIndexes_.contains(name)) return;
+  if (!nameIndexes_.insert(name).second) return;
   RunAll(fmt::format("CREATE INDEX IF NOT EXISTS {} ON {} (ucase({}) COLLATE NOCASE)",
                      QuoteName(name), QuoteName(table), QuoteName(field)));
-  nameIndexes_.insert(name);
 }
 
 // Making a key out of all rows costs less than placing each of them in it.
