@@ -75,6 +75,11 @@ HeldRows::Cell ColumnCell(sqlite3_stmt* statement, int column) {
 void VisitStored(Connection& connection, std::string_view table,
                  std::initializer_list<std::string_view> fields,
                  const Database::RowVisitor& visit) {
+  // The engine would take the name of a missing field for a text.
+  const auto definition = connection.Find(table);
+  if (definition != nullptr && !PlacesOf(*definition, fields)) {
+    throw EngineFailure(failure_number::kNoSuchItem, "Item not found in this collection.");
+  }
   std::string sql = "SELECT _rowid_";
   for (const std::string_view field : fields) sql += "," + QuoteName(field);
   sql += " FROM " + QuoteName(table) + " ORDER BY _rowid_";

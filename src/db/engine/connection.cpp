@@ -225,7 +225,7 @@ void Connection::BeforeQuestionFor(std::string_view table, std::string_view fiel
   const std::string name = fmt::format("{} lookup {}", table, field);
   if (!nameIndexes_.insert(name).second) return;
   RunAll(fmt::format("CREATE INDEX IF NOT EXISTS {} ON {} (ucase({}) COLLATE NOCASE)",
-                     QuoteName(name), QuoteName(table), QuoteName(field)));
+                     QuoteName(name), QuoteName(table), field));
 }
 
 // Making a key out of all rows costs less than placing each of them in it.
