@@ -58,6 +58,7 @@ class JumpStage {
       return order != 0 ? order < 0 : a.Number < b.Number;
     });
     std::vector<std::int64_t> numbers;
+    numbers.reserve(jumps.size());
     for (const Jump& jump : jumps) numbers.push_back(jump.Number);
     return universe_.DB.OpenRows(routine_, "Objects", std::move(numbers), RecordsetType::Snapshot);
   }
