@@ -127,12 +127,13 @@ class MapWindow {
   std::unique_ptr<Registry> native_ = NativeRegistry();
   GameRegistry registry_{log_, *native_};
   PictureStore pictures_;
-  FormParts parts_{paths_,  CurrentVersion(), log_,    registry_, silent_,
-                   silent_, silent_,          silent_, silent_,   pictures_};
+  LanguageChoice choice_;
+  FormParts parts_{paths_,  CurrentVersion(), log_,    registry_, silent_, silent_,
+                   silent_, silent_,          silent_, pictures_, choice_};
   Settings settings_{log_, fs::temp_directory_path() / "orrerix-window-bench",
                      JetVersionOption::Version30};
-  Language language_{log_, fs::temp_directory_path() / "orrerix-window-bench",
-                     JetVersionOption::Version30};
+  LanguageFile language_{log_, fs::temp_directory_path() / "orrerix-window-bench",
+                         JetVersionOption::Version30, choice_};
   MemoryStatus start_ = GlobalMemoryStatus();
   OrrerixMain form_{parts_, settings_, language_, start_, JetVersionOption::Version30};
   PaintCounter counter_;

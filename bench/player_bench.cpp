@@ -71,7 +71,7 @@ void Station(benchmark::State& state, MapWindow& window) {
   std::size_t next = 0;
   for (auto _ : state) {
     state.SetIterationTime(
-        Seconds([&] { window.Form().Play().OpenStationOf(icons[next++ % icons.size()]); }));
+        Seconds([&] { window.Form().Controller().OpenStationOf(icons[next++ % icons.size()]); }));
     const auto& windows = window.Form().Stations().Windows();
     if (!windows.empty()) windows.back()->close();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
@@ -84,7 +84,7 @@ void Trades(benchmark::State& state, MapWindow& window) {
   StationInfo* busiest = nullptr;
   for (const Control& control : window.Map().Drawing().Controls) {
     if (control.Id == ControlId::MapIcon)
-      window.Form().Play().OpenStationOf(control.Index.value_or(0));
+      window.Form().Controller().OpenStationOf(control.Index.value_or(0));
   }
   int most = -1;
   for (const auto& station : window.Form().Stations().Windows()) {
