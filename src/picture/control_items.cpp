@@ -12,6 +12,7 @@
 
 #include "picture/form_font.h"
 #include "picture/label_style.h"
+#include "picture/line_items.h"
 #include "picture/picture_files.h"
 #include "picture/plain_tool_tip.h"
 #include "picture/twips.h"
@@ -24,10 +25,6 @@ constexpr int kSmallestFont = 6;
 
 // Its edges may go to the next whole pixel.
 constexpr double kSnapMargin = 1;
-
-constexpr QColor kHalo(150, 190, 255, 190);
-constexpr QColor kDotGround(0, 0, 16, 110);
-constexpr double kPale = 0.3;  // of a line in front of letters
 
 QRectF BoxOf(const Control& control) {
   return {0, 0, Pixels(control.Place.Width), Pixels(control.Place.Height)};
@@ -78,117 +75,6 @@ class PictureItem : public ControlItem {
   PictureStore& pictures_;
   QString file_;
   QRectF seen_;
-};
-
-// The part of a line within a place, as shares of its length; empty if it passes by.
-struct Stretch {
-  double From = 0;
-  double To = 1;
-  bool Empty() const { return From >= To; }
-};
-
-// Cuts what lies outside [low, high] on one axis off a stretch.
-Stretch Cut(Stretch stretch, double start, double way, double low, double high) {
-  if (way == 0) return start < low || start > high ? Stretch{0, 0} : stretch;
-  const auto [first, last] = std::minmax({(low - start) / way, (high - start) / way});
-  return {std::max(stretch.From, first), std::min(stretch.To, last)};
-}
-
-Stretch StretchWithin(const QLineF& line, const QRectF& place) {
-  const Stretch across = Cut({}, line.x1(), line.dx(), place.left(), place.right());
-  return Cut(across, line.y1(), line.dy(), place.top(), place.bottom());
-}
-
-// Lines ignore the mouse. They are drawn in front of the names of systems, and fade where they
-// cross one.
-class LineItem : public ControlItem {
- public:
-  LineItem(const Control& control, bool onPaper, QGraphicsItem* parent)
-      : ControlItem(control, parent),
-        onPaper_(onPaper),
-        line_(Pixels(control.Ends.X1), Pixels(control.Ends.Y1), Pixels(control.Ends.X2),
-              Pixels(control.Ends.Y2)) {
-    setPos(0, 0);
-    setAcceptedMouseButtons(Qt::NoButton);
-  }
-
-  QRectF boundingRect() const override {
-    return QRectF(line_.p1(), line_.p2()).normalized().adjusted(-2, -2, 2, 2);
-  }
-  QPainterPath shape() const override { return {}; }
-
-  void SpareLetters(const std::vector<QRectF>& letters) override {
-    if (onPaper_) return;
-    pale_.clear();
-    for (const QRectF& place : letters) {
-      const Stretch within = StretchWithin(line_, place);
-      if (!within.Empty()) pale_.push_back(within);
-    }
-    std::sort(pale_.begin(), pale_.end(),
-              [](const Stretch& a, const Stretch& b) { return a.From < b.From; });
-  }
-
-  void paint(QPainter* painter, const QStyleOptionGraphicsItem*, QWidget*) override {
-    // A line along the pixels is sharp on one row of them, and a pale band between two.
-    const bool smooth = painter->testRenderHint(QPainter::Antialiasing);
-    if (line_.dx() == 0 || line_.dy() == 0) painter->setRenderHint(QPainter::Antialiasing, false);
-    double done = 0;
-    for (const Stretch& pale : pale_) {
-      if (pale.From > done) Draw(*painter, {done, pale.From});
-      painter->setOpacity(kPale);
-      Draw(*painter, {std::max(done, pale.From), pale.To});
-      painter->setOpacity(1);
-      done = std::max(done, pale.To);
-    }
-    if (done < 1) Draw(*painter, {done, 1});
-    painter->setRenderHint(QPainter::Antialiasing, smooth);
-  }
-
- private:
-  void Draw(QPainter& painter, const Stretch& stretch) const {
-    if (stretch.Empty()) return;
-    const QLineF part(line_.pointAt(stretch.From), line_.pointAt(stretch.To));
-    const double ratio = painter.device()->devicePixelRatioF();
-    if (!onPaper_) {
-      if (Shown().Line == LineKind::TradeLane) DrawUnder(painter, part, kHalo, ratio);
-      if (Shown().Line == LineKind::JumpHole) DrawUnder(painter, part, kDotGround, ratio);
-    }
-    painter.setPen(PenOf(Shown(), ratio));
-    painter.drawLine(part);
-  }
-
-  // Pure blue is hardly visible on a dark sky, so it is drawn between two light edges, by which
-  // colour-blind players can tell a lane from a gate's line as well. Grey dots get a dark edge
-  // for bright gas.
-  static void DrawUnder(QPainter& painter, const QLineF& part, const QColor& color, double ratio) {
-    QPen pen(color, 3 * ratio);
-    pen.setCosmetic(true);
-    pen.setCapStyle(Qt::FlatCap);
-    painter.setPen(pen);
-    painter.drawLine(part);
-  }
-
-  // A pixel wide at every zoom; a logical one where the screen's own are finer.
-  static QPen PenOf(const Control& control, double devicePixelRatio) {
-    QPen pen(ToQColor(control.BorderColor), devicePixelRatio);
-    pen.setCosmetic(true);
-    switch (control.Style) {
-      case LineStyle::Solid:
-        break;
-      case LineStyle::Dashed:
-        pen.setStyle(Qt::DashLine);
-        break;
-      case LineStyle::Dotted:
-        pen.setCapStyle(Qt::FlatCap);
-        pen.setDashPattern({1.5, 1.5});
-        break;
-    }
-    return pen;
-  }
-
-  bool onPaper_;
-  QLineF line_;
-  std::vector<Stretch> pale_;  // in the order along the line
 };
 
 class LabelItem : public ControlItem {
@@ -326,7 +212,7 @@ ControlItem* MakeControlItem(const Control& control, PictureStore& pictures, con
                              QGraphicsItem* parent) {
   switch (control.Kind) {
     case ControlKind::Line:
-      return new LineItem(control, view.OnPaper, parent);
+      return new LinesItem({&control, 1}, view, parent);
     case ControlKind::Label:
       return new LabelItem(control, view.OnPaper, parent);
     case ControlKind::Frame:

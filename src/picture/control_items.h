@@ -11,21 +11,22 @@
 
 namespace orrerix {
 
-// Shows one control; the control outlives its item. An item's origin is the top left corner of its
-// control, that of a line the corner of its parent.
+// Shows one control, or several lines; the controls outlive their item. An item's origin is the top
+// left corner of its control, that of lines the corner of their parent.
 class ControlItem : public QGraphicsItem {
  public:
   ControlItem(const Control& control, QGraphicsItem* parent);
 
   const Control& Shown() const { return *control_; }
 
-  // Goes over to a control that equals the one shown, before that one ends.
+  // Goes over to a control that equals the one shown, before that one ends; for lines to the first
+  // of them.
   void Rebind(const Control& same);
 
   // Where the name of a system has its letters, in the scene's coordinates; empty for all others.
   virtual QRectF NameLetters() const { return {}; }
 
-  // A line lets the letters in these places shine through; nothing else does.
+  // Lines let the letters in these places shine through; nothing else does.
   virtual void SpareLetters(const std::vector<QRectF>&) {}
 
   // The control behind an item; every item of a map scene has one.
@@ -39,8 +40,9 @@ class ControlItem : public QGraphicsItem {
 
 // What items are made for.
 struct ItemView {
-  QRectF Open;           // what can be seen of a picture, in the parent's coordinates
+  QRectF Open;           // what can be seen of pictures and lines, in the parent's coordinates
   bool OnPaper = false;  // lines are drawn as they are, without what helps them on a dark sky
+  bool operator==(const ItemView&) const = default;
 };
 
 // Makes the item of a control, with those of its children. It belongs to the parent or, without

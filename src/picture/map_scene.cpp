@@ -2,6 +2,7 @@
 #include "picture/map_scene.h"
 
 #include <algorithm>
+#include <span>
 #include <utility>
 
 #include "picture/twips.h"
@@ -17,6 +18,7 @@ MapScene::MapScene(PictureStore& pictures, QObject* parent)
 
 MapScene::~MapScene() {
   // The items refer to the drawing, which is destroyed before the base class.
+  layers_.clear();
   clear();
 }
 
@@ -31,49 +33,55 @@ QRectF MapScene::OpenPart(const MapDrawing& drawing) {
   return open;
 }
 
-// Drops the items from the first control on in which the next drawing differs, and returns how
-// many are left. The area that the panel leaves open belongs to an item.
-std::size_t MapScene::KeepItems(const MapDrawing& next) {
-  std::size_t kept = 0;
-  if (OpenPart(next) == OpenPart(drawing_) && next.PrintMode == drawing_.PrintMode) {
-    const ControlList& before = drawing_.Controls;
-    const auto differ =
-        std::mismatch(before.begin(), before.end(), next.Controls.begin(), next.Controls.end());
-    kept = static_cast<std::size_t>(differ.first - before.begin());
-  }
-  for (std::size_t i = kept; i < items_.size(); ++i) delete items_[i];
-  items_.resize(kept);
-  return kept;
-}
-
 void MapScene::Show(MapDrawing drawing) {
-  const std::size_t kept = KeepItems(drawing);
-  for (std::size_t i = 0; i < kept; ++i) items_[i]->Rebind(drawing.Controls[i]);
+  ShowLayers(drawing);
   if (drawing.FrameColor != drawing_.FrameColor) {
     setBackgroundBrush(ToQColor(drawing.FrameColor));
   }
   // The controls of a list that is moved stay where they are.
   drawing_ = std::move(drawing);
   setSceneRect(0, 0, Pixels(drawing_.Frame.Width), Pixels(drawing_.Frame.Height));
-  const ItemView view{OpenPart(drawing_), drawing_.PrintMode};
-  for (std::size_t i = kept; i < drawing_.Controls.size(); ++i) {
-    items_.push_back(MakeControlItem(drawing_.Controls[i], pictures_, view, nullptr));
-    addItem(items_.back());
-  }
-  SpareLetters(kept);
+  SpareLetters();
 }
 
-// Names come before the lines, so those of the items that are kept have not changed.
-void MapScene::SpareLetters(std::size_t firstNew) {
-  std::vector<QRectF> letters;
-  for (const ControlItem* item : items_) {
-    if (const QRectF name = item->NameLetters(); !name.isEmpty()) letters.push_back(name);
+// Layers that both drawings have go over to the next one; the others end.
+void MapScene::ShowLayers(const MapDrawing& next) {
+  std::vector<std::unique_ptr<ControlLayer>> before = std::exchange(layers_, {});
+  auto rest = before.begin();
+  for (const std::span<const Control> controls : LayersOf(next.Controls)) {
+    const auto same = std::find_if(
+        rest, before.end(), [&](const auto& layer) { return layer->Holds(controls.front()); });
+    if (same == before.end()) {
+      layers_.push_back(std::make_unique<ControlLayer>());
+    } else {
+      layers_.push_back(std::move(*same));
+      rest = same + 1;
+    }
+    layers_.back()->Show(controls, pictures_, ViewOf(next));
   }
-  for (std::size_t i = firstNew; i < items_.size(); ++i) items_[i]->SpareLetters(letters);
+  StackLayers();
+}
+
+void MapScene::StackLayers() {
+  for (std::size_t i = layers_.size(); i-- > 0;) {
+    if (layers_[i]->scene() == this) continue;
+    addItem(layers_[i].get());
+    if (i + 1 < layers_.size()) layers_[i]->stackBefore(layers_[i + 1].get());
+  }
+}
+
+void MapScene::SpareLetters() {
+  std::vector<QRectF> letters;
+  for (const auto& layer : layers_) {
+    for (const ControlItem* item : layer->Items()) {
+      if (const QRectF name = item->NameLetters(); !name.isEmpty()) letters.push_back(name);
+    }
+  }
+  for (const auto& layer : layers_) layer->SpareLetters(letters);
 }
 
 void MapScene::ShowInFront(FrontLayer layer, ControlList controls) {
-  Layer& shown = front_[static_cast<std::size_t>(layer)];
+  Front& shown = front_[static_cast<std::size_t>(layer)];
   if (shown.Controls.empty() && controls.empty()) return;
   qDeleteAll(shown.Items);
   shown.Controls = std::move(controls);
@@ -83,7 +91,7 @@ void MapScene::ShowInFront(FrontLayer layer, ControlList controls) {
 
 // Precondition: the layer's old items have been deleted.
 void MapScene::MakeFrontItems(FrontLayer layer) {
-  Layer& shown = front_[static_cast<std::size_t>(layer)];
+  Front& shown = front_[static_cast<std::size_t>(layer)];
   shown.Items.clear();
   for (const Control& control : shown.Controls) {
     shown.Items.push_back(MakeControlItem(control, pictures_, {sceneRect()}, nullptr));
@@ -100,17 +108,14 @@ const Control* MapScene::Find(ControlId id, int index) const {
 }
 
 void MapScene::Replace(const Control& control) {
-  for (std::size_t i = 0; i < drawing_.Controls.size(); ++i) {
-    Control& known = drawing_.Controls[i];
-    if (known.Id != control.Id || known.Index != control.Index) continue;
-    const Control changed = control;  // which may be the one that goes
-    delete items_[i];
-    known = changed;
-    items_[i] =
-        MakeControlItem(known, pictures_, {OpenPart(drawing_), drawing_.PrintMode}, nullptr);
-    addItem(items_[i]);
-    if (i + 1 < items_.size()) items_[i]->stackBefore(items_[i + 1]);
-    return;
+  const auto known = std::find_if(
+      drawing_.Controls.begin(), drawing_.Controls.end(), [&](const Control& candidate) {
+        return candidate.Id == control.Id && candidate.Index == control.Index;
+      });
+  if (known == drawing_.Controls.end()) return;
+  const Control changed = control;  // which may be the one that goes
+  for (const auto& layer : layers_) {
+    if (layer->Replace(*known, changed, pictures_)) return;
   }
 }
 
@@ -124,24 +129,26 @@ void MapScene::Put(QGraphicsItem& item, Stratum stratum) {
   // An item that stands above all is the last one: it is taken out and added again for that.
   if (item.scene() == this) removeItem(&item);
   addItem(&item);
-  const ControlList& controls = drawing_.Controls;
-  const auto above = std::find_if(controls.begin(), controls.end(), isAbove);
-  if (above == controls.end()) return;
-  item.stackBefore(items_[static_cast<std::size_t>(above - controls.begin())]);
+  const auto above = std::find_if(layers_.begin(), layers_.end(),
+                                  [&](const auto& layer) { return isAbove(layer->First()); });
+  if (above != layers_.end()) item.stackBefore(above->get());
 }
 
 void MapScene::ShowSystemNames(bool shown) {
-  for (ControlItem* item : items_) {
-    if (item->Shown().Id == ControlId::SystemLabel) item->setOpacity(shown ? 1 : 0);
+  for (const auto& layer : layers_) {
+    if (layer->First().Id != ControlId::SystemLabel) continue;
+    for (ControlItem* item : layer->Items()) item->setOpacity(shown ? 1 : 0);
   }
 }
 
 ControlHit MapScene::HitAt(QPointF point) const {
   const QList<QGraphicsItem*> under = items(point, Qt::IntersectsItemShape, Qt::DescendingOrder);
   if (under.isEmpty()) return {};
-  const QGraphicsItem& topmost = *under.front();
-  return {&ControlItem::Of(topmost),
-          ControlItem::Of(*topmost.topLevelItem()).Id == ControlId::PanelFrame};
+  const Control& topmost = ControlItem::Of(*under.front());
+  for (const QGraphicsItem* item = under.front(); item != nullptr; item = item->parentItem()) {
+    if (ControlItem::Of(*item).Id == ControlId::PanelFrame) return {&topmost, true};
+  }
+  return {&topmost, false};
 }
 
 }  // namespace orrerix

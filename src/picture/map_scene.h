@@ -5,10 +5,12 @@
 #include <QGraphicsScene>
 #include <array>
 #include <functional>
+#include <memory>
 #include <vector>
 
 #include "map/redraw.h"
 #include "picture/control_items.h"
+#include "picture/control_layer.h"
 #include "picture/picture_store.h"
 
 namespace orrerix {
@@ -33,8 +35,8 @@ class MapScene : public QGraphicsScene {
   explicit MapScene(PictureStore& pictures, QObject* parent = nullptr);
   ~MapScene() override;
 
-  // Shows a new list in the place of the one before; what both begin with is not painted again.
-  // What stands in front stays.
+  // Shows a new list in the place of the one before. What a layer begins with as before is not
+  // painted again. What stands in front stays.
   void Show(MapDrawing drawing);
 
   // Fills one of the layers in front, in the place of what it held.
@@ -70,19 +72,23 @@ class MapScene : public QGraphicsScene {
 
  private:
   static QRectF OpenPart(const MapDrawing& drawing);
-  void SpareLetters(std::size_t firstNew);
-  std::size_t KeepItems(const MapDrawing& next);
+  static ItemView ViewOf(const MapDrawing& drawing) {
+    return {OpenPart(drawing), drawing.PrintMode};
+  }
+  void ShowLayers(const MapDrawing& next);
+  void StackLayers();
+  void SpareLetters();
   void MakeFrontItems(FrontLayer layer);
 
-  struct Layer {
+  struct Front {
     ControlList Controls;
     std::vector<ControlItem*> Items;
   };
 
   PictureStore& pictures_;
   MapDrawing drawing_;
-  std::vector<ControlItem*> items_;  // of the drawing's controls, one for one
-  std::array<Layer, kFrontLayers> front_;
+  std::vector<std::unique_ptr<ControlLayer>> layers_;  // of the drawing's controls, back to front
+  std::array<Front, kFrontLayers> front_;
 };
 
 }  // namespace orrerix

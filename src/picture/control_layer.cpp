@@ -1,0 +1,92 @@
+// SPDX-License-Identifier: MIT
+#include "picture/control_layer.h"
+
+#include <algorithm>
+
+#include "picture/line_items.h"
+
+namespace orrerix {
+namespace {
+
+const Control kNoControl;
+
+bool AreOfOneLayer(const Control& one, const Control& other) {
+  return one.Id == other.Id && one.Kind == other.Kind;
+}
+
+}  // namespace
+
+std::vector<std::span<const Control>> LayersOf(const ControlList& controls) {
+  std::vector<std::span<const Control>> layers;
+  for (auto first = controls.begin(); first != controls.end();) {
+    const auto end = std::find_if_not(first, controls.end(), [&](const Control& control) {
+      return AreOfOneLayer(control, *first);
+    });
+    layers.emplace_back(first, end);
+    first = end;
+  }
+  return layers;
+}
+
+ControlLayer::ControlLayer() : ControlItem(kNoControl, nullptr) {
+  setFlag(ItemHasNoContents);
+}
+
+bool ControlLayer::Holds(const Control& control) const {
+  return AreOfOneLayer(First(), control);
+}
+
+// Deletes the items from the first control on that differs, and returns how many are left.
+std::size_t ControlLayer::KeepItems(std::span<const Control> next) {
+  const auto differ = std::mismatch(controls_.begin(), controls_.end(), next.begin(), next.end());
+  const auto same = static_cast<std::size_t>(differ.first - controls_.begin());
+  const bool areLines = next.front().Kind == ControlKind::Line;
+  if (areLines && same == controls_.size() && same == next.size()) return items_.size();
+  const std::size_t kept = areLines ? 0 : same;
+  for (std::size_t i = kept; i < items_.size(); ++i) delete items_[i];
+  items_.resize(kept);
+  return kept;
+}
+
+void ControlLayer::Show(std::span<const Control> controls, PictureStore& pictures,
+                        const ItemView& view) {
+  if (view != view_) {
+    qDeleteAll(items_);
+    items_.clear();
+    controls_ = {};
+  }
+  view_ = view;
+  const std::size_t kept = KeepItems(controls);
+  controls_ = controls;
+  for (std::size_t i = 0; i < kept; ++i) items_[i]->Rebind(controls[i]);
+  if (controls.front().Kind == ControlKind::Line) {
+    if (kept == 0) Add(new LinesItem(controls, view, nullptr));
+    return;
+  }
+  for (const Control& control : controls.subspan(kept)) {
+    Add(MakeControlItem(control, pictures, view, nullptr));
+  }
+}
+
+// An item gets its parent when it is complete: the scene asks at once for its bounds.
+void ControlLayer::Add(ControlItem* item) {
+  item->setParentItem(this);
+  items_.push_back(item);
+}
+
+bool ControlLayer::Replace(Control& known, const Control& changed, PictureStore& pictures) {
+  const auto place = static_cast<std::size_t>(&known - controls_.data());
+  if (&known < controls_.data() || place >= items_.size()) return false;
+  delete items_[place];
+  known = changed;
+  items_[place] = MakeControlItem(known, pictures, view_, nullptr);
+  items_[place]->setParentItem(this);
+  if (place + 1 < items_.size()) items_[place]->stackBefore(items_[place + 1]);
+  return true;
+}
+
+void ControlLayer::SpareLetters(const std::vector<QRectF>& letters) {
+  for (ControlItem* item : items_) item->SpareLetters(letters);
+}
+
+}  // namespace orrerix
