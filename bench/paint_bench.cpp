@@ -13,6 +13,7 @@
 #include "db/engine/working_copy.h"
 #include "map/redraw.h"
 #include "picture/map_scene.h"
+#include "picture/map_view.h"
 #include "picture/picture_store.h"
 #include "picture/qt_text_measure.h"
 #include "picture/twips.h"
@@ -24,10 +25,16 @@ namespace {
 
 constexpr QSize kWindow(1920, 1050);
 
+enum class Change {
+  Nothing,  // but all is painted again
+  Switch,   // trade lanes, off and on
+  Zoom      // to one that was never shown
+};
+
 struct Redraw {
   ZoomRectangle Rectangle;
   double DevicePixelRatio = 1;
-  bool NewZoom = false;
+  Change What = Change::Nothing;
 };
 
 class PaintBench {
@@ -37,10 +44,7 @@ class PaintBench {
         universe_{log_, copy_.Of(sink_, database)},
         canvas_(kWindow * redraw.DevicePixelRatio, QImage::Format_RGB32) {
     canvas_.setDevicePixelRatio(redraw.DevicePixelRatio);
-    view_.setFrameStyle(QFrame::NoFrame);
-    view_.setRenderHint(QPainter::Antialiasing);
-    view_.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    view_.setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    SetUpMapView(view_);
     map_.Zoom.Reset(redraw.Rectangle);
     map_.Names = GetSystemNames(universe_, english_);
   }
@@ -50,7 +54,8 @@ class PaintBench {
     auto scene = std::make_unique<MapScene>(*pictures);
     ShowSharp(*scene, *pictures, kWindow);
     for (auto _ : state) {
-      if (redraw_.NewZoom) {
+      if (redraw_.What == Change::Switch) lanes_ = !lanes_;
+      if (redraw_.What == Change::Zoom) {
         state.PauseTiming();
         scene.reset();
         pictures = std::make_unique<PictureStore>();
@@ -71,10 +76,11 @@ class PaintBench {
   }
 
   void Show(MapScene& scene, QSize window) {
-    scene.Show(
-        DrawMap(universe_, map_,
-                {static_cast<int>(Twips(window.width())), static_cast<int>(Twips(window.height())),
-                 MapOptions::Defaults(redraw_.Rectangle.IsZoomed()), measure_, panel_}));
+    MapOptions options = MapOptions::Defaults(redraw_.Rectangle.IsZoomed());
+    options.On[static_cast<std::size_t>(MapSwitch::TradelaneLines)] = lanes_;
+    scene.Show(DrawMap(universe_, map_,
+                       {static_cast<int>(Twips(window.width())),
+                        static_cast<int>(Twips(window.height())), options, measure_, panel_}));
     view_.setScene(&scene);
     view_.resize(window);
     view_.viewport()->render(&canvas_);
@@ -91,6 +97,7 @@ class PaintBench {
   QtTextMeasure measure_;
   MapState map_;
   QImage canvas_;
+  bool lanes_ = true;
   QGraphicsView view_;  // a window: pictures get finer after the redraw, which is not measured
 };
 
@@ -111,8 +118,9 @@ void RegisterPaintBenchmarks(const std::vector<BenchGame>& games, const fs::path
                              View{"zoomed", {7, 5, 10, 8}}, View{"single", {7, 4, 7, 4}}}) {
       for (const double ratio : {1.0, 2.0}) {
         const std::string name = game.Name + "/" + view.Name + (ratio > 1 ? "/fine screen" : "");
-        add("Redraw/" + name, game, {view.Rectangle, ratio, false});
-        add("FirstRedraw/" + name, game, {view.Rectangle, ratio, true});
+        add("Redraw/" + name, game, {view.Rectangle, ratio, Change::Nothing});
+        add("SwitchRedraw/" + name, game, {view.Rectangle, ratio, Change::Switch});
+        add("FirstRedraw/" + name, game, {view.Rectangle, ratio, Change::Zoom});
       }
     }
   }

@@ -30,6 +30,15 @@ QRectF BoxOf(const Control& control) {
   return {0, 0, Pixels(control.Place.Width), Pixels(control.Place.Height)};
 }
 
+// A background ends on a whole pixel: half of one would let the map shine through.
+void FillBackground(QPainter& painter, const Control& control) {
+  if (!control.BackColor) return;
+  const bool smooth = painter.testRenderHint(QPainter::Antialiasing);
+  painter.setRenderHint(QPainter::Antialiasing, false);
+  painter.fillRect(BoxOf(control), ToQColor(*control.BackColor));
+  painter.setRenderHint(QPainter::Antialiasing, smooth);
+}
+
 class PictureItem : public ControlItem {
  public:
   PictureItem(const Control& control, PictureStore& pictures, const QRectF& open,
@@ -46,6 +55,9 @@ class PictureItem : public ControlItem {
     QPainterPath box;
     box.addRect(BoxOf(Shown()));
     return box;
+  }
+  QRectF Hides() const override {
+    return pictures_.IsOpaque(file_) ? mapRectToScene(seen_) : QRectF();
   }
   // A window shows the picture at hand now and a finer one a moment later; printouts and files wait
   // for the finest.
@@ -96,9 +108,7 @@ class LabelItem : public ControlItem {
 
   void paint(QPainter* painter, const QStyleOptionGraphicsItem*, QWidget*) override {
     const Control& label = Shown();
-    if (label.BackColor && !style_.Transparent) {
-      painter->fillRect(BoxOf(label), ToQColor(*label.BackColor));
-    }
+    if (!style_.Transparent) FillBackground(*painter, label);
     painter->setFont(font_);
     const QColor color = ToQColor(label.ForeColor.value_or(Color{}));
     if (style_.Outlined) DrawOutline(*painter);
@@ -182,13 +192,11 @@ class FrameItem : public ControlItem {
   }
 
   QRectF boundingRect() const override { return BoxOf(Shown()); }
+  QRectF Hides() const override {
+    return Shown().BackColor ? mapRectToScene(BoxOf(Shown())) : QRectF();
+  }
   void paint(QPainter* painter, const QStyleOptionGraphicsItem*, QWidget*) override {
-    if (!Shown().BackColor) return;
-    // A background ends on a whole pixel: half of one would let the map shine through.
-    const bool smooth = painter->testRenderHint(QPainter::Antialiasing);
-    painter->setRenderHint(QPainter::Antialiasing, false);
-    painter->fillRect(BoxOf(Shown()), ToQColor(*Shown().BackColor));
-    painter->setRenderHint(QPainter::Antialiasing, smooth);
+    FillBackground(*painter, Shown());
   }
 };
 

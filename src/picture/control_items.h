@@ -26,6 +26,9 @@ class ControlItem : public QGraphicsItem {
   // Where the name of a system has its letters, in the scene's coordinates; empty for all others.
   virtual QRectF NameLetters() const { return {}; }
 
+  // The part of the scene in which nothing below can be seen.
+  virtual QRectF Hides() const { return {}; }
+
   // Lines let the letters in these places shine through; nothing else does.
   virtual void SpareLetters(const std::vector<QRectF>&) {}
 

@@ -1,13 +1,29 @@
 // SPDX-License-Identifier: MIT
 #include "picture/map_scene.h"
 
+#include <QPaintEngine>
+#include <QPainter>
+#include <QRegion>
 #include <algorithm>
+#include <cmath>
 #include <span>
 #include <utility>
 
 #include "picture/twips.h"
 
 namespace orrerix {
+
+namespace {
+
+QRect WholePixelsWithin(const QRectF& box) {
+  const QPoint corner(static_cast<int>(std::ceil(box.left())),
+                      static_cast<int>(std::ceil(box.top())));
+  const QPoint end(static_cast<int>(std::floor(box.right())),
+                   static_cast<int>(std::floor(box.bottom())));
+  return {corner, QSize(end.x() - corner.x(), end.y() - corner.y())};
+}
+
+}  // namespace
 
 MapScene::MapScene(PictureStore& pictures, QObject* parent)
     : QGraphicsScene(parent), pictures_(pictures) {
@@ -78,6 +94,32 @@ void MapScene::SpareLetters() {
     }
   }
   for (const auto& layer : layers_) layer->SpareLetters(letters);
+}
+
+// The part of the scene that its largest items hide, in whole pixels.
+QRegion MapScene::HiddenPart() const {
+  QRegion hidden;
+  for (const auto& layer : layers_) {
+    const ControlId id = layer->First().Id;
+    if (id != ControlId::BackgroundTile && id != ControlId::PaintedUniverse &&
+        id != ControlId::PanelFrame) {
+      continue;
+    }
+    for (const ControlItem* item : layer->Items()) hidden += WholePixelsWithin(item->Hides());
+  }
+  return hidden;
+}
+
+void MapScene::drawBackground(QPainter* painter, const QRectF& exposed) {
+  if (painter->paintEngine()->type() != QPaintEngine::Raster) {
+    return QGraphicsScene::drawBackground(painter, exposed);
+  }
+  const QRegion open = QRegion(exposed.toAlignedRect()) - HiddenPart();
+  const bool smooth = painter->testRenderHint(QPainter::Antialiasing);
+  painter->setRenderHint(QPainter::Antialiasing, false);
+  // What hides it goes to the device's pixels, which may be one less than it asks for.
+  for (const QRect& part : open) painter->fillRect(part.adjusted(-1, -1, 1, 1), backgroundBrush());
+  painter->setRenderHint(QPainter::Antialiasing, smooth);
 }
 
 void MapScene::ShowInFront(FrontLayer layer, ControlList controls) {

@@ -70,6 +70,10 @@ class MapScene : public QGraphicsScene {
   ControlHit HitAt(QPointF point) const;
   const Control* ControlAt(QPointF point) const { return HitAt(point).Shown; }
 
+ protected:
+  // Leaves out what the drawing hides anyway.
+  void drawBackground(QPainter* painter, const QRectF& exposed) override;
+
  private:
   static QRectF OpenPart(const MapDrawing& drawing);
   static ItemView ViewOf(const MapDrawing& drawing) {
@@ -78,6 +82,7 @@ class MapScene : public QGraphicsScene {
   void ShowLayers(const MapDrawing& next);
   void StackLayers();
   void SpareLetters();
+  QRegion HiddenPart() const;
   void MakeFrontItems(FrontLayer layer);
 
   struct Front {

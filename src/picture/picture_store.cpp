@@ -96,6 +96,18 @@ QSize PictureStore::NaturalSize(const QString& file) {
   return source.Levels.empty() ? QSize() : source.Levels.front().size();
 }
 
+bool PictureStore::IsOpaque(const QString& file) {
+  bool isRead = false;
+  for (const Variant& variant : VariantsOf(file)) {
+    const auto source = sources_.find(variant.File);
+    if (source == sources_.end()) continue;
+    const std::vector<QImage>& levels = source->second.Levels;
+    if (levels.empty() || levels.front().hasAlphaChannel()) return false;
+    isRead = true;
+  }
+  return isRead;
+}
+
 const std::vector<PictureStore::Variant>& PictureStore::VariantsOf(const QString& file) {
   const auto found = variants_.find(file);
   if (found != variants_.end()) return found->second;

@@ -51,6 +51,10 @@ class PictureStore {
   // Its own size, or that of the drawing in its place; empty if the file is no picture.
   QSize NaturalSize(const QString& file);
 
+  // Whether the file has been read, and neither it nor any brother of it that has been read lets
+  // anything shine through.
+  bool IsOpaque(const QString& file);
+
   // Called when a file is wanted and none was before. ReadWanted reads one of them, for callers
   // that draw next.
   std::function<void()> OnWanted;

@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "forms/controls/control_name.h"
+#include "picture/map_view.h"
 #include "picture/twips.h"
 
 namespace orrerix {
@@ -43,14 +44,7 @@ std::optional<MapKey> MapKeyOf(const QKeyEvent& event) {
 SysmapFrame::SysmapFrame(MapScene& scene, QWidget* parent)
     : QGraphicsView(&scene, parent), scene_(scene) {
   setObjectName(NameOf(ControlId::MapFrame));
-  setFrameShape(QFrame::NoFrame);
-  setAlignment(Qt::AlignLeft | Qt::AlignTop);
-  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-  setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-  setRenderHint(QPainter::Antialiasing);
-  setViewportUpdateMode(QGraphicsView::BoundingRectViewportUpdate);
-  setOptimizationFlag(DontSavePainterState);
-  setOptimizationFlag(DontAdjustForAntialiasing);
+  SetUpMapView(*this);
   setContextMenuPolicy(Qt::PreventContextMenu);
   setMouseTracking(true);
   setFocusPolicy(Qt::StrongFocus);
