@@ -2,6 +2,7 @@
 #include "picture/picture_store.h"
 
 #include <QFile>
+#include <QImageReader>
 #include <QPaintEngine>
 #include <algorithm>
 #include <cmath>
@@ -9,8 +10,14 @@
 namespace orrerix {
 namespace {
 
-// Room for the scaled pictures of a large screen, in KiB.
-constexpr int kCacheRoom = 128 * 1024;
+// Room for scaled pictures, in KiB: as much as the screen shows twice over, so that the way back
+// from a zoom is short; on the largest ones less.
+constexpr int kLeastCacheRoom = 8 * 1024;
+constexpr int kMostCacheRoom = 64 * 1024;
+constexpr int kScreensKept = 2;
+
+// Room for pictures that are kept in full, in bytes.
+constexpr qint64 kFullRoom = 16 * 1024 * 1024;
 
 // A picture of which less than one part in so many is seen.
 constexpr int kHiddenMostly = 4;
@@ -74,11 +81,18 @@ const QImage& PictureStore::Source::LevelFor(QSize size) const {
   return *(tooSmall - 1);
 }
 
-PictureStore::PictureStore() : scaled_(kCacheRoom) {}
+bool PictureStore::Source::Serves(QSize size) const {
+  if (IsFull || Levels.empty()) return true;
+  return size.width() <= Levels.front().width() && size.height() <= Levels.front().height();
+}
 
-const PictureStore::Source& PictureStore::SourceOf(const QString& file) {
-  const auto found = sources_.find(file);
-  if (found != sources_.end()) return found->second;
+qint64 PictureStore::Source::FullBytes() const {
+  return IsFull && Levels.size() > 1 ? Levels.front().sizeInBytes() : 0;
+}
+
+PictureStore::PictureStore() : scaled_(kLeastCacheRoom) {}
+
+PictureStore::Source PictureStore::ReadSource(const QString& file) const {
   Source source;
   if (file.endsWith(".svg", Qt::CaseInsensitive)) {
     source.Drawing = VectorDrawing::Read(file);
@@ -87,13 +101,70 @@ const PictureStore::Source& PictureStore::SourceOf(const QString& file) {
     source.Levels = LevelsOf(image.convertToFormat(
         image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32));
   }
-  return sources_.emplace(file, std::move(source)).first->second;
+  return source;
+}
+
+// What is at hand of a file, or all of it.
+PictureStore::Source& PictureStore::SourceOf(const QString& file) {
+  const auto found = sources_.find(file);
+  if (found != sources_.end()) {
+    found->second.Used = ++uses_;
+    return found->second;
+  }
+  Source& source = sources_.emplace(file, ReadSource(file)).first->second;
+  source.Used = ++uses_;
+  KeepWithinRoom(file);
+  return source;
+}
+
+const PictureStore::Source& PictureStore::FullSourceOf(const QString& file) {
+  const auto found = sources_.find(file);
+  if (found != sources_.end() && !found->second.IsFull) sources_.erase(found);
+  return SourceOf(file);
+}
+
+// The latest picture stays in full whatever its size, so that it can be drawn.
+void PictureStore::KeepWithinRoom(const QString& latest) {
+  qint64 bytes = 0;
+  for (const auto& [file, source] : sources_) bytes += source.FullBytes();
+  while (bytes > kFullRoom) {
+    const QString* oldest = nullptr;
+    for (const auto& [file, source] : sources_) {
+      if (file == latest || source.FullBytes() == 0) continue;
+      if (oldest == nullptr || source.Used < sources_.at(*oldest).Used) oldest = &file;
+    }
+    if (oldest == nullptr) return;
+    bytes -= sources_.at(*oldest).FullBytes();
+    DropFull(QString(*oldest));
+  }
+}
+
+// Brothers go whole: the file itself serves all smaller sizes.
+void PictureStore::DropFull(const QString& file) {
+  if (file.contains('@')) {
+    sources_.erase(file);
+    return;
+  }
+  Source& source = sources_.at(file);
+  source.Levels.erase(source.Levels.begin());
+  source.IsFull = false;
+}
+
+qint64 PictureStore::BytesOfSources() const {
+  qint64 bytes = 0;
+  for (const auto& [file, source] : sources_) {
+    for (const QImage& level : source.Levels) bytes += level.sizeInBytes();
+  }
+  return bytes;
 }
 
 QSize PictureStore::NaturalSize(const QString& file) {
+  if (QFile::exists(file) && !file.endsWith(".svg", Qt::CaseInsensitive)) {
+    const QSize size = QImageReader(file).size();
+    return size.isValid() ? size : QSize();
+  }
   const Source& source = SourceOf(QFile::exists(file) ? file : DrawingName(file));
-  if (source.Drawing) return source.Drawing->Size();
-  return source.Levels.empty() ? QSize() : source.Levels.front().size();
+  return source.Drawing ? source.Drawing->Size() : QSize();
 }
 
 bool PictureStore::IsOpaque(const QString& file) {
@@ -102,7 +173,7 @@ bool PictureStore::IsOpaque(const QString& file) {
     const auto source = sources_.find(variant.File);
     if (source == sources_.end()) continue;
     const std::vector<QImage>& levels = source->second.Levels;
-    if (levels.empty() || levels.front().hasAlphaChannel()) return false;
+    if (levels.empty() || levels.back().hasAlphaChannel()) return false;
     isRead = true;
   }
   return isRead;
@@ -135,15 +206,24 @@ QString PictureStore::VariantFor(const QString& file, QSize size) {
   return chosen->File;
 }
 
+bool PictureStore::HasScaled(const QString& file, QSize size) const {
+  const ScaledPicture* known = scaled_.object({file, size});
+  return known != nullptr && known->IsFinal;
+}
+
 QString PictureStore::FileFor(const QString& file, QSize size, Reading reading) {
   QString best = VariantFor(file, size);
-  if (reading == Reading::AtOnce || sources_.contains(best)) return best;
+  const auto source = sources_.find(best);
+  if (source != sources_.end() && source->second.Serves(size)) return best;
   const std::vector<Variant>& variants = VariantsOf(file);
-  const auto finest =
-      std::find_if(variants.rbegin(), variants.rend(),
-                   [this](const Variant& variant) { return sources_.contains(variant.File); });
-  if (finest == variants.rend()) return best;
-  Want(best);
+  if (reading == Reading::AtOnce || variants.empty()) {
+    FullSourceOf(best);
+    return best;
+  }
+  const auto isRead = [this](const Variant& variant) { return sources_.contains(variant.File); };
+  if (std::none_of(variants.begin(), variants.end(), isRead)) SourceOf(variants.front().File);
+  const auto finest = std::find_if(variants.rbegin(), variants.rend(), isRead);
+  if (finest->File != best || !sources_.at(best).Serves(size)) Want(best);
   return finest->File;
 }
 
@@ -155,7 +235,7 @@ void PictureStore::Want(const QString& file) {
 
 void PictureStore::ReadWanted() {
   if (wanted_.empty()) return;
-  Read(wanted_.front());
+  FullSourceOf(wanted_.front());
   wanted_.pop_front();
 }
 
@@ -181,14 +261,21 @@ QPixmap PictureStore::Render(const QString& file, QSize size) {
 }
 
 QPixmap PictureStore::Scaled(const QString& file, QSize size) {
-  return size.isEmpty() ? QPixmap() : ScaledOf(VariantFor(file, size), size);
+  if (size.isEmpty()) return {};
+  const QString best = VariantFor(file, size);
+  return ScaledOf(HasScaled(best, size) ? best : FileFor(file, size, Reading::AtOnce), size);
 }
 
 QPixmap PictureStore::ScaledOf(const QString& file, QSize size) {
   const SizedFile key{file, size};
-  if (const QPixmap* known = scaled_.object(key)) return *known;
+  const auto source = sources_.find(file);
+  const bool isFinal = source == sources_.end() || source->second.Serves(size);
+  if (const ScaledPicture* known = scaled_.object(key);
+      known != nullptr && known->IsFinal >= isFinal) {
+    return known->Pixmap;
+  }
   QPixmap pixmap = Render(file, size);
-  scaled_.insert(key, new QPixmap(pixmap), CostOf(size));
+  scaled_.insert(key, new ScaledPicture{pixmap, isFinal}, CostOf(size));
   return pixmap;
 }
 
@@ -215,22 +302,35 @@ QRectF PictureStore::PlaceOnDevice(const QPainter& painter, const QRectF& place)
   return IsRaster(painter) ? QRectF(SnappedToPixels(mapped)) : mapped;
 }
 
+void PictureStore::MakeRoomFor(const QPaintDevice& device) {
+  const double ratio = device.devType() == QInternal::Widget ? device.devicePixelRatioF() : 1;
+  const QSize size = (QSizeF(device.width(), device.height()) * ratio).toSize();
+  const int room = std::min(kMostCacheRoom, kScreensKept * CostOf(size));
+  if (room > scaled_.maxCost()) scaled_.setMaxCost(room);
+}
+
 void PictureStore::Draw(QPainter& painter, const QString& file, const QRectF& place,
                         const QRectF& seen, Reading reading) {
   if (file.isEmpty() || place.isEmpty() || seen.isEmpty()) return;
   const QTransform toDevice = painter.deviceTransform();
   if (!IsRaster(painter)) {
     const QSize size = toDevice.mapRect(place).size().toSize();
-    return DrawSource(painter, VariantFor(file, size), place);
+    const QString variant = VariantFor(file, size);
+    FullSourceOf(variant);
+    return DrawSource(painter, variant, place);
   }
+  MakeRoomFor(*painter.device());
   const QRect target = SnappedToPixels(toDevice.mapRect(place));
   const QRect part = SnappedToPixels(toDevice.mapRect(seen)).intersected(target);
   if (part.isEmpty()) return;
-  const QString chosen = FileFor(file, target.size(), reading);
+  const bool isPart = AreaOf(part.size()) * kHiddenMostly < AreaOf(target.size());
+  const QString best = VariantFor(file, target.size());
+  const bool isReady = !isPart && HasScaled(best, target.size());
+  const QString chosen = isReady ? best : FileFor(file, target.size(), reading);
   // Within these lines the painter's pixels are the device's own.
   const QTransform world = painter.worldTransform();
   painter.setWorldTransform(toDevice.inverted() * world);
-  if (AreaOf(part.size()) * kHiddenMostly < AreaOf(target.size())) {
+  if (isPart) {
     DrawPart(painter, chosen, target, part);
   } else {
     painter.drawPixmap(target.topLeft(), ScaledOf(chosen, target.size()));

@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
-// All pictures that the windows show, read once and kept in the sizes in use.
+// All pictures that the windows show, in the sizes in use.
 #pragma once
 
 #include <QCache>
 #include <QImage>
+#include <QPaintDevice>
 #include <QPainter>
 #include <QPixmap>
 #include <QString>
+#include <cstdint>
 #include <deque>
 #include <functional>
 #include <memory>
@@ -22,10 +24,14 @@ namespace orrerix {
 // drawing of the same name, "name.svg", which may also stand in for a file that is not there.
 // Whatever size a picture is shown in, it is made out of the smallest of them that need not be
 // enlarged.
+//
+// Pictures take far more memory than their files, so only those that were used last are kept in
+// full, and of the others what serves sizes up to half of theirs. They are read again when they are
+// needed.
 class PictureStore {
  public:
-  // Whether drawing waits until the file is read that the size asks for. Where it does not, and a
-  // coarser brother has been read, that one is drawn, and the file is wanted.
+  // Whether drawing waits until the file is read that the size asks for. Where it does not, and
+  // something coarser is at hand, that is drawn, and the file is wanted.
   enum class Reading { AtOnce, Later };
 
   PictureStore();
@@ -62,7 +68,10 @@ class PictureStore {
   void ReadWanted();
 
   // Reads a picture that will be needed soon.
-  void Read(const QString& file) { SourceOf(file); }
+  void Read(const QString& file) { FullSourceOf(file); }
+
+  // What the pictures that were read take, in bytes.
+  qint64 BytesOfSources() const;
 
   // Where Draw puts a picture, in the device's own coordinates.
   static QRectF PlaceOnDevice(const QPainter& painter, const QRectF& place);
@@ -70,11 +79,19 @@ class PictureStore {
  private:
   // One of the two, or neither for a file that is no picture.
   struct Source {
-    std::vector<QImage> Levels;  // the picture itself, then each in half the size of the one before
+    std::vector<QImage> Levels;  // each in half the size of the one before
     std::unique_ptr<VectorDrawing> Drawing;
+    bool IsFull = true;      // the first level is the picture itself, and not the next one
+    std::uint64_t Used = 0;  // when; the latest has the highest number
 
-    // The smallest level that need not be enlarged to this size; the picture itself if all must be.
+    // The smallest level that need not be enlarged to this size; the first if all must be.
     const QImage& LevelFor(QSize size) const;
+
+    // Whether a picture of this size is as fine as the file can make it.
+    bool Serves(QSize size) const;
+
+    // What dropping the picture itself would set free.
+    qint64 FullBytes() const;
   };
   struct Variant {
     QString File;
@@ -89,11 +106,22 @@ class PictureStore {
     }
   };
 
-  const Source& SourceOf(const QString& file);
+  struct ScaledPicture {
+    QPixmap Pixmap;
+    bool IsFinal = true;  // made out of a level that serves the size
+  };
+
+  Source ReadSource(const QString& file) const;
+  Source& SourceOf(const QString& file);
+  const Source& FullSourceOf(const QString& file);
+  void KeepWithinRoom(const QString& latest);
+  void DropFull(const QString& file);
+  bool HasScaled(const QString& file, QSize size) const;
   const std::vector<Variant>& VariantsOf(const QString& file);
   QString FileFor(const QString& file, QSize size, Reading reading);
   void Want(const QString& file);
-  // These draw out of just this file.
+  void MakeRoomFor(const QPaintDevice& device);
+  // These draw out of just this file, and of what is at hand of it.
   QPixmap Render(const QString& file, QSize size);
   QPixmap ScaledOf(const QString& file, QSize size);
   void DrawSource(QPainter& painter, const QString& file, const QRectF& place);
@@ -102,7 +130,8 @@ class PictureStore {
   std::unordered_map<QString, Source> sources_;
   std::unordered_map<QString, std::vector<Variant>> variants_;  // the smallest first
   std::deque<QString> wanted_;
-  QCache<SizedFile, QPixmap> scaled_;
+  QCache<SizedFile, ScaledPicture> scaled_;
+  std::uint64_t uses_ = 0;
 };
 
 }  // namespace orrerix
