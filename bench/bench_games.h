@@ -27,6 +27,7 @@ std::filesystem::path ImportInto(const BenchGame& game, const std::filesystem::p
 
 void RegisterImportBenchmarks(const std::vector<BenchGame>& games,
                               const std::filesystem::path& work);
+void RegisterLogBenchmarks(const std::filesystem::path& work);
 void RegisterMapPlayBenchmarks(const std::vector<BenchGame>& games,
                                const std::filesystem::path& work);
 void RegisterPlayerBenchmarks(const std::vector<BenchGame>& games,

@@ -15,6 +15,7 @@ int main(int argc, char** argv) {
   const auto games = orrerix::BenchGames(work, {300});
   orrerix::RegisterMapPlayBenchmarks(games, work);
   orrerix::RegisterPlayerBenchmarks(games, work);
+  orrerix::RegisterLogBenchmarks(work);
   benchmark::Initialize(&argc, argv);
   benchmark::RunSpecifiedBenchmarks();
   return 0;

@@ -11,10 +11,9 @@ namespace orrerix {
 namespace {
 
 // Room for scaled pictures, in KiB: as much as the screen shows twice over, so that the way back
-// from a zoom is short; on the largest ones less.
+// from a zoom is short. The largest screens have room for what they show and a half.
 constexpr int kLeastCacheRoom = 8 * 1024;
-constexpr int kMostCacheRoom = 64 * 1024;
-constexpr int kScreensKept = 2;
+constexpr int kUsualCacheRoom = 64 * 1024;
 
 // Room for pictures that are kept in full, in bytes.
 constexpr qint64 kFullRoom = 16 * 1024 * 1024;
@@ -87,7 +86,7 @@ bool PictureStore::Source::Serves(QSize size) const {
 }
 
 qint64 PictureStore::Source::FullBytes() const {
-  return IsFull && Levels.size() > 1 ? Levels.front().sizeInBytes() : 0;
+  return IsFull && !IsAwaited && Levels.size() > 1 ? Levels.front().sizeInBytes() : 0;
 }
 
 PictureStore::PictureStore() : scaled_(kLeastCacheRoom) {}
@@ -117,10 +116,15 @@ PictureStore::Source& PictureStore::SourceOf(const QString& file) {
   return source;
 }
 
-const PictureStore::Source& PictureStore::FullSourceOf(const QString& file) {
+PictureStore::Source& PictureStore::FullSourceOf(const QString& file) {
   const auto found = sources_.find(file);
   if (found != sources_.end() && !found->second.IsFull) sources_.erase(found);
   return SourceOf(file);
+}
+
+void PictureStore::Read(const QString& file) {
+  if (sources_.contains(file)) return;
+  if (SourceOf(file).FullBytes() > 0) DropFull(file);
 }
 
 // The latest picture stays in full whatever its size, so that it can be drawn.
@@ -235,12 +239,13 @@ void PictureStore::Want(const QString& file) {
 
 void PictureStore::ReadWanted() {
   if (wanted_.empty()) return;
-  FullSourceOf(wanted_.front());
+  FullSourceOf(wanted_.front()).IsAwaited = true;
   wanted_.pop_front();
 }
 
 QPixmap PictureStore::Render(const QString& file, QSize size) {
-  const Source& source = SourceOf(file);
+  Source& source = SourceOf(file);
+  source.IsAwaited = false;
   if (source.Drawing) {
     QImage image(size, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
@@ -280,7 +285,8 @@ QPixmap PictureStore::ScaledOf(const QString& file, QSize size) {
 }
 
 void PictureStore::DrawSource(QPainter& painter, const QString& file, const QRectF& place) {
-  const Source& source = SourceOf(file);
+  Source& source = SourceOf(file);
+  source.IsAwaited = false;
   if (source.Drawing) {
     source.Drawing->Paint(painter, place);
   } else if (!source.Levels.empty()) {
@@ -305,7 +311,8 @@ QRectF PictureStore::PlaceOnDevice(const QPainter& painter, const QRectF& place)
 void PictureStore::MakeRoomFor(const QPaintDevice& device) {
   const double ratio = device.devType() == QInternal::Widget ? device.devicePixelRatioF() : 1;
   const QSize size = (QSizeF(device.width(), device.height()) * ratio).toSize();
-  const int room = std::min(kMostCacheRoom, kScreensKept * CostOf(size));
+  const int screen = CostOf(size);
+  const int room = std::max(screen + screen / 2, std::min(kUsualCacheRoom, 2 * screen));
   if (room > scaled_.maxCost()) scaled_.setMaxCost(room);
 }
 

@@ -67,8 +67,8 @@ class PictureStore {
   bool IsWanting() const { return !wanted_.empty(); }
   void ReadWanted();
 
-  // Reads a picture that will be needed soon.
-  void Read(const QString& file) { FullSourceOf(file); }
+  // Reads a picture that will be needed soon, for sizes up to half of its own.
+  void Read(const QString& file);
 
   // What the pictures that were read take, in bytes.
   qint64 BytesOfSources() const;
@@ -82,6 +82,7 @@ class PictureStore {
     std::vector<QImage> Levels;  // each in half the size of the one before
     std::unique_ptr<VectorDrawing> Drawing;
     bool IsFull = true;      // the first level is the picture itself, and not the next one
+    bool IsAwaited = false;  // it was read because it is wanted, and has not been drawn yet
     std::uint64_t Used = 0;  // when; the latest has the highest number
 
     // The smallest level that need not be enlarged to this size; the first if all must be.
@@ -90,7 +91,7 @@ class PictureStore {
     // Whether a picture of this size is as fine as the file can make it.
     bool Serves(QSize size) const;
 
-    // What dropping the picture itself would set free.
+    // What dropping the picture itself would set free; nothing while it is awaited.
     qint64 FullBytes() const;
   };
   struct Variant {
@@ -113,7 +114,7 @@ class PictureStore {
 
   Source ReadSource(const QString& file) const;
   Source& SourceOf(const QString& file);
-  const Source& FullSourceOf(const QString& file);
+  Source& FullSourceOf(const QString& file);
   void KeepWithinRoom(const QString& latest);
   void DropFull(const QString& file);
   bool HasScaled(const QString& file, QSize size) const;

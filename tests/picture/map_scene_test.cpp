@@ -333,6 +333,78 @@ TEST_F(MapSceneTest, WhatANewListBeginsWithAsBeforeKeepsItsItems) {
   EXPECT_EQ(scene.ControlAt({10, 10}), scene.Find(ControlId::PanelFrame, 0));
 }
 
+TEST_F(MapSceneTest, ALayerThatChangesLeavesThoseInFrontOfItAsTheyAre) {
+  const Control icon = MakePicture(ControlId::MapIcon, 1, {0, 0, 300, 300}, "Jumpgate");
+  const Control tool = MakePicture(ControlId::Tool, 1, {600, 600, 300, 300}, "tools/print.svg");
+  drawing.Controls = {icon, tool};
+  scene.Show(drawing);
+  for (QGraphicsItem* item : scene.items()) item->setData(0, "of before");
+
+  drawing.Controls = {MakePicture(ControlId::MapIcon, 2, {0, 0, 300, 300}, "Jumpgate"), tool};
+  scene.Show(drawing);
+
+  EXPECT_FALSE(scene.items({10, 10}).front()->data(0).isValid());
+  EXPECT_EQ(scene.items({50, 50}).front()->data(0), "of before");
+}
+
+TEST_F(MapSceneTest, ALayerThatComesLaterGoesToItsPlaceInTheStack) {
+  const Control front = MakeFrame(ControlId::SearchFrame, 0, {300, 300, 750, 750}, {0xFF0000});
+  drawing.Controls = {front};
+  scene.Show(drawing);
+
+  drawing.Controls = {Rectangle({0, 0, 750, 750}, {0x0000FF}), front};
+  const QImage image = Rendered();
+
+  EXPECT_EQ(image.pixelColor(10, 10), QColor(Qt::red));
+  EXPECT_EQ(image.pixelColor(30, 30), QColor(Qt::blue));
+}
+
+TEST_F(MapSceneTest, LinesOfALaterListTakeThePlaceOfThoseBefore) {
+  drawing.Controls = {Line(0, 307, 1500, 307, {0xFFFFFF}), Line(0, 607, 1500, 607, {0xFFFFFF})};
+  Rendered();
+  drawing.Controls = {Line(0, 307, 1500, 307, {0xFFFFFF}), Line(0, 907, 1500, 907, {0xFFFFFF})};
+
+  const QImage image = Rendered();
+
+  EXPECT_EQ(image.pixelColor(50, 20), QColor(Qt::white));
+  EXPECT_EQ(image.pixelColor(50, 40), QColor(Qt::black));
+  EXPECT_EQ(image.pixelColor(50, 60), QColor(Qt::white));
+}
+
+TEST_F(MapSceneTest, BelowAPanelThatEndsBetweenPixelsTheGroundIsPainted) {
+  drawing.FrameColor = {0x00FF00};
+  drawing.Controls = {
+      MakeFrame(ControlId::PanelFrame, 0, {307.5, 307.5, 750, 750}, Color{0x0000FF})};
+
+  const QImage image = Rendered();
+
+  for (int y = 0; y < 100; ++y) {
+    for (int x = 0; x < 100; ++x) {
+      const QColor color = image.pixelColor(x, y);
+      ASSERT_TRUE(color == QColor(Qt::green) || color == QColor(Qt::red)) << x << " " << y;
+    }
+  }
+}
+
+TEST_F(MapSceneTest, InAnotherScaleTheGroundHasNoGaps) {
+  drawing.FrameColor = {0x00FF00};
+  drawing.Controls = {MakeFrame(ControlId::PanelFrame, 0, {301, 301, 751, 751}, Color{0x0000FF})};
+  scene.Show(drawing);
+  QImage image(133, 133, QImage::Format_RGB32);
+  image.fill(Qt::magenta);
+  QPainter painter(&image);
+  painter.setRenderHint(QPainter::Antialiasing);
+  scene.render(&painter, image.rect(), scene.sceneRect());
+  painter.end();
+
+  for (int y = 0; y < 133; ++y) {
+    for (int x = 0; x < 133; ++x) {
+      const QColor color = image.pixelColor(x, y);
+      ASSERT_TRUE(color == QColor(Qt::green) || color == QColor(Qt::red)) << x << " " << y;
+    }
+  }
+}
+
 TEST_F(MapSceneTest, WhereThePanelLeavesOtherRoomNoItemIsKept) {
   drawing.Controls = {Rectangle({0, 0, 750, 1500}, {0x0000FF}),
                       MakeFrame(ControlId::PanelFrame, 0, {750, 0, 750, 1500}, {})};

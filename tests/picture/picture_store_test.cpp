@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "picture/picture_store.h"
 
+#include <vector>
+
 #include <gtest/gtest.h>
 
 #include "support/temp_folder.h"
@@ -137,6 +139,96 @@ TEST_F(PictureStoreTest, WhatIsClearInAPictureIsClearInAnySize) {
 }
 
 // The picture in 10 by 10 pixels is red, that of twice the size green, that of four times blue.
+// Pictures of 1000 by 1000 pixels, which take 4 MB each.
+class PictureRoomTest : public PictureStoreTest {
+ protected:
+  PictureRoomTest() {
+    for (int i = 0; i < 12; ++i) files.push_back(Plain(QColor(20 * i, 0, 0), {1000, 1000}));
+  }
+
+  // What a window shows at once.
+  QColor Shown(const QString& file, int side) {
+    QImage canvas(side, side, QImage::Format_RGB32);
+    canvas.fill(Qt::white);
+    QPainter painter(&canvas);
+    const QRectF place(0, 0, side, side);
+    store.Draw(painter, file, place, place, PictureStore::Reading::Later);
+    return canvas.pixelColor(side / 2, side / 2);
+  }
+
+  static constexpr qint64 kMegabyte = 1024 * 1024;
+  std::vector<QString> files;
+};
+
+TEST_F(PictureRoomTest, OnlyTheLatestPicturesStayInFull) {
+  for (const QString& file : files) store.Scaled(file, {900, 900});
+
+  // Four of 4 MB, and 12 times the halves: 1 MB and a third.
+  EXPECT_LT(store.BytesOfSources(), 33 * kMegabyte);
+  EXPECT_GT(store.BytesOfSources(), 16 * kMegabyte);
+}
+
+TEST_F(PictureRoomTest, APictureReadAheadServesSizesUpToHalfOfIts) {
+  store.Read(files[1]);
+
+  EXPECT_LT(store.BytesOfSources(), 2 * kMegabyte);
+  EXPECT_EQ(Shown(files[1], 500), QColor(20, 0, 0));
+  EXPECT_FALSE(store.IsWanting());
+}
+
+TEST_F(PictureRoomTest, AboveThatItIsDrawnCoarselyAndWanted) {
+  store.Read(files[1]);
+
+  EXPECT_EQ(Shown(files[1], 501), QColor(20, 0, 0));
+  ASSERT_TRUE(store.IsWanting());
+  store.ReadWanted();
+
+  EXPECT_EQ(Shown(files[1], 501), QColor(20, 0, 0));
+  EXPECT_FALSE(store.IsWanting());
+  EXPECT_GT(store.BytesOfSources(), 5 * kMegabyte);
+}
+
+TEST_F(PictureRoomTest, WhatWasCoarseIsFineOnceThePictureIsReadAgain) {
+  // Lines of one pixel, of which half the size shows only their mean.
+  QImage lines(200, 200, QImage::Format_RGB32);
+  lines.fill(Qt::black);
+  for (int x = 0; x < 200; x += 2) {
+    for (int y = 0; y < 200; ++y) lines.setPixelColor(x, y, Qt::white);
+  }
+  const QString file = QString::fromStdString((folder.Path() / "lines.png").string());
+  lines.save(file);
+  store.Read(file);
+
+  EXPECT_NE(Shown(file, 200), QColor(Qt::white));
+  store.ReadWanted();
+
+  EXPECT_EQ(Shown(file, 200), QColor(Qt::white));
+}
+
+TEST_F(PictureRoomTest, ASizeThatIsKeptNeedsThePictureNoMore) {
+  Shown(files[0], 900);
+  for (std::size_t i = 1; i < 5; ++i) store.Scaled(files[i], {510, 510});
+
+  EXPECT_EQ(Shown(files[0], 900), QColor(0, 0, 0));
+  EXPECT_FALSE(store.IsWanting());
+}
+
+TEST_F(PictureStoreTest, OnlyAPictureThatWasReadAndHidesAllIsOpaque) {
+  const QString red = Plain(Qt::red);
+  EXPECT_FALSE(store.IsOpaque(red));
+
+  store.Read(red);
+  EXPECT_TRUE(store.IsOpaque(red));
+
+  QImage clear(10, 10, QImage::Format_ARGB32);
+  clear.fill(Qt::transparent);
+  const QString file = QString::fromStdString((folder.Path() / "clear.png").string());
+  clear.save(file);
+  store.Read(file);
+  EXPECT_FALSE(store.IsOpaque(file));
+  EXPECT_FALSE(store.IsOpaque(":/pictures/icons/jumpgate.svg"));
+}
+
 class PictureVariantsTest : public PictureStoreTest {
  protected:
   QString Save(const char* name, QColor color, QSize size) {

@@ -12,6 +12,7 @@
 #include "forms/workbench/throw_failures.h"
 #include "picture/form_font.h"
 #include "picture/plain_tool_tip.h"
+#include "platform/freed_memory.h"
 #include "space/describe.h"
 #include "space/pick.h"
 #include "space/read_space.h"
@@ -73,6 +74,7 @@ void MapSpace::Read(const std::filesystem::path& universe, const std::string& ga
       },
       [this](Outcome outcome) {
         space_ = std::move(outcome.Read);
+        ReturnFreedMemory();  // what was read takes a part of what reading took
         Show();
         if (OnRead) OnRead();
       });

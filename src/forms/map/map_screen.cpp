@@ -10,6 +10,7 @@
 #include "online/web_pages.h"
 #include "picture/picture_files.h"
 #include "picture/twips.h"
+#include "platform/freed_memory.h"
 
 namespace orrerix {
 namespace {
@@ -66,7 +67,9 @@ void MapScreen::ReadAhead() {
   auto* timer = new QTimer(frame_);
   QObject::connect(timer, &QTimer::timeout, frame_, [this, timer, next = 0]() mutable {
     pictures_.Read(PictureFile(MakePicture(ControlId::SystemPicture, next, {})));
-    if (++next == kSystemPictures) timer->deleteLater();
+    if (++next < kSystemPictures) return;
+    timer->deleteLater();
+    ReturnFreedMemory();
   });
   timer->start(0);
 }
@@ -75,7 +78,9 @@ void MapScreen::ReadAhead() {
 void MapScreen::Sharpen() {
   pictures_.ReadWanted();
   scene_.update();
-  if (!pictures_.IsWanting()) sharpening_->stop();
+  if (pictures_.IsWanting()) return;
+  sharpening_->stop();
+  ReturnFreedMemory();
 }
 
 MapOptions MapScreen::ReadOptions() {
