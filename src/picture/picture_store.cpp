@@ -16,7 +16,7 @@ constexpr int kLeastCacheRoom = 8 * 1024;
 constexpr int kUsualCacheRoom = 64 * 1024;
 
 // Room for pictures that are kept in full, in bytes.
-constexpr qint64 kFullRoom = 16 * 1024 * 1024;
+constexpr qint64 kFullRoom = 8 * 1024 * 1024;
 
 // A picture of which less than one part in so many is seen.
 constexpr int kHiddenMostly = 4;
@@ -60,6 +60,11 @@ QString DrawingName(const QString& file) {
   return ending < 0 ? file : file.left(ending) + QStringLiteral(".svg");
 }
 
+// A file beside the one that is asked for.
+bool IsBrother(const QString& file) {
+  return file.contains('@');
+}
+
 // Halves a picture until another half would be nothing. All are made when the picture is read, so
 // that no new size has to look at more than four pixels for one of its own.
 std::vector<QImage> LevelsOf(QImage picture) {
@@ -86,7 +91,7 @@ bool PictureStore::Source::Serves(QSize size) const {
 }
 
 qint64 PictureStore::Source::FullBytes() const {
-  return IsFull && !IsAwaited && Levels.size() > 1 ? Levels.front().sizeInBytes() : 0;
+  return IsFull && !IsAwaited && !Levels.empty() ? Levels.front().sizeInBytes() : 0;
 }
 
 PictureStore::PictureStore() : scaled_(kLeastCacheRoom) {}
@@ -97,8 +102,10 @@ PictureStore::Source PictureStore::ReadSource(const QString& file) const {
     source.Drawing = VectorDrawing::Read(file);
   } else if (QImage image(file); !image.isNull()) {
     // The formats that the painter blends without a conversion.
-    source.Levels = LevelsOf(image.convertToFormat(
-        image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32));
+    image.convertTo(image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied
+                                            : QImage::Format_RGB32);
+    // Brothers are for sizes above those of the file before them.
+    source.Levels = IsBrother(file) ? std::vector{std::move(image)} : LevelsOf(std::move(image));
   }
   return source;
 }
@@ -145,7 +152,7 @@ void PictureStore::KeepWithinRoom(const QString& latest) {
 
 // Brothers go whole: the file itself serves all smaller sizes.
 void PictureStore::DropFull(const QString& file) {
-  if (file.contains('@')) {
+  if (IsBrother(file) || sources_.at(file).Levels.size() == 1) {
     sources_.erase(file);
     return;
   }
@@ -231,8 +238,12 @@ QString PictureStore::FileFor(const QString& file, QSize size, Reading reading) 
   return finest->File;
 }
 
+bool PictureStore::IsWanted(const QString& file) const {
+  return std::find(wanted_.begin(), wanted_.end(), file) != wanted_.end();
+}
+
 void PictureStore::Want(const QString& file) {
-  if (std::find(wanted_.begin(), wanted_.end(), file) != wanted_.end()) return;
+  if (IsWanted(file)) return;
   wanted_.push_back(file);
   if (wanted_.size() == 1 && OnWanted) OnWanted();
 }
@@ -241,6 +252,13 @@ void PictureStore::ReadWanted() {
   if (wanted_.empty()) return;
   FullSourceOf(wanted_.front()).IsAwaited = true;
   wanted_.pop_front();
+  if (wanted_.empty()) DropCoarse();
+}
+
+void PictureStore::DropCoarse() {
+  for (const SizedFile& key : scaled_.keys()) {
+    if (!scaled_.object(key)->IsFinal) scaled_.remove(key);
+  }
 }
 
 QPixmap PictureStore::Render(const QString& file, QSize size) {
@@ -268,13 +286,12 @@ QPixmap PictureStore::Render(const QString& file, QSize size) {
 QPixmap PictureStore::Scaled(const QString& file, QSize size) {
   if (size.isEmpty()) return {};
   const QString best = VariantFor(file, size);
-  return ScaledOf(HasScaled(best, size) ? best : FileFor(file, size, Reading::AtOnce), size);
+  if (!HasScaled(best, size)) FileFor(file, size, Reading::AtOnce);
+  return ScaledOf(best, size, true);
 }
 
-QPixmap PictureStore::ScaledOf(const QString& file, QSize size) {
+QPixmap PictureStore::ScaledOf(const QString& file, QSize size, bool isFinal) {
   const SizedFile key{file, size};
-  const auto source = sources_.find(file);
-  const bool isFinal = source == sources_.end() || source->second.Serves(size);
   if (const ScaledPicture* known = scaled_.object(key);
       known != nullptr && known->IsFinal >= isFinal) {
     return known->Pixmap;
@@ -340,7 +357,8 @@ void PictureStore::Draw(QPainter& painter, const QString& file, const QRectF& pl
   if (isPart) {
     DrawPart(painter, chosen, target, part);
   } else {
-    painter.drawPixmap(target.topLeft(), ScaledOf(chosen, target.size()));
+    const bool isFinal = chosen == best && !IsWanted(best);
+    painter.drawPixmap(target.topLeft(), ScaledOf(chosen, target.size(), isFinal));
   }
   painter.setWorldTransform(world);
 }

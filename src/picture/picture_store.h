@@ -120,11 +120,13 @@ class PictureStore {
   bool HasScaled(const QString& file, QSize size) const;
   const std::vector<Variant>& VariantsOf(const QString& file);
   QString FileFor(const QString& file, QSize size, Reading reading);
+  bool IsWanted(const QString& file) const;
   void Want(const QString& file);
+  void DropCoarse();
   void MakeRoomFor(const QPaintDevice& device);
   // These draw out of just this file, and of what is at hand of it.
   QPixmap Render(const QString& file, QSize size);
-  QPixmap ScaledOf(const QString& file, QSize size);
+  QPixmap ScaledOf(const QString& file, QSize size, bool isFinal);
   void DrawSource(QPainter& painter, const QString& file, const QRectF& place);
   void DrawPart(QPainter& painter, const QString& file, const QRect& target, const QRect& part);
 

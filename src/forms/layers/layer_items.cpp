@@ -1,13 +1,21 @@
 // SPDX-License-Identifier: MIT
 #include "forms/layers/layer_items.h"
 
+#include <QImage>
 #include <QPainter>
 #include <QWidget>
+#include <algorithm>
+#include <utility>
 
 namespace orrerix {
 namespace {
 
 const Control kBareFrame;
+
+bool IsBlank(const QImage& image) {
+  const uchar* bits = image.constBits();
+  return std::all_of(bits, bits + image.sizeInBytes(), [](uchar byte) { return byte == 0; });
+}
 
 }  // namespace
 
@@ -19,13 +27,16 @@ void PaintedItem::Renew(const QRectF& place) {
   // Whole pixels, so that the picture is as sharp as what it shows.
   place_ = QRectF(place.toAlignedRect());
   picture_ = QPixmap();
+  drawnRatio_ = 0;
   update();
 }
 
 void PaintedItem::paint(QPainter* painter, const QStyleOptionGraphicsItem*, QWidget* widget) {
   if (place_.isEmpty()) return;
   if (widget != nullptr) {
-    painter->drawPixmap(place_.topLeft(), Picture(widget->devicePixelRatioF()));
+    const double ratio = widget->devicePixelRatioF();
+    if (ratio != drawnRatio_) DrawPicture(ratio);
+    if (!picture_.isNull()) painter->drawPixmap(place_.topLeft(), picture_);
     return;
   }
   painter->save();
@@ -35,16 +46,18 @@ void PaintedItem::paint(QPainter* painter, const QStyleOptionGraphicsItem*, QWid
   painter->restore();
 }
 
-const QPixmap& PaintedItem::Picture(double devicePixelRatio) {
-  if (!picture_.isNull() && picture_.devicePixelRatio() == devicePixelRatio) return picture_;
-  picture_ = QPixmap((place_.size() * devicePixelRatio).toSize());
-  picture_.setDevicePixelRatio(devicePixelRatio);
-  picture_.fill(Qt::transparent);
-  QPainter painter(&picture_);
+// A picture of a whole screen in which there is nothing is not worth its memory.
+void PaintedItem::DrawPicture(double devicePixelRatio) {
+  drawnRatio_ = devicePixelRatio;
+  QImage image((place_.size() * devicePixelRatio).toSize(), QImage::Format_ARGB32_Premultiplied);
+  image.setDevicePixelRatio(devicePixelRatio);
+  image.fill(Qt::transparent);
+  QPainter painter(&image);
   painter.setRenderHint(QPainter::Antialiasing);
   painter.translate(-place_.topLeft());
   paint_(painter, place_);
-  return picture_;
+  painter.end();
+  picture_ = IsBlank(image) ? QPixmap() : QPixmap::fromImage(std::move(image));
 }
 
 }  // namespace orrerix

@@ -26,11 +26,12 @@ class PaintedItem : public ControlItem {
   void paint(QPainter* painter, const QStyleOptionGraphicsItem* option, QWidget* widget) override;
 
  private:
-  const QPixmap& Picture(double devicePixelRatio);
+  void DrawPicture(double devicePixelRatio);
 
   Paint paint_;
   QRectF place_;
-  QPixmap picture_;  // null until it is wanted
+  QPixmap picture_;        // null if there is nothing to be seen in it
+  double drawnRatio_ = 0;  // device pixels of a logical one in it; 0 if it is to be drawn
 };
 
 }  // namespace orrerix
