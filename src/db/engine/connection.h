@@ -28,7 +28,7 @@ struct StatementDeleter {
 using PreparedStatement = std::unique_ptr<sqlite3_stmt, StatementDeleter>;
 
 // A prepared statement on loan: it is reset when the loan ends, and forgets its values unless each
-// of them is bound anew next time.
+// of them is bound again next time.
 class StatementLoan {
  public:
   explicit StatementLoan(sqlite3_stmt* statement, bool forgets = true)
