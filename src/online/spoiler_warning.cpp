@@ -45,11 +45,10 @@ SpoilerTexts WithModTexts(SpoilerTexts texts, std::string_view file) {
 
 SpoilerTexts ReadSpoilerTexts(const GameFolder& game, Language language) {
   SpoilerTexts texts = DefaultSpoilerTexts(language);
-  const auto found = game.FindFile(game.Text() + "\\data\\OrrerixWarning.ini");
-  if (!found) return texts;
-  std::ifstream stream(*found, std::ios::binary);
-  const std::string file(std::istreambuf_iterator<char>(stream), {});
-  return stream.bad() ? texts : WithModTexts(std::move(texts), file);
+  auto stream = game.OpenFile(game.Text() + "\\data\\OrrerixWarning.ini");
+  if (!stream) return texts;
+  const std::string file(std::istreambuf_iterator<char>(*stream), {});
+  return stream->bad() ? texts : WithModTexts(std::move(texts), file);
 }
 
 void SetWarningOff(const std::filesystem::path& universeFile, bool off) {

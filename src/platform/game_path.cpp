@@ -2,6 +2,7 @@
 #include "platform/game_path.h"
 
 #include <algorithm>
+#include <array>
 #include <set>
 #include <utility>
 #include <vector>
@@ -35,6 +36,21 @@ std::vector<std::string> Components(std::string_view path) {
     if (!component.empty()) components.push_back(std::move(component));
   }
   return components;
+}
+
+// Whether Windows takes a name for a device, in any folder and with any ending: "nul", "COM1.ini".
+bool NamesDevice(std::string_view name) {
+  constexpr std::array<std::string_view, 6> devices = {"con", "prn",    "aux",
+                                                       "nul", "conin$", "conout$"};
+  constexpr std::array<std::string_view, 2> ports = {"com", "lpt"};
+  std::string_view base = name.substr(0, name.find('.'));
+  base = base.substr(0, base.find_last_not_of(' ') + 1);
+  const auto isBase = [&](std::string_view device) { return EqualIgnoringCase(base, device); };
+  if (std::any_of(devices.begin(), devices.end(), isBase)) return true;
+  // The number has one character: a digit, or one raised, which UTF-8 writes in two bytes.
+  if (base.size() != 4 && base.size() != 5) return false;
+  base = base.substr(0, 3);
+  return std::any_of(ports.begin(), ports.end(), isBase);
 }
 
 // The names in a folder in byte order.
@@ -98,26 +114,24 @@ class PathSearch {
   std::set<std::pair<fs::path, std::size_t>> searched_;
 };
 
-// The place of the components where every spelling leads to the same one: the system finds it in
-// one step. A colon would name another disk, or a part of a file.
-template <typename Accept>
-std::optional<fs::path> FindInOneStep(fs::path place, const std::vector<std::string>& components,
-                                      Accept accept) {
+// The place of the components where every spelling leads to the same one and the system finds it in
+// one step. Nothing on systems where the case of names counts, and for ways up. A colon would name
+// another disk, or a part of a file.
+std::optional<fs::path> OnlyPlace(fs::path folder, const std::vector<std::string>& components) {
+  if (!kFileNamesIgnoreCase) return std::nullopt;
   for (const std::string& component : components) {
-    if (component.find(':') != std::string::npos) return std::nullopt;
-    place /= PathOf(component);
+    if (component == ".." || component.find(':') != std::string::npos) return std::nullopt;
+    folder /= PathOf(component);
   }
-  place = SystemPath(place);
-  return accept(place) ? std::optional(std::move(place)) : std::nullopt;
+  return SystemPath(folder);
 }
 
 template <typename Accept>
 std::optional<fs::path> Find(FolderListings& listings, const fs::path& folder,
-                             std::string_view path, Accept accept) {
-  std::vector<std::string> components = Components(path);
-  if (components.size() > kMostComponents) return std::nullopt;
-  const bool goesUp = std::find(components.begin(), components.end(), "..") != components.end();
-  if (kFileNamesIgnoreCase && !goesUp) return FindInOneStep(folder, components, accept);
+                             std::vector<std::string> components, Accept accept) {
+  if (auto place = OnlyPlace(folder, components)) {
+    return accept(*place) ? std::move(place) : std::nullopt;
+  }
   return PathSearch<Accept>(listings, std::move(components), accept).From(folder);
 }
 
@@ -145,13 +159,36 @@ std::vector<fs::path> FolderListings::OtherSpellings(const fs::path& folder,
 }
 
 std::optional<fs::path> FindFolder(const fs::path& below, std::string_view path) {
+  std::vector<std::string> components = Components(path);
+  if (components.size() > kMostComponents) return std::nullopt;
   FolderListings listings;
-  return Find(listings, below, path, IsFolder);
+  return Find(listings, below, std::move(components), IsFolder);
+}
+
+std::optional<std::vector<std::string>> GameFolder::ComponentsOf(std::string_view path) const {
+  if (!path.starts_with(text_) || path.find('\0') != std::string_view::npos) return std::nullopt;
+  std::vector<std::string> components = Components(path.substr(text_.size()));
+  if (components.size() > kMostComponents) return std::nullopt;
+  return components;
 }
 
 std::optional<fs::path> GameFolder::FindFile(std::string_view path) const {
-  if (!path.starts_with(text_) || path.find('\0') != std::string_view::npos) return std::nullopt;
-  return Find(listings_, PathOf(text_), path.substr(text_.size()), IsFile);
+  auto components = ComponentsOf(path);
+  if (!components) return std::nullopt;
+  return Find(listings_, PathOf(text_), std::move(*components), IsFile);
+}
+
+std::optional<std::ifstream> GameFolder::OpenFile(std::string_view path) const {
+  auto components = ComponentsOf(path);
+  if (!components) return std::nullopt;
+  // What can be opened is there: one question to the system instead of two.
+  const auto place = OnlyPlace(PathOf(text_), *components);
+  if (place && std::none_of(components->begin(), components->end(), NamesDevice)) {
+    std::ifstream stream(*place, std::ios::binary);
+    if (stream.is_open()) return stream;
+  }
+  const auto file = Find(listings_, PathOf(text_), std::move(*components), IsFile);
+  return file ? std::optional(std::ifstream(*file, std::ios::binary)) : std::nullopt;
 }
 
 }  // namespace orrerix

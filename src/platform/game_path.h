@@ -3,6 +3,7 @@
 #pragma once
 
 #include <filesystem>
+#include <fstream>
 #include <map>
 #include <optional>
 #include <string>
@@ -42,7 +43,14 @@ class GameFolder {
   // Other spellings that come into a folder once it was searched are not seen.
   std::optional<std::filesystem::path> FindFile(std::string_view path) const;
 
+  // The file that FindFile finds, open for its bytes from the start; nothing if there is none. The
+  // stream is not open if the file may not be read.
+  std::optional<std::ifstream> OpenFile(std::string_view path) const;
+
  private:
+  // The components of a path of this folder; nothing if it is none or if there are too many.
+  std::optional<std::vector<std::string>> ComponentsOf(std::string_view path) const;
+
   std::string text_;
   mutable FolderListings listings_;
 };

@@ -19,11 +19,10 @@ std::string_view TrimBlanks(std::string_view text) {
 }
 
 std::optional<std::string> ReadGameText(const GameFolder& game, const std::string& path) {
-  const auto file = game.FindFile(game.Text() + path);
-  if (!file) return std::nullopt;
-  std::ifstream stream(*file, std::ios::binary);
-  std::string bytes(std::istreambuf_iterator<char>(stream), {});
-  if (stream.bad()) return std::nullopt;
+  auto stream = game.OpenFile(game.Text() + path);
+  if (!stream) return std::nullopt;
+  std::string bytes(std::istreambuf_iterator<char>(*stream), {});
+  if (stream->bad()) return std::nullopt;
   if (IsPackedIni(bytes)) return UnpackIni(bytes);
   return bytes;
 }

@@ -7,7 +7,6 @@
 
 #include "db/values/text.h"
 #include "import/ini/packed_ini.h"
-#include "platform/path_text.h"
 
 namespace orrerix {
 namespace {
@@ -42,10 +41,9 @@ std::string_view GameSection::Value(std::string_view key) const {
 }
 
 std::vector<GameSection> ReadGameSections(const GameFolder& game, std::string_view path) {
-  const auto file = game.FindFile(game.Text() + "\\data\\" + std::string(path));
+  auto file = game.OpenFile(game.Text() + "\\data\\" + std::string(path));
   if (!file) return {};
-  std::ifstream in(SystemPath(*file), std::ios::binary);
-  const std::string bytes{std::istreambuf_iterator<char>(in), {}};
+  const std::string bytes{std::istreambuf_iterator<char>(*file), {}};
   if (!IsPackedIni(bytes)) return SectionsOf(bytes);
   const std::optional<std::string> text = UnpackIni(bytes);
   return text ? SectionsOf(*text) : std::vector<GameSection>();

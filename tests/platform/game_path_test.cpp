@@ -110,6 +110,25 @@ TEST_F(GamePath, AColonLeadsToNoOtherDiskAndToNoPartOfAFile) {
   }
 }
 
+// Windows takes such names for devices in every folder; a read from the console would wait for
+// ever.
+TEST_F(GamePath, ADeviceIsNoFile) {
+  Put("data/a.ini");
+
+  for (const char* path : {"\\data\\nul", "\\data\\CON", "\\con.ini", "\\data\\conin$",
+                           "\\data\\aux .ini", "\\nul\\a.ini", "\\data\\com1.ini", "\\LPT9"}) {
+    EXPECT_EQ(Found(path), "(none)") << path;
+  }
+}
+
+TEST_F(GamePath, NamesThatOnlyBeginLikeADeviceAreFiles) {
+  for (const char* name :
+       {"data/cone.ini", "data/nullify.ini", "data/com.ini", "data/lptown.ini"}) {
+    Put(name);
+    EXPECT_EQ(Found(std::string("\\") + name), name);
+  }
+}
+
 TEST_F(GamePath, BearsPathsThatGoUpAndDownForEver) {
   Put("data/a.ini");
   std::string path;

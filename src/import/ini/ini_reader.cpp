@@ -17,7 +17,6 @@
 #include "shell/language_texts.h"
 
 namespace orrerix {
-namespace fs = std::filesystem;
 namespace {
 
 Failure CannotRead(const std::string& file, std::string_view why) {
@@ -25,10 +24,9 @@ Failure CannotRead(const std::string& file, std::string_view why) {
           fmt::format("Path/File access error: {} ({})", file, why)};
 }
 
-std::string ReadBytes(const fs::path& path, const std::string& file) {
-  std::ifstream stream(path, std::ios::binary | std::ios::ate);
+std::string ReadBytes(std::ifstream& stream, const std::string& file) {
   std::string bytes;
-  if (stream) {
+  if (stream.seekg(0, std::ios::end)) {
     bytes.resize(static_cast<std::size_t>(std::max<std::streamoff>(0, stream.tellg())));
     stream.seekg(0);
     stream.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
@@ -38,8 +36,8 @@ std::string ReadBytes(const fs::path& path, const std::string& file) {
 }
 
 // The file's text, unpacked if it is packed.
-std::string ReadText(const fs::path& path, const std::string& file) {
-  std::string bytes = ReadBytes(path, file);
+std::string ReadText(std::ifstream& stream, const std::string& file) {
+  std::string bytes = ReadBytes(stream, file);
   if (!IsPackedIni(bytes)) return bytes;
   auto text = UnpackIni(bytes);
   if (!text) throw CannotRead(file, "this packed file is damaged");
@@ -111,13 +109,13 @@ void ReadINI(Import& import, const std::string& file, const std::string& systemN
   ReaderRoutine routine(import, file);
   routine.Run([&] {
     ++import.Progress.ImportDone;
-    const auto path = file.ends_with('\\') ? std::nullopt : import.Game.FindFile(file);
-    if (!path) {
+    auto stream = file.ends_with('\\') ? std::nullopt : import.Game.OpenFile(file);
+    if (!stream) {
       import.Target.Log.AddErrorLine("Cant find file: [" + file + "]");
       return;
     }
     std::string text;
-    if (!routine.Try([&] { text = ReadText(*path, file); })) return;
+    if (!routine.Try([&] { text = ReadText(*stream, file); })) return;
     if (text.empty()) return;
     Reader(import, routine, file, systemNickname).Read(text);
   });

@@ -15,7 +15,6 @@
 #include "shell/routine.h"
 
 namespace orrerix {
-namespace fs = std::filesystem;
 namespace {
 
 constexpr std::int32_t kHighestStringNumber = 65535;
@@ -25,14 +24,14 @@ constexpr std::size_t kLongestName = 255;
 constexpr std::streamoff kLargestLibrary = 0x7FFFFFFF;
 
 std::optional<std::string> ReadBytes(const GameFolder& game, const std::string& path) {
-  const auto file = game.FindFile(path);
-  if (!file) return std::nullopt;
-  std::ifstream stream(*file, std::ios::binary | std::ios::ate);
-  if (!stream || stream.tellg() > kLargestLibrary) return std::nullopt;
-  std::string bytes(static_cast<std::size_t>(stream.tellg()), '\0');
-  stream.seekg(0);
-  stream.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-  return stream ? std::optional(std::move(bytes)) : std::nullopt;
+  auto stream = game.OpenFile(path);
+  if (!stream || !stream->seekg(0, std::ios::end)) return std::nullopt;
+  const std::streamoff size = stream->tellg();
+  if (size < 0 || size > kLargestLibrary) return std::nullopt;
+  std::string bytes(static_cast<std::size_t>(size), '\0');
+  stream->seekg(0);
+  stream->read(bytes.data(), static_cast<std::streamsize>(size));
+  return *stream ? std::optional(std::move(bytes)) : std::nullopt;
 }
 
 std::string BareFileName(std::string_view path) {

@@ -103,13 +103,12 @@ void XTractNames(Import& import) {
   routine.Run([&] {
     import.Target.DB.CreateTable(routine, NamesTable());
     const std::string path = import.Game.Text() + "\\exe\\nameresources.dll";
-    const auto found = import.Game.FindFile(path);
-    if (!found) {
+    auto stream = import.Game.OpenFile(path);
+    if (!stream) {
       routine.Fail({failure_number::kFileNotFound, "File not found: " + path});
       return;
     }
-    std::ifstream stream(*found, std::ios::binary);
-    const FileBytes file({std::istreambuf_iterator<char>(stream), {}});
+    const FileBytes file({std::istreambuf_iterator<char>(*stream), {}});
     Recordset names = import.Target.DB.OpenTable(routine, "Names");
     const std::vector<TextBlock> blocks = ReadBlocks(file);
     std::size_t stored = 0;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The program's own memchr and memcmp, on blocks and on what is left after them.
+// The program's own memchr, memcmp, memcpy and memmove, on blocks and on what is left after them.
 #include <cstring>
 #include <string>
 
@@ -50,6 +50,38 @@ TEST(ByteFunctions, CompareByTheFirstDifferenceAsUnsignedBytes) {
 
 TEST(ByteFunctions, NothingEqualsNothing) {
   EXPECT_EQ(std::memcmp("a", "b", 0), 0);
+}
+
+// The bytes 1, 2, 3 and so on, none of them twice in a row of 200.
+std::string Counted(std::size_t length) {
+  std::string bytes;
+  for (std::size_t i = 0; i < length; ++i) bytes.push_back(static_cast<char>(i % 200 + 1));
+  return bytes;
+}
+
+TEST(ByteFunctions, CopyEveryLengthAndNothingBesideIt) {
+  const std::string source = Counted(200);
+  for (std::size_t length = 0; length <= 150; ++length) {
+    std::string target(200, '-');
+    EXPECT_EQ(std::memcpy(target.data() + 7, source.data() + 3, length), target.data() + 7);
+    EXPECT_EQ(target,
+              std::string(7, '-') + source.substr(3, length) + std::string(200 - 7 - length, '-'))
+        << length;
+  }
+}
+
+TEST(ByteFunctions, MoveBytesOntoThemselvesFromEitherSide) {
+  const std::string whole = Counted(300);
+  for (std::size_t length = 0; length <= 150; ++length) {
+    for (std::size_t from = 60; from <= 140; ++from) {
+      const std::size_t to = 100;
+      std::string bytes = whole;
+      std::string expected = whole;
+      expected.replace(to, length, whole, from, length);
+      EXPECT_EQ(std::memmove(bytes.data() + to, bytes.data() + from, length), bytes.data() + to);
+      ASSERT_EQ(bytes, expected) << length << " bytes from " << from;
+    }
+  }
 }
 
 }  // namespace
