@@ -19,12 +19,12 @@ namespace {
 using namespace orrerix;
 
 // A redraw is by far the longest step.
-constexpr int kMostRedraws = 3;
+constexpr int kMostRedraws = 2;
 
 Database& OpenDemo() {
   static WorkingCopy copy;
   static IgnoreFailures ignore;
-  static Database& opened = copy.Of(ignore, MakeDemoUniverse(100));
+  static Database& opened = copy.Of(ignore, MakeDemoUniverse(30));
   return opened;
 }
 
@@ -80,6 +80,12 @@ class Map {
 
   float Twips() { return static_cast<float>(input_.Short()) * (input_.Below(2) == 0 ? 1 : 100); }
 
+  // Now and then a form far larger than any screen: its thousands of background tiles take long.
+  int FormTwips() {
+    const int scale = input_.Below(64) == 63 ? 7 : 1;
+    return static_cast<std::uint16_t>(input_.Short()) * scale;
+  }
+
   ZoomRectangle Rectangle() {
     const int x1 = static_cast<int>(input_.Below(MapMaxX + 1));
     const int y1 = static_cast<int>(input_.Below(MapMaxY + 1));
@@ -126,8 +132,8 @@ class Map {
   }
 
   void ChangeForm() {
-    width_ = static_cast<std::uint16_t>(input_.Short()) * 7;
-    height_ = static_cast<std::uint16_t>(input_.Short()) * 7;
+    width_ = FormTwips();
+    height_ = FormTwips();
     for (bool& on : options_.On) on = input_.Below(2) == 1;
     state_.OptionsOpen = input_.Below(2) == 1;
     state_.PrintMode = input_.Below(4) == 1;

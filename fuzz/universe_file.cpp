@@ -95,7 +95,7 @@ class Session {
 
 // The input says what is wrong with a universe file, and what is done with it.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  static const HostileDatabase hostile(MakeDemoUniverse(6));
+  static const HostileDatabase hostile(MakeDemoUniverse(4));
   Steering input(data, size);
   const fs::path file = UniverseFileIn(OwnFolder());
   hostile.Write(file, input);

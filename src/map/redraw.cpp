@@ -2,6 +2,7 @@
 #include "map/redraw.h"
 
 #include <algorithm>
+#include <array>
 #include <utility>
 
 #include "map/grid/numeric.h"
@@ -56,10 +57,13 @@ class Redraw {
     MapObjects placed = layers_.Take();
     state_.Objects = {Over(std::move(state_.Objects.Lines), std::move(placed.Lines)),
                       Over(std::move(state_.Objects.Icons), std::move(placed.Icons))};
+    const std::array lists = {&tiles_, &painted_, &pictures_, &fillers_, &labels_};
+    std::size_t count =
+        state_.Objects.Lines.size() + state_.Objects.Icons.size() + border_.size() + panel_.size();
+    for (const ControlList* layer : lists) count += layer->size();
+    drawing_.Controls.reserve(count);
     if (state_.PrintMode) Append(drawing_.Controls, std::move(panel_));
-    for (ControlList* layer : {&tiles_, &painted_, &pictures_, &fillers_, &labels_}) {
-      Append(drawing_.Controls, std::move(*layer));
-    }
+    for (ControlList* layer : lists) Append(drawing_.Controls, std::move(*layer));
     Append(drawing_.Controls, state_.Objects.Lines);
     Append(drawing_.Controls, state_.Objects.Icons);
     if (state_.BorderShown && !state_.PrintMode) Append(drawing_.Controls, std::move(border_));

@@ -47,6 +47,7 @@ ControlList BackgroundTiles(MapState& state, const TwipRect& frame) {
   state.Tiles[0] = {0, 0, true};
   if (state.Zoom.Current().IsZoomed()) LayTiles(state, frame);
   ControlList tiles;
+  tiles.reserve(state.Tiles.size());
   for (std::size_t i = 0; i < state.Tiles.size(); ++i) {
     MapTile& tile = state.Tiles[i];
     if (state.PrintMode) tile.Visible = false;
@@ -68,6 +69,7 @@ Control PaintedUniverse(const TwipRect& frame, const std::optional<std::string>&
 
 ControlList SystemPictures(const CellGeometry& cells) {
   ControlList pictures;
+  pictures.reserve(kSystemPictures);
   for (int i = 0; i < kSystemPictures; ++i) {
     const MapCell cell = CellOfTag(SystemPictureTag(i));
     pictures.push_back(MakePicture(ControlId::SystemPicture, i, cells.CellBox(cell.X, cell.Y)));
@@ -77,6 +79,7 @@ ControlList SystemPictures(const CellGeometry& cells) {
 
 ControlList Fillers(const CellNames& names, const CellGeometry& cells) {
   ControlList fillers;
+  fillers.reserve(std::size_t{MapMaxX + 1} * (MapMaxY + 1));
   int counter = 1;
   for (int x = 0; x <= MapMaxX; ++x) {
     for (int y = 0; y <= MapMaxY; ++y) {
