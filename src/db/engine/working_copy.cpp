@@ -2,7 +2,9 @@
 #include "db/engine/working_copy.h"
 
 #include <array>
+#include <string>
 #include <string_view>
+#include <vector>
 
 #include <fmt/format.h>
 #include <sqlite3.h>
@@ -68,6 +70,7 @@ Failure CannotCopy(int code, const fs::path& path) {
                        fmt::format("Unrecognized database format '{}'.", TextOf(path)));
 }
 
+// Whether there is the column that an index would be on.
 bool HasColumn(const Database& database, std::string_view table, std::string_view expression) {
   if (!database.HasTable(table)) return false;
   const std::size_t open = expression.find('(');
@@ -75,6 +78,18 @@ bool HasColumn(const Database& database, std::string_view table, std::string_vie
       open == std::string_view::npos ? expression
                                      : expression.substr(open + 1, expression.find(')') - open - 1);
   return database.HasField(table, column);
+}
+
+// The statements for all indexes, before any of them changes the schema that is looked at here.
+std::vector<std::string> IndexStatements(const Database& database) {
+  std::vector<std::string> statements;
+  statements.reserve(kLookups.size());
+  for (const Lookup& lookup : kLookups) {
+    if (!HasColumn(database, lookup.Table, lookup.Expression)) continue;
+    statements.push_back(fmt::format("CREATE INDEX lookup_{} ON {} ({})", statements.size(),
+                                     lookup.Table, lookup.Expression));
+  }
+  return statements;
 }
 
 }  // namespace
@@ -100,11 +115,8 @@ Database& WorkingCopy::Of(FailureSink& sink, const fs::path& path) {
     sink.Fail(CannotCopy(code, path));
     return copy_;
   }
-  for (std::size_t i = 0; i < kLookups.size(); ++i) {
-    const Lookup& lookup = kLookups[i];
-    if (!HasColumn(copy_, lookup.Table, lookup.Expression)) continue;
-    copy_.ExecuteNative(
-        sink, fmt::format("CREATE INDEX lookup_{} ON {} ({})", i, lookup.Table, lookup.Expression));
+  for (const std::string& statement : IndexStatements(copy_)) {
+    copy_.ExecuteNative(sink, statement);
   }
   stamp_ = stamp;
   return copy_;
