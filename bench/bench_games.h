@@ -3,6 +3,7 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <initializer_list>
 #include <string>
 #include <vector>
@@ -34,8 +35,9 @@ void RegisterPlayerBenchmarks(const std::vector<BenchGame>& games,
                               const std::filesystem::path& work);
 void RegisterRedrawBenchmarks(const std::vector<BenchGame>& games,
                               const std::filesystem::path& work);
-// Needs an application of Qt's.
-void RegisterPaintBenchmarks(const std::vector<BenchGame>& games,
-                             const std::filesystem::path& work);
+// `makeApplication` makes an application of Qt's with the first of them: what it leaves in the
+// processor's registers would slow down the other benchmarks.
+void RegisterPaintBenchmarks(const std::vector<BenchGame>& games, const std::filesystem::path& work,
+                             const std::function<void()>& makeApplication);
 
 }  // namespace orrerix

@@ -2,6 +2,8 @@
 #ifdef ORRERIX_BENCH_PAINT
 #include <QApplication>
 #endif
+#include <memory>
+
 #include <benchmark/benchmark.h>
 
 #include "bench_games.h"
@@ -15,8 +17,10 @@ int main(int argc, char** argv) {
   orrerix::RegisterRedrawBenchmarks(games, work);
 #ifdef ORRERIX_BENCH_PAINT
   qputenv("QT_QPA_PLATFORM", "offscreen");
-  const QApplication application(argc, argv);
-  orrerix::RegisterPaintBenchmarks(games, work);
+  std::unique_ptr<QApplication> application;
+  orrerix::RegisterPaintBenchmarks(games, work, [&] {
+    if (application == nullptr) application = std::make_unique<QApplication>(argc, argv);
+  });
 #endif
   benchmark::Initialize(&argc, argv);
   benchmark::RunSpecifiedBenchmarks();

@@ -103,15 +103,18 @@ class PaintBench {
 
 }  // namespace
 
-void RegisterPaintBenchmarks(const std::vector<BenchGame>& games, const fs::path& work) {
+void RegisterPaintBenchmarks(const std::vector<BenchGame>& games, const fs::path& work,
+                             const std::function<void()>& makeApplication) {
   struct View {
     const char* Name;
     ZoomRectangle Rectangle;
   };
   const auto add = [&](const std::string& name, const BenchGame& game, const Redraw& redraw) {
-    benchmark::RegisterBenchmark(name.c_str(), [game, work, redraw](benchmark::State& state) {
+    const auto run = [game, work, redraw, makeApplication](benchmark::State& state) {
+      makeApplication();
       PaintBench(ImportInto(game, work), redraw).Run(state);
-    })->Unit(benchmark::kMillisecond);
+    };
+    benchmark::RegisterBenchmark(name.c_str(), run)->Unit(benchmark::kMillisecond);
   };
   for (const BenchGame& game : games) {
     for (const View& view : {View{"whole", {}}, View{"half", {1, 1, 9, 9}},

@@ -10,6 +10,7 @@
 #include "import/ini/ini_reader.h"
 #include "import/resources/crunching.h"
 #include "import/resources/resource_strings.h"
+#include "platform/wide_registers.h"
 #include "shell/files.h"
 #include "shell/language_texts.h"
 #include "shell/routine.h"
@@ -198,6 +199,7 @@ ImportResult ImportGame(ErrorLog& log, ImportHost& host, Database& database,
                         const ImportOrder& order, const std::vector<DerivedStage>& stages) {
   Routine routine(log, "OrrerixMain.Command1_Click", "While getting Data from FreeLancer");
   ImportResult result;
+  ClearWideRegisters();
   result.Finished = routine.Run(
       [&] { result.Tables = ImportRun(log, host, database, order, routine).Run(stages); });
   return result;

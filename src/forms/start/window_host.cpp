@@ -7,6 +7,7 @@
 
 #include "forms/controls/form_geometry.h"
 #include "platform/tick_count.h"
+#include "platform/wide_registers.h"
 
 namespace orrerix {
 namespace {
@@ -46,6 +47,7 @@ void WindowHost::ProgressIt(std::int32_t maximum, std::int32_t value,
 
 void WindowHost::Yield() {
   QCoreApplication::processEvents();
+  ClearWideRegisters();
   if (ended_) throw ImportEnded{};
 }
 
