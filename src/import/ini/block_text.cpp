@@ -22,7 +22,16 @@ CommaCut Require(std::string_view text) {
 
 }  // namespace
 
-BlockText::BlockText(std::string_view text) : text_(text), upper_(UpperAscii(text)) {}
+BlockText::BlockText(std::string_view text) : text_(text), upper_(UpperAscii(text)) {
+  constexpr std::size_t mostOfBlocks = 24;
+  signs_.reserve(mostOfBlocks);
+  for (std::size_t sign = text.find('='); sign != std::string_view::npos;
+       sign = text.find('=', sign + 1)) {
+    const bool afterBlank = sign > 1 && text[sign - 1] == ' ';
+    signs_.push_back(sign);
+    keyEnds_.push_back(sign == 0 ? '\0' : upper_[sign - (afterBlank ? 2 : 1)]);
+  }
+}
 
 std::optional<std::size_t> BlockText::Find(std::string_view upperPart) const {
   return FindIn(Upper(), upperPart);
@@ -37,11 +46,17 @@ bool BlockText::StartsWith(std::string_view upperPart) const {
 }
 
 std::string_view BlockText::Value(std::string_view upperKey) const {
-  return FindINIValue(Text(), Upper(), upperKey);
+  INIValueSearch search(Text(), Upper(), upperKey);
+  std::size_t i = keyEnds_.find(upperKey.back(), nextSign_);
+  while (i != std::string::npos && !search.EndsAt(signs_[i] - begin_)) {
+    i = keyEnds_.find(upperKey.back(), i + 1);
+  }
+  return search.Value();
 }
 
 void BlockText::Cut(std::size_t characters) {
   begin_ += std::min(characters, Size());
+  while (nextSign_ < signs_.size() && signs_[nextSign_] < begin_) ++nextSign_;
 }
 
 CommaCut CutAtComma(std::string_view text) {

@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace orrerix {
 
@@ -27,7 +28,8 @@ class BlockText {
   bool Holds(std::string_view upperPart) const { return Find(upperPart).has_value(); }
   bool StartsWith(std::string_view upperPart) const;
 
-  // The value of a key, given in upper case (see ini_text.h for how it is found).
+  // The value of a key, given in upper case and ending in no blank (see ini_text.h for how it is
+  // found).
   std::string_view Value(std::string_view upperKey) const;
 
   // Removes characters from the front, at most all.
@@ -39,6 +41,11 @@ class BlockText {
   std::string_view text_;
   std::string upper_;
   std::size_t begin_ = 0;
+  // Places of all "=" in the whole text, the last letter of the key before each, and which of them
+  // is the first in what is left.
+  std::vector<std::size_t> signs_;
+  std::string keyEnds_;
+  std::size_t nextSign_ = 0;
 };
 
 // The two sides of the first comma. `Found` says whether there is one; without it all is in front.

@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <optional>
 
 #include "db/values/text.h"
 
@@ -72,7 +71,31 @@ void ShrinkBlanksBeforeSigns(std::string& text) {
   text.erase(end, text.end());
 }
 
+// Most texts of one length differ in their last letter already.
+bool EndsWith(std::string_view text, std::string_view end) {
+  if (end.empty()) return true;
+  return text.size() >= end.size() && text.back() == end.back() && text.ends_with(end);
+}
+
 }  // namespace
+
+bool INIValueSearch::EndsAt(std::size_t sign) {
+  const std::string_view before = upperText_.substr(0, sign);
+  if (before.ends_with(' ') && EndsWith(before.substr(0, sign - 1), upperKey_)) {
+    const std::size_t start = sign + 2;
+    value_ = start < text_.size() ? text_.substr(start) : std::string_view();
+    return true;
+  }
+  if (!hasTight_ && EndsWith(before, upperKey_)) {
+    hasTight_ = true;
+    value_ = text_.substr(sign + 1);
+  }
+  return false;
+}
+
+std::string_view INIValueSearch::Value() const {
+  return UpToCarriageReturn(value_);
+}
 
 std::string UpperAscii(std::string_view text) {
   std::string upper(text);
@@ -86,20 +109,11 @@ std::size_t FindText(std::string_view text, std::string_view part) {
 
 std::string_view FindINIValue(std::string_view text, std::string_view upperText,
                               std::string_view upperKey) {
-  std::optional<std::size_t> tight;
-  for (std::size_t from = 0; from < upperText.size();) {
-    const std::size_t found = FindText(upperText.substr(from), upperKey);
-    if (found == std::string_view::npos) break;
-    const std::size_t sign = from + found + upperKey.size();
-    const std::string_view behind = upperText.substr(sign);
-    if (behind.starts_with(" =")) {
-      const std::size_t start = sign + 3;
-      return start < text.size() ? UpToCarriageReturn(text.substr(start)) : std::string_view();
-    }
-    if (!tight && behind.starts_with("=")) tight = sign + 1;
-    from += found + 1;
-  }
-  return tight ? UpToCarriageReturn(text.substr(*tight)) : std::string_view();
+  INIValueSearch search(text, upperText, upperKey);
+  std::size_t sign = upperText.find('=');
+  while (sign != std::string_view::npos && !search.EndsAt(sign))
+    sign = upperText.find('=', sign + 1);
+  return search.Value();
 }
 
 std::string_view GetINIValue(std::string_view text, std::string_view key) {

@@ -17,6 +17,25 @@ std::string_view GetINIValue(std::string_view text, std::string_view key);
 std::string_view FindINIValue(std::string_view text, std::string_view upperText,
                               std::string_view upperKey);
 
+// The same search by one who knows where the "=" stand: they are handed over in their order until
+// the search ends.
+class INIValueSearch {
+ public:
+  INIValueSearch(std::string_view text, std::string_view upperText, std::string_view upperKey)
+      : text_(text), upperText_(upperText), upperKey_(upperKey) {}
+
+  // Looks at one "=". True if no other can give the value.
+  bool EndsAt(std::size_t sign);
+  std::string_view Value() const;
+
+ private:
+  std::string_view text_;
+  std::string_view upperText_;
+  std::string_view upperKey_;
+  std::string_view value_;
+  bool hasTight_ = false;
+};
+
 // ASCII letters in upper case; all other bytes stay.
 std::string UpperAscii(std::string_view text);
 

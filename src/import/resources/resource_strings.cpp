@@ -130,7 +130,7 @@ std::string GetName(Universe& universe, std::int32_t number, std::string_view fa
   routine.Run([&] {
     const auto found = universe.DB.LookUp(routine, "ids_name", "Name", "ID", number);
     name = found ? found->Text() : fmt::format("{}({})", fallback, number);
-    name.resize(Left(name, kLongestName).size());
+    if (name.size() > kLongestName) name.resize(Left(name, kLongestName).size());
   });
   return name;
 }

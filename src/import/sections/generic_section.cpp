@@ -85,9 +85,15 @@ class RowReader {
       constexpr SectionTable::FieldIndex sourceFileName = 0;
       table_.Set(sourceFileName, file_.substr(import_.Game.Text().size()));
     });
-    while (block.find('=') != std::string_view::npos) {
+    for (std::size_t sign = block.find('='); sign != std::string_view::npos;) {
+      const char* const at = block.data() + sign;
       const std::string_view line = TakeLine(block);
-      routine_.Try([&] { ReadLine(line); });
+      if (at >= line.data() + line.size()) {
+        sign = static_cast<std::size_t>(at - block.data());
+        continue;
+      }
+      routine_.Try([&] { ReadLine(line, static_cast<std::size_t>(at - line.data())); });
+      sign = block.find('=');
     }
     if (stored_) {
       routine_.Try([this] { table_.Update(); });
@@ -97,9 +103,7 @@ class RowReader {
   }
 
  private:
-  void ReadLine(std::string_view line) {
-    const std::size_t sign = line.find('=');
-    if (sign == std::string_view::npos) return;
+  void ReadLine(std::string_view line, std::size_t sign) {
     std::string_view key = KeyText(line.substr(0, sign));
     std::string_view value = Trim(line.substr(sign + 1));
     if (key == "shield_mod") SplitShieldMod(key, value);

@@ -80,6 +80,8 @@ bool KnownSections::Read(std::string_view block) {
   constexpr std::size_t longestHeader = 12;
   const std::string start = UpperAscii(block.substr(0, longestHeader));
   for (const Kind& kind : kKinds) {
+    constexpr std::size_t letter = 1;  // most sections are of another kind: one look tells
+    if (start.size() <= letter || start[letter] != kind.Header[letter]) continue;
     if (!start.starts_with(kind.Header)) continue;
     BlockText text(block);
     (this->*kind.Read)(text);

@@ -40,8 +40,9 @@ struct KeyField {
 // assignment is a statement of its own.
 inline void AssignTexts(Recordset& row, const BlockText& block,
                         std::initializer_list<KeyField> keys) {
+  Windows1252Reader reader;
   for (const auto& [key, field] : keys)
-    row[field] = [&, wanted = key] { return TextValue(block, wanted); };
+    row[field] = [&, wanted = key] { return reader.Utf8(block.Value(wanted)); };
 }
 
 inline void AssignNumbers(Recordset& row, const BlockText& block,
