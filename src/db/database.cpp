@@ -189,13 +189,7 @@ Appender Database::OpenAppender(FailureSink& sink, const TableDef& table, std::s
 }
 
 void Database::Execute(FailureSink& sink, std::string_view text,
-                       std::initializer_list<Value> values, ExecuteOption option) {
-  std::string dropping;
-  constexpr std::string_view insert = "INSERT INTO";
-  if (option == ExecuteOption::DropBadRows && text.starts_with(insert)) {
-    dropping = "INSERT OR IGNORE INTO" + std::string(text.substr(insert.size()));
-    text = dropping;
-  }
+                       std::initializer_list<Value> values) {
   Guard(sink, [&] {
     RequireOpen();
     WithStatement(*connection_, text, values, false,

@@ -28,9 +28,6 @@ namespace orrerix {
 
 class Connection;
 
-// What an append query does with a row that breaks a key: drop it silently, or fail.
-enum class ExecuteOption { DropBadRows, FailOnError };
-
 // Owns a connection. Every operation that can fail hands its failure to the sink of the routine it
 // works for, and then has not happened. A closed database fails each operation.
 class Database {
@@ -121,8 +118,7 @@ class Database {
   Appender OpenAppender(FailureSink& sink, const TableDef& table, std::size_t rowCount);
 
   // Runs a statement that gives no rows.
-  void Execute(FailureSink& sink, std::string_view text, std::initializer_list<Value> values = {},
-               ExecuteOption option = ExecuteOption::FailOnError);
+  void Execute(FailureSink& sink, std::string_view text, std::initializer_list<Value> values = {});
 
   // Attaches a second file, out of whose tables those of the same names here can be filled.
   void Attach(FailureSink& sink, const std::filesystem::path& path);
