@@ -256,7 +256,7 @@ StoredTable Database::ReadTable(FailureSink& sink, std::string_view table) const
     std::vector<Value> cells;
     int result = sqlite3_step(rows.get());
     for (; result == SQLITE_ROW; result = sqlite3_step(rows.get())) {
-      for (int i = 0; i < width; ++i) cells.push_back(Column(rows.get(), i));
+      for (int i = 0; i < width; ++i) cells.push_back(HeldRows::ValueOf(Column(rows.get(), i)));
     }
     if (result != SQLITE_DONE) throw connection_->LastFailure();
     read = {*definition, std::move(cells)};

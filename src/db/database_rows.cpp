@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 // Rows of one table, wherever they are: in memory or in the file.
-#include <new>
 #include <numeric>
 #include <utility>
 
@@ -55,23 +54,6 @@ void VisitHeld(const HeldRows& rows, const std::vector<std::size_t>& places,
   }
 }
 
-// A column of the current row; its text is good until the next.
-HeldRows::Cell ColumnCell(sqlite3_stmt* statement, int column) {
-  switch (sqlite3_column_type(statement, column)) {
-    case SQLITE_INTEGER:
-      return sqlite3_column_int64(statement, column);
-    case SQLITE_FLOAT:
-      return sqlite3_column_double(statement, column);
-    case SQLITE_NULL:
-      return Null{};
-    default:
-      break;
-  }
-  const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(statement, column));
-  if (text == nullptr) throw std::bad_alloc();
-  return std::string_view(text, static_cast<std::size_t>(sqlite3_column_bytes(statement, column)));
-}
-
 void VisitStored(Connection& connection, std::string_view table,
                  std::initializer_list<std::string_view> fields,
                  const Database::RowVisitor& visit) {
@@ -88,7 +70,7 @@ void VisitStored(Connection& connection, std::string_view table,
   int result = sqlite3_step(rows.get());
   for (; result == SQLITE_ROW; result = sqlite3_step(rows.get())) {
     for (std::size_t i = 0; i < cells.size(); ++i) {
-      cells[i] = ColumnCell(rows.get(), static_cast<int>(i) + 1);
+      cells[i] = Column(rows.get(), static_cast<int>(i) + 1);
     }
     visit(sqlite3_column_int64(rows.get(), 0), cells);
   }

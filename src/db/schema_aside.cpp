@@ -9,9 +9,10 @@ void SchemaAside::Take(Connection& connection) {
       "SELECT rowid, type, name, tbl_name, rootpage, sql FROM main.sqlite_master ORDER BY rowid");
   std::size_t taken = 0;
   for (; sqlite3_step(rows.get()) == SQLITE_ROW; ++taken) {
-    entries_.push_back({sqlite3_column_int64(rows.get(), 0), Column(rows.get(), 1).Text(),
-                        Column(rows.get(), 2).Text(), Column(rows.get(), 3).Text(),
-                        sqlite3_column_int64(rows.get(), 4), Column(rows.get(), 5)});
+    entries_.push_back({sqlite3_column_int64(rows.get(), 0), ColumnText(rows.get(), 1),
+                        ColumnText(rows.get(), 2), ColumnText(rows.get(), 3),
+                        sqlite3_column_int64(rows.get(), 4),
+                        HeldRows::ValueOf(Column(rows.get(), 5))});
   }
   sqlite3_reset(rows.get());
   // The last row stays: new ones are numbered after it.

@@ -2,6 +2,7 @@
 #include "db/engine/connection.h"
 
 #include <algorithm>
+#include <new>
 #include <utility>
 
 #include <fmt/format.h>
@@ -69,7 +70,7 @@ std::shared_ptr<const TableDef> Connection::Find(std::string_view table) {
               "COLLATE NOCASE"));
   Bind(master.get(), 1, table);
   if (sqlite3_step(master.get()) != SQLITE_ROW) return nullptr;
-  auto definition = ReadDefinition(Column(master.get(), 0).Text(), Column(master.get(), 1).Text());
+  auto definition = ReadDefinition(ColumnText(master.get(), 0), ColumnText(master.get(), 1));
   tables_[key] = definition;
   return definition;
 }
@@ -94,7 +95,7 @@ std::vector<std::shared_ptr<const TableDef>> Connection::FindAll() {
         Prepare("SELECT name, sql FROM sqlite_master WHERE type = 'table' "
                 "AND name NOT LIKE 'sqlite[_]*' ORDER BY rowid"));
     while (sqlite3_step(master.get()) == SQLITE_ROW) {
-      found.emplace_back(Column(master.get(), 0).Text(), Column(master.get(), 1).Text());
+      found.emplace_back(ColumnText(master.get(), 0), ColumnText(master.get(), 1));
     }
   }
   std::vector<std::shared_ptr<const TableDef>> tables;
@@ -113,9 +114,9 @@ std::shared_ptr<const TableDef> Connection::ReadDefinition(const std::string& na
   StatementLoan columns(Prepare("SELECT name, type, dflt_value FROM pragma_table_info(?1)"));
   Bind(columns.get(), 1, name);
   while (sqlite3_step(columns.get()) == SQLITE_ROW) {
-    definition->Fields.push_back(ReadField(Column(columns.get(), 0).Text(),
-                                           Column(columns.get(), 1).Text(),
-                                           Column(columns.get(), 2).Text(), sql));
+    definition->Fields.push_back(ReadField(ColumnText(columns.get(), 0),
+                                           ColumnText(columns.get(), 1),
+                                           ColumnText(columns.get(), 2), sql));
   }
   StatementLoan keys(
       Prepare("SELECT ii.name FROM pragma_index_list(?1) il, pragma_index_info(il.name) ii "
@@ -123,7 +124,7 @@ std::shared_ptr<const TableDef> Connection::ReadDefinition(const std::string& na
   Bind(keys.get(), 1, name);
   while (sqlite3_step(keys.get()) == SQLITE_ROW) {
     if (!definition->PrimaryKey) definition->PrimaryKey = Index{"key", {}, false};
-    definition->PrimaryKey->Fields.push_back(Column(keys.get(), 0).Text());
+    definition->PrimaryKey->Fields.push_back(ColumnText(keys.get(), 0));
   }
   return definition;
 }
@@ -326,16 +327,12 @@ Failure Connection::LastFailure() const {
 }
 
 void Bind(sqlite3_stmt* statement, int parameter, const Value& value, BoundText bound) {
-  if (const std::string* text = value.TextContent()) {
-    sqlite3_bind_text64(statement, parameter, text->data(), text->size(),
-                        bound == BoundText::Copied ? SQLITE_TRANSIENT : SQLITE_STATIC, SQLITE_UTF8);
-  } else if (const std::int64_t* whole = value.Whole()) {
-    sqlite3_bind_int64(statement, parameter, *whole);
-  } else if (const double* real = value.Real()) {
-    sqlite3_bind_double(statement, parameter, *real);
-  } else {
-    sqlite3_bind_null(statement, parameter);
+  const std::string* text = value.TextContent();
+  if (text == nullptr || bound == BoundText::Stays) {
+    return BindCell(statement, parameter, HeldRows::ViewOf(value));
   }
+  sqlite3_bind_text64(statement, parameter, text->data(), text->size(), SQLITE_TRANSIENT,
+                      SQLITE_UTF8);
 }
 
 void BindAll(sqlite3_stmt* statement, const std::vector<Value>& values) {
@@ -344,20 +341,37 @@ void BindAll(sqlite3_stmt* statement, const std::vector<Value>& values) {
   }
 }
 
-Value Column(sqlite3_stmt* statement, int column) {
+void BindCell(sqlite3_stmt* statement, int parameter, const HeldRows::Cell& cell) {
+  if (const auto* text = std::get_if<std::string_view>(&cell)) {
+    sqlite3_bind_text64(statement, parameter, text->data(), text->size(), SQLITE_STATIC,
+                        SQLITE_UTF8);
+  } else if (const auto* whole = std::get_if<std::int64_t>(&cell)) {
+    sqlite3_bind_int64(statement, parameter, *whole);
+  } else if (const auto* real = std::get_if<double>(&cell)) {
+    sqlite3_bind_double(statement, parameter, *real);
+  } else {
+    sqlite3_bind_null(statement, parameter);
+  }
+}
+
+HeldRows::Cell Column(sqlite3_stmt* statement, int column) {
   switch (sqlite3_column_type(statement, column)) {
     case SQLITE_INTEGER:
       return sqlite3_column_int64(statement, column);
     case SQLITE_FLOAT:
       return sqlite3_column_double(statement, column);
     case SQLITE_NULL:
-      return {};
+      return Null{};
     default:
       break;
   }
   const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(statement, column));
-  const auto size = static_cast<std::size_t>(sqlite3_column_bytes(statement, column));
-  return text == nullptr ? Value() : Value(std::string(text, size));
+  if (text == nullptr) throw std::bad_alloc();
+  return std::string_view(text, static_cast<std::size_t>(sqlite3_column_bytes(statement, column)));
+}
+
+std::string ColumnText(sqlite3_stmt* statement, int column) {
+  return HeldRows::ValueOf(Column(statement, column)).TakeText();
 }
 
 }  // namespace orrerix

@@ -154,7 +154,14 @@ void Bind(sqlite3_stmt* statement, int parameter, const Value& value,
           BoundText text = BoundText::Copied);
 void BindAll(sqlite3_stmt* statement, const std::vector<Value>& values);
 
-// A column of the current row, counted from 0.
-Value Column(sqlite3_stmt* statement, int column);
+// The same of one content; its text must outlive the statement's run.
+void BindCell(sqlite3_stmt* statement, int parameter, const HeldRows::Cell& cell);
+
+// A column of the current row, counted from 0; its text is good until the next row. Throws
+// std::bad_alloc if the engine has no memory for it.
+HeldRows::Cell Column(sqlite3_stmt* statement, int column);
+
+// The same as a text of its own: numbers in plain decimal, Null as nothing.
+std::string ColumnText(sqlite3_stmt* statement, int column);
 
 }  // namespace orrerix

@@ -22,6 +22,15 @@ bool IsSameKey(const HeldRows::Cell& a, const HeldRows::Cell& b) {
   return x != nullptr && y != nullptr ? CompareIgnoringCase(*x, *y) == 0 : a == b;
 }
 
+bool IsAscii(std::string_view text) {
+  return AsciiLength(text) == text.size();
+}
+
+// The hash takes care of the case of ASCII letters.
+std::size_t HashOfName(std::string_view text) {
+  return IsAscii(text) ? HashIgnoringCase(text) : HashIgnoringCase(Ucase(text));
+}
+
 }  // namespace
 
 HeldRows::HeldRows(TableDef table) : table_(std::make_shared<TableDef>(std::move(table))) {
@@ -58,11 +67,10 @@ std::size_t HeldRows::HashOfRow(std::size_t row) const {
   return hash;
 }
 
-bool HeldRows::HoldsKey(std::span<const Value> row, std::size_t hash) const {
+bool HeldRows::HoldsKey(std::span<const Cell> row, std::size_t hash) const {
   return keys_.Holds(hash, [&](KeySet::Row other) {
-    return std::all_of(keyFields_.begin(), keyFields_.end(), [&](std::size_t field) {
-      return IsSameKey(Row(other)[field], ViewOf(row[field]));
-    });
+    return std::all_of(keyFields_.begin(), keyFields_.end(),
+                       [&](std::size_t field) { return IsSameKey(Row(other)[field], row[field]); });
   });
 }
 
@@ -95,15 +103,14 @@ bool HeldRows::IsOfKey(std::size_t field) const {
   return std::find(keyFields_.begin(), keyFields_.end(), field) != keyFields_.end();
 }
 
-void HeldRows::Change(std::size_t row, std::span<const Value> values,
-                      const std::vector<bool>& marked) {
+void HeldRows::Change(std::size_t row, std::span<const Cell> values, std::span<const char> marked) {
   const std::span<const Cell> before = Row(row);
   std::vector<Cell> cells(before.begin(), before.end());
   for (std::size_t field = 0; field < cells.size(); ++field) {
-    if (marked[field]) cells[field] = Keep(values[field]);
+    if (marked[field] != 0) cells[field] = Keep(values[field]);
   }
   for (std::size_t field = 0; field < cells.size(); ++field) {
-    if (marked[field]) indexes_.erase(field);
+    if (marked[field] != 0) indexes_.erase(field);
   }
   std::copy(cells.begin(), cells.end(),
             chunks_[row / kRowsOfChunk].begin() +
@@ -114,14 +121,14 @@ HeldRows::FieldIndex& HeldRows::IndexOf(std::size_t field) {
   FieldIndex& index = indexes_[field];
   for (; index.RowsSeen < rowCount_; ++index.RowsSeen) {
     const auto* text = std::get_if<std::string_view>(&Row(index.RowsSeen)[field]);
-    if (text != nullptr) index.Rows.emplace(HashIgnoringCase(Ucase(*text)), index.RowsSeen);
+    if (text != nullptr) index.Rows.emplace(HashOfName(*text), index.RowsSeen);
   }
   return index;
 }
 
 std::vector<std::size_t> HeldRows::RowsNamed(std::size_t field, std::string_view text) {
   std::vector<std::size_t> rows;
-  const auto [first, last] = IndexOf(field).Rows.equal_range(HashIgnoringCase(Ucase(text)));
+  const auto [first, last] = IndexOf(field).Rows.equal_range(HashOfName(text));
   for (auto candidate = first; candidate != last; ++candidate) {
     if (IsNamed(candidate->second, field, text)) rows.push_back(candidate->second);
   }
@@ -131,20 +138,21 @@ std::vector<std::size_t> HeldRows::RowsNamed(std::size_t field, std::string_view
 
 bool HeldRows::IsNamed(std::size_t row, std::size_t field, std::string_view text) const {
   const auto* found = std::get_if<std::string_view>(&Row(row)[field]);
-  return found != nullptr && CompareIgnoringCase(Ucase(*found), Ucase(text)) == 0;
+  if (found == nullptr) return false;
+  if (IsAscii(*found) && IsAscii(text)) return CompareIgnoringCase(*found, text) == 0;
+  return CompareIgnoringCase(Ucase(*found), Ucase(text)) == 0;
 }
 
-HeldRows::Cell HeldRows::Keep(const Value& value) {
-  const Cell cell = ViewOf(value);
+HeldRows::Cell HeldRows::Keep(const Cell& cell) {
   const auto* text = std::get_if<std::string_view>(&cell);
   return text == nullptr ? cell : texts_.Keep(*text);
 }
 
-void HeldRows::Add(std::span<const Value> row) {
+void HeldRows::Add(std::span<const Cell> row) {
   std::size_t hash = 0;
   if (!keyFields_.empty()) {
     keys_.MakeRoom([this](KeySet::Row other) { return HashOfRow(other); });
-    for (const std::size_t field : keyFields_) hash = HashOfKey(hash, ViewOf(row[field]));
+    for (const std::size_t field : keyFields_) hash = HashOfKey(hash, row[field]);
     if (HoldsKey(row, hash)) throw DuplicateKey();
   }
   AddCells(row);
@@ -152,7 +160,7 @@ void HeldRows::Add(std::span<const Value> row) {
   ++rowCount_;
 }
 
-void HeldRows::AddCells(std::span<const Value> row) {
+void HeldRows::AddCells(std::span<const Cell> row) {
   if (chunks_.size() * kRowsOfChunk == rowCount_) {
     std::vector<Cell> chunk;
     chunk.reserve(kRowsOfChunk * row.size());
@@ -161,7 +169,10 @@ void HeldRows::AddCells(std::span<const Value> row) {
   std::vector<Cell>& chunk = chunks_.back();
   const std::size_t before = chunk.size();
   try {
-    for (const Value& value : row) chunk.push_back(Keep(value));
+    chunk.insert(chunk.end(), row.begin(), row.end());
+    for (std::size_t i = before; i < chunk.size(); ++i) {
+      if (auto* text = std::get_if<std::string_view>(&chunk[i])) *text = texts_.Keep(*text);
+    }
   } catch (...) {
     chunk.resize(before);  // no half a row stays
     throw;
@@ -174,15 +185,17 @@ std::span<const HeldRows::Cell> HeldRows::Row(std::size_t row) const {
 }
 
 std::vector<std::size_t> HeldRows::LongestTexts() const {
-  std::vector<std::size_t> longest(table_->Fields.size(), 0);
-  for (std::size_t row = 0; row < rowCount_; ++row) {
-    const std::span<const Cell> cells = Row(row);
-    for (std::size_t field = 0; field < longest.size(); ++field) {
-      if (table_->Fields[field].Type != FieldType::Text) continue;
-      const auto* text = std::get_if<std::string_view>(&cells[field]);
-      // There are no more characters than bytes.
-      if (text != nullptr && text->size() > longest[field]) {
-        longest[field] = std::max(longest[field], Len(*text));
+  const std::size_t fields = table_->Fields.size();
+  std::vector<std::size_t> longest(fields, 0);
+  for (std::size_t field = 0; field < fields; ++field) {
+    if (table_->Fields[field].Type != FieldType::Text) continue;
+    for (const std::vector<Cell>& chunk : chunks_) {
+      for (std::size_t cell = field; cell < chunk.size(); cell += fields) {
+        const auto* text = std::get_if<std::string_view>(&chunk[cell]);
+        // There are no more characters than bytes.
+        if (text != nullptr && text->size() > longest[field]) {
+          longest[field] = std::max(longest[field], Len(*text));
+        }
       }
     }
   }

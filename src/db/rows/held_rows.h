@@ -32,9 +32,9 @@ class HeldRows {
   const TableDef& Definition() const { return *table_; }
   const std::shared_ptr<const TableDef>& SharedDefinition() const { return table_; }
 
-  // Takes a row, one value for each field. Throws 3022 if the key exists. A row whose taking fails,
-  // for lack of memory too, leaves nothing behind.
-  void Add(std::span<const Value> row);
+  // Takes a row, one content for each field, and copies its texts. Throws 3022 if the key exists. A
+  // row whose taking fails, for lack of memory too, leaves nothing behind.
+  void Add(std::span<const Cell> row);
 
   // Whether the table's key is this field alone, its name as the definition has it.
   bool IsKeyedBy(std::string_view field) const;
@@ -48,7 +48,7 @@ class HeldRows {
   bool IsOfKey(std::size_t field) const;
   // Changes the fields of a row that are marked; none of them is of the key. A change that fails
   // for lack of memory has not happened.
-  void Change(std::size_t row, std::span<const Value> values, const std::vector<bool>& marked);
+  void Change(std::size_t row, std::span<const Cell> values, std::span<const char> marked);
 
   // The rows whose text in a field is this one, whatever its case, in their order. The first
   // question about a field makes an index of it.
@@ -65,6 +65,9 @@ class HeldRows {
   // A value with a text of its own.
   static Value ValueOf(const Cell& cell);
 
+  // A view of a value, which must outlive it.
+  static Cell ViewOf(const Value& value);
+
   // Length of the longest text in each Text field, characters; 0 for all other fields.
   std::vector<std::size_t> LongestTexts() const;
 
@@ -76,12 +79,11 @@ class HeldRows {
   };
 
   FieldIndex& IndexOf(std::size_t field);
-  static Cell ViewOf(const Value& value);
   static std::size_t HashOfKey(std::size_t before, const Cell& cell);
   std::size_t HashOfRow(std::size_t row) const;
-  void AddCells(std::span<const Value> row);
-  bool HoldsKey(std::span<const Value> row, std::size_t hash) const;
-  Cell Keep(const Value& value);
+  void AddCells(std::span<const Cell> row);
+  bool HoldsKey(std::span<const Cell> row, std::size_t hash) const;
+  Cell Keep(const Cell& cell);
 
   std::shared_ptr<const TableDef> table_;
   std::vector<std::size_t> keyFields_;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "db/rows/recordset.h"
 
+#include <algorithm>
 #include <cmath>
 #include <new>
 #include <utility>
@@ -57,10 +58,14 @@ std::optional<Failure> FitWhole(Value& value, double lowest, double highest) {
   return std::nullopt;
 }
 
-// Whether FitInto would leave the value alone; said of what is stored most.
+// Whether FitInto would leave a content alone; said of what is stored most.
+bool FitsAsItIs(const Field& field, std::string_view text) {
+  return field.Type == FieldType::Text && !text.empty() && text.size() <= field.Size;
+}
+
 bool FitsAsItIs(const Field& field, const Value& value) {
   if (const std::string* text = value.TextContent()) {
-    return field.Type == FieldType::Text && !text->empty() && text->size() <= field.Size;
+    return FitsAsItIs(field, std::string_view(*text));
   }
   const double* real = value.Real();
   return real != nullptr && field.Type == FieldType::Double && std::isfinite(*real);
@@ -126,22 +131,27 @@ void Recordset::ReadRows(std::shared_ptr<const TableDef> columns, sqlite3_stmt* 
     throw EngineFailure(failure_number::kNoSuchTable, "The rows of this query cannot be edited.");
   }
   editable_ = type == RecordsetType::Dynaset;
+  try {
+    ReadAll(statement);
+  } catch (...) {
+    cells_.clear();
+    rowids_.clear();
+    rowCount_ = 0;
+    throw;
+  }
+}
+
+void Recordset::ReadAll(sqlite3_stmt* statement) {
   const int fields = static_cast<int>(table_->Fields.size());
   int result = sqlite3_step(statement);
   for (; result == SQLITE_ROW; result = sqlite3_step(statement)) {
     for (int i = 0; i < fields && (!editable_ || rowCount_ < kRowsAtATime); ++i) {
-      cells_.push_back(Column(statement, i));
+      cells_.push_back(HeldRows::ValueOf(Column(statement, i)));
     }
     if (editable_) rowids_.push_back(sqlite3_column_int64(statement, fields));
     ++rowCount_;
   }
-  if (result != SQLITE_DONE) {
-    const Failure failure = connection_->LastFailure();
-    cells_.clear();
-    rowids_.clear();
-    rowCount_ = 0;
-    throw failure;
-  }
+  if (result != SQLITE_DONE) throw connection_->LastFailure();
 }
 
 void Recordset::ReadNumbered(std::shared_ptr<const TableDef> table,
@@ -182,7 +192,7 @@ bool Recordset::ReadRow(std::int64_t rowid) {
   if (result == SQLITE_DONE) return false;
   if (result != SQLITE_ROW) throw connection_->LastFailure();
   for (std::size_t i = 0; i < table_->Fields.size(); ++i) {
-    cells_.push_back(Column(row.get(), static_cast<int>(i)));
+    cells_.push_back(HeldRows::ValueOf(Column(row.get(), static_cast<int>(i))));
   }
   return true;
 }
@@ -222,6 +232,9 @@ void Recordset::MoveFirst() {
 
 std::optional<std::size_t> Recordset::FindField(std::string_view name) {
   if (table_ == nullptr) return std::nullopt;
+  if (nextField_ < table_->Fields.size() && table_->Fields[nextField_].Name == name) {
+    return nextField_++;
+  }
   const auto found = table_->Find(name, nextField_);
   if (found) nextField_ = *found + 1;
   return found;
@@ -244,24 +257,40 @@ Value Recordset::Read(std::optional<std::size_t> field) const {
     Fail(NoSuchItem());
     return {};
   }
-  if (editing_ != Editing::None) return edited_[*field];
+  if (editing_ != Editing::None) return HeldRows::ValueOf(edited_[*field]);
   return cells_[(current_ - firstRead_) * table_->Fields.size() + *field];
 }
 
 void Recordset::Assign(std::optional<std::size_t> field, Value& value) {
   if (editing_ == Editing::None) return Fail(NotBeingEdited());
   if (!field) return Fail(NoSuchItem());
-  if (!FitsAsItIs(table_->Fields[*field], value)) {
-    std::optional<Failure> refused;
-    try {
+  std::optional<Failure> refused;
+  try {
+    if (!FitsAsItIs(table_->Fields[*field], value)) {
       refused = FitInto(table_->Fields[*field], table_->Name, value);
-    } catch (const std::bad_alloc&) {
-      refused = RuntimeFailure(failure_number::kOutOfMemory);
     }
-    if (refused) return Fail(*refused);
+    if (!refused) Put(*field, HeldRows::ViewOf(value));
+  } catch (const std::bad_alloc&) {
+    refused = RuntimeFailure(failure_number::kOutOfMemory);
   }
-  edited_[*field] = std::move(value);
-  assigned_[*field] = true;
+  if (refused) Fail(*refused);
+}
+
+void Recordset::Assign(std::optional<std::size_t> field, std::string_view text) {
+  const bool fits = editing_ != Editing::None && field && FitsAsItIs(table_->Fields[*field], text);
+  if (fits) return Put(*field, text);
+  Value value = text;
+  Assign(field, value);
+}
+
+// Takes what fits the field. The field keeps its content if there is no memory.
+void Recordset::Put(std::size_t field, const HeldRows::Cell& cell) {
+  if (const auto* text = std::get_if<std::string_view>(&cell)) {
+    edited_[field] = texts_[field].assign(*text);
+  } else {
+    edited_[field] = cell;
+  }
+  assigned_[field] = 1;
 }
 
 void Recordset::SetFieldText(std::string_view field, std::string_view text) {
@@ -287,43 +316,59 @@ void Recordset::AddNew() {
   if (!editable_) {
     return Fail(EngineFailure(failure_number::kReadOnly, "The recordset is read-only."));
   }
-  const std::size_t fields = table_->Fields.size();
-  editing_ = Editing::None;
-  try {
-    edited_.clear();
-    edited_.resize(fields);
-    assigned_.assign(fields, false);
-  } catch (const std::bad_alloc&) {
-    return Fail(RuntimeFailure(failure_number::kOutOfMemory));
-  }
-  for (std::size_t i = 0; i < fields; ++i) {
-    if (table_->Fields[i].Type == FieldType::Boolean) edited_[i] = 0;
-  }
-  editing_ = Editing::Added;
+  BeginRow(Editing::Added);
 }
 
 void Recordset::Edit() {
   if (AtEnd() || !editable_) return Fail(NoCurrentRecord());
-  const std::size_t fields = table_->Fields.size();
-  const auto row = cells_.begin() + static_cast<std::ptrdiff_t>((current_ - firstRead_) * fields);
+  BeginRow(Editing::Changed);
+}
+
+void Recordset::BeginRow(Editing editing) {
   editing_ = Editing::None;
   try {
-    edited_.assign(row, row + static_cast<std::ptrdiff_t>(fields));
-    assigned_.assign(fields, false);
+    LearnTable();
+    assigned_.assign(blankRow_.size(), 0);
+    if (editing == Editing::Added) edited_ = blankRow_;
+    if (editing == Editing::Changed) TakeUpRow();
   } catch (const std::bad_alloc&) {
     return Fail(RuntimeFailure(failure_number::kOutOfMemory));
   }
-  editing_ = Editing::Changed;
+  nextField_ = 0;
+  editing_ = editing;
+}
+
+void Recordset::LearnTable() {
+  if (texts_.size() == table_->Fields.size()) return;
+  const std::size_t fields = table_->Fields.size();
+  blankRow_.assign(fields, Null{});
+  for (std::size_t i = 0; i < fields; ++i) {
+    if (table_->Fields[i].Type == FieldType::Boolean) blankRow_[i] = std::int64_t{0};
+  }
+  idField_ = table_->UniqueIDField();
+  keyFields_.clear();
+  if (table_->PrimaryKey) {
+    for (const std::string& field : table_->PrimaryKey->Fields) {
+      // A calculated column is no field.
+      if (const auto place = table_->Find(field)) keyFields_.push_back(*place);
+    }
+  }
+  texts_.resize(fields);
+}
+
+// The current row, with texts of its own: the recordset may go on to other rows before it is
+// written.
+void Recordset::TakeUpRow() {
+  const std::size_t first = (current_ - firstRead_) * blankRow_.size();
+  edited_.resize(blankRow_.size());
+  for (std::size_t i = 0; i < edited_.size(); ++i) Put(i, HeldRows::ViewOf(cells_[first + i]));
+  std::fill(assigned_.begin(), assigned_.end(), char{0});
 }
 
 bool Recordset::KeyHoldsNull() const {
-  if (!table_->PrimaryKey) return false;
-  for (const std::string& field : table_->PrimaryKey->Fields) {
-    // A calculated column is no field.
-    const auto place = table_->Find(field);
-    if (place && edited_[*place].IsNull()) return true;
-  }
-  return false;
+  return std::any_of(keyFields_.begin(), keyFields_.end(), [this](std::size_t field) {
+    return std::holds_alternative<Null>(edited_[field]);
+  });
 }
 
 void Recordset::Update() {
@@ -341,9 +386,8 @@ void Recordset::Update() {
 }
 
 void Recordset::Insert() {
-  const auto idField = table_->UniqueIDField();
-  const bool drawsID = idField && !assigned_[*idField];
-  if (!idField || drawsID) {
+  const bool drawsID = idField_ && assigned_[*idField_] == 0;
+  if (!idField_ || drawsID) {
     HeldRows* held = connection_->Held(table_);
     if (held != nullptr && held->RowCount() * edited_.size() >= kMostHeldCells) {
       connection_->WriteHeld();
@@ -351,24 +395,28 @@ void Recordset::Insert() {
     }
     if (held != nullptr) return held->Add(edited_);
   }
-  if (idField) {
+  if (idField_) {
     UniqueNumbers& ids = connection_->UniqueIDs(*table_);
-    if (drawsID) edited_[*idField] = ids.Draw();
-    if (!drawsID) ids.Take(static_cast<std::int64_t>(edited_[*idField].Number()));
+    HeldRows::Cell& id = edited_[*idField_];
+    if (drawsID) id = ids.Draw();
+    if (!drawsID) ids.Take(static_cast<std::int64_t>(HeldRows::ValueOf(id).Number()));
   }
   if (insert_ == nullptr) insert_ = connection_->Prepare(InsertStatement(*table_));
   const StatementLoan insert(insert_);
   for (std::size_t i = 0; i < edited_.size(); ++i) {
-    Bind(insert.get(), static_cast<int>(i) + 1, edited_[i], BoundText::Stays);
+    BindCell(insert.get(), static_cast<int>(i) + 1, edited_[i]);
   }
   if (sqlite3_step(insert.get()) != SQLITE_DONE) throw connection_->LastFailure();
 }
 
 // Only assigned fields are written, so that one edit never undoes another.
 void Recordset::Rewrite() {
+  // Memory first: a row that is written is shown, too.
+  std::vector<Value> shown(edited_.size());
+  std::transform(edited_.begin(), edited_.end(), shown.begin(), HeldRows::ValueOf);
   if (!RewriteHeld()) RewriteStored();
   const std::size_t place = (current_ - firstRead_) * edited_.size();
-  std::move(edited_.begin(), edited_.end(), cells_.begin() + static_cast<std::ptrdiff_t>(place));
+  std::move(shown.begin(), shown.end(), cells_.begin() + static_cast<std::ptrdiff_t>(place));
 }
 
 // False if the table is not in memory, or a field of its key changes.
@@ -376,7 +424,7 @@ bool Recordset::RewriteHeld() {
   HeldRows* held = connection_->Held(table_->Name);
   if (held == nullptr) return false;
   for (std::size_t i = 0; i < assigned_.size(); ++i) {
-    if (assigned_[i] && held->IsOfKey(i)) return false;
+    if (assigned_[i] != 0 && held->IsOfKey(i)) return false;
   }
   held->Change(HeldRows::PlaceOf(rowids_[current_]), edited_, assigned_);
   return true;
@@ -385,7 +433,7 @@ bool Recordset::RewriteHeld() {
 void Recordset::RewriteStored() {
   std::string assignments;
   for (std::size_t i = 0; i < edited_.size(); ++i) {
-    if (!assigned_[i]) continue;
+    if (assigned_[i] == 0) continue;
     if (!assignments.empty()) assignments += ", ";
     assignments += fmt::format("{} = ?{}", QuoteName(table_->Fields[i].Name), i + 1);
   }
@@ -394,7 +442,7 @@ void Recordset::RewriteStored() {
       connection_->Prepare("UPDATE " + QuoteName(table_->Name) + " SET " + assignments +
                            fmt::format(" WHERE _rowid_ = ?{}", edited_.size() + 1)));
   for (std::size_t i = 0; i < edited_.size(); ++i) {
-    if (assigned_[i]) Bind(update.get(), static_cast<int>(i) + 1, edited_[i], BoundText::Stays);
+    if (assigned_[i] != 0) BindCell(update.get(), static_cast<int>(i) + 1, edited_[i]);
   }
   Bind(update.get(), static_cast<int>(edited_.size()) + 1, rowids_[current_]);
   if (sqlite3_step(update.get()) != SQLITE_DONE) throw connection_->LastFailure();

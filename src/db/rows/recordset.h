@@ -9,9 +9,11 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <type_traits>
 #include <vector>
 
 #include "db/failure.h"
+#include "db/rows/held_rows.h"
 #include "db/rows/table_def.h"
 #include "db/values/value.h"
 
@@ -50,10 +52,9 @@ class FieldRef {
 
   // The same for what needs memory to be copied: a text, or another field's content.
   template <typename Text>
-  requires std::convertible_to<Text, std::string_view> &&
-      (!std::same_as<Text, std::string>) const FieldRef&
-      operator=(Text&& text) const {
-    return *this = [&text] { return Value(std::string_view(text)); };
+  requires std::convertible_to<Text, std::string_view>
+  const FieldRef& operator=(Text&& text) const {
+    return *this = [&text] { return std::string_view(text); };
   }
   const FieldRef& operator=(const FieldRef& other) const {
     return *this = [&other] { return other.Get(); };
@@ -114,6 +115,7 @@ class Recordset {
 
   void ReadRows(std::shared_ptr<const TableDef> columns, sqlite3_stmt* statement,
                 RecordsetType type);
+  void ReadAll(sqlite3_stmt* statement);
   void ReadNumbered(std::shared_ptr<const TableDef> table, std::vector<std::int64_t> rowids,
                     RecordsetType type);
   void ReadFrom(std::size_t first, std::size_t count);
@@ -123,9 +125,14 @@ class Recordset {
   Value Read(std::optional<std::size_t> field) const;
   void Fail(const Failure& failure) const;
   void Assign(std::optional<std::size_t> field, Value& value);
+  void Assign(std::optional<std::size_t> field, std::string_view text);
+  void Put(std::size_t field, const HeldRows::Cell& cell);
+  void BeginRow(Editing editing);
+  void TakeUpRow();
   void GrowField(std::size_t field, std::size_t size);
   std::optional<std::size_t> FindField(std::string_view name);
   bool KeyHoldsNull() const;
+  void LearnTable();
   void Insert();
   void Rewrite();
   bool RewriteHeld();
@@ -141,8 +148,14 @@ class Recordset {
   std::size_t rowCount_ = 0;
   std::size_t current_ = 0;
   Editing editing_ = Editing::None;
-  std::vector<Value> edited_;
-  std::vector<bool> assigned_;
+  // The row being edited. Its texts stand in buffers that are used again for the next row.
+  std::vector<HeldRows::Cell> edited_;
+  std::vector<std::string> texts_;
+  std::vector<char> assigned_;  // whether each field was
+  // What the table asks of a row; found out with the first one.
+  std::vector<HeldRows::Cell> blankRow_;
+  std::vector<std::size_t> keyFields_;
+  std::optional<std::size_t> idField_;
   std::size_t nextField_ = 0;  // after the one asked for last: fields are mostly used in order
   sqlite3_stmt* insert_ = nullptr;
 };
@@ -151,8 +164,14 @@ template <std::invocable Step>
 const FieldRef& FieldRef::operator=(const Step& step) const {
   std::optional<Failure> failed;
   try {
-    Value value = step();
-    recordset_.Assign(field_, value);
+    using Result = std::invoke_result_t<const Step&>;
+    if constexpr (std::convertible_to<Result, std::string_view>) {
+      const Result text = step();
+      recordset_.Assign(field_, std::string_view(text));
+    } else {
+      Value value = step();
+      recordset_.Assign(field_, value);
+    }
     return *this;
   } catch (...) {
     failed = CaughtFailure();

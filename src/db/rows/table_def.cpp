@@ -118,7 +118,7 @@ std::string InsertStatement(const TableDef& table, std::size_t rows) {
     const bool isFirst = parameter % fields == 0;
     if (isFirst && parameter > 0) values += "),(";
     if (!values.empty() && values.back() != '(') values += ',';
-    values += fmt::format("?{}", parameter + 1);
+    values += '?';
     if (parameter < fields) columns += (columns.empty() ? "" : ",") + QuoteName(field.Name);
   }
   return "INSERT INTO " + QuoteName(table.Name) + " (" + columns + ") VALUES (" + values + ")";

@@ -64,8 +64,8 @@ std::string CreateStatement(const TableDef& table, std::string_view schema = {})
 // The statement that makes the table's key.
 std::string CreateKeyStatement(const TableDef& table);
 
-// The statement that appends so many rows: parameter ?N is the Nth field of the first, and the
-// parameters of the next row follow.
+// The statement that appends so many rows: parameter N is the Nth field of the first, and the
+// parameters of the next row follow. They have no names, which the engine would keep a list of.
 std::string InsertStatement(const TableDef& table, std::size_t rows = 1);
 
 // Reads back what CreateStatement declared. A type that it never writes counts as Memo.

@@ -35,11 +35,17 @@ TableDef Goods(bool isLate = false) {
           Index{"k", {"base", "good"}, isLate}};
 }
 
+void Add(HeldRows& rows, const std::vector<Value>& row) {
+  std::vector<HeldRows::Cell> cells;
+  for (const Value& value : row) cells.push_back(HeldRows::ViewOf(value));
+  rows.Add(cells);
+}
+
 TEST(HeldRows, GiveBackWhatTheyTookInItsOrder) {
   TableDef table = Goods();
   table.PrimaryKey.reset();
   HeldRows rows(table);
-  for (int i = 0; i < 200; ++i) rows.Add(std::vector<Value>{"a" + std::to_string(i), Value(), i});
+  for (int i = 0; i < 200; ++i) Add(rows, {"a" + std::to_string(i), Value(), i});
 
   ASSERT_EQ(rows.RowCount(), 200u);
   for (std::size_t i = 0; i < 200; ++i) {
@@ -51,18 +57,18 @@ TEST(HeldRows, GiveBackWhatTheyTookInItsOrder) {
 
 TEST(HeldRows, MeasureTheLongestTextInCharacters) {
   HeldRows rows(Goods());
-  rows.Add(std::vector<Value>{"abc", "", 12345});
-  rows.Add(std::vector<Value>{"ÄÖÜÄ", Value(), 1});
+  Add(rows, {"abc", "", 12345});
+  Add(rows, {"ÄÖÜÄ", Value(), 1});
 
   EXPECT_THAT(rows.LongestTexts(), ElementsAre(4u, 0u, 0u));
 }
 
 TEST(HeldRows, RefuseADoubleWhateverItsCaseButNotAShiftedBorder) {
   HeldRows rows(Goods());
-  rows.Add(std::vector<Value>{"base", "water", 1});
-  rows.Add(std::vector<Value>{"basew", "ater", 1});
+  Add(rows, {"base", "water", 1});
+  Add(rows, {"basew", "ater", 1});
 
-  EXPECT_THROW(rows.Add(std::vector<Value>{"BASE", "Water", 2}), Failure);
+  EXPECT_THROW(Add(rows, {"BASE", "Water", 2}), Failure);
   EXPECT_EQ(rows.RowCount(), 2u);
 }
 
@@ -70,18 +76,18 @@ TEST(HeldRows, RefuseADoubleWhateverItsCaseButNotAShiftedBorder) {
 TEST(HeldRows, RefuseWhatTheEnginesOwnKeyWouldRefuse) {
   using namespace std::string_literals;
   HeldRows rows(Goods());
-  rows.Add(std::vector<Value>{"a\0b"s, "x", 1});
+  Add(rows, {"a\0b"s, "x", 1});
 
-  EXPECT_THROW(rows.Add(std::vector<Value>{"a\0c"s, "x", 1}), Failure);
-  EXPECT_NO_THROW(rows.Add(std::vector<Value>{"a\0cd"s, "x", 1}));
+  EXPECT_THROW(Add(rows, {"a\0c"s, "x", 1}), Failure);
+  EXPECT_NO_THROW(Add(rows, {"a\0cd"s, "x", 1}));
 }
 
 TEST(HeldRows, AreFoundByAKeyOfOneField) {
   TableDef table = Goods();
   table.PrimaryKey = Index{"k", {"price"}, false};
   HeldRows rows(table);
-  rows.Add(std::vector<Value>{"base", "water", 12});
-  rows.Add(std::vector<Value>{Value(), "oxygen", 7});
+  Add(rows, {"base", "water", 12});
+  Add(rows, {Value(), "oxygen", 7});
 
   EXPECT_TRUE(rows.IsKeyedBy("price"));
   EXPECT_FALSE(rows.IsKeyedBy("good"));
@@ -275,7 +281,10 @@ TEST_F(HeldTable, CannotBeMadeTwice) {
 }
 
 TEST(HeldRows, ARowThatMemoryLacksForLeavesNothingBehindWhereverItFails) {
-  const std::vector<Value> row = {std::string(100, 'b'), std::string(100, 'g'), 7};
+  const std::string base(100, 'b');
+  const std::string good(100, 'g');
+  const std::vector<HeldRows::Cell> row = {std::string_view(base), std::string_view(good),
+                                           std::int64_t{7}};
   bool failed = true;
   for (int before = 0; failed; ++before) {
     HeldRows rows(Goods());
@@ -291,7 +300,7 @@ TEST(HeldRows, ARowThatMemoryLacksForLeavesNothingBehindWhereverItFails) {
 
     EXPECT_EQ(rows.RowCount(), 0u) << before;
     rows.Add(row);
-    EXPECT_EQ(rows.Content(0, "good"), Value(std::string(100, 'g'))) << before;
+    EXPECT_EQ(rows.Content(0, "good"), Value(good)) << before;
     EXPECT_THROW(rows.Add(row), Failure) << before;
   }
 }

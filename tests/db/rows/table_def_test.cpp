@@ -122,10 +122,10 @@ TEST_F(KeyOfTwoFields, RefusesDoublesWhateverTheirCaseAndNull) {
   EXPECT_EQ(failures.Numbers(), (std::vector<int>{3022, 3058}));
 }
 
-TEST(InsertStatement, NumbersItsParametersRowByRow) {
+TEST(InsertStatement, HasAParameterForEachFieldOfEachRow) {
   const TableDef table{"t", {Of("a", FieldType::Text, true), Of("b", FieldType::Long, true)}, {}};
 
-  EXPECT_EQ(InsertStatement(table, 2), "INSERT INTO \"t\" (\"a\",\"b\") VALUES (?1,?2),(?3,?4)");
+  EXPECT_EQ(InsertStatement(table, 2), "INSERT INTO \"t\" (\"a\",\"b\") VALUES (?,?),(?,?)");
 }
 
 TEST(TableDef, KnowsItsFieldWithAUniqueID) {

@@ -60,7 +60,7 @@ TEST_F(Crunching, WritesRowsThatWereHeldInMemoryInPlaceOfTheirEmptyTable) {
   TableDef table{"goods", {TextField("name")}, Index{"k", {"name"}}};
   db.CreateTable(mustWork, {"goods", {TextField("name")}, {}});
   db.CreateTable(mustWork, {"last", {TextField("name")}, {}});
-  held.emplace_back(table).Add(std::vector<Value>{"water"});
+  held.emplace_back(table).Add(std::vector<HeldRows::Cell>{std::string_view("water")});
 
   Crunch();
 
