@@ -8,7 +8,6 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
-#include <utility>
 #include <variant>
 #include <vector>
 
@@ -23,31 +22,38 @@ namespace {
 
 using Cells = std::span<const HeldRows::Cell>;
 
-// The same for all texts that are equal to the engine: it ignores the case of ASCII letters, and
-// compares texts of one length no further than to a NUL.
-std::string NameKey(std::string_view text) {
-  std::string key = FoldAscii(text);
-  if (const std::size_t end = key.find('\0'); end != std::string::npos) {
-    key.resize(end + 1);
-    key += std::to_string(text.size());
+// Names are one if they are equal to the engine.
+struct NameHash {
+  std::size_t operator()(std::string_view name) const { return HashIgnoringCase(name); }
+};
+struct SameName {
+  bool operator()(std::string_view a, std::string_view b) const {
+    return CompareIgnoringCase(a, b) == 0;
   }
-  return key;
-}
+};
+template <typename T>
+using ByName = std::unordered_map<std::string_view, T, NameHash, SameName>;
 
 const std::string_view* TextIn(const HeldRows::Cell& cell) {
   return std::get_if<std::string_view>(&cell);
 }
 
 std::optional<double> NumberIn(const HeldRows::Cell& cell) {
+  if (const auto* real = std::get_if<double>(&cell)) return *real;
   const Value value = HeldRows::ValueOf(cell);
   return value.IsNull() ? std::nullopt : std::optional(value.Number());
 }
 
-// A number rounded to a whole one, ties to even; Null if it leaves the range between the bounds.
-Value Fitted(std::optional<double> number, double lowest, double highest) {
-  if (!number) return {};
+// A number rounded to a whole one, ties to even; nothing if it leaves the range between the bounds.
+std::optional<std::int64_t> Fitted(std::optional<double> number, double lowest, double highest) {
+  if (!number) return std::nullopt;
   const double whole = RoundToEven(*number);
-  return whole >= lowest && whole <= highest ? Value(static_cast<std::int64_t>(whole)) : Value();
+  if (!(whole >= lowest && whole <= highest)) return std::nullopt;
+  return static_cast<std::int64_t>(whole);
+}
+
+Value WholeOrNull(std::optional<std::int64_t> whole) {
+  return whole ? Value(*whole) : Value();
 }
 
 // Hands on all failures but that of a key which is there already.
@@ -69,29 +75,27 @@ class MarketStage {
   MarketStage(Routine& routine, Database& database) : routine_(routine), db_(database) {}
 
   void Run() {
-    if (!NoteCommodities() || !NoteDocks() || !JoinMarkets()) return;
-    std::stable_sort(prices_.begin(), prices_.end(), [](const Price& a, const Price& b) {
-      return ComesBefore(a.Of->RealName, b.Of->RealName);
-    });
-    Append();
+    if (!NoteCommodities() || !NoteDocks()) return;
+    RankCommodities();
+    if (JoinMarkets()) Append();
   }
 
  private:
   struct Commodity {
     std::optional<double> Price;
     std::optional<std::string_view> RealName;
+    std::size_t Rank = 0;  // by that name, from 0; the same for equal names
   };
   struct Dock {
     std::string_view Nickname;
     std::optional<std::string_view> System;
   };
   struct Price {
-    const Commodity* Of;
     std::string_view Good;
     const Dock* At;
     std::string_view System;
-    Value Amount;
-    Value Sell;
+    std::optional<std::int64_t> Amount;
+    std::optional<std::int64_t> Sell;
   };
 
   // Null comes first.
@@ -113,19 +117,35 @@ class MarketStage {
           const std::string_view* nickname = TextIn(good[1]);
           if (category == nullptr || !EqualIgnoringCase(*category, "commodity")) return;
           if (nickname == nullptr) return;
-          commodities_.emplace(NameKey(*nickname), Commodity{NumberIn(good[2]), Kept(good[3])});
+          commodities_.emplace(texts_.Keep(*nickname), Commodity{NumberIn(good[2]), Kept(good[3])});
         });
   }
 
   bool NoteDocks() {
-    return db_.VisitRows(
-        routine_, "Objects", {"dock_with", "nickname", "sys_nick"},
-        [this](std::int64_t, Cells object) {
-          const std::string_view* base = TextIn(object[0]);
-          const std::string_view* nickname = TextIn(object[1]);
-          if (base == nullptr || nickname == nullptr || nickname->empty()) return;
-          docks_[NameKey(*base)].push_back({texts_.Keep(*nickname), Kept(object[2])});
-        });
+    return db_.VisitRows(routine_, "Objects", {"dock_with", "nickname", "sys_nick"},
+                         [this](std::int64_t, Cells object) {
+                           const std::string_view* base = TextIn(object[0]);
+                           const std::string_view* nickname = TextIn(object[1]);
+                           if (base == nullptr || nickname == nullptr || nickname->empty()) return;
+                           auto docks = docks_.find(*base);
+                           if (docks == docks_.end())
+                             docks = docks_.try_emplace(texts_.Keep(*base)).first;
+                           docks->second.push_back({texts_.Keep(*nickname), Kept(object[2])});
+                         });
+  }
+
+  void RankCommodities() {
+    std::vector<Commodity*> sorted;
+    for (auto& [name, commodity] : commodities_) sorted.push_back(&commodity);
+    std::sort(sorted.begin(), sorted.end(), [](const Commodity* a, const Commodity* b) {
+      return ComesBefore(a->RealName, b->RealName);
+    });
+    std::size_t rank = 0;
+    for (std::size_t i = 0; i < sorted.size(); ++i) {
+      if (i > 0 && ComesBefore(sorted[i - 1]->RealName, sorted[i]->RealName)) ++rank;
+      sorted[i]->Rank = rank;
+    }
+    pricesOfRank_.resize(rank + 1);
   }
 
   bool JoinMarkets() {
@@ -138,9 +158,9 @@ class MarketStage {
     const std::string_view* good = TextIn(market[1]);
     if (base == nullptr || good == nullptr) return;
     // Most lines are not about commodities.
-    const auto commodity = commodities_.find(NameKey(*good));
+    const auto commodity = commodities_.find(*good);
     if (commodity == commodities_.end()) return;
-    const auto docks = docks_.find(NameKey(*base));
+    const auto docks = docks_.find(*base);
     if (docks == docks_.end()) return;
     const std::string_view kept = texts_.Keep(*good);
     for (const Dock& dock : docks->second) AddPrice(market, commodity->second, kept, dock);
@@ -154,30 +174,35 @@ class MarketStage {
         commodity.Price && val6 ? std::optional(*commodity.Price * *val6) : std::nullopt;
     const std::string_view system =
         dock.System ? *dock.System : texts_.Keep(Left(*TextIn(market[0]), systemInBase));
-    prices_.push_back({&commodity, good, &dock, system, Fitted(price, -2147483648.0, 2147483647.0),
-                       Fitted(val5 ? std::optional(1 + *val5) : std::nullopt, 0, 255)});
+    pricesOfRank_[commodity.Rank].push_back(
+        {good, &dock, system, Fitted(price, -2147483648.0, 2147483647.0),
+         Fitted(val5 ? std::optional(1 + *val5) : std::nullopt, 0, 255)});
   }
 
   void Append() {
     DropDoubles sink(routine_);
     Recordset rows = db_.OpenTable(sink, "BaseGoodPrices");
-    for (Price& price : prices_) {
-      rows.AddNew();
-      rows["SysNick"] = price.System;
-      rows["BaseNick"] = price.At->Nickname;
-      rows["GoodNick"] = price.Good;
-      rows["Price"] = std::move(price.Amount);
-      rows["Sell"] = std::move(price.Sell);
-      rows.Update();
+    for (const std::vector<Price>& prices : pricesOfRank_) {
+      for (const Price& price : prices) AppendPrice(rows, price);
     }
+  }
+
+  static void AppendPrice(Recordset& rows, const Price& price) {
+    rows.AddNew();
+    rows["SysNick"] = price.System;
+    rows["BaseNick"] = price.At->Nickname;
+    rows["GoodNick"] = price.Good;
+    rows["Price"] = WholeOrNull(price.Amount);
+    rows["Sell"] = WholeOrNull(price.Sell);
+    rows.Update();
   }
 
   Routine& routine_;
   Database& db_;
   TextStore texts_;
-  std::unordered_map<std::string, Commodity> commodities_;
-  std::unordered_map<std::string, std::vector<Dock>> docks_;
-  std::vector<Price> prices_;
+  ByName<Commodity> commodities_;
+  ByName<std::vector<Dock>> docks_;
+  std::vector<std::vector<Price>> pricesOfRank_;  // each in the order of the market lines
 };
 
 class PriceStage {

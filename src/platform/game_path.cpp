@@ -16,14 +16,14 @@ namespace {
 // More than any real path has.
 constexpr std::size_t kMostComponents = 4096;
 
-char LowerAscii(char c) {
+char FoldedLetter(char c) {
   return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c;
 }
 
-bool EqualIgnoringCase(std::string_view a, std::string_view b) {
-  return a.size() == b.size() && std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) {
-           return LowerAscii(x) == LowerAscii(y);
-         });
+std::string Folded(std::string_view name) {
+  std::string folded(name);
+  std::transform(folded.begin(), folded.end(), folded.begin(), FoldedLetter);
+  return folded;
 }
 
 std::vector<std::string> Components(std::string_view path) {
@@ -43,26 +43,14 @@ bool NamesDevice(std::string_view name) {
   constexpr std::array<std::string_view, 6> devices = {"con", "prn",    "aux",
                                                        "nul", "conin$", "conout$"};
   constexpr std::array<std::string_view, 2> ports = {"com", "lpt"};
-  std::string_view base = name.substr(0, name.find('.'));
-  base = base.substr(0, base.find_last_not_of(' ') + 1);
-  const auto isBase = [&](std::string_view device) { return EqualIgnoringCase(base, device); };
+  std::string base = Folded(name.substr(0, name.find('.')));
+  base.erase(base.find_last_not_of(' ') + 1);
+  const auto isBase = [&](std::string_view device) { return base == device; };
   if (std::any_of(devices.begin(), devices.end(), isBase)) return true;
   // The number has one character: a digit, or one raised, which UTF-8 writes in two bytes.
   if (base.size() != 4 && base.size() != 5) return false;
-  base = base.substr(0, 3);
+  base.resize(3);
   return std::any_of(ports.begin(), ports.end(), isBase);
-}
-
-// The names in a folder in byte order.
-std::vector<std::string> NamesIn(const fs::path& folder) {
-  std::vector<std::string> names;
-  std::error_code error;
-  for (fs::directory_iterator entry(folder, error), end; !error && entry != end;
-       entry.increment(error)) {
-    names.push_back(TextOf(entry->path().filename()));
-  }
-  std::sort(names.begin(), names.end());
-  return names;
 }
 
 // Walks down the components of a path; `accept` says whether what is found will do. Where several
@@ -147,13 +135,27 @@ bool IsFolder(const fs::path& path) {
 
 }  // namespace
 
+std::vector<FolderListings::Name> FolderListings::NamesIn(const fs::path& folder) {
+  std::vector<Name> names;
+  std::error_code error;
+  for (fs::directory_iterator entry(folder, error), end; !error && entry != end;
+       entry.increment(error)) {
+    std::string name = TextOf(entry->path().filename());
+    names.push_back({Folded(name), std::move(name)});
+  }
+  std::sort(names.begin(), names.end());
+  return names;
+}
+
 std::vector<fs::path> FolderListings::OtherSpellings(const fs::path& folder,
                                                      std::string_view name) {
-  auto known = names_.find(folder);
-  if (known == names_.end()) known = names_.emplace(folder, NamesIn(folder)).first;
+  auto known = names_.find(folder.native());
+  if (known == names_.end()) known = names_.emplace(folder.native(), NamesIn(folder)).first;
+  const Name first{Folded(name), ""};
   std::vector<fs::path> others;
-  for (const std::string& other : known->second) {
-    if (other != name && EqualIgnoringCase(other, name)) others.push_back(folder / PathOf(other));
+  for (auto other = std::lower_bound(known->second.begin(), known->second.end(), first);
+       other != known->second.end() && other->Folded == first.Folded; ++other) {
+    if (other->AsItIs != name) others.push_back(folder / PathOf(other->AsItIs));
   }
   return others;
 }

@@ -2,12 +2,13 @@
 // From the game's own paths to real ones.
 #pragma once
 
+#include <compare>
 #include <filesystem>
 #include <fstream>
-#include <map>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 namespace orrerix {
@@ -25,7 +26,16 @@ class FolderListings {
                                                     std::string_view name);
 
  private:
-  std::map<std::filesystem::path, std::vector<std::string>> names_;
+  struct Name {
+    std::string Folded;  // in lower case
+    std::string AsItIs;
+    auto operator<=>(const Name&) const = default;
+  };
+
+  static std::vector<Name> NamesIn(const std::filesystem::path& folder);
+
+  // Sorted, by their folders.
+  std::unordered_map<std::filesystem::path::string_type, std::vector<Name>> names_;
 };
 
 // The folder of an installed game. Inside the program a path is the text of this folder followed by

@@ -61,12 +61,6 @@ std::size_t HeldRows::HashOfKey(std::size_t before, const Cell& cell) {
   return static_cast<std::size_t>(hash ^ hash >> 32);
 }
 
-std::size_t HeldRows::HashOfRow(std::size_t row) const {
-  std::size_t hash = 0;
-  for (const std::size_t field : keyFields_) hash = HashOfKey(hash, Row(row)[field]);
-  return hash;
-}
-
 bool HeldRows::HoldsKey(std::span<const Cell> row, std::size_t hash) const {
   return keys_.Holds(hash, [&](KeySet::Row other) {
     return std::all_of(keyFields_.begin(), keyFields_.end(),
@@ -151,7 +145,7 @@ HeldRows::Cell HeldRows::Keep(const Cell& cell) {
 void HeldRows::Add(std::span<const Cell> row) {
   std::size_t hash = 0;
   if (!keyFields_.empty()) {
-    keys_.MakeRoom([this](KeySet::Row other) { return HashOfRow(other); });
+    keys_.MakeRoom();
     for (const std::size_t field : keyFields_) hash = HashOfKey(hash, row[field]);
     if (HoldsKey(row, hash)) throw DuplicateKey();
   }

@@ -80,7 +80,6 @@ class HeldRows {
 
   FieldIndex& IndexOf(std::size_t field);
   static std::size_t HashOfKey(std::size_t before, const Cell& cell);
-  std::size_t HashOfRow(std::size_t row) const;
   void AddCells(std::span<const Cell> row);
   bool HoldsKey(std::span<const Cell> row, std::size_t hash) const;
   Cell Keep(const Cell& cell);

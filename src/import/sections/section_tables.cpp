@@ -73,7 +73,7 @@ std::optional<std::string_view> SectionTable::KeyOf(const Row& row) const {
 
 // Whether a row has this key. There is room for one more afterwards.
 bool SectionTable::HoldsKey(std::string_view key) {
-  keys_.MakeRoom([this](KeySet::Row row) { return HashIgnoringCase(*KeyOf(rows_[row])); });
+  keys_.MakeRoom();
   return keys_.Holds(HashIgnoringCase(key),
                      [&](KeySet::Row row) { return EqualIgnoringCase(*KeyOf(rows_[row]), key); });
 }

@@ -13,7 +13,7 @@ class KeySetOfNumbers : public ::testing::Test {
   static constexpr std::size_t kHash = 15;
 
   void Put(KeySet::Row row) {
-    keys.MakeRoom([](KeySet::Row) { return kHash; });
+    keys.MakeRoom();
     keys.Put(row, kHash);
   }
   bool Holds(KeySet::Row row) const {
