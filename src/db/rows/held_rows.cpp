@@ -181,11 +181,14 @@ std::span<const HeldRows::Cell> HeldRows::Row(std::size_t row) const {
 std::vector<std::size_t> HeldRows::LongestTexts() const {
   const std::size_t fields = table_->Fields.size();
   std::vector<std::size_t> longest(fields, 0);
+  std::vector<std::size_t> ofTexts;
   for (std::size_t field = 0; field < fields; ++field) {
-    if (table_->Fields[field].Type != FieldType::Text) continue;
-    for (const std::vector<Cell>& chunk : chunks_) {
-      for (std::size_t cell = field; cell < chunk.size(); cell += fields) {
-        const auto* text = std::get_if<std::string_view>(&chunk[cell]);
+    if (table_->Fields[field].Type == FieldType::Text) ofTexts.push_back(field);
+  }
+  for (const std::vector<Cell>& chunk : chunks_) {
+    for (std::size_t row = 0; row < chunk.size(); row += fields) {
+      for (const std::size_t field : ofTexts) {
+        const auto* text = std::get_if<std::string_view>(&chunk[row + field]);
         // There are no more characters than bytes.
         if (text != nullptr && text->size() > longest[field]) {
           longest[field] = std::max(longest[field], Len(*text));

@@ -60,7 +60,9 @@ std::optional<Failure> FitWhole(Value& value, double lowest, double highest) {
 
 // Whether FitInto would leave a content alone; said of what is stored most.
 bool FitsAsItIs(const Field& field, std::string_view text) {
-  return field.Type == FieldType::Text && !text.empty() && text.size() <= field.Size;
+  if (text.empty()) return false;
+  return field.Type == FieldType::Memo ||
+         (field.Type == FieldType::Text && text.size() <= field.Size);
 }
 
 bool FitsAsItIs(const Field& field, const Value& value) {
@@ -280,6 +282,14 @@ void Recordset::Assign(std::optional<std::size_t> field, std::string_view text) 
   const bool fits = editing_ != Editing::None && field && FitsAsItIs(table_->Fields[*field], text);
   if (fits) return Put(*field, text);
   Value value = text;
+  Assign(field, value);
+}
+
+void Recordset::Assign(std::optional<std::size_t> field, double number) {
+  const bool fits = editing_ != Editing::None && field &&
+                    table_->Fields[*field].Type == FieldType::Double && std::isfinite(number);
+  if (fits) return Put(*field, number);
+  Value value = number;
   Assign(field, value);
 }
 

@@ -46,6 +46,9 @@ class FieldRef {
   // keeps its content. A real number in an integer field is rounded, ties to even.
   const FieldRef& operator=(Value value) const;
 
+  template <std::same_as<double> Number>
+  const FieldRef& operator=(Number number) const;
+
   // Assigns what a step returns. What the step throws is the assignment's failure.
   template <std::invocable Step>
   const FieldRef& operator=(const Step& step) const;
@@ -126,6 +129,7 @@ class Recordset {
   void Fail(const Failure& failure) const;
   void Assign(std::optional<std::size_t> field, Value& value);
   void Assign(std::optional<std::size_t> field, std::string_view text);
+  void Assign(std::optional<std::size_t> field, double number);
   void Put(std::size_t field, const HeldRows::Cell& cell);
   void BeginRow(Editing editing);
   void TakeUpRow();
@@ -159,6 +163,12 @@ class Recordset {
   std::size_t nextField_ = 0;  // after the one asked for last: fields are mostly used in order
   sqlite3_stmt* insert_ = nullptr;
 };
+
+template <std::same_as<double> Number>
+const FieldRef& FieldRef::operator=(Number number) const {
+  recordset_.Assign(field_, number);
+  return *this;
+}
 
 template <std::invocable Step>
 const FieldRef& FieldRef::operator=(const Step& step) const {

@@ -2,7 +2,6 @@
 #include "import/ini/ini_reader.h"
 
 #include <algorithm>
-#include <fstream>
 #include <optional>
 
 #include <fmt/format.h>
@@ -13,6 +12,7 @@
 #include "import/resources/windows1252.h"
 #include "import/sections/generic_section.h"
 #include "import/sections/known_sections.h"
+#include "import/whole_file.h"
 #include "platform/tick_count.h"
 #include "shell/language_texts.h"
 
@@ -24,25 +24,23 @@ Failure CannotRead(const std::string& file, std::string_view why) {
           fmt::format("Path/File access error: {} ({})", file, why)};
 }
 
-std::string ReadBytes(std::ifstream& stream, const std::string& file) {
-  std::string bytes;
-  if (stream.seekg(0, std::ios::end)) {
-    bytes.resize(static_cast<std::size_t>(std::max<std::streamoff>(0, stream.tellg())));
-    stream.seekg(0);
-    stream.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+// A file's text, unpacked if it is packed.
+class FileText {
+ public:
+  FileText(std::ifstream& stream, const std::string& file) : bytes_(WholeFile::Read(stream)) {
+    if (!bytes_) throw CannotRead(file, "it cannot be read");
+    if (!IsPackedIni(bytes_->Bytes())) return;
+    unpacked_ = UnpackIni(bytes_->Bytes());
+    if (!unpacked_) throw CannotRead(file, "this packed file is damaged");
+    bytes_.reset();
   }
-  if (!stream) throw CannotRead(file, "it cannot be read");
-  return bytes;
-}
 
-// The file's text, unpacked if it is packed.
-std::string ReadText(std::ifstream& stream, const std::string& file) {
-  std::string bytes = ReadBytes(stream, file);
-  if (!IsPackedIni(bytes)) return bytes;
-  auto text = UnpackIni(bytes);
-  if (!text) throw CannotRead(file, "this packed file is damaged");
-  return std::move(*text);
-}
+  std::string_view Text() const { return bytes_ ? bytes_->Bytes() : std::string_view(*unpacked_); }
+
+ private:
+  std::optional<WholeFile> bytes_;
+  std::optional<std::string> unpacked_;
+};
 
 // One call of the reader on a file's text.
 class Reader {
@@ -114,8 +112,9 @@ void ReadINI(Import& import, const std::string& file, const std::string& systemN
       import.Target.Log.AddErrorLine("Cant find file: [" + file + "]");
       return;
     }
-    std::string text;
-    if (!routine.Try([&] { text = ReadText(*stream, file); })) return;
+    std::optional<FileText> read;
+    if (!routine.Try([&] { read.emplace(*stream, file); })) return;
+    const std::string_view text = read->Text();
     if (text.empty()) return;
     Reader(import, routine, file, systemNickname).Read(text);
   });

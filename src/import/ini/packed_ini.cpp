@@ -58,8 +58,10 @@ std::string RealText(float real) {
   const std::size_t e = scientific.find('e');
   std::string digits(scientific.substr(0, e));
   std::erase(digits, '.');
+  int exponent = 0;
+  std::from_chars(scientific.data() + e + 2, scientific.data() + scientific.size(), exponent);
   // The point stands after `whole` digits.
-  const int whole = std::stoi(std::string(scientific.substr(e + 1))) + 1;
+  const int whole = (scientific[e + 1] == '-' ? -exponent : exponent) + 1;
   if (whole <= 0) {
     digits.insert(0, "0." + std::string(static_cast<std::size_t>(-whole), '0'));
   } else if (static_cast<std::size_t>(whole) >= digits.size()) {
@@ -70,14 +72,18 @@ std::string RealText(float real) {
   return std::signbit(real) ? "-" + digits : digits;
 }
 
-std::string ValueText(std::uint32_t type, std::uint32_t data, std::string_view table) {
+void AppendValue(std::string& text, std::uint32_t type, std::uint32_t data,
+                 std::string_view table) {
   switch (type) {
     case 1:
-      return std::to_string(static_cast<std::int32_t>(data));
+      text += std::to_string(static_cast<std::int32_t>(data));
+      return;
     case 2:
-      return RealText(std::bit_cast<float>(data));
+      text += RealText(std::bit_cast<float>(data));
+      return;
     case 3:
-      return std::string(TextAt(table, data));
+      text += TextAt(table, data);
+      return;
     default:
       throw Damaged{};
   }
@@ -90,7 +96,7 @@ void UnpackEntry(ByteReader& reader, std::string_view table, std::string& text) 
   for (std::uint32_t i = 0; i < values; ++i) {
     if (i > 0) text += ", ";
     const std::uint32_t type = reader.Take(1);
-    text += ValueText(type, reader.Take(4), table);
+    AppendValue(text, type, reader.Take(4), table);
   }
   text += "\r\n";
   if (text.size() > kMostText) throw Damaged{};

@@ -119,7 +119,7 @@ class ResourceTree {
       if (typed.Number != type) continue;
       for (const Entry& numbered : NumericEntries(numbers)) {
         const auto data = LeafData(PreferredLeaf(DirectoryOffset(numbered)));
-        if (data) found.emplace(numbered.Number, *data);
+        if (data) found.emplace_hint(found.end(), numbered.Number, *data);
       }
     }
     return found;
@@ -260,7 +260,8 @@ std::map<std::uint32_t, std::string> ResourceLibrary::Strings() const {
     for (std::uint32_t i = 0; i < kStringsInBlock; ++i) {
       const std::uint32_t number = (name - 1) * kStringsInBlock + i;
       const std::string_view utf16 = StringInBlock(block, i);
-      if (number > 0 && !utf16.empty()) strings.emplace(number, AsSystemText(utf16));
+      if (number == 0 || utf16.empty()) continue;
+      strings.emplace_hint(strings.end(), number, AsSystemText(utf16));
     }
   }
   return strings;

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "import/resources/resource_strings.h"
 
-#include <fstream>
 #include <optional>
 
 #include <fmt/format.h>
@@ -10,6 +9,7 @@
 #include "import/resources/info_card.h"
 #include "import/resources/resource_library.h"
 #include "import/resources/windows1252.h"
+#include "import/whole_file.h"
 #include "platform/tick_count.h"
 #include "shell/language_texts.h"
 #include "shell/routine.h"
@@ -23,15 +23,9 @@ constexpr std::size_t kLongestName = 255;
 // Libraries are below 2 GiB; a larger file is none.
 constexpr std::streamoff kLargestLibrary = 0x7FFFFFFF;
 
-std::optional<std::string> ReadBytes(const GameFolder& game, const std::string& path) {
+std::optional<WholeFile> ReadLibraryFile(const GameFolder& game, const std::string& path) {
   auto stream = game.OpenFile(path);
-  if (!stream || !stream->seekg(0, std::ios::end)) return std::nullopt;
-  const std::streamoff size = stream->tellg();
-  if (size < 0 || size > kLargestLibrary) return std::nullopt;
-  std::string bytes(static_cast<std::size_t>(size), '\0');
-  stream->seekg(0);
-  stream->read(bytes.data(), static_cast<std::streamsize>(size));
-  return *stream ? std::optional(std::move(bytes)) : std::nullopt;
+  return stream ? WholeFile::Read(*stream, kLargestLibrary) : std::nullopt;
 }
 
 std::string BareFileName(std::string_view path) {
@@ -110,8 +104,8 @@ void ReadHTML_STRData(Import& import, const std::string& path, std::int32_t offs
   Routine routine(import.Target.Log, "OrrerixMain.ReadHTML_STRData",
                   "While reading dynamic linked DLL-Data");
   routine.Run([&] {
-    const auto bytes = ReadBytes(import.Game, path);
-    const auto library = bytes ? ResourceLibrary::Open(*bytes) : std::nullopt;
+    const auto file = ReadLibraryFile(import.Game, path);
+    const auto library = file ? ResourceLibrary::Open(file->Bytes()) : std::nullopt;
     if (!library) {
       import.Host.Show({FormatIn(import.Host.Speech(), TextId::LibraryLinkError, path),
                         "FL Orrerix", MessageButtons::Ok, MessageIcon::Exclamation});

@@ -70,10 +70,10 @@ void KnownSections::ReadAddons(BlockText block, const std::string& package) {
     block.Cut(block.Find("ADDON").value_or(0));
     packages_["PackageName"] = package;
     const CommaCut name = CutAtComma(value);
-    packages_["NickName"] = [&] { return Text(Trim(name.Before)); };
+    packages_["NickName"] = [&] { return reader_.Utf8(Trim(name.Before)); };
     if (name.Found) {
       const CommaCut hardpoint = CutAtComma(name.After);
-      packages_["HardPoint"] = [&] { return Text(Trim(hardpoint.Before)); };
+      packages_["HardPoint"] = [&] { return reader_.Utf8(Trim(hardpoint.Before)); };
       if (hardpoint.Found) packages_["Val"] = Val(hardpoint.After);
     }
     block.Cut(value.size() + keyAndSign);
@@ -91,7 +91,7 @@ void KnownSections::ReadBaseGood(BlockText& block) {
     routine_.AddNew(baseGoods_, RetryState::BaseGoods);
     baseGoods_["Base"] = base;
     const CommaCut good = CutAtComma(value);
-    baseGoods_["GoodNick"] = [&] { return Text(Trim(good.Before)); };
+    baseGoods_["GoodNick"] = [&] { return reader_.Utf8(Trim(good.Before)); };
     std::string_view rest = good.After;
     for (const char* field : {"val1", "val2", "val3", "val4", "val5", "val6"}) {
       baseGoods_[field] = good.Found ? Val(rest) : 0.0;

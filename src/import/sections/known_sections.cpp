@@ -138,7 +138,7 @@ void KnownSections::ReadResources(BlockText& block) {
     block.Cut(*place);
     const std::string_view value = block.Value("DLL");
     block.Cut(value.size());
-    resources["DLL"] = [&] { return Text(Trim(value.substr(0, value.find(';')))); };
+    resources["DLL"] = [&] { return reader_.Utf8(Trim(value.substr(0, value.find(';')))); };
     resources.Update();
     if (value.empty()) return;  // nothing was cut: the same line would come for ever
   }
@@ -176,8 +176,8 @@ void KnownSections::ReadDataLine(Recordset& dataFiles, std::string_view line) {
   }
   if (!routine_.Or(false, [&] { return IsReadKind(key); })) return;
   routine_.AddNew(dataFiles, RetryState::DataFiles);
-  dataFiles["type"] = [&] { return Text(key); };
-  dataFiles["pathfile"] = [&] { return Text(value); };
+  dataFiles["type"] = [&] { return reader_.Utf8(key); };
+  dataFiles["pathfile"] = [&] { return reader_.Utf8(value); };
   dataFiles.Update();
   import_.AddSteps(routine_, 1);
 }
@@ -199,7 +199,7 @@ void KnownSections::ReadNPC(BlockText& block) {
     npcs_["NickName"] = nickname;
     npcs_["individual_name"] = individualName;
     npcs_["affiliation"] = affiliation;
-    npcs_["bribe"] = [&] { return Text(Trim(RequireBeforeComma(value))); };
+    npcs_["bribe"] = [&] { return reader_.Utf8(Trim(RequireBeforeComma(value))); };
     const auto numbers = ThreeNumbers(value);
     npcs_["bribe_2"] = numbers[1];
     npcs_["bribe_3"] = numbers[2];

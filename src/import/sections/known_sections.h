@@ -7,6 +7,7 @@
 
 #include "import/ini/block_text.h"
 #include "import/ini/reader_routine.h"
+#include "import/resources/windows1252.h"
 
 namespace orrerix {
 
@@ -43,6 +44,7 @@ class KnownSections {
   ReaderRoutine& routine_;
   std::string systemNickname_;
   std::string lastBase_;
+  Windows1252Reader reader_;
   Recordset commodity_;
   Recordset objects_;
   Recordset goods_;

@@ -53,9 +53,11 @@ void KnownSections::ReadHardpoints(BlockText block, const std::string& ship) {
     routine_.Try([&] { routine_.SetCurrentLine(value); });
     routine_.AddNew(hardpoints_, RetryState::Ships_Hardpoints);
     hardpoints_["NickName"] = ship;
-    hardpoints_["EquipType"] = [&] { return Text(Trim(RequireBeforeComma(value))); };
+    hardpoints_["EquipType"] = [&] { return reader_.Utf8(Trim(RequireBeforeComma(value))); };
     const CommaCut cut = CutAtComma(value);
-    hardpoints_["HardPoints"] = [&] { return Text(Trim(cut.Found ? cut.After : cut.Before)); };
+    hardpoints_["HardPoints"] = [&] {
+      return reader_.Utf8(Trim(cut.Found ? cut.After : cut.Before));
+    };
     hardpoints_.Update();
     block.Cut(value.size() + key.size());
   }
@@ -73,7 +75,7 @@ void KnownSections::ReadLoadout(BlockText& block) {
     routine_.AddNew(loadoutCargo_, RetryState::Loadout_Cargo_Cargo);
     loadoutCargo_["NickName"] = nickname;
     const CommaCut value = CutAtComma(block.Value("CARGO"));
-    loadoutCargo_["Cargo"] = [&] { return Text(Trim(value.Before)); };
+    loadoutCargo_["Cargo"] = [&] { return reader_.Utf8(Trim(value.Before)); };
     if (value.Found) loadoutCargo_["Count"] = Val(value.After);
     loadoutCargo_.Update();
     block.Cut(place ? *place + cargo.size() : *block.Find(cargoTight) + cargoTight.size());
@@ -81,7 +83,9 @@ void KnownSections::ReadLoadout(BlockText& block) {
   for (auto place = copy.Find(equip); place || copy.Holds(equipTight); place = copy.Find(equip)) {
     routine_.AddNew(loadoutCargo_, RetryState::Loadout_Cargo_Equip);
     loadoutCargo_["NickName"] = nickname;
-    loadoutCargo_["Cargo"] = [&] { return Text(Trim(CutAtComma(copy.Value("EQUIP")).Before)); };
+    loadoutCargo_["Cargo"] = [&] {
+      return reader_.Utf8(Trim(CutAtComma(copy.Value("EQUIP")).Before));
+    };
     loadoutCargo_["Count"] = 1;
     loadoutCargo_.Update();
     // Only the spelling with a blank is cut away as a whole. The other one is shortened by the

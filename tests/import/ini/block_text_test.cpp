@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "db/failure.h"
+#include "import/ini/ini_text.h"
 
 namespace orrerix {
 namespace {
@@ -31,6 +32,18 @@ TEST(BlockText, PositionsCountFromWhatIsLeft) {
   EXPECT_EQ(block.Text(), "b = 2\r\nb = 3\r\n");
   EXPECT_EQ(block.Value("B"), "2");
   EXPECT_EQ(block.Find("B"), 0u);
+}
+
+TEST(BlockText, GivesTheValuesOfItsTextWhereverThatIsCut) {
+  const std::string_view text = "= 0\r\n =1\r\na=2\r\nba  = 3\r\na= =4\r\nA = 5, b=6\r\nab =7";
+  for (std::size_t cut = 0; cut <= text.size(); ++cut) {
+    BlockText block(text);
+    block.Cut(cut);
+
+    for (const std::string_view key : {"A", "B", "BA", "AB", "2", "="}) {
+      EXPECT_EQ(block.Value(key), GetINIValue(text.substr(cut), key)) << cut << " " << key;
+    }
+  }
 }
 
 TEST(BlockText, CutsAtMostAll) {
