@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "db/engine/connection.h"
 
+#include <array>
+#include <filesystem>
+#include <functional>
 #include <new>
 #include <string>
 
@@ -10,6 +13,7 @@
 
 #include "db/engine/engine.h"
 #include "support/failure_sinks.h"
+#include "support/temp_folder.h"
 
 namespace orrerix {
 namespace {
@@ -55,22 +59,29 @@ class EngineMemory {
   inline static int left_ = -1;  // any number
 };
 
-// The engine needs memory to show the texts of this database, more than it keeps ready.
-constexpr std::string_view kWideTexts = "PRAGMA encoding = 'UTF-16le'";
+// Two rows with texts that the engine needs memory to show: they stand in the file as UTF-16, and
+// are longer than what it keeps ready.
 const std::string kLongText(5000, 'x');
 
 class LackOfMemory : public ::testing::Test {
  protected:
   LackOfMemory() {
-    db = DBEngine::CreateInMemory(mustWork);
-    db.ExecuteNative(mustWork, std::string(kWideTexts));
-    db.CreateTable(mustWork, {"t", {Field{"name", FieldType::Memo}}, {}});
-    Recordset rows = db.OpenTable(mustWork, "t");
-    rows.AddNew();
-    rows["name"] = kLongText;
-    rows.Update();
+    const std::filesystem::path file = folder.Path() / "wide.db";
+    sqlite3* wide = nullptr;
+    sqlite3_open(file.string().c_str(), &wide);
+    const std::string rows = "('" + kLongText + "'), ('" + kLongText + "')";
+    sqlite3_exec(wide,
+                 ("PRAGMA encoding = 'UTF-16le'; CREATE TABLE t (name MEMO TEXT); "
+                  "INSERT INTO t VALUES " +
+                  rows)
+                     .c_str(),
+                 nullptr, nullptr, nullptr);
+    sqlite3_close(wide);
+    db = DBEngine::OpenDatabase(mustWork, file);
+    EXPECT_TRUE(db.HasTable("t"));  // its definition is known from now on
   }
 
+  TempFolder folder;
   EngineMemory memory;
   FailTest mustWork;
   Database db;
@@ -88,20 +99,29 @@ TEST_F(LackOfMemory, AColumnWithoutMemoryForItsTextThrows) {
 }
 
 TEST_F(LackOfMemory, RowsComeWholeOrNotAtAll) {
-  for (const RecordsetType type : {RecordsetType::Snapshot, RecordsetType::Dynaset}) {
+  using Opening = std::function<Recordset(FailureSink&)>;
+  const auto ask = [this](FailureSink& sink, RecordsetType type) {
+    return db.OpenRecordset(sink, "SELECT * FROM t", {}, type);
+  };
+  const std::array<Opening, 3> openings = {
+      [&](FailureSink& sink) { return ask(sink, RecordsetType::Snapshot); },
+      [&](FailureSink& sink) { return ask(sink, RecordsetType::Dynaset); },
+      [&](FailureSink& sink) {
+        return db.OpenRows(sink, "t", {1, 2});
+      }};
+  for (const Opening& open : openings) {
+    open(mustWork);  // statements are prepared once: only the rows need memory from now on
     bool lacked = true;
     for (int allocations = 0; lacked && allocations < 1000; ++allocations) {
       RecordFailures failures;
       memory.LastsFor(allocations);
-      Recordset rows = db.OpenRecordset(failures, "SELECT * FROM t", {}, type);
+      Recordset rows = open(failures);
       memory.SuffersNoLack();
 
       lacked = !failures.Numbers().empty();
       EXPECT_THAT(failures.Numbers(), AnyOf(IsEmpty(), ElementsAre(failure_number::kOutOfMemory)));
-      EXPECT_EQ(rows.Empty(), lacked);
-      if (!lacked) {
-        EXPECT_EQ(rows["name"].Get(), kLongText);
-      }
+      EXPECT_EQ(rows.RecordCount(), lacked ? 0U : 2U);
+      for (; !rows.AtEnd(); rows.MoveNext()) EXPECT_EQ(rows["name"].Get(), kLongText);
     }
     EXPECT_FALSE(lacked);
   }
