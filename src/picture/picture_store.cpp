@@ -325,8 +325,12 @@ QRectF PictureStore::PlaceOnDevice(const QPainter& painter, const QRectF& place)
   return IsRaster(painter) ? QRectF(SnappedToPixels(mapped)) : mapped;
 }
 
-void PictureStore::MakeRoomFor(const QPaintDevice& device) {
-  const double ratio = device.devType() == QInternal::Widget ? device.devicePixelRatioF() : 1;
+// A widget has logical pixels, and may be painted on a device of finer ones than its screen's.
+void PictureStore::MakeRoomFor(const QPainter& painter) {
+  const QPaintDevice& device = *painter.device();
+  const double logical = painter.worldTransform().m11();
+  const bool isWidget = device.devType() == QInternal::Widget && logical != 0;
+  const double ratio = isWidget ? painter.deviceTransform().m11() / logical : 1;
   const QSize size = (QSizeF(device.width(), device.height()) * ratio).toSize();
   const int screen = CostOf(size);
   const int room = std::max(screen + screen / 2, std::min(kUsualCacheRoom, 2 * screen));
@@ -343,7 +347,7 @@ void PictureStore::Draw(QPainter& painter, const QString& file, const QRectF& pl
     FullSourceOf(variant);
     return DrawSource(painter, variant, place);
   }
-  MakeRoomFor(*painter.device());
+  MakeRoomFor(painter);
   const QRect target = SnappedToPixels(toDevice.mapRect(place));
   const QRect part = SnappedToPixels(toDevice.mapRect(seen)).intersected(target);
   if (part.isEmpty()) return;

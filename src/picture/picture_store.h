@@ -4,7 +4,6 @@
 
 #include <QCache>
 #include <QImage>
-#include <QPaintDevice>
 #include <QPainter>
 #include <QPixmap>
 #include <QString>
@@ -123,7 +122,7 @@ class PictureStore {
   bool IsWanted(const QString& file) const;
   void Want(const QString& file);
   void DropCoarse();
-  void MakeRoomFor(const QPaintDevice& device);
+  void MakeRoomFor(const QPainter& painter);
   // These draw out of just this file, and of what is at hand of it.
   QPixmap Render(const QString& file, QSize size);
   QPixmap ScaledOf(const QString& file, QSize size, bool isFinal);
