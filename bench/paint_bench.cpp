@@ -2,7 +2,6 @@
 // A whole redraw of the map: drawing list, scene and paint, at a zoom that was shown before and at
 // one that is new.
 #include <QApplication>
-#include <QGraphicsView>
 #include <QImage>
 #include <memory>
 
@@ -13,7 +12,7 @@
 #include "db/engine/working_copy.h"
 #include "map/redraw.h"
 #include "picture/map_scene.h"
-#include "picture/map_view.h"
+#include "picture/map_scene_view.h"
 #include "picture/picture_store.h"
 #include "picture/qt_text_measure.h"
 #include "picture/twips.h"
@@ -44,7 +43,6 @@ class PaintBench {
         universe_{log_, copy_.Of(sink_, database)},
         canvas_(kWindow * redraw.DevicePixelRatio, QImage::Format_RGB32) {
     canvas_.setDevicePixelRatio(redraw.DevicePixelRatio);
-    SetUpMapView(view_);
     map_.Zoom.Reset(redraw.Rectangle);
     map_.Names = GetSystemNames(universe_, english_);
   }
@@ -98,7 +96,7 @@ class PaintBench {
   MapState map_;
   QImage canvas_;
   bool lanes_ = true;
-  QGraphicsView view_;  // a window: pictures get finer after the redraw, which is not measured
+  MapSceneView view_;  // a window: pictures get finer after the redraw, which is not measured
 };
 
 }  // namespace

@@ -61,13 +61,13 @@ class PictureItem : public ControlItem {
   }
   // A window shows the picture at hand now and a finer one a moment later; printouts and files wait
   // for the finest.
-  void paint(QPainter* painter, const QStyleOptionGraphicsItem*, QWidget* window) override {
+  void Draw(QPainter& painter, const QStyleOptionGraphicsItem&, QWidget* window) override {
     using Reading = PictureStore::Reading;
     const QRectF box = BoxOf(Shown());
-    if (Shown().BackColor) painter->fillRect(box, ToQColor(*Shown().BackColor));
-    pictures_.Draw(*painter, file_, box, seen_,
+    if (Shown().BackColor) painter.fillRect(box, ToQColor(*Shown().BackColor));
+    pictures_.Draw(painter, file_, box, seen_,
                    window == nullptr ? Reading::AtOnce : Reading::Later);
-    if (Shown().Bordered) DrawBorder(*painter, box);
+    if (Shown().Bordered) DrawBorder(painter, box);
   }
 
  private:
@@ -106,14 +106,14 @@ class LabelItem : public ControlItem {
     return mapRectToScene(letters.adjusted(beside, 0, -beside, 0));
   }
 
-  void paint(QPainter* painter, const QStyleOptionGraphicsItem*, QWidget*) override {
+  void Draw(QPainter& painter, const QStyleOptionGraphicsItem&, QWidget*) override {
     const Control& label = Shown();
-    if (!style_.Transparent) FillBackground(*painter, label);
-    painter->setFont(font_);
+    if (!style_.Transparent) FillBackground(painter, label);
+    painter.setFont(font_);
     const QColor color = ToQColor(label.ForeColor.value_or(Color{}));
-    if (style_.Outlined) DrawOutline(*painter);
-    painter->setPen(color);
-    painter->drawStaticText(corner_, text_);
+    if (style_.Outlined) DrawOutline(painter);
+    painter.setPen(color);
+    painter.drawStaticText(corner_, text_);
   }
 
  private:
@@ -168,14 +168,14 @@ class ShapeItem : public ControlItem {
   using ControlItem::ControlItem;
 
   QRectF boundingRect() const override { return BoxOf(Shown()); }
-  void paint(QPainter* painter, const QStyleOptionGraphicsItem*, QWidget*) override {
+  void Draw(QPainter& painter, const QStyleOptionGraphicsItem&, QWidget*) override {
     constexpr double corner = 8;
     constexpr double halfPen = 0.5;
-    painter->setPen(QPen(ToQColor(Shown().BorderColor), 2 * halfPen));
-    painter->setBrush(ToQColor(Shown().BackColor.value_or(Color{})));
+    painter.setPen(QPen(ToQColor(Shown().BorderColor), 2 * halfPen));
+    painter.setBrush(ToQColor(Shown().BackColor.value_or(Color{})));
     const double radius = Shown().Shape == ShapeForm::RoundedRectangle ? corner : 0;
     const QRectF outline = boundingRect().adjusted(halfPen, halfPen, -halfPen, -halfPen);
-    painter->drawRoundedRect(outline, radius, radius);
+    painter.drawRoundedRect(outline, radius, radius);
   }
 };
 
@@ -195,8 +195,8 @@ class FrameItem : public ControlItem {
   QRectF Hides() const override {
     return Shown().BackColor ? mapRectToScene(BoxOf(Shown())) : QRectF();
   }
-  void paint(QPainter* painter, const QStyleOptionGraphicsItem*, QWidget*) override {
-    FillBackground(*painter, Shown());
+  void Draw(QPainter& painter, const QStyleOptionGraphicsItem&, QWidget*) override {
+    FillBackground(painter, Shown());
   }
 };
 
@@ -206,6 +206,16 @@ ControlItem::ControlItem(const Control& control, QGraphicsItem* parent)
     : QGraphicsItem(parent), control_(&control) {
   setPos(Pixels(control.Place.Left), Pixels(control.Place.Top));
   if (control.ToolTip) setToolTip(PlainToolTip(*control.ToolTip));
+}
+
+void ControlItem::paint(QPainter* painter, const QStyleOptionGraphicsItem* option,
+                        QWidget* widget) {
+  if (still_ == nullptr || !still_->AreKept) Draw(*painter, *option, widget);
+}
+
+void ControlItem::SetChanged() {
+  update();
+  if (still_ != nullptr) ++still_->Version;
 }
 
 void ControlItem::Rebind(const Control& same) {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QGraphicsItem>
+#include <cstdint>
 #include <memory>
 #include <vector>
 
@@ -10,6 +11,13 @@
 #include "picture/picture_store.h"
 
 namespace orrerix {
+
+// The items at the back of a scene that stay as they are through most redraws. A view may keep a
+// picture of them; what paints the picture calls their Draw.
+struct StillItems {
+  bool AreKept = false;       // the view that is being painted has a picture of them
+  std::uint64_t Version = 0;  // another one for each change of what they look like
+};
 
 // Shows one control, or several lines; the controls outlive their item. An item's origin is the top
 // left corner of its control, that of lines the corner of their parent.
@@ -29,6 +37,18 @@ class ControlItem : public QGraphicsItem {
   // The part of the scene in which nothing below can be seen.
   virtual QRectF Hides() const { return {}; }
 
+  // Joins the items that stay as they are; null takes it out. An item that is not a layer leaves
+  // its children as they are.
+  virtual void SetStill(StillItems* still) { still_ = still; }
+  StillItems* Still() const { return still_; }
+  bool IsStill() const { return still_ != nullptr; }
+
+  // Paints it, with the painter in the item's coordinates.
+  virtual void Draw(QPainter& painter, const QStyleOptionGraphicsItem& option, QWidget* widget) = 0;
+
+  // Draws it where no picture of it is shown instead.
+  void paint(QPainter* painter, const QStyleOptionGraphicsItem* option, QWidget* widget) final;
+
   // Lines let the letters in these places shine through; nothing else does.
   virtual void SpareLetters(const std::vector<QRectF>&) {}
 
@@ -37,8 +57,13 @@ class ControlItem : public QGraphicsItem {
     return static_cast<const ControlItem&>(item).Shown();
   }
 
+ protected:
+  // To be called when it looks other than before without having been made anew.
+  void SetChanged();
+
  private:
   const Control* control_;
+  StillItems* still_ = nullptr;
 };
 
 // What items are made for.

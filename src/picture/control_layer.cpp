@@ -10,8 +10,13 @@ namespace {
 
 const Control kNoControl;
 
+bool IsLane(const Control& control) {
+  return control.Kind == ControlKind::Line && control.Line == LineKind::TradeLane;
+}
+
 bool AreOfOneLayer(const Control& one, const Control& other) {
-  return one.Id == other.Id && one.Kind == other.Kind;
+  const bool areOfOneArray = one.Id == other.Id && one.Kind == other.Kind;
+  return areOfOneArray && IsLane(one) == IsLane(other);
 }
 
 }  // namespace
@@ -48,8 +53,9 @@ std::size_t ControlLayer::KeepItems(std::span<const Control> next) {
   return kept;
 }
 
-void ControlLayer::Show(std::span<const Control> controls, PictureStore& pictures,
+bool ControlLayer::Show(std::span<const Control> controls, PictureStore& pictures,
                         const ItemView& view) {
+  const std::size_t before = controls_.size();
   if (view != view_) {
     qDeleteAll(items_);
     items_.clear();
@@ -57,21 +63,28 @@ void ControlLayer::Show(std::span<const Control> controls, PictureStore& picture
   }
   view_ = view;
   const std::size_t kept = KeepItems(controls);
+  isNew_ = kept < controls.size() && !(kept > 0 && controls.front().Kind == ControlKind::Line);
   controls_ = controls;
   for (std::size_t i = 0; i < kept; ++i) items_[i]->Rebind(controls[i]);
   if (controls.front().Kind == ControlKind::Line) {
     if (kept == 0) Add(new LinesItem(controls, view, nullptr));
-    return;
+    return kept > 0;
   }
   for (const Control& control : controls.subspan(kept)) {
     Add(MakeControlItem(control, pictures, view, nullptr));
   }
+  return kept == before && kept == controls.size();
 }
 
 // An item gets its parent when it is complete: the scene asks at once for its bounds.
 void ControlLayer::Add(ControlItem* item) {
   item->setParentItem(this);
   items_.push_back(item);
+}
+
+void ControlLayer::SetStill(StillItems* still) {
+  ControlItem::SetStill(still);
+  for (ControlItem* item : items_) item->SetStill(still);
 }
 
 bool ControlLayer::Replace(Control& known, const Control& changed, PictureStore& pictures) {
@@ -81,6 +94,7 @@ bool ControlLayer::Replace(Control& known, const Control& changed, PictureStore&
   known = changed;
   items_[place] = MakeControlItem(known, pictures, view_, nullptr);
   items_[place]->setParentItem(this);
+  items_[place]->SetStill(Still());
   if (place + 1 < items_.size()) items_[place]->stackBefore(items_[place + 1]);
   return true;
 }

@@ -10,7 +10,8 @@
 
 namespace orrerix {
 
-// The layers of a list, back to front: each is a run of controls of one array and one kind.
+// The layers of a list, back to front: each is a run of controls of one array and one kind. Trade
+// lanes are a layer apart from other lines.
 std::vector<std::span<const Control>> LayersOf(const ControlList& controls);
 
 // The items of one layer, which are its children. A layer that changes leaves all others as they
@@ -23,8 +24,9 @@ class ControlLayer : public ControlItem {
   bool Holds(const Control& control) const;
 
   // Shows a layer of the next list in the place of the one before, whose list must still be there.
-  // Those that both begin with keep their items, unless the view is another one.
-  void Show(std::span<const Control> controls, PictureStore& pictures, const ItemView& view);
+  // Those that both begin with keep their items, unless the view is another one. Returns whether
+  // it kept all and made none.
+  bool Show(std::span<const Control> controls, PictureStore& pictures, const ItemView& view);
 
   // Changes one of the controls, which keeps its place in the stack. False if it is none of this
   // layer's.
@@ -36,9 +38,14 @@ class ControlLayer : public ControlItem {
   // One for each control; a single one for lines.
   const std::vector<ControlItem*>& Items() const { return items_; }
 
+  // Its items, too.
+  void SetStill(StillItems* still) override;
+  // Whether the last Show made items.
+  bool IsNew() const { return isNew_; }
+
   void SpareLetters(const std::vector<QRectF>& letters) override;
   QRectF boundingRect() const override { return {}; }
-  void paint(QPainter*, const QStyleOptionGraphicsItem*, QWidget*) override {}
+  void Draw(QPainter&, const QStyleOptionGraphicsItem&, QWidget*) override {}
 
  private:
   void Add(ControlItem* item);
@@ -46,6 +53,7 @@ class ControlLayer : public ControlItem {
 
   std::span<const Control> controls_;
   std::vector<ControlItem*> items_;
+  bool isNew_ = true;
   ItemView view_;
 };
 

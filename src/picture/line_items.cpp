@@ -141,11 +141,11 @@ void LinesItem::SpareLetters(const std::vector<QRectF>& letters) {
   }
 }
 
-void LinesItem::paint(QPainter* painter, const QStyleOptionGraphicsItem* option, QWidget*) {
-  PaintInPool(*painter, [&] {
-    const LinePainter lines(*painter, onPaper_);
+void LinesItem::Draw(QPainter& painter, const QStyleOptionGraphicsItem& option, QWidget*) {
+  PaintInPool(painter, [&] {
+    const LinePainter lines(painter, onPaper_);
     for (const MapLine& line : lines_) {
-      if (line.Box().intersects(option->exposedRect)) lines.Draw(line);
+      if (line.Box().intersects(option.exposedRect)) lines.Draw(line);
     }
   });
 }

@@ -42,7 +42,7 @@ class LinesItem : public ControlItem {
   QRectF boundingRect() const override { return box_; }
   QPainterPath shape() const override { return {}; }
   void SpareLetters(const std::vector<QRectF>& letters) override;
-  void paint(QPainter* painter, const QStyleOptionGraphicsItem* option, QWidget*) override;
+  void Draw(QPainter& painter, const QStyleOptionGraphicsItem& option, QWidget*) override;
 
  private:
   bool onPaper_;

@@ -4,6 +4,7 @@
 #include <QPaintEngine>
 #include <QPainter>
 #include <QRegion>
+#include <QStyleOptionGraphicsItem>
 #include <algorithm>
 #include <cmath>
 #include <span>
@@ -21,6 +22,21 @@ QRect WholePixelsWithin(const QRectF& box) {
   const QPoint end(static_cast<int>(std::floor(box.right())),
                    static_cast<int>(std::floor(box.bottom())));
   return {corner, QSize(end.x() - corner.x(), end.y() - corner.y())};
+}
+
+bool BelongsToStill(const Control& control) {
+  switch (control.Id) {
+    case ControlId::BackgroundTile:
+    case ControlId::PaintedUniverse:
+    case ControlId::SystemPicture:
+    case ControlId::EmptyCell:
+    case ControlId::SystemLabel:
+      return true;
+    case ControlId::MapLine:
+      return control.Line != LineKind::TradeLane;
+    default:
+      return false;
+  }
 }
 
 }  // namespace
@@ -51,6 +67,9 @@ QRectF MapScene::OpenPart(const MapDrawing& drawing) {
 
 void MapScene::Show(MapDrawing drawing) {
   ShowLayers(drawing);
+  if (drawing.FrameColor != drawing_.FrameColor || drawing.Frame != drawing_.Frame) {
+    ++still_.Version;
+  }
   if (drawing.FrameColor != drawing_.FrameColor) {
     setBackgroundBrush(ToQColor(drawing.FrameColor));
   }
@@ -64,6 +83,7 @@ void MapScene::Show(MapDrawing drawing) {
 void MapScene::ShowLayers(const MapDrawing& next) {
   std::vector<std::unique_ptr<ControlLayer>> before = std::exchange(layers_, {});
   auto rest = before.begin();
+  bool areStillTheSame = true;
   for (const std::span<const Control> controls : LayersOf(next.Controls)) {
     const auto same = std::find_if(
         rest, before.end(), [&](const auto& layer) { return layer->Holds(controls.front()); });
@@ -73,9 +93,43 @@ void MapScene::ShowLayers(const MapDrawing& next) {
       layers_.push_back(std::move(*same));
       rest = same + 1;
     }
-    layers_.back()->Show(controls, pictures_, ViewOf(next));
+    const bool isSame = layers_.back()->Show(controls, pictures_, ViewOf(next));
+    if (BelongsToStill(controls.front()) && !isSame) areStillTheSame = false;
   }
+  const bool haveAllStayed = std::none_of(before.begin(), before.end(), [](const auto& layer) {
+    return layer != nullptr && layer->IsStill();
+  });
+  if (!areStillTheSame || !haveAllStayed) ++still_.Version;
   StackLayers();
+  SetStill();
+}
+
+// Still are the layers up to the first that is not: all that follows is painted in front of them.
+void MapScene::SetStill() {
+  bool isStill = true;
+  for (const auto& layer : layers_) {
+    isStill = isStill && BelongsToStill(layer->First());
+    layer->SetStill(isStill ? &still_ : nullptr);
+  }
+}
+
+std::uint64_t MapScene::StillVersion() const {
+  return HasStill() && !pictures_.IsWanting() ? still_.Version + pictures_.Version() : 0;
+}
+
+void MapScene::DrawStill(QPainter& painter, QWidget* window) {
+  drawBackground(&painter, StillPart());
+  const QTransform whole = painter.worldTransform();
+  QStyleOptionGraphicsItem option;
+  for (QGraphicsItem* item : items(StillPart(), Qt::IntersectsItemBoundingRect,
+                                   Qt::AscendingOrder)) {
+    auto* still = static_cast<ControlItem*>(item);
+    if (!still->IsStill() || still->effectiveOpacity() == 0) continue;
+    painter.setWorldTransform(still->sceneTransform() * whole);
+    option.exposedRect = still->boundingRect();
+    still->Draw(painter, option, window);
+  }
+  painter.setWorldTransform(whole);
 }
 
 void MapScene::StackLayers() {
@@ -89,11 +143,16 @@ void MapScene::StackLayers() {
 void MapScene::SpareLetters() {
   std::vector<QRectF> letters;
   for (const auto& layer : layers_) {
+    if (layer->First().Id != ControlId::SystemLabel) continue;
     for (const ControlItem* item : layer->Items()) {
       if (const QRectF name = item->NameLetters(); !name.isEmpty()) letters.push_back(name);
     }
   }
-  for (const auto& layer : layers_) layer->SpareLetters(letters);
+  const bool areOthers = letters != letters_;
+  letters_ = std::move(letters);
+  for (const auto& layer : layers_) {
+    if (areOthers || layer->IsNew()) layer->SpareLetters(letters_);
+  }
 }
 
 // The part of the scene that its largest items hide, in whole pixels.
@@ -156,12 +215,13 @@ void MapScene::Replace(const Control& control) {
       });
   if (known == drawing_.Controls.end()) return;
   const Control changed = control;  // which may be the one that goes
+  if (BelongsToStill(changed)) ++still_.Version;
   for (const auto& layer : layers_) {
     if (layer->Replace(*known, changed, pictures_)) return;
   }
 }
 
-void MapScene::Put(QGraphicsItem& item, Stratum stratum) {
+void MapScene::Put(ControlItem& item, Stratum stratum) {
   const auto isAbove = [stratum](const Control& control) {
     if (control.Id == ControlId::PanelFrame) return true;
     return stratum == Stratum::BelowLines &&
@@ -174,11 +234,14 @@ void MapScene::Put(QGraphicsItem& item, Stratum stratum) {
   const auto above = std::find_if(layers_.begin(), layers_.end(),
                                   [&](const auto& layer) { return isAbove(layer->First()); });
   if (above != layers_.end()) item.stackBefore(above->get());
+  const bool isStill = above != layers_.end() && stratum == Stratum::BelowLines && HasStill();
+  item.SetStill(isStill ? &still_ : nullptr);
 }
 
 void MapScene::ShowSystemNames(bool shown) {
   for (const auto& layer : layers_) {
     if (layer->First().Id != ControlId::SystemLabel) continue;
+    if (layer->Items().front()->opacity() != (shown ? 1 : 0)) ++still_.Version;
     for (ControlItem* item : layer->Items()) item->setOpacity(shown ? 1 : 0);
   }
 }

@@ -4,6 +4,7 @@
 
 #include <QGraphicsScene>
 #include <array>
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <vector>
@@ -61,10 +62,25 @@ class MapScene : public QGraphicsScene {
 
   // Puts an item of the scene that belongs to no control into a stratum of the drawing; to be
   // called after each Show. Its shape must be empty, so that nothing points at it.
-  void Put(QGraphicsItem& item, Stratum stratum);
+  void Put(ControlItem& item, Stratum stratum);
 
   // Hides or shows the names of systems, until the next Show.
   void ShowSystemNames(bool shown);
+
+  // The sky, the pictures and names of systems and the jump connections, with what was put below
+  // lines, are still: most redraws leave them as they are. The number changes whenever they look
+  // different, also by a finer picture. Zero if none are still, or if finer pictures are awaited.
+  std::uint64_t StillVersion() const;
+
+  // Paints the still items in front of the background. The painter is in the scene's coordinates;
+  // `window` is where they will be seen.
+  void DrawStill(QPainter& painter, QWidget* window);
+
+  // The part of the scene in which still items are seen.
+  QRectF StillPart() const { return OpenPart(drawing_); }
+
+  // While they are kept, a view paints all other items only.
+  void KeepStill(bool areKept) { still_.AreKept = areKept; }
 
   // The topmost control at a point that is not a line.
   ControlHit HitAt(QPointF point) const;
@@ -81,6 +97,8 @@ class MapScene : public QGraphicsScene {
   }
   void ShowLayers(const MapDrawing& next);
   void StackLayers();
+  bool HasStill() const { return !layers_.empty() && layers_.front()->IsStill(); }
+  void SetStill();
   void SpareLetters();
   QRegion HiddenPart() const;
   void MakeFrontItems(FrontLayer layer);
@@ -94,6 +112,8 @@ class MapScene : public QGraphicsScene {
   MapDrawing drawing_;
   std::vector<std::unique_ptr<ControlLayer>> layers_;  // of the drawing's controls, back to front
   std::array<Front, kFrontLayers> front_;
+  std::vector<QRectF> letters_;  // that lines spare
+  StillItems still_;
 };
 
 }  // namespace orrerix

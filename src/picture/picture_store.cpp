@@ -252,6 +252,7 @@ void PictureStore::ReadWanted() {
   if (wanted_.empty()) return;
   FullSourceOf(wanted_.front()).IsAwaited = true;
   wanted_.pop_front();
+  ++version_;
   if (wanted_.empty()) DropCoarse();
 }
 

@@ -66,6 +66,9 @@ class PictureStore {
   bool IsWanting() const { return !wanted_.empty(); }
   void ReadWanted();
 
+  // How many wanted files have been read: pictures that were drawn before may look finer now.
+  std::uint64_t Version() const { return version_; }
+
   // Reads a picture that will be needed soon, for sizes up to half of its own.
   void Read(const QString& file);
 
@@ -134,6 +137,7 @@ class PictureStore {
   std::deque<QString> wanted_;
   QCache<SizedFile, ScaledPicture> scaled_;
   std::uint64_t uses_ = 0;
+  std::uint64_t version_ = 1;
 };
 
 }  // namespace orrerix

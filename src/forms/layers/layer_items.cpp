@@ -23,27 +23,28 @@ PaintedItem::PaintedItem(Paint paint)
     : ControlItem(kBareFrame, nullptr), paint_(std::move(paint)) {}
 
 void PaintedItem::Renew(const QRectF& place) {
+  if (place.isEmpty() && place_.isEmpty()) return;
   if (place != place_) prepareGeometryChange();
   // Whole pixels, so that the picture is as sharp as what it shows.
   place_ = QRectF(place.toAlignedRect());
   picture_ = QPixmap();
   drawnRatio_ = 0;
-  update();
+  SetChanged();
 }
 
-void PaintedItem::paint(QPainter* painter, const QStyleOptionGraphicsItem*, QWidget* widget) {
+void PaintedItem::Draw(QPainter& painter, const QStyleOptionGraphicsItem&, QWidget* widget) {
   if (place_.isEmpty()) return;
   if (widget != nullptr) {
     const double ratio = widget->devicePixelRatioF();
     if (ratio != drawnRatio_) DrawPicture(ratio);
-    if (!picture_.isNull()) painter->drawPixmap(place_.topLeft(), picture_);
+    if (!picture_.isNull()) painter.drawPixmap(place_.topLeft(), picture_);
     return;
   }
-  painter->save();
-  painter->setRenderHint(QPainter::Antialiasing);
-  painter->setClipRect(place_, Qt::IntersectClip);
-  paint_(*painter, painter->clipBoundingRect());
-  painter->restore();
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setClipRect(place_, Qt::IntersectClip);
+  paint_(painter, painter.clipBoundingRect());
+  painter.restore();
 }
 
 // A picture of a whole screen in which there is nothing is not worth its memory.

@@ -23,7 +23,7 @@ class PaintedItem : public ControlItem {
   QRectF boundingRect() const override { return place_; }
   QPainterPath shape() const override { return {}; }
   bool contains(const QPointF&) const override { return false; }
-  void paint(QPainter* painter, const QStyleOptionGraphicsItem* option, QWidget* widget) override;
+  void Draw(QPainter& painter, const QStyleOptionGraphicsItem& option, QWidget* widget) override;
 
  private:
   void DrawPicture(double devicePixelRatio);

@@ -5,7 +5,6 @@
 #include <optional>
 
 #include "forms/controls/control_name.h"
-#include "picture/map_view.h"
 #include "picture/twips.h"
 
 namespace orrerix {
@@ -42,9 +41,9 @@ std::optional<MapKey> MapKeyOf(const QKeyEvent& event) {
 }  // namespace
 
 SysmapFrame::SysmapFrame(MapScene& scene, QWidget* parent)
-    : QGraphicsView(&scene, parent), scene_(scene) {
+    : MapSceneView(parent), scene_(scene) {
+  setScene(&scene);
   setObjectName(NameOf(ControlId::MapFrame));
-  SetUpMapView(*this);
   setContextMenuPolicy(Qt::PreventContextMenu);
   setMouseTracking(true);
   setFocusPolicy(Qt::StrongFocus);
@@ -89,14 +88,14 @@ void SysmapFrame::keyPressEvent(QKeyEvent* event) {
 }
 
 void SysmapFrame::focusInEvent(QFocusEvent* event) {
-  QGraphicsView::focusInEvent(event);
+  MapSceneView::focusInEvent(event);
   const bool byTab =
       event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
   if (byTab && keys_ != nullptr) keys_->FocusByTab();
 }
 
 void SysmapFrame::focusOutEvent(QFocusEvent* event) {
-  QGraphicsView::focusOutEvent(event);
+  MapSceneView::focusOutEvent(event);
   if (keys_ != nullptr) keys_->FocusLost();
 }
 

@@ -1,17 +1,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QGraphicsView>
-
 #include "forms/map/map_keys.h"
 #include "forms/map/map_mouse.h"
 #include "picture/map_scene.h"
+#include "picture/map_scene_view.h"
 
 namespace orrerix {
 
 // The map's clipping frame on the main form: shows a scene pixel for pixel and reports
 // mouse events in twips. While a button is down the mouse is followed wherever it goes.
-class SysmapFrame : public QGraphicsView {
+class SysmapFrame : public MapSceneView {
  public:
   SysmapFrame(MapScene& scene, QWidget* parent);
 

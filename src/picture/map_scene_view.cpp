@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: MIT
+#include "picture/map_scene_view.h"
+
+#include <QPaintEngine>
+#include <QPainter>
+
+namespace orrerix {
+namespace {
+
+bool IsUpright(const QPainter& painter) {
+  return painter.paintEngine() != nullptr &&
+         painter.paintEngine()->type() == QPaintEngine::Raster &&
+         painter.deviceTransform().type() <= QTransform::TxScale;
+}
+
+}  // namespace
+
+// The scene paints every pixel that it is asked for, so nothing is painted below it.
+MapSceneView::MapSceneView(QWidget* parent) : QGraphicsView(parent) {
+  setFrameShape(QFrame::NoFrame);
+  setAlignment(Qt::AlignLeft | Qt::AlignTop);
+  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  setRenderHint(QPainter::Antialiasing);
+  setViewportUpdateMode(QGraphicsView::BoundingRectViewportUpdate);
+  setOptimizationFlag(QGraphicsView::DontSavePainterState);
+  setOptimizationFlag(QGraphicsView::DontAdjustForAntialiasing);
+  viewport()->setAutoFillBackground(false);
+  viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
+}
+
+void MapSceneView::paintEvent(QPaintEvent* event) {
+  isPainting_ = true;
+  QGraphicsView::paintEvent(event);
+  isPainting_ = false;
+  if (auto* map = dynamic_cast<MapScene*>(scene())) map->KeepStill(false);
+}
+
+void MapSceneView::drawBackground(QPainter* painter, const QRectF& exposed) {
+  auto* map = dynamic_cast<MapScene*>(scene());
+  QGraphicsView::drawBackground(painter, exposed);
+  if (!isPainting_ || map == nullptr || map->StillVersion() == 0 || !IsUpright(*painter)) return;
+  const QTransform toDevice = painter->deviceTransform();
+  const QPointF corner = toDevice.map(QPointF(0, 0));
+  const QTransform toPicture = toDevice * QTransform::fromTranslate(-corner.x(), -corner.y());
+  const QRect part = toPicture.mapRect(map->StillPart()).toAlignedRect();
+  const QSize size = toPicture.mapRect(QRectF(viewport()->rect())).toAlignedRect().size();
+  const Look look{map, map->StillVersion(), toPicture, size, painter->device()->devicePixelRatioF()};
+  if (look != look_) PaintPicture(*map, look);
+  const QTransform world = painter->worldTransform();
+  painter->setWorldTransform(toDevice.inverted() * world);
+  painter->drawImage(corner + part.topLeft(), still_, part);
+  painter->setWorldTransform(world);
+  map->KeepStill(true);
+}
+
+// As large as the window, so that lines are cut off at the same pixels as there. What the panel
+// hides is never written and takes no memory.
+void MapSceneView::PaintPicture(MapScene& map, const Look& look) {
+  if (still_.size() != look.Size) still_ = QImage(look.Size, QImage::Format_RGB32);
+  look_ = look;
+  still_.setDevicePixelRatio(look.DevicePixelRatio);
+  QPainter painter(&still_);
+  painter.setRenderHints(renderHints());
+  painter.setWorldTransform(look.ToDevice * painter.deviceTransform().inverted());
+  map.DrawStill(painter, viewport());
+  painter.end();
+  still_.setDevicePixelRatio(1);  // it is copied pixel for pixel
+}
+
+}  // namespace orrerix
