@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// A whole redraw of the map: drawing list, scene and paint, at a zoom that was shown before and at
-// one that is new.
+// A whole redraw of the map: drawing list, scene and paint of the whole window. At a zoom that was
+// shown before, with and without a switch of the panel, and at one that is new.
 #include <QApplication>
 #include <QImage>
 #include <memory>
@@ -10,9 +10,11 @@
 #include "bench_games.h"
 #include "bench_sinks.h"
 #include "db/engine/working_copy.h"
+#include "map/layers/system_pictures.h"
 #include "map/redraw.h"
 #include "picture/map_scene.h"
 #include "picture/map_scene_view.h"
+#include "picture/picture_files.h"
 #include "picture/picture_store.h"
 #include "picture/qt_text_measure.h"
 #include "picture/twips.h"
@@ -23,11 +25,14 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr QSize kWindow(1920, 1050);
+constexpr ZoomRectangle kHalf{1, 1, 9, 9};
 
 enum class Change {
-  Nothing,  // but all is painted again
+  Nothing,  // but the window is painted again
   Switch,   // trade lanes, off and on
-  Zoom      // to one that was never shown
+  Names,    // names of systems, off and on: what is still on the map changes, too
+  Zoom,     // to one that was never shown, as the user sees it first
+  FineZoom  // the same, until all pictures are as fine as they get
 };
 
 struct Redraw {
@@ -50,37 +55,60 @@ class PaintBench {
   void Run(benchmark::State& state) {
     auto pictures = std::make_unique<PictureStore>();
     auto scene = std::make_unique<MapScene>(*pictures);
-    ShowSharp(*scene, *pictures, kWindow);
+    Show(*scene);
+    Sharpen(*scene, *pictures);
     for (auto _ : state) {
       if (redraw_.What == Change::Switch) lanes_ = !lanes_;
-      if (redraw_.What == Change::Zoom) {
-        state.PauseTiming();
-        scene.reset();
-        pictures = std::make_unique<PictureStore>();
-        scene = std::make_unique<MapScene>(*pictures);
-        // All pictures are read by then, and none is of the size that is needed next.
-        ShowSharp(*scene, *pictures, kWindow * 0.9);
-        state.ResumeTiming();
+      if (redraw_.What == Change::Names) names_ = !names_;
+      if (redraw_.What != Change::Zoom && redraw_.What != Change::FineZoom) {
+        Show(*scene);
+        continue;
       }
-      Show(*scene, kWindow);
+      state.PauseTiming();
+      scene.reset();
+      pictures = std::make_unique<PictureStore>();
+      scene = std::make_unique<MapScene>(*pictures);
+      ShowAnotherZoom(*scene, *pictures);
+      state.ResumeTiming();
+      Show(*scene);
+      if (redraw_.What == Change::FineZoom) Sharpen(*scene, *pictures);
     }
   }
 
  private:
-  void ShowSharp(MapScene& scene, PictureStore& pictures, QSize window) {
-    Show(scene, window);
-    while (pictures.IsWanting()) pictures.ReadWanted();
-    Show(scene, window);
+  // By then the program has read all pictures of systems, and none is of the size that is needed
+  // next.
+  void ShowAnotherZoom(MapScene& scene, PictureStore& pictures) {
+    for (int i = 0; i < kSystemPictures; ++i) {
+      pictures.Read(PictureFile(MakePicture(ControlId::SystemPicture, i, {})));
+    }
+    map_.Zoom.Reset(redraw_.Rectangle.IsZoomed() ? ZoomRectangle{} : kHalf);
+    Show(scene);
+    Sharpen(scene, pictures);
+    map_.Zoom.Reset(redraw_.Rectangle);
   }
 
-  void Show(MapScene& scene, QSize window) {
-    MapOptions options = MapOptions::Defaults(redraw_.Rectangle.IsZoomed());
+  void Sharpen(MapScene& scene, PictureStore& pictures) {
+    while (pictures.IsWanting()) {
+      pictures.ReadWanted();
+      Paint(scene);
+    }
+  }
+
+  void Show(MapScene& scene) {
+    MapOptions options = MapOptions::Defaults(map_.Zoom.Current().IsZoomed());
     options.On[static_cast<std::size_t>(MapSwitch::TradelaneLines)] = lanes_;
+    options.On[static_cast<std::size_t>(MapSwitch::SystemNames)] = names_;
     scene.Show(DrawMap(universe_, map_,
-                       {static_cast<int>(Twips(window.width())),
-                        static_cast<int>(Twips(window.height())), options, measure_, panel_}));
+                       {static_cast<int>(Twips(kWindow.width())),
+                        static_cast<int>(Twips(kWindow.height())), options, measure_, panel_}));
+    Paint(scene);
+  }
+
+  // The view has the size of the map frame, as in the program.
+  void Paint(MapScene& scene) {
     view_.setScene(&scene);
-    view_.resize(window);
+    view_.resize(scene.sceneRect().size().toSize());
     view_.viewport()->render(&canvas_);
   }
 
@@ -96,7 +124,8 @@ class PaintBench {
   MapState map_;
   QImage canvas_;
   bool lanes_ = true;
-  MapSceneView view_;  // a window: pictures get finer after the redraw, which is not measured
+  bool names_ = true;
+  MapSceneView view_;
 };
 
 }  // namespace
@@ -115,13 +144,15 @@ void RegisterPaintBenchmarks(const std::vector<BenchGame>& games, const fs::path
     benchmark::RegisterBenchmark(name.c_str(), run)->Unit(benchmark::kMillisecond);
   };
   for (const BenchGame& game : games) {
-    for (const View& view : {View{"whole", {}}, View{"half", {1, 1, 9, 9}},
+    for (const View& view : {View{"whole", {}}, View{"half", kHalf},
                              View{"zoomed", {7, 5, 10, 8}}, View{"single", {7, 4, 7, 4}}}) {
       for (const double ratio : {1.0, 2.0}) {
         const std::string name = game.Name + "/" + view.Name + (ratio > 1 ? "/fine screen" : "");
         add("Redraw/" + name, game, {view.Rectangle, ratio, Change::Nothing});
         add("SwitchRedraw/" + name, game, {view.Rectangle, ratio, Change::Switch});
+        add("NamesRedraw/" + name, game, {view.Rectangle, ratio, Change::Names});
         add("FirstRedraw/" + name, game, {view.Rectangle, ratio, Change::Zoom});
+        add("FineRedraw/" + name, game, {view.Rectangle, ratio, Change::FineZoom});
       }
     }
   }
