@@ -144,8 +144,8 @@ void RegisterPaintBenchmarks(const std::vector<BenchGame>& games, const fs::path
     benchmark::RegisterBenchmark(name.c_str(), run)->Unit(benchmark::kMillisecond);
   };
   for (const BenchGame& game : games) {
-    for (const View& view : {View{"whole", {}}, View{"half", kHalf},
-                             View{"zoomed", {7, 5, 10, 8}}, View{"single", {7, 4, 7, 4}}}) {
+    for (const View& view : {View{"whole", {}}, View{"half", kHalf}, View{"zoomed", {7, 5, 10, 8}},
+                             View{"single", {7, 4, 7, 4}}}) {
       for (const double ratio : {1.0, 2.0}) {
         const std::string name = game.Name + "/" + view.Name + (ratio > 1 ? "/fine screen" : "");
         add("Redraw/" + name, game, {view.Rectangle, ratio, Change::Nothing});

@@ -3,6 +3,7 @@
 
 #include <QPainterPath>
 #include <QPen>
+#include <QRegion>
 #include <QStyleOptionGraphicsItem>
 #include <algorithm>
 
@@ -142,10 +143,12 @@ void LinesItem::SpareLetters(const std::vector<QRectF>& letters) {
 }
 
 void LinesItem::Draw(QPainter& painter, const QStyleOptionGraphicsItem& option, QWidget*) {
-  PaintInPool(painter, [&] {
-    const LinePainter lines(painter, onPaper_);
+  PaintInHalves(painter, [&](QPainter& half) {
+    const LinePainter lines(half, onPaper_);
+    const QRegion seen =
+        half.hasClipping() ? half.clipRegion() : QRegion(option.exposedRect.toAlignedRect());
     for (const MapLine& line : lines_) {
-      if (line.Box().intersects(option.exposedRect)) lines.Draw(line);
+      if (seen.intersects(line.Box().toAlignedRect())) lines.Draw(line);
     }
   });
 }

@@ -121,8 +121,8 @@ void MapScene::DrawStill(QPainter& painter, QWidget* window) {
   drawBackground(&painter, StillPart());
   const QTransform whole = painter.worldTransform();
   QStyleOptionGraphicsItem option;
-  for (QGraphicsItem* item : items(StillPart(), Qt::IntersectsItemBoundingRect,
-                                   Qt::AscendingOrder)) {
+  for (QGraphicsItem* item :
+       items(StillPart(), Qt::IntersectsItemBoundingRect, Qt::AscendingOrder)) {
     auto* still = static_cast<ControlItem*>(item);
     if (!still->IsStill() || still->effectiveOpacity() == 0) continue;
     painter.setWorldTransform(still->sceneTransform() * whole);

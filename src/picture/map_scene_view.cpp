@@ -45,7 +45,8 @@ void MapSceneView::drawBackground(QPainter* painter, const QRectF& exposed) {
   const QTransform toPicture = toDevice * QTransform::fromTranslate(-corner.x(), -corner.y());
   const QRect part = toPicture.mapRect(map->StillPart()).toAlignedRect();
   const QSize size = toPicture.mapRect(QRectF(viewport()->rect())).toAlignedRect().size();
-  const Look look{map, map->StillVersion(), toPicture, size, painter->device()->devicePixelRatioF()};
+  const Look look{map, map->StillVersion(), toPicture, size,
+                  painter->device()->devicePixelRatioF()};
   if (look != look_) PaintPicture(*map, look);
   const QTransform world = painter->worldTransform();
   painter->setWorldTransform(toDevice.inverted() * world);

@@ -130,6 +130,7 @@ PictureStore::Source& PictureStore::FullSourceOf(const QString& file) {
 }
 
 void PictureStore::Read(const QString& file) {
+  VariantsOf(file);  // looks for many files
   if (sources_.contains(file)) return;
   if (SourceOf(file).FullBytes() > 0) DropFull(file);
 }

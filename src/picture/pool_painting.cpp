@@ -1,22 +1,84 @@
 // SPDX-License-Identifier: MIT
 #include "picture/pool_painting.h"
 
+#include <QImage>
 #include <QPaintEngine>
 #include <QSemaphore>
 #include <QThreadPool>
+#include <array>
 
 namespace orrerix {
+namespace {
+
+bool PaintsPixels(const QPainter& painter) {
+  const QPaintEngine* engine = painter.paintEngine();
+  return engine != nullptr && engine->type() == QPaintEngine::Raster;
+}
+
+// The image that all of is painted; null for windows and for a part of an image.
+const QImage* WholeImage(const QPainter& painter) {
+  if (!PaintsPixels(painter) || painter.hasClipping()) return nullptr;
+  const QPaintEngine& engine = *painter.paintEngine();
+  const QPaintDevice* device = engine.paintDevice();
+  const bool isImage = device->devType() == QInternal::Image && engine.systemClip().isEmpty();
+  return isImage ? static_cast<const QImage*>(device) : nullptr;
+}
+
+// An image of the same pixels, for a painter of its own. The painter that is at work on the image
+// has made the pixels its own.
+QImage SamePixels(const QImage& image) {
+  QImage same(const_cast<uchar*>(image.constBits()), image.width(), image.height(),
+              image.bytesPerLine(), image.format());
+  same.setDevicePixelRatio(image.devicePixelRatio());
+  return same;
+}
+
+// The upper and the lower half, each of them with the outermost pixel of the other: Qt begins
+// dashes where a line enters the bounds of the clip, so both must have those of the image.
+std::array<QRegion, 2> HalvesOf(const QRect& image) {
+  const QRect upper(image.topLeft(), QSize(image.width(), image.height() / 2));
+  const QRegion outermost =
+      QRegion(image.left(), image.top(), 1, 1) + QRegion(image.right(), image.bottom(), 1, 1);
+  const QRegion half = QRegion(upper).xored(outermost);
+  return {half, QRegion(image) - half};
+}
+
+void PaintHalf(const QPainter& painter, QImage image, const QRegion& half,
+               const std::function<void(QPainter&)>& paint) {
+  QPainter own(&image);
+  const QTransform pixels = own.deviceTransform().inverted();
+  own.setRenderHints(painter.renderHints());
+  own.setWorldTransform(pixels);
+  own.setClipRegion(half);
+  own.setWorldTransform(painter.deviceTransform() * pixels);
+  paint(own);
+}
+
+}  // namespace
 
 void PaintInPool(const QPainter& painter, const std::function<void()>& paint) {
-  const QPaintEngine* engine = painter.paintEngine();
-  const bool isRaster = engine != nullptr && engine->type() == QPaintEngine::Raster;
   QSemaphore done;
   const auto task = [&] {
     paint();
     done.release();
   };
-  if (isRaster && QThreadPool::globalInstance()->tryStart(task)) return done.acquire();
+  if (PaintsPixels(painter) && QThreadPool::globalInstance()->tryStart(task)) return done.acquire();
   paint();
+}
+
+void PaintInHalves(QPainter& painter, const std::function<void(QPainter&)>& paint) {
+  const QImage* image = WholeImage(painter);
+  if (image == nullptr) return PaintInPool(painter, [&] { paint(painter); });
+  QSemaphore done;
+  const auto halves = HalvesOf(image->rect());
+  for (const QRegion& half : halves) {
+    const auto task = [&, half] {
+      PaintHalf(painter, SamePixels(*image), half, paint);
+      done.release();
+    };
+    if (!QThreadPool::globalInstance()->tryStart(task)) task();
+  }
+  done.acquire(static_cast<int>(halves.size()));
 }
 
 }  // namespace orrerix

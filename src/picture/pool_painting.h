@@ -12,4 +12,9 @@ namespace orrerix {
 // of them; if none is free it is done here.
 void PaintInPool(const QPainter& painter, const std::function<void()>& paint);
 
+// The same for work that leaves the painter as it is. Of an image of which nothing is clipped two
+// threads paint a half each: `paint` is called in both, with a painter that is clipped to one. The
+// pixels are those that a single painter would leave.
+void PaintInHalves(QPainter& painter, const std::function<void(QPainter&)>& paint);
+
 }  // namespace orrerix

@@ -2,6 +2,7 @@
 #include "forms/map/map_screen.h"
 
 #include <utility>
+#include <vector>
 
 #include <fmt/format.h>
 
@@ -16,6 +17,15 @@ namespace orrerix {
 namespace {
 
 constexpr int kCompactForm = 1020;  // outer width of a form beside the game, pixels
+
+std::vector<QString> PicturesOfZooms() {
+  std::vector<QString> files = {PictureFile(MakePicture(ControlId::BackgroundTile, 0, {})),
+                                PictureFile(MakePicture(ControlId::EmptyCell, 0, {}))};
+  for (int i = 0; i < kSystemPictures; ++i) {
+    files.push_back(PictureFile(MakePicture(ControlId::SystemPicture, i, {})));
+  }
+  return files;
+}
 
 }  // namespace
 
@@ -65,12 +75,14 @@ void MapScreen::InitDataUsage(Universe& universe) {
 // The first zoom needs many pictures at once: they are read one by one while nothing else happens.
 void MapScreen::ReadAhead() {
   auto* timer = new QTimer(frame_);
-  QObject::connect(timer, &QTimer::timeout, frame_, [this, timer, next = 0]() mutable {
-    pictures_.Read(PictureFile(MakePicture(ControlId::SystemPicture, next, {})));
-    if (++next < kSystemPictures) return;
-    timer->deleteLater();
-    ReturnFreedMemory();
-  });
+  QObject::connect(timer, &QTimer::timeout, frame_,
+                   [this, timer, files = PicturesOfZooms()]() mutable {
+                     pictures_.Read(files.back());
+                     files.pop_back();
+                     if (!files.empty()) return;
+                     timer->deleteLater();
+                     ReturnFreedMemory();
+                   });
   timer->start(0);
 }
 

@@ -40,8 +40,7 @@ std::optional<MapKey> MapKeyOf(const QKeyEvent& event) {
 
 }  // namespace
 
-SysmapFrame::SysmapFrame(MapScene& scene, QWidget* parent)
-    : MapSceneView(parent), scene_(scene) {
+SysmapFrame::SysmapFrame(MapScene& scene, QWidget* parent) : MapSceneView(parent), scene_(scene) {
   setScene(&scene);
   setObjectName(NameOf(ControlId::MapFrame));
   setContextMenuPolicy(Qt::PreventContextMenu);
