@@ -170,6 +170,10 @@ qint64 PictureStore::BytesOfSources() const {
   return bytes;
 }
 
+qint64 PictureStore::BytesOfScaled() const {
+  return qint64{1024} * scaled_.totalCost();
+}
+
 QSize PictureStore::NaturalSize(const QString& file) {
   if (QFile::exists(file) && !file.endsWith(".svg", Qt::CaseInsensitive)) {
     const QSize size = QImageReader(file).size();

@@ -75,6 +75,9 @@ class PictureStore {
   // What the pictures that were read take, in bytes.
   qint64 BytesOfSources() const;
 
+  // What is kept of pictures in the sizes that were drawn, in bytes.
+  qint64 BytesOfScaled() const;
+
   // Where Draw puts a picture, in the device's own coordinates.
   static QRectF PlaceOnDevice(const QPainter& painter, const QRectF& place);
 

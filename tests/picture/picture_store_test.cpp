@@ -213,6 +213,58 @@ TEST_F(PictureRoomTest, ASizeThatIsKeptNeedsThePictureNoMore) {
   EXPECT_FALSE(store.IsWanting());
 }
 
+TEST_F(PictureRoomTest, ACoarseCopyGoesWhenAllThatIsWantedHasBeenRead) {
+  for (const int i : {1, 2}) {
+    store.Read(files[i]);
+    Shown(files[i], 700);
+  }
+
+  store.ReadWanted();
+  EXPECT_EQ(store.BytesOfScaled() / 1024, 2 * (700 * 700 * 4 / 1024));
+  store.ReadWanted();
+  EXPECT_EQ(store.BytesOfScaled(), 0);
+}
+
+// A canvas of 1000 by 1000 pixels has 4 MB, and scaled pictures twice as much: two of 4 MB.
+TEST_F(PictureRoomTest, ScaledPicturesHaveRoomForTwoScreens) {
+  QImage canvas(1000, 1000, QImage::Format_RGB32);
+  QPainter painter(&canvas);
+  for (const QString& file : files) store.Draw(painter, file, QRectF(0, 0, 1000, 1000));
+
+  EXPECT_LE(store.BytesOfScaled(), 8 * kMegabyte);
+  EXPECT_GT(store.BytesOfScaled(), 7 * kMegabyte);
+}
+
+// Nine pictures in three rows.
+class NinePictures : public QWidget {
+ public:
+  NinePictures(PictureStore& pictures, std::vector<QString> files)
+      : pictures_(pictures), files_(std::move(files)) {
+    resize(1500, 1500);
+  }
+  void paintEvent(QPaintEvent*) override {
+    QPainter painter(this);
+    for (int i = 0; i < 9; ++i) {
+      pictures_.Draw(painter, files_[i], QRectF(i % 3 * 500, i / 3 * 500, 500, 500));
+    }
+  }
+
+ private:
+  PictureStore& pictures_;
+  std::vector<QString> files_;
+};
+
+// 3000 by 3000 pixels are 34 MB; the widget's own 1500 by 1500 would be 9, with room for 18.
+TEST_F(PictureRoomTest, AWindowOnFinerPixelsThanItsScreensHasRoomForAllOfThem) {
+  NinePictures widget(store, files);
+  QImage canvas(3000, 3000, QImage::Format_RGB32);
+  canvas.setDevicePixelRatio(2);
+
+  widget.render(&canvas);
+
+  EXPECT_GT(store.BytesOfScaled(), 34 * kMegabyte);
+}
+
 TEST_F(PictureStoreTest, OnlyAPictureThatWasReadAndHidesAllIsOpaque) {
   const QString red = Plain(Qt::red);
   EXPECT_FALSE(store.IsOpaque(red));

@@ -32,6 +32,10 @@ void PaintedItem::Renew(const QRectF& place) {
   SetChanged();
 }
 
+qint64 PaintedItem::BytesOfPicture() const {
+  return qint64{picture_.width()} * picture_.height() * picture_.depth() / 8;
+}
+
 void PaintedItem::Draw(QPainter& painter, const QStyleOptionGraphicsItem&, QWidget* widget) {
   if (place_.isEmpty()) return;
   if (widget != nullptr) {

@@ -20,6 +20,9 @@ class PaintedItem : public ControlItem {
   // Another content, or another place for it (scene's coordinates).
   void Renew(const QRectF& place);
 
+  // What the kept picture takes, in bytes.
+  qint64 BytesOfPicture() const;
+
   QRectF boundingRect() const override { return place_; }
   QPainterPath shape() const override { return {}; }
   bool contains(const QPointF&) const override { return false; }

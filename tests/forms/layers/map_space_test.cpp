@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "forms/layers/layers_fixture.h"
+#include "support/freed_memory_probe.h"
 
 namespace orrerix {
 namespace {
@@ -22,6 +23,17 @@ TEST_F(MapSpaceTest, BodiesAreDrawnInTheirSizeUnlessTheyAreOff) {
   space.Choose(LayerChoice::None());
   EXPECT_LT(Picture().pixelColor(285 + 40, 285).red(), 150);
 }
+
+#ifdef ORRERIX_HAS_FREED_MEMORY_PROBE
+TEST_F(MapSpaceTest, WhatReadingTookAfterAnImportGoesBackToTheSystem) {
+  MapSpace space(map, remembered, choice);
+  const FreedMemoryProbe probe;
+
+  Read(space);
+
+  EXPECT_TRUE(probe.HasGoneBack());
+}
+#endif
 
 TEST_F(MapSpaceTest, TheChoiceIsRemembered) {
   { MapSpace(map, remembered, choice).Choose(Only(Layer::Danger)); }

@@ -3,6 +3,7 @@
 
 #include "db/schema.h"
 #include "forms/form_fixture.h"
+#include "support/freed_memory_probe.h"
 #include "support/universe_fixture.h"
 
 namespace orrerix {
@@ -96,6 +97,18 @@ TEST_F(MapScreenTest, PicturesGetFinerBehindTheRedraw) {
   map.Frame().grab();
   EXPECT_FALSE(pictures.IsWanting());
 }
+
+#ifdef ORRERIX_HAS_FREED_MEMORY_PROBE
+TEST_F(MapScreenTest, WhatReadingPicturesTookGoesBackToTheSystem) {
+  const FreedMemoryProbe ahead;
+  EXPECT_TRUE(WaitUntil([&] { return ahead.HasGoneBack(); }));
+
+  map.Redraw(universe, 90000, 67500);
+  map.Frame().grab();
+  const FreedMemoryProbe finer;
+  EXPECT_TRUE(WaitUntil([&] { return finer.HasGoneBack(); }));
+}
+#endif
 
 }  // namespace
 }  // namespace orrerix

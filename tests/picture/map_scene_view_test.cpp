@@ -1,0 +1,218 @@
+// SPDX-License-Identifier: MIT
+#include "picture/map_scene_view.h"
+
+#include <QImage>
+#include <QPainter>
+
+#include <gtest/gtest.h>
+
+#include "support/temp_folder.h"
+
+namespace orrerix {
+namespace {
+
+const Control kBare;
+
+// Stands below the lines and counts how often it is painted.
+class CountingItem : public ControlItem {
+ public:
+  CountingItem() : ControlItem(kBare, nullptr) {}
+  QRectF boundingRect() const override { return {0, 0, 50, 50}; }
+  QPainterPath shape() const override { return {}; }
+  void Draw(QPainter&, const QStyleOptionGraphicsItem&, QWidget*) override { ++Count; }
+  void Change() { SetChanged(); }
+  int Count = 0;
+};
+
+// A map of 300 by 200 pixels with a panel of 80 at its right.
+class MapSceneViewTest : public ::testing::Test {
+ protected:
+  MapSceneViewTest() {
+    drawing.Frame = {0, 0, 4500, 3000};
+    drawing.FrameColor = {0x402010};
+    drawing.Panel = PanelPlace::Right;
+    drawing.PanelBox = {3300, 0, 1200, 3000};
+    view.setScene(&scene);
+    view.resize(300, 200);
+  }
+
+  static Control Name(int index, double top, std::string caption) {
+    Control name =
+        MakeLabel(ControlId::SystemLabel, index, {0, top, 3300, 300}, std::move(caption));
+    name.FontSize = 12;
+    name.ForeColor = Color{0xFFFFFF};
+    return name;
+  }
+
+  static Control Line(int index, LineEnds ends, LineKind kind) {
+    const LineStyle style = kind == LineKind::JumpHole ? LineStyle::Dotted : LineStyle::Solid;
+    Control line = MakeLine(ControlId::MapLine, index, kind, {0x8080FF}, style);
+    line.Ends = ends;
+    return line;
+  }
+
+  // Names, lines that leave the frame, lanes if they are wanted, an icon's place, the panel.
+  void Show(bool lanes, const std::string& caption = "New York") {
+    drawing.Controls = {Name(1, 300, caption), Name(2, 1500, "Manhattan")};
+    drawing.Controls.push_back(Line(1, {-900, 100, 4000, 2950}, LineKind::JumpGate));
+    drawing.Controls.push_back(Line(2, {200, -500, 3900, 3700}, LineKind::JumpHole));
+    if (lanes) drawing.Controls.push_back(Line(3, {300, 2200, 3000, 400}, LineKind::TradeLane));
+    drawing.Controls.push_back(
+        MakeFrame(ControlId::PanelFrame, 0, drawing.PanelBox, {0x00FF00u - lanes}));
+    scene.Show(drawing);
+    if (putsBelow) scene.Put(below, Stratum::BelowLines);
+  }
+
+  static QImage Painted(QGraphicsView& shown, double ratio = 1) {
+    QImage image(QSize(300, 200) * ratio, QImage::Format_RGB32);
+    image.setDevicePixelRatio(ratio);
+    image.fill(Qt::magenta);
+    shown.viewport()->render(&image);
+    return image;
+  }
+
+  // The same scene, every item painted anew.
+  QImage PaintedAnew(double ratio = 1) {
+    QGraphicsView plain(&scene);
+    plain.setFrameShape(QFrame::NoFrame);
+    plain.setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    plain.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    plain.setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    plain.setRenderHint(QPainter::Antialiasing);
+    plain.resize(300, 200);
+    return Painted(plain, ratio);
+  }
+
+  PictureStore pictures;
+  MapScene scene{pictures};
+  CountingItem below;  // which takes itself out of the scene
+  MapDrawing drawing;
+  MapSceneView view;
+  bool putsBelow = false;
+};
+
+TEST_F(MapSceneViewTest, EveryPixelIsAsIfAllWerePaintedAnew) {
+  for (const double ratio : {1.0, 2.0}) {
+    for (const bool lanes : {true, true, false, true}) {
+      Show(lanes);
+      EXPECT_EQ(Painted(view, ratio), PaintedAnew(ratio)) << ratio << lanes;
+    }
+    Show(true, "New Tokyo");
+    EXPECT_EQ(Painted(view, ratio), PaintedAnew(ratio)) << ratio;
+    scene.ShowSystemNames(false);
+    EXPECT_EQ(Painted(view, ratio), PaintedAnew(ratio)) << ratio;
+    scene.ShowSystemNames(true);
+  }
+}
+
+TEST_F(MapSceneViewTest, AFrameOfAnotherColourOrSizeIsPaintedAnew) {
+  Show(true);
+  Painted(view);
+
+  drawing.FrameColor = {0x0000FF};
+  Show(true);
+  EXPECT_EQ(Painted(view), PaintedAnew());
+  drawing.PanelBox = {3000, 0, 1500, 3000};
+  Show(true);
+  EXPECT_EQ(Painted(view), PaintedAnew());
+}
+
+TEST_F(MapSceneViewTest, WithoutAnythingStillAllIsPainted) {
+  drawing.Controls = {MakeFrame(ControlId::PanelFrame, 0, drawing.PanelBox, {0x00FF00})};
+  scene.Show(drawing);
+
+  EXPECT_EQ(Painted(view), PaintedAnew());
+  EXPECT_EQ(Painted(view).pixelColor(10, 10), QColor(0x10, 0x20, 0x40));
+}
+
+TEST_F(MapSceneViewTest, TheSceneOnPaperHasAllThatTheViewKeeps) {
+  Show(true);
+  const auto printed = [this] {
+    QImage page(300, 200, QImage::Format_RGB32);
+    QPainter painter(&page);
+    painter.setRenderHint(QPainter::Antialiasing);
+    scene.render(&painter, page.rect(), scene.sceneRect());
+    return page;
+  };
+  const QImage before = printed();
+
+  Painted(view);
+
+  EXPECT_EQ(printed(), before);
+}
+
+class StillItemsTest : public MapSceneViewTest {
+ protected:
+  StillItemsTest() {
+    putsBelow = true;
+    Show(true);
+    Painted(view);
+    painted = below.Count;
+  }
+
+  // Paints the view, and returns whether that took painting what is still.
+  bool PaintsStill() {
+    Painted(view);
+    return std::exchange(painted, below.Count) != below.Count;
+  }
+
+  int painted = 0;
+};
+
+TEST_F(StillItemsTest, TradeLanesAndThePanelComeAndGoWithoutThem) {
+  EXPECT_FALSE(PaintsStill());
+  Show(false);
+  EXPECT_FALSE(PaintsStill());
+  Show(true);
+  EXPECT_FALSE(PaintsStill());
+}
+
+TEST_F(StillItemsTest, TheyArePaintedAgainForOtherContent) {
+  Show(true, "New Tokyo");
+  EXPECT_TRUE(PaintsStill());
+  scene.ShowSystemNames(false);
+  EXPECT_TRUE(PaintsStill());
+  scene.ShowSystemNames(false);
+  EXPECT_FALSE(PaintsStill());
+  Control name = drawing.Controls.front();
+  name.Caption = "New London";
+  scene.Replace(name);
+  EXPECT_TRUE(PaintsStill());
+  below.Change();
+  EXPECT_TRUE(PaintsStill());
+}
+
+TEST_F(StillItemsTest, TheyArePaintedAgainOnOtherPixels) {
+  Painted(view, 2);
+  EXPECT_NE(below.Count, painted);
+  view.resize(290, 200);
+  EXPECT_TRUE(PaintsStill());
+}
+
+TEST_F(StillItemsTest, WhatTheCallerPutsInFrontOfLinesIsPaintedEachTime) {
+  scene.Put(below, Stratum::BelowPanel);
+
+  EXPECT_TRUE(PaintsStill());
+  EXPECT_TRUE(PaintsStill());
+}
+
+TEST_F(StillItemsTest, AFinerPictureIsShown) {
+  const TempFolder folder;
+  const QString file = QString::fromStdString((folder.Path() / "sky.png").string());
+  QImage lines(200, 200, QImage::Format_RGB32);  // of which half the size shows only the mean
+  for (int y = 0; y < 200; ++y) {
+    for (int x = 0; x < 200; ++x) lines.setPixel(x, y, x % 2 == 0 ? 0xFFFFFFFF : 0xFF000000);
+  }
+  lines.save(file);
+  pictures.Read(file);
+  drawing.Controls = {
+      MakePicture(ControlId::PaintedUniverse, {}, {0, 0, 3000, 3000}, file.toStdString())};
+  scene.Show(drawing);
+
+  EXPECT_NE(Painted(view).pixelColor(100, 100), QColor(Qt::white));
+  while (pictures.IsWanting()) pictures.ReadWanted();
+  EXPECT_EQ(Painted(view).pixelColor(100, 100), QColor(Qt::white));
+}
+
+}  // namespace
+}  // namespace orrerix
