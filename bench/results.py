@@ -8,7 +8,7 @@ from statistics import median
 # What any import does at least: it reads the bytes and inserts the rows.
 FLOOR = ("ReadAllBytes", "InsertSameRows")
 # Somebody waits for these, and other threads take part.
-REDRAWS = ("Redraw/", "SwitchRedraw/", "FirstRedraw/")
+REDRAWS = ("Redraw/", "SwitchRedraw/", "NamesRedraw/", "FirstRedraw/", "FineRedraw/")
 PAINTING = ("DrawingList/", *REDRAWS)
 FRAME = 16  # milliseconds
 MILLISECONDS = {"ns": 1e-6, "us": 1e-3, "ms": 1, "s": 1e3}

@@ -121,6 +121,15 @@ TEST_F(LinesAndNamesTest, ALineThatComesInALaterDrawingPalesToo) {
   EXPECT_NEAR(Brightest(Rendered(), 30, 48, 52), 77, 2);
 }
 
+TEST_F(LinesAndNamesTest, ALineIsWholeAgainWhenTheNameIsGone) {
+  const Control line = Line(750, 0, 750, 1500, {0xFFFFFF});
+  drawing.Controls.push_back(line);
+  Rendered();
+  drawing.Controls = {line};
+
+  EXPECT_EQ(Brightest(Rendered(), 30, 48, 52), 255);
+}
+
 TEST_F(MapSceneTest, GreyDotsHaveADarkGroundOnABrightOne) {
   drawing.FrameColor = {0xFFFFFF};
   Control dots = Line(750, 0, 750, 1500, {0x808080}, LineKind::JumpHole);

@@ -117,6 +117,16 @@ TEST_F(MapSceneViewTest, AFrameOfAnotherColourOrSizeIsPaintedAnew) {
   EXPECT_EQ(Painted(view), PaintedAnew());
 }
 
+TEST_F(MapSceneViewTest, NamesThatAreNoLongerThereAreNotSeen) {
+  Show(true);
+  Painted(view);
+
+  drawing.Controls.erase(drawing.Controls.begin(), drawing.Controls.begin() + 2);
+  scene.Show(drawing);
+
+  EXPECT_EQ(Painted(view), PaintedAnew());
+}
+
 TEST_F(MapSceneViewTest, WithoutAnythingStillAllIsPainted) {
   drawing.Controls = {MakeFrame(ControlId::PanelFrame, 0, drawing.PanelBox, {0x00FF00})};
   scene.Show(drawing);

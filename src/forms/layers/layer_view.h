@@ -23,6 +23,7 @@ struct LayerView {
   ZoomRectangle Visible;
   QRectF Open;                // what the panel leaves of the map
   std::vector<QRectF> Icons;  // of the map itself
+  bool operator==(const LayerView&) const = default;
 
   bool IsEmpty() const { return Shown == nullptr || Layers.Empty(); }
   bool IsOneSystem() const { return Visible.Columns() == 1 && Visible.Rows() == 1; }

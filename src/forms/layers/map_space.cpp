@@ -4,6 +4,7 @@
 #include <QHelpEvent>
 #include <QToolTip>
 #include <cmath>
+#include <utility>
 
 #include "forms/layers/layer_areas.h"
 #include "forms/layers/universe_snapshot.h"
@@ -12,7 +13,6 @@
 #include "forms/workbench/throw_failures.h"
 #include "picture/form_font.h"
 #include "picture/plain_tool_tip.h"
-#include "platform/freed_memory.h"
 #include "space/describe.h"
 #include "space/pick.h"
 #include "space/read_space.h"
@@ -74,7 +74,6 @@ void MapSpace::Read(const std::filesystem::path& universe, const std::string& ga
       },
       [this](Outcome outcome) {
         space_ = std::move(outcome.Read);
-        ReturnFreedMemory();  // what was read takes a part of what reading took
         Show();
         if (OnRead) OnRead();
       });
@@ -107,13 +106,15 @@ LayerView MapSpace::ViewOf(const MapDrawing& drawing) const {
 
 void MapSpace::Show() {
   MapScene& scene = screen_.Scene();
-  view_ = ViewOf(scene.Drawing());
-  names_ = PlaceNames(view_, FormFont(kLabelPoints));
-  const QRectF place = view_.IsEmpty() ? QRectF() : view_.Area();
   scene.Put(*areas_, Stratum::BelowLines);
   scene.Put(*labels_, Stratum::BelowPanel);
-  areas_->Renew(place);
-  labels_->Renew(place);
+  if (LayerView next = ViewOf(scene.Drawing()); next != view_) {
+    view_ = std::move(next);
+    names_ = PlaceNames(view_, FormFont(kLabelPoints));
+    const QRectF place = view_.IsEmpty() ? QRectF() : view_.Area();
+    areas_->Renew(place);
+    labels_->Renew(place);
+  }
   scene.ShowSystemNames(view_.IsEmpty() || view_.IsOneSystem() || !choice_.Has(Layer::SystemNames));
 }
 

@@ -9,6 +9,8 @@
 #include <thread>
 #include <utility>
 
+#include "platform/freed_memory.h"
+
 namespace orrerix {
 
 // Runs one piece of work at a time in a thread of its own. Results arrive in the thread that owns
@@ -36,6 +38,7 @@ class BackgroundTask {
         std::thread([this, cancelled, work = std::move(work), done = std::move(done)]() mutable {
           auto result = std::make_shared<decltype(work(IsCancelled()))>(
               work([cancelled] { return cancelled->load(); }));
+          ReturnFreedMemory();  // the result takes a part of what the work took
           QMetaObject::invokeMethod(&receiver_, [this, cancelled, result, done]() mutable {
             if (cancelled->load()) return;
             Finish();

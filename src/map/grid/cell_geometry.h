@@ -36,6 +36,8 @@ class CellGeometry {
   float ScreenX(MapCell cell, double fraction) const;
   float ScreenY(MapCell cell, double fraction) const;
 
+  bool operator==(const CellGeometry&) const = default;
+
  private:
   int size_ = 0;
   int x1_ = 0;

@@ -35,6 +35,19 @@ TEST_F(MapSpaceTest, WhatReadingTookAfterAnImportGoesBackToTheSystem) {
 }
 #endif
 
+TEST_F(MapSpaceTest, ARedrawThatChangesNothingInThemLeavesThemAsTheyAre) {
+  MapSpace space(map, remembered, choice);
+  Read(space);
+  ShowSystem(space);
+  ASSERT_GT(Picture().pixelColor(285 + 40, 285).red(), 200);
+  const std::uint64_t version = map.Scene().StillVersion();
+
+  space.MapRedrawn();
+  EXPECT_EQ(map.Scene().StillVersion(), version);
+  space.Choose(LayerChoice::None());
+  EXPECT_NE(map.Scene().StillVersion(), version);
+}
+
 TEST_F(MapSpaceTest, TheChoiceIsRemembered) {
   { MapSpace(map, remembered, choice).Choose(Only(Layer::Danger)); }
 
