@@ -3,6 +3,7 @@
 
 #include <QPaintEngine>
 #include <QPainter>
+#include <cmath>
 
 namespace orrerix {
 namespace {
@@ -11,6 +12,15 @@ bool IsUpright(const QPainter& painter) {
   return painter.paintEngine() != nullptr &&
          painter.paintEngine()->type() == QPaintEngine::Raster &&
          painter.deviceTransform().type() <= QTransform::TxScale;
+}
+
+bool IsWhole(double number) {
+  return number == std::floor(number);
+}
+
+// Where it is not, pixels at the edges are covered in part.
+bool IsOnWholePixels(const QTransform& place) {
+  return IsWhole(place.m11()) && IsWhole(place.m22()) && IsWhole(place.dx()) && IsWhole(place.dy());
 }
 
 }  // namespace
@@ -41,7 +51,9 @@ void MapSceneView::drawBackground(QPainter* painter, const QRectF& exposed) {
   QGraphicsView::drawBackground(painter, exposed);
   if (!isPainting_ || map == nullptr || map->StillVersion() == 0 || !IsUpright(*painter)) return;
   const QTransform toDevice = painter->deviceTransform();
-  const QPointF corner = toDevice.map(QPointF(0, 0));
+  const QPointF origin = toDevice.map(QPointF(0, 0));
+  const QPoint corner(static_cast<int>(std::floor(origin.x())),
+                      static_cast<int>(std::floor(origin.y())));
   const QTransform toPicture = toDevice * QTransform::fromTranslate(-corner.x(), -corner.y());
   const QRect part = toPicture.mapRect(map->StillPart()).toAlignedRect();
   const QSize size = toPicture.mapRect(QRectF(viewport()->rect())).toAlignedRect().size();
@@ -64,6 +76,9 @@ void MapSceneView::PaintPicture(MapScene& map, const Look& look) {
   QPainter painter(&still_);
   painter.setRenderHints(renderHints());
   painter.setWorldTransform(look.ToDevice * painter.deviceTransform().inverted());
+  if (!IsOnWholePixels(look.ToDevice)) {
+    painter.fillRect(map.StillPart().adjusted(-1, -1, 1, 1), map.backgroundBrush());
+  }
   map.DrawStill(painter, viewport());
   painter.end();
   still_.setDevicePixelRatio(1);  // it is copied pixel for pixel

@@ -3,6 +3,7 @@
 
 #include <QGraphicsView>
 #include <QImage>
+#include <QPointer>
 #include <QTransform>
 #include <cstdint>
 
@@ -23,7 +24,7 @@ class MapSceneView : public QGraphicsView {
  private:
   // What the picture depends on besides the scene's content.
   struct Look {
-    const MapScene* Scene = nullptr;
+    QPointer<QGraphicsScene> Scene;
     std::uint64_t Version = 0;
     QTransform ToDevice;  // from the scene to the picture's pixels
     QSize Size;

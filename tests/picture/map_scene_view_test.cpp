@@ -63,16 +63,16 @@ class MapSceneViewTest : public ::testing::Test {
     if (putsBelow) scene.Put(below, Stratum::BelowLines);
   }
 
-  static QImage Painted(QGraphicsView& shown, double ratio = 1) {
-    QImage image(QSize(300, 200) * ratio, QImage::Format_RGB32);
+  static QImage Painted(QGraphicsView& shown, double ratio = 1, QPoint place = {}) {
+    QImage image(QSize(300 + place.x(), 200 + place.y()) * ratio, QImage::Format_RGB32);
     image.setDevicePixelRatio(ratio);
     image.fill(Qt::magenta);
-    shown.viewport()->render(&image);
+    shown.viewport()->render(&image, place);
     return image;
   }
 
   // The same scene, every item painted anew.
-  QImage PaintedAnew(double ratio = 1) {
+  QImage PaintedAnew(double ratio = 1, QPoint place = {}) {
     QGraphicsView plain(&scene);
     plain.setFrameShape(QFrame::NoFrame);
     plain.setAlignment(Qt::AlignLeft | Qt::AlignTop);
@@ -80,7 +80,7 @@ class MapSceneViewTest : public ::testing::Test {
     plain.setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     plain.setRenderHint(QPainter::Antialiasing);
     plain.resize(300, 200);
-    return Painted(plain, ratio);
+    return Painted(plain, ratio, place);
   }
 
   PictureStore pictures;
@@ -92,7 +92,7 @@ class MapSceneViewTest : public ::testing::Test {
 };
 
 TEST_F(MapSceneViewTest, EveryPixelIsAsIfAllWerePaintedAnew) {
-  for (const double ratio : {1.0, 2.0}) {
+  for (const double ratio : {1.0, 1.25, 1.5, 2.0}) {
     for (const bool lanes : {true, true, false, true}) {
       Show(lanes);
       EXPECT_EQ(Painted(view, ratio), PaintedAnew(ratio)) << ratio << lanes;
@@ -102,6 +102,23 @@ TEST_F(MapSceneViewTest, EveryPixelIsAsIfAllWerePaintedAnew) {
     scene.ShowSystemNames(false);
     EXPECT_EQ(Painted(view, ratio), PaintedAnew(ratio)) << ratio;
     scene.ShowSystemNames(true);
+  }
+}
+
+// Lines that leave the frame are cut off at the edge of the device, which is elsewhere then.
+TEST_F(MapSceneViewTest, NorDoesItsPlaceOnTheDeviceMatter) {
+  Show(true);
+  std::erase_if(drawing.Controls, [](const Control& control) {
+    return control.Kind == ControlKind::Line && control.Line != LineKind::TradeLane;
+  });
+  drawing.Controls.insert(drawing.Controls.begin() + 2,
+                          Line(1, {150, 100, 3000, 2800}, LineKind::JumpGate));
+  scene.Show(drawing);
+
+  for (const double ratio : {1.0, 1.25, 1.5, 2.0}) {
+    for (const QPoint place : {QPoint(3, 3), QPoint(0, 7), QPoint()}) {
+      EXPECT_EQ(Painted(view, ratio, place), PaintedAnew(ratio, place)) << ratio << place.y();
+    }
   }
 }
 
@@ -125,6 +142,23 @@ TEST_F(MapSceneViewTest, NamesThatAreNoLongerThereAreNotSeen) {
   scene.Show(drawing);
 
   EXPECT_EQ(Painted(view), PaintedAnew());
+}
+
+TEST_F(MapSceneViewTest, AnotherSceneIsNotTakenForTheOneBefore) {
+  const auto shown = [this](Color sky) {
+    MapScene other(pictures);
+    MapDrawing content;
+    content.Frame = {0, 0, 4500, 3000};
+    content.FrameColor = sky;
+    content.Controls = {Name(1, 300, "New York")};
+    other.Show(content);
+    view.setScene(&other);
+    return Painted(view).pixelColor(100, 100);
+  };
+
+  EXPECT_EQ(shown({0x0000FF}), QColor(Qt::red));
+  EXPECT_EQ(shown({0xFF0000}), QColor(Qt::blue));
+  view.setScene(&scene);
 }
 
 TEST_F(MapSceneViewTest, WithoutAnythingStillAllIsPainted) {
