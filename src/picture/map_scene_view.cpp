@@ -14,15 +14,6 @@ bool IsUpright(const QPainter& painter) {
          painter.deviceTransform().type() <= QTransform::TxScale;
 }
 
-bool IsWhole(double number) {
-  return number == std::floor(number);
-}
-
-// Where it is not, pixels at the edges are covered in part.
-bool IsOnWholePixels(const QTransform& place) {
-  return IsWhole(place.m11()) && IsWhole(place.m22()) && IsWhole(place.dx()) && IsWhole(place.dy());
-}
-
 }  // namespace
 
 // The scene paints every pixel that it is asked for, so nothing is painted below it.
@@ -76,9 +67,6 @@ void MapSceneView::PaintPicture(MapScene& map, const Look& look) {
   QPainter painter(&still_);
   painter.setRenderHints(renderHints());
   painter.setWorldTransform(look.ToDevice * painter.deviceTransform().inverted());
-  if (!IsOnWholePixels(look.ToDevice)) {
-    painter.fillRect(map.StillPart().adjusted(-1, -1, 1, 1), map.backgroundBrush());
-  }
   map.DrawStill(painter, viewport());
   painter.end();
   still_.setDevicePixelRatio(1);  // it is copied pixel for pixel

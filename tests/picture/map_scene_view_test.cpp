@@ -113,6 +113,14 @@ TEST_F(MapSceneViewTest, NorDoesItsPlaceOnTheDeviceMatter) {
   });
   drawing.Controls.insert(drawing.Controls.begin() + 2,
                           Line(1, {150, 100, 3000, 2800}, LineKind::JumpGate));
+  const TempFolder folder;
+  const QString sky = QString::fromStdString((folder.Path() / "sky.png").string());
+  QImage plain(220, 200, QImage::Format_RGB32);
+  plain.fill(Qt::darkRed);
+  plain.save(sky);
+  drawing.Controls.insert(
+      drawing.Controls.begin(),
+      MakePicture(ControlId::PaintedUniverse, {}, {0, 0, 3300, 3000}, sky.toStdString()));
   scene.Show(drawing);
 
   for (const double ratio : {1.0, 1.25, 1.5, 2.0}) {

@@ -27,6 +27,8 @@ TEST_F(MapSpaceTest, BodiesAreDrawnInTheirSizeUnlessTheyAreOff) {
 #ifdef ORRERIX_HAS_FREED_MEMORY_PROBE
 TEST_F(MapSpaceTest, WhatReadingTookAfterAnImportGoesBackToTheSystem) {
   MapSpace space(map, remembered, choice);
+  const FreedMemoryProbe before;  // goes when the map has read its pictures
+  ASSERT_TRUE(WaitUntil([&] { return before.HasGoneBack(); }));
   const FreedMemoryProbe probe;
 
   Read(space);
@@ -40,6 +42,7 @@ TEST_F(MapSpaceTest, ARedrawThatChangesNothingInThemLeavesThemAsTheyAre) {
   Read(space);
   ShowSystem(space);
   ASSERT_GT(Picture().pixelColor(285 + 40, 285).red(), 200);
+  ASSERT_TRUE(WaitUntil([&] { return map.Scene().StillVersion() > 0; }));  // no picture is awaited
   const std::uint64_t version = map.Scene().StillVersion();
 
   space.MapRedrawn();
