@@ -75,3 +75,25 @@ void operator delete(void* memory, std::size_t) noexcept {
 void operator delete(void* memory, const std::nothrow_t&) noexcept {
   std::free(memory);
 }
+
+// Arrays, too: the sanitizers' own functions for them would not come here.
+
+void* operator new[](std::size_t size) {
+  return operator new(size);
+}
+
+void* operator new[](std::size_t size, const std::nothrow_t& nothrow) noexcept {
+  return operator new(size, nothrow);
+}
+
+void operator delete[](void* memory) noexcept {
+  operator delete(memory);
+}
+
+void operator delete[](void* memory, std::size_t) noexcept {
+  operator delete(memory);
+}
+
+void operator delete[](void* memory, const std::nothrow_t&) noexcept {
+  operator delete(memory);
+}
