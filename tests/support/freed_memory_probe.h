@@ -14,7 +14,7 @@
 namespace orrerix {
 
 #ifdef ORRERIX_HAS_FREED_MEMORY_PROBE
-// Memory that is freed, but that the C library keeps: a block behind it is in use.
+// Memory that is freed, but that the C library keeps: a block after it is in use.
 class FreedMemoryProbe {
  public:
   FreedMemoryProbe() {
