@@ -308,19 +308,6 @@ bool Database::ExecuteNative(FailureSink& sink, const std::string& statement) {
   });
 }
 
-void Database::UseForFilling(FailureSink& sink) {
-  ExecuteNative(sink,
-                "PRAGMA cache_size = -16384; PRAGMA ignore_check_constraints = ON; "
-                "PRAGMA locking_mode = EXCLUSIVE; PRAGMA temp_store = MEMORY;");
-}
-
-void Database::UseForBuilding(FailureSink& sink) {
-  UseForFilling(sink);
-  // Needs no rollback: a statement checks its keys before it writes.
-  ExecuteNative(sink, "PRAGMA journal_mode = OFF; PRAGMA synchronous = OFF;");
-  if (IsOpen()) connection_->IndexNames();
-}
-
 void Database::DrawUniqueIDsFrom(UniqueNumbers::Source source) {
   if (IsOpen()) connection_->DrawUniqueIDsFrom(std::move(source));
 }

@@ -132,14 +132,6 @@ class Database {
   // failed.
   bool ExecuteNative(FailureSink& sink, const std::string& statement);
 
-  // For the only one who has this file open, to fill it with values that were tested before: much
-  // of it is kept in memory, and the checks of its fields are not repeated.
-  void UseForFilling(FailureSink& sink);
-
-  // The same, and trades safety against loss of power for speed: for files that are thrown away if
-  // they are not finished. Keys work as ever; what was written is not taken back.
-  void UseForBuilding(FailureSink& sink);
-
   // Where the numbers of unique IDs come from; tests hand in their own.
   void DrawUniqueIDsFrom(UniqueNumbers::Source source);
 

@@ -62,9 +62,8 @@ class ImportRun {
 
   void OpenFile() {
     database_ = FileExists(routine_, File())
-                    ? DBEngine::OpenDatabase(routine_, File())
-                    : DBEngine::CreateDatabase(routine_, File(), order_.Format);
-    database_.UseForBuilding(routine_);
+                    ? DBEngine::OpenDatabase(routine_, File(), FileUse::Building)
+                    : DBEngine::CreateDatabase(routine_, File(), order_.Format, FileUse::Building);
     database_.Begin(routine_);
   }
 
@@ -161,8 +160,7 @@ class ImportRun {
   // The stamp goes into the build file, before crunching: a process that dies earlier leaves no
   // file that looks finished.
   void StampVersion(const fs::path& build) {
-    Database file = DBEngine::OpenDatabase(routine_, build);
-    file.UseForBuilding(routine_);
+    Database file = DBEngine::OpenDatabase(routine_, build, FileUse::Building);
     file.CreateTable(routine_, VersionTable());
     Recordset version = file.OpenTable(routine_, "Version");
     version.AddNew();

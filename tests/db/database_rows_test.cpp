@@ -11,6 +11,7 @@
 #include "db/rows/field_of.h"
 #include "support/failing_memory.h"
 #include "support/failure_sinks.h"
+#include "support/temp_folder.h"
 
 namespace orrerix {
 namespace {
@@ -245,20 +246,21 @@ std::string PlanOf(const Database& db, const std::string& query) {
 
 TEST(RowsNamed, GetAnIndexInAFileThatIsThrownAwayLater) {
   FailTest mustWork;
-  Database db = DBEngine::CreateInMemory(mustWork);
-  db.CreateTable(mustWork, {"goods", {Of("name", FieldType::Text)}, {}});
-  const auto indexes = [&] {
+  TempFolder folder;
+  const auto indexes = [&](Database& db) {
+    db.CreateTable(mustWork, {"goods", {Of("name", FieldType::Text)}, {}});
+    db.OpenRowsNamed(mustWork, "goods", {"name", "a"});
+    db.OpenRowsNamed(mustWork, "goods", {"name", "b"});
     return db.OpenRecordset(mustWork, "SELECT * FROM sqlite_master WHERE type = 'index'")
         .RecordCount();
   };
-  db.OpenRowsNamed(mustWork, "goods", {"name", "a"});
-  EXPECT_EQ(indexes(), 0u);
+  Database shared =
+      DBEngine::CreateDatabase(mustWork, folder.Path() / "a.mdb", JetVersionOption::Version40);
+  EXPECT_EQ(indexes(shared), 0u);
 
-  db.UseForBuilding(mustWork);
-  db.OpenRowsNamed(mustWork, "goods", {"name", "a"});
-  db.OpenRowsNamed(mustWork, "goods", {"name", "b"});
-
-  EXPECT_EQ(indexes(), 1u);
+  Database db = DBEngine::CreateDatabase(mustWork, folder.Path() / "b.mdb",
+                                         JetVersionOption::Version40, FileUse::Building);
+  EXPECT_EQ(indexes(db), 1u);
   EXPECT_THAT(PlanOf(db, "SELECT * FROM goods WHERE ucase(name) = ?1 COLLATE NOCASE"),
               HasSubstr("USING INDEX goods lookup name"));
 }

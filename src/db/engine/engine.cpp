@@ -37,7 +37,27 @@ void TrustNothing(sqlite3* handle) {
   sqlite3_limit(handle, SQLITE_LIMIT_LENGTH, longestValue);
 }
 
-std::shared_ptr<Connection> Connect(const fs::path& path, int flags) {
+void Run(Connection& connection, const std::string& statement) {
+  if (sqlite3_exec(connection.Handle(), statement.c_str(), nullptr, nullptr, nullptr) !=
+      SQLITE_OK) {
+    throw connection.LastFailure();
+  }
+}
+
+// Comes before the first question, so that the file is locked once.
+void PrepareFor(FileUse use, Connection& connection) {
+  if (use == FileUse::Sharing) return;
+  Run(connection,
+      "PRAGMA locking_mode = EXCLUSIVE; PRAGMA temp_store = MEMORY; "
+      "PRAGMA ignore_check_constraints = ON; PRAGMA cache_size = -16384");
+  if (use == FileUse::Filling) return;
+  // Needs no rollback: a statement checks its keys before it writes.
+  Run(connection, "PRAGMA journal_mode = OFF; PRAGMA synchronous = OFF");
+  connection.IndexNames();
+}
+
+std::shared_ptr<Connection> Connect(const fs::path& path, int flags,
+                                    FileUse use = FileUse::Sharing) {
   [[maybe_unused]] static const bool kConfigured = ConfigureEngine();
   sqlite3* handle = nullptr;
   const int result = sqlite3_open_v2(TextOf(SystemPath(path)).c_str(), &handle,
@@ -50,14 +70,8 @@ std::shared_ptr<Connection> Connect(const fs::path& path, int flags) {
   sqlite3_extended_result_codes(handle, 1);
   TrustNothing(handle);
   RegisterEngineFunctions(handle);
+  PrepareFor(use, *connection);
   return connection;
-}
-
-void Run(Connection& connection, const std::string& statement) {
-  if (sqlite3_exec(connection.Handle(), statement.c_str(), nullptr, nullptr, nullptr) !=
-      SQLITE_OK) {
-    throw connection.LastFailure();
-  }
 }
 
 // A text in the quotes of the engine's language, inner quotes doubled.
@@ -84,26 +98,26 @@ Database Guarded(FailureSink& sink, Open&& open) {
 
 }  // namespace
 
-Database DBEngine::CreateDatabase(FailureSink& sink, const fs::path& path,
-                                  JetVersionOption option) {
+Database DBEngine::CreateDatabase(FailureSink& sink, const fs::path& path, JetVersionOption option,
+                                  FileUse use) {
   return Guarded(sink, [&] {
     std::error_code ignored;
     if (fs::exists(path, ignored)) {
       throw EngineFailure(failure_number::kDatabaseExists,
                           fmt::format("Database '{}' already exists.", TextOf(path)));
     }
-    auto connection = Connect(path, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
+    auto connection = Connect(path, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, use);
     // A file that holds nothing yet has nothing to lose with the power.
-    Run(*connection, fmt::format("PRAGMA synchronous = OFF; PRAGMA user_version = {}; "
-                                 "PRAGMA synchronous = FULL",
+    Run(*connection, fmt::format("PRAGMA synchronous = OFF; PRAGMA user_version = {}",
                                  static_cast<int>(option)));
+    if (use != FileUse::Building) Run(*connection, "PRAGMA synchronous = FULL");
     return connection;
   });
 }
 
-Database DBEngine::OpenDatabase(FailureSink& sink, const fs::path& path) {
+Database DBEngine::OpenDatabase(FailureSink& sink, const fs::path& path, FileUse use) {
   return Guarded(sink, [&] {
-    auto connection = Connect(path, SQLITE_OPEN_READWRITE);
+    auto connection = Connect(path, SQLITE_OPEN_READWRITE, use);
     // SQLite opens anything; reading the head of the file shows whether it is a database, and takes
     // the same time for any number of tables.
     Run(*connection, "PRAGMA schema_version");

@@ -42,8 +42,7 @@ std::vector<TableDef>::const_iterator EndOfFixedTables(const std::vector<TableDe
 
 // All tables of a file that are not the engine's own.
 std::vector<TableDef> TablesOf(FailureSink& routine, const fs::path& file) {
-  Database database = DBEngine::OpenDatabase(routine, file);
-  database.Begin(routine);  // one lock for all questions
+  Database database = DBEngine::OpenDatabase(routine, file, FileUse::Filling);
   std::vector<TableDef> tables = database.TableDefs(routine);
   database.Close();
   std::erase_if(tables,
@@ -148,8 +147,7 @@ void CleanUpMemory(ErrorLog& log, ImportHost& host, Database& database,
     RenameFile(routine, file, aside);
     DBEngine::CompactDatabase(routine, aside, file);
     if (FileExists(routine, file)) DeleteFile(routine, aside);
-    database = DBEngine::OpenDatabase(routine, file);
-    database.UseForBuilding(routine);
+    database = DBEngine::OpenDatabase(routine, file, FileUse::Building);
     database.Begin(routine);
     host.Yield();
   });
@@ -163,8 +161,7 @@ std::vector<TableCount> CrunchTXTFields(ErrorLog& log, const fs::path& source,
   routine.Run([&] {
     const std::vector<TableDef> tables = TablesOf(routine, source);
     DeleteFile(routine, target);
-    Database to = DBEngine::CreateDatabase(routine, target, option);
-    to.UseForFilling(routine);
+    Database to = DBEngine::CreateDatabase(routine, target, option, FileUse::Filling);
     to.Attach(routine, source);
     const auto behindFixed = EndOfFixedTables(tables);
     Cruncher cruncher(routine, to, kept.Rows);

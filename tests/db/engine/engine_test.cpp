@@ -56,6 +56,39 @@ TEST_F(Engine, WhatComesIntoANewFileOutlivesALossOfPower) {
   EXPECT_EQ(synchronous["synchronous"].Get(), full);
 }
 
+TEST_F(Engine, AFileThatIsFilledIsLockedFromItsCreation) {
+  for (const FileUse use : {FileUse::Filling, FileUse::Building}) {
+    Database mine = DBEngine::CreateDatabase(mustWork, file, JetVersionOption::Version40, use);
+
+    EXPECT_FALSE(DBEngine::OpenDatabase(failures, file, use).IsOpen());
+    EXPECT_FALSE(DBEngine::OpenDatabase(failures, file).IsOpen());
+
+    mine.Close();
+    EXPECT_TRUE(DBEngine::OpenDatabase(mustWork, file).IsOpen());
+    fs::remove(file);
+  }
+  constexpr int inUse = failure_number::kFileInUse;
+  EXPECT_THAT(failures.Numbers(), ElementsAre(inUse, inUse, inUse, inUse));
+}
+
+TEST_F(Engine, ASharedFileIsNotLocked) {
+  Database mine = Create(file);
+
+  EXPECT_TRUE(DBEngine::OpenDatabase(mustWork, file).IsOpen());
+}
+
+TEST_F(Engine, AFileThatIsFilledOutlivesALossOfPowerAndOneThatIsBuiltNeedNot) {
+  const auto synchronous = [&](FileUse use) {
+    fs::remove(file);
+    Database made = DBEngine::CreateDatabase(mustWork, file, JetVersionOption::Version40, use);
+    return made.OpenRecordset(mustWork, "SELECT * FROM pragma_synchronous")[0].Get();
+  };
+  constexpr int off = 0;
+  constexpr int full = 2;
+  EXPECT_EQ(synchronous(FileUse::Filling), full);
+  EXPECT_EQ(synchronous(FileUse::Building), off);
+}
+
 TEST_F(Engine, DoesNotCreateOverAFile) {
   Create(file).Close();
 
