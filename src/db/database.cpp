@@ -214,7 +214,7 @@ std::vector<std::size_t> Database::LongestAttachedTexts(FailureSink& sink,
     RequireOpen();
     const PreparedStatement rows =
         connection_->PrepareOnce("SELECT " + columns + " FROM attached." + QuoteName(table.Name));
-    while (sqlite3_step(rows.get()) == SQLITE_ROW) {
+    while (StepsToRow(rows.get())) {
       for (std::size_t i = 0; i < places.size(); ++i) {
         const int column = static_cast<int>(i);
         std::size_t& most = longest[places[i]];
@@ -329,7 +329,7 @@ std::int64_t Database::FreePages(FailureSink& sink) const {
   Guard(sink, [&] {
     RequireOpen();
     StatementLoan loan(connection_->Prepare("PRAGMA freelist_count"));
-    if (sqlite3_step(loan.get()) == SQLITE_ROW) pages = sqlite3_column_int64(loan.get(), 0);
+    if (StepsToRow(loan.get())) pages = sqlite3_column_int64(loan.get(), 0);
   });
   return pages;
 }

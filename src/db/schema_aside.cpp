@@ -8,7 +8,7 @@ void SchemaAside::Take(Connection& connection) {
   const PreparedStatement rows = connection.PrepareOnce(
       "SELECT rowid, type, name, tbl_name, rootpage, sql FROM main.sqlite_master ORDER BY rowid");
   std::size_t taken = 0;
-  for (; sqlite3_step(rows.get()) == SQLITE_ROW; ++taken) {
+  for (; StepsToRow(rows.get()); ++taken) {
     entries_.push_back({sqlite3_column_int64(rows.get(), 0), ColumnText(rows.get(), 1),
                         ColumnText(rows.get(), 2), ColumnText(rows.get(), 3),
                         sqlite3_column_int64(rows.get(), 4),

@@ -13,6 +13,14 @@
 #include "platform/path_text.h"
 
 namespace orrerix {
+namespace {
+
+void RequireMemory(int result) {
+  if (result == SQLITE_NOMEM || result == SQLITE_IOERR_NOMEM) throw std::bad_alloc();
+}
+
+}  // namespace
+
 Connection::Connection(sqlite3* handle, std::filesystem::path path)
     : handle_(handle), path_(std::move(path)) {}
 
@@ -69,7 +77,7 @@ std::shared_ptr<const TableDef> Connection::Find(std::string_view table) {
       Prepare("SELECT name, sql FROM sqlite_master WHERE type = 'table' AND name = ?1 "
               "COLLATE NOCASE"));
   Bind(master.get(), 1, table);
-  if (sqlite3_step(master.get()) != SQLITE_ROW) return nullptr;
+  if (!StepsToRow(master.get())) return nullptr;
   auto definition = ReadDefinition(ColumnText(master.get(), 0), ColumnText(master.get(), 1));
   tables_[key] = definition;
   return definition;
@@ -84,8 +92,10 @@ std::shared_ptr<const TableDef> Connection::Require(std::string_view table) {
 
 // Looks into the schema that the engine has in memory; its table has no index on names.
 bool Connection::Exists(const std::string& table) const {
-  return sqlite3_table_column_metadata(handle_, "main", table.c_str(), nullptr, nullptr, nullptr,
-                                       nullptr, nullptr, nullptr) == SQLITE_OK;
+  const int result = sqlite3_table_column_metadata(handle_, "main", table.c_str(), nullptr, nullptr,
+                                                   nullptr, nullptr, nullptr, nullptr);
+  RequireMemory(result);
+  return result == SQLITE_OK;
 }
 
 std::vector<std::shared_ptr<const TableDef>> Connection::FindAll() {
@@ -94,7 +104,7 @@ std::vector<std::shared_ptr<const TableDef>> Connection::FindAll() {
     StatementLoan master(
         Prepare("SELECT name, sql FROM sqlite_master WHERE type = 'table' "
                 "AND name NOT LIKE 'sqlite[_]*' ORDER BY rowid"));
-    while (sqlite3_step(master.get()) == SQLITE_ROW) {
+    while (StepsToRow(master.get())) {
       found.emplace_back(ColumnText(master.get(), 0), ColumnText(master.get(), 1));
     }
   }
@@ -113,7 +123,7 @@ std::shared_ptr<const TableDef> Connection::ReadDefinition(const std::string& na
   definition->Name = name;
   StatementLoan columns(Prepare("SELECT name, type, dflt_value FROM pragma_table_info(?1)"));
   Bind(columns.get(), 1, name);
-  while (sqlite3_step(columns.get()) == SQLITE_ROW) {
+  while (StepsToRow(columns.get())) {
     definition->Fields.push_back(ReadField(ColumnText(columns.get(), 0),
                                            ColumnText(columns.get(), 1),
                                            ColumnText(columns.get(), 2), sql));
@@ -122,7 +132,7 @@ std::shared_ptr<const TableDef> Connection::ReadDefinition(const std::string& na
       Prepare("SELECT ii.name FROM pragma_index_list(?1) il, pragma_index_info(il.name) ii "
               "WHERE il.[unique] AND ii.name IS NOT NULL ORDER BY ii.seqno"));
   Bind(keys.get(), 1, name);
-  while (sqlite3_step(keys.get()) == SQLITE_ROW) {
+  while (StepsToRow(keys.get())) {
     if (!definition->PrimaryKey) definition->PrimaryKey = Index{"key", {}, false};
     definition->PrimaryKey->Fields.push_back(ColumnText(keys.get(), 0));
   }
@@ -247,7 +257,7 @@ UniqueNumbers& Connection::UniqueIDs(const TableDef& table) {
   const PreparedStatement rows =
       PrepareOnce("SELECT " + QuoteName(table.Fields[*table.UniqueIDField()].Name) + " FROM " +
                   QuoteName(table.Name));
-  while (sqlite3_step(rows.get()) == SQLITE_ROW) numbers.Take(sqlite3_column_int64(rows.get(), 0));
+  while (StepsToRow(rows.get())) numbers.Take(sqlite3_column_int64(rows.get(), 0));
   return uniqueIDs_.emplace(key, std::move(numbers)).first->second;
 }
 
@@ -352,6 +362,12 @@ void BindCell(sqlite3_stmt* statement, int parameter, const HeldRows::Cell& cell
   } else {
     sqlite3_bind_null(statement, parameter);
   }
+}
+
+bool StepsToRow(sqlite3_stmt* statement) {
+  const int result = sqlite3_step(statement);
+  RequireMemory(result);
+  return result == SQLITE_ROW;
 }
 
 HeldRows::Cell Column(sqlite3_stmt* statement, int column) {

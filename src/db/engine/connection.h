@@ -157,6 +157,10 @@ void BindAll(sqlite3_stmt* statement, const std::vector<Value>& values);
 // The same of one content; its text must outlive the statement's run.
 void BindCell(sqlite3_stmt* statement, int parameter, const HeldRows::Cell& cell);
 
+// Goes to the next row; false if there is none or it cannot be read. Throws std::bad_alloc if the
+// engine has no memory for it.
+bool StepsToRow(sqlite3_stmt* statement);
+
 // A column of the current row, counted from 0; its text is good until the next row. Throws
 // std::bad_alloc if the engine has no memory for it.
 HeldRows::Cell Column(sqlite3_stmt* statement, int column);

@@ -6,12 +6,14 @@
 #include <functional>
 #include <new>
 #include <string>
+#include <vector>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <sqlite3.h>
 
 #include "db/engine/engine.h"
+#include "db/rows/field_of.h"
 #include "support/failure_sinks.h"
 #include "support/temp_folder.h"
 
@@ -96,6 +98,36 @@ TEST_F(LackOfMemory, AColumnWithoutMemoryForItsTextThrows) {
   memory.LastsFor(0);
 
   EXPECT_THROW(Column(statement, 0), std::bad_alloc);
+}
+
+TEST_F(LackOfMemory, ATablesDefinitionComesWholeOrNotAtAll) {
+  const std::filesystem::path file = folder.Path() / "goods.db";
+  DBEngine::CreateDatabase(mustWork, file, JetVersionOption::Version40)
+      .CreateTable(mustWork, {"goods",
+                              {Of("name", FieldType::Text), Of("price", FieldType::Long)},
+                              Index{"key", {"name"}}});
+  using Asking = std::function<void(Database&, FailureSink&)>;
+  const std::array<Asking, 2> askings = {
+      [](Database& goods, FailureSink& sink) { goods.TableDefs(sink); },
+      [](Database& goods, FailureSink& sink) { goods.OpenTable(sink, "goods"); }};
+  for (const Asking& ask : askings) {
+    bool lacked = true;
+    for (int allocations = 0; lacked && allocations < 10000; ++allocations) {
+      RecordFailures failures;
+      Database goods = DBEngine::OpenDatabase(mustWork, file);
+      memory.LastsFor(allocations);
+      ask(goods, failures);
+      memory.SuffersNoLack();
+
+      lacked = !failures.Numbers().empty();
+      EXPECT_THAT(failures.Numbers(), AnyOf(IsEmpty(), ElementsAre(failure_number::kOutOfMemory)));
+      const std::vector<TableDef> known = goods.TableDefs(mustWork);
+      ASSERT_EQ(known.size(), 1U) << allocations;
+      EXPECT_EQ(known[0].Fields.size(), 2U) << allocations;
+      EXPECT_TRUE(known[0].PrimaryKey) << allocations;
+    }
+    EXPECT_FALSE(lacked);
+  }
 }
 
 TEST_F(LackOfMemory, RowsComeWholeOrNotAtAll) {
