@@ -106,6 +106,16 @@ class LabelItem : public ControlItem {
     return mapRectToScene(letters.adjusted(beside, 0, -beside, 0));
   }
 
+  // Letters may leave the box, and swing out of the lines they stand in.
+  QRectF PaintedPart() const override {
+    const QFontMetricsF metrics(font_);
+    const double width = std::max(text_.textWidth(), metrics.horizontalAdvance(text_.text()));
+    const double beside = width - text_.textWidth() + metrics.height();
+    const QRectF letters(corner_, QSizeF(text_.textWidth(), text_.size().height()));
+    const double above = metrics.height() / 2;
+    return mapRectToScene(letters.adjusted(-beside, -above, beside, above) | boundingRect());
+  }
+
   void Draw(QPainter& painter, const QStyleOptionGraphicsItem&, QWidget*) override {
     const Control& label = Shown();
     if (!style_.Transparent) FillBackground(painter, label);
@@ -213,9 +223,20 @@ void ControlItem::paint(QPainter* painter, const QStyleOptionGraphicsItem* optio
   if (still_ == nullptr || !still_->AreKept) Draw(*painter, *option, widget);
 }
 
+void ControlItem::SetStill(StillItems* still) {
+  if (still == still_) return;
+  MarkChanged();
+  still_ = still;
+  MarkChanged();
+}
+
+void ControlItem::MarkChanged() const {
+  if (still_ != nullptr) still_->Changes.Add(PaintedPart());
+}
+
 void ControlItem::SetChanged() {
   update();
-  if (still_ != nullptr) ++still_->Version;
+  if (still_ != nullptr) still_->Changes.AddAll();
 }
 
 void ControlItem::Rebind(const Control& same) {

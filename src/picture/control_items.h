@@ -3,20 +3,20 @@
 #pragma once
 
 #include <QGraphicsItem>
-#include <cstdint>
 #include <memory>
 #include <vector>
 
 #include "map/drawing_list.h"
 #include "picture/picture_store.h"
+#include "picture/still_changes.h"
 
 namespace orrerix {
 
 // The items at the back of a scene that stay as they are through most redraws. A view may keep a
 // picture of them; what paints the picture calls their Draw.
 struct StillItems {
-  bool AreKept = false;       // the view that is being painted has a picture of them
-  std::uint64_t Version = 0;  // another one for each change of what they look like
+  bool AreKept = false;  // the view that is being painted has a picture of them
+  StillChanges Changes;  // of what they look like
 };
 
 // Shows one control, or several lines; the controls outlive their item. An item's origin is the top
@@ -37,11 +37,19 @@ class ControlItem : public QGraphicsItem {
   // The part of the scene in which nothing below can be seen.
   virtual QRectF Hides() const { return {}; }
 
-  // Joins the items that stay as they are; null takes it out. An item that is not a layer leaves
-  // its children as they are.
-  virtual void SetStill(StillItems* still) { still_ = still; }
+  // Joins the items that stay as they are; null takes it out, which also comes before its end. Both
+  // change what these look like. An item that is not a layer leaves its children as they are.
+  virtual void SetStill(StillItems* still);
   StillItems* Still() const { return still_; }
   bool IsStill() const { return still_ != nullptr; }
+
+  // Whether it may paint in a part of the scene.
+  bool IsSeenIn(const QRegion& part) const {
+    return part.intersects(PaintedPart().adjusted(-1, -1, 1, 1).toAlignedRect());
+  }
+
+  // Adds the place in which it paints to the changes, if it is still.
+  virtual void MarkChanged() const;
 
   // Paints it, with the painter in the item's coordinates.
   virtual void Draw(QPainter& painter, const QStyleOptionGraphicsItem& option, QWidget* widget) = 0;
@@ -58,6 +66,9 @@ class ControlItem : public QGraphicsItem {
   }
 
  protected:
+  // The part of the scene in which it leaves pixels; soft edges may go a pixel further.
+  virtual QRectF PaintedPart() const { return mapRectToScene(boundingRect()); }
+
   // To be called when it looks other than before without having been made anew.
   void SetChanged();
 

@@ -41,6 +41,15 @@ bool ControlLayer::Holds(const Control& control) const {
   return AreOfOneLayer(First(), control);
 }
 
+// Deletes all items from this one on.
+void ControlLayer::Remove(std::size_t first) {
+  for (std::size_t i = first; i < items_.size(); ++i) {
+    items_[i]->SetStill(nullptr);
+    delete items_[i];
+  }
+  items_.resize(first);
+}
+
 // Deletes the items from the first control on that differs, and returns how many are left.
 std::size_t ControlLayer::KeepItems(std::span<const Control> next) {
   const auto differ = std::mismatch(controls_.begin(), controls_.end(), next.begin(), next.end());
@@ -48,17 +57,14 @@ std::size_t ControlLayer::KeepItems(std::span<const Control> next) {
   const bool areLines = next.front().Kind == ControlKind::Line;
   if (areLines && same == controls_.size() && same == next.size()) return items_.size();
   const std::size_t kept = areLines ? 0 : same;
-  for (std::size_t i = kept; i < items_.size(); ++i) delete items_[i];
-  items_.resize(kept);
+  Remove(kept);
   return kept;
 }
 
-bool ControlLayer::Show(std::span<const Control> controls, PictureStore& pictures,
+void ControlLayer::Show(std::span<const Control> controls, PictureStore& pictures,
                         const ItemView& view) {
-  const std::size_t before = controls_.size();
   if (view != view_) {
-    qDeleteAll(items_);
-    items_.clear();
+    Remove(0);
     controls_ = {};
   }
   view_ = view;
@@ -68,12 +74,11 @@ bool ControlLayer::Show(std::span<const Control> controls, PictureStore& picture
   for (std::size_t i = 0; i < kept; ++i) items_[i]->Rebind(controls[i]);
   if (controls.front().Kind == ControlKind::Line) {
     if (kept == 0) Add(new LinesItem(controls, view, nullptr));
-    return kept > 0;
+    return;
   }
   for (const Control& control : controls.subspan(kept)) {
     Add(MakeControlItem(control, pictures, view, nullptr));
   }
-  return kept == before && kept == controls.size();
 }
 
 // An item gets its parent when it is complete: the scene asks at once for its bounds.
@@ -90,6 +95,7 @@ void ControlLayer::SetStill(StillItems* still) {
 bool ControlLayer::Replace(Control& known, const Control& changed, PictureStore& pictures) {
   const auto place = static_cast<std::size_t>(&known - controls_.data());
   if (&known < controls_.data() || place >= items_.size()) return false;
+  items_[place]->SetStill(nullptr);
   delete items_[place];
   known = changed;
   items_[place] = MakeControlItem(known, pictures, view_, nullptr);

@@ -24,9 +24,8 @@ class ControlLayer : public ControlItem {
   bool Holds(const Control& control) const;
 
   // Shows a layer of the next list in the place of the one before, whose list must still be there.
-  // Those that both begin with keep their items, unless the view is another one. Returns whether
-  // it kept all and made none.
-  bool Show(std::span<const Control> controls, PictureStore& pictures, const ItemView& view);
+  // Those that both begin with keep their items, unless the view is another one.
+  void Show(std::span<const Control> controls, PictureStore& pictures, const ItemView& view);
 
   // Changes one of the controls, which keeps its place in the stack. False if it is none of this
   // layer's.
@@ -49,6 +48,7 @@ class ControlLayer : public ControlItem {
 
  private:
   void Add(ControlItem* item);
+  void Remove(std::size_t first);
   std::size_t KeepItems(std::span<const Control> next);
 
   std::span<const Control> controls_;

@@ -6,6 +6,7 @@
 #include <QRegion>
 #include <QStyleOptionGraphicsItem>
 #include <algorithm>
+#include <utility>
 
 #include "picture/pool_painting.h"
 #include "picture/twips.h"
@@ -114,14 +115,15 @@ MapLine::MapLine(const Control& control)
       Color(ToQColor(control.BorderColor)) {}
 
 LinesItem::LinesItem(std::span<const Control> lines, const ItemView& view, QGraphicsItem* parent)
-    : ControlItem(lines.front(), parent), onPaper_(view.OnPaper) {
+    : ControlItem(lines.front(), parent),
+      seen_(view.Open.adjusted(-kLineMargin, -kLineMargin, kLineMargin, kLineMargin)),
+      onPaper_(view.OnPaper) {
   setPos(0, 0);
   setAcceptedMouseButtons(Qt::NoButton);
   setFlag(ItemUsesExtendedStyleOption);
-  const QRectF seen = view.Open.adjusted(-kLineMargin, -kLineMargin, kLineMargin, kLineMargin);
   for (const Control& control : lines) {
     const MapLine line(control);
-    if (StretchWithin(line.Place, seen).Empty()) continue;
+    if (StretchWithin(line.Place, seen_).Empty()) continue;
     box_ |= line.Box();
     lines_.push_back(line);
   }
@@ -130,7 +132,7 @@ LinesItem::LinesItem(std::span<const Control> lines, const ItemView& view, QGrap
 void LinesItem::SpareLetters(const std::vector<QRectF>& letters) {
   if (onPaper_) return;
   for (MapLine& line : lines_) {
-    line.Pale.clear();
+    const std::vector<Stretch> before = std::exchange(line.Pale, {});
     const QRectF box = line.Box();
     for (const QRectF& place : letters) {
       if (!box.intersects(place)) continue;
@@ -139,7 +141,17 @@ void LinesItem::SpareLetters(const std::vector<QRectF>& letters) {
     }
     std::sort(line.Pale.begin(), line.Pale.end(),
               [](const Stretch& a, const Stretch& b) { return a.From < b.From; });
+    // Each stretch begins its dashes anew, and rounds its ends: all of the line looks different.
+    if (line.Pale != before) Mark(line);
   }
+}
+
+void LinesItem::Mark(const MapLine& line) const {
+  if (IsStill()) Still()->Changes.AddLine(line.Place, seen_);
+}
+
+void LinesItem::MarkChanged() const {
+  for (const MapLine& line : lines_) Mark(line);
 }
 
 void LinesItem::Draw(QPainter& painter, const QStyleOptionGraphicsItem& option, QWidget*) {

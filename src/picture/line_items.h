@@ -16,6 +16,7 @@ namespace orrerix {
 struct Stretch {
   double From = 0;
   double To = 1;
+  bool operator==(const Stretch&) const = default;
   bool Empty() const { return From >= To; }
 };
 
@@ -42,9 +43,13 @@ class LinesItem : public ControlItem {
   QRectF boundingRect() const override { return box_; }
   QPainterPath shape() const override { return {}; }
   void SpareLetters(const std::vector<QRectF>& letters) override;
+  void MarkChanged() const override;
   void Draw(QPainter& painter, const QStyleOptionGraphicsItem& option, QWidget*) override;
 
  private:
+  void Mark(const MapLine& line) const;
+
+  QRectF seen_;
   bool onPaper_;
   std::vector<MapLine> lines_;
   QRectF box_;

@@ -10,6 +10,7 @@
 #include <span>
 #include <utility>
 
+#include "picture/picture_files.h"
 #include "picture/twips.h"
 
 namespace orrerix {
@@ -67,8 +68,9 @@ QRectF MapScene::OpenPart(const MapDrawing& drawing) {
 
 void MapScene::Show(MapDrawing drawing) {
   ShowLayers(drawing);
-  if (drawing.FrameColor != drawing_.FrameColor || drawing.Frame != drawing_.Frame) {
-    ++still_.Version;
+  if (drawing.FrameColor != drawing_.FrameColor || drawing.Frame != drawing_.Frame ||
+      OpenPart(drawing) != StillPart()) {
+    still_.Changes.AddAll();
   }
   if (drawing.FrameColor != drawing_.FrameColor) {
     setBackgroundBrush(ToQColor(drawing.FrameColor));
@@ -83,7 +85,6 @@ void MapScene::Show(MapDrawing drawing) {
 void MapScene::ShowLayers(const MapDrawing& next) {
   std::vector<std::unique_ptr<ControlLayer>> before = std::exchange(layers_, {});
   auto rest = before.begin();
-  bool areStillTheSame = true;
   for (const std::span<const Control> controls : LayersOf(next.Controls)) {
     const auto same = std::find_if(
         rest, before.end(), [&](const auto& layer) { return layer->Holds(controls.front()); });
@@ -93,13 +94,11 @@ void MapScene::ShowLayers(const MapDrawing& next) {
       layers_.push_back(std::move(*same));
       rest = same + 1;
     }
-    const bool isSame = layers_.back()->Show(controls, pictures_, ViewOf(next));
-    if (BelongsToStill(controls.front()) && !isSame) areStillTheSame = false;
+    layers_.back()->Show(controls, pictures_, ViewOf(next));
   }
-  const bool haveAllStayed = std::none_of(before.begin(), before.end(), [](const auto& layer) {
-    return layer != nullptr && layer->IsStill();
-  });
-  if (!areStillTheSame || !haveAllStayed) ++still_.Version;
+  for (const auto& layer : before) {
+    if (layer != nullptr) layer->SetStill(nullptr);
+  }
   StackLayers();
   SetStill();
 }
@@ -113,18 +112,30 @@ void MapScene::SetStill() {
   }
 }
 
-std::uint64_t MapScene::StillVersion() const {
-  return HasStill() && !pictures_.IsWanting() ? still_.Version + pictures_.Version() : 0;
+std::uint64_t MapScene::StillVersion() {
+  MarkFinerPictures();
+  return HasStill() ? still_.Changes.Version() : 0;
 }
 
-void MapScene::DrawStill(QPainter& painter, QWidget* window) {
+void MapScene::MarkFinerPictures() {
+  const std::uint64_t seen = std::exchange(seenPictures_, pictures_.Version());
+  if (seen == seenPictures_) return;
+  for (const auto& layer : layers_) {
+    if (layer->First().Kind != ControlKind::Picture || !layer->IsStill()) continue;
+    for (const ControlItem* item : layer->Items()) {
+      if (pictures_.VersionOf(PictureFile(item->Shown())) > seen) item->MarkChanged();
+    }
+  }
+}
+
+void MapScene::DrawStill(QPainter& painter, const QRegion& part, QWidget* window) {
   drawBackground(&painter, StillPart());
   const QTransform whole = painter.worldTransform();
   QStyleOptionGraphicsItem option;
   for (QGraphicsItem* item :
        items(StillPart(), Qt::IntersectsItemBoundingRect, Qt::AscendingOrder)) {
     auto* still = static_cast<ControlItem*>(item);
-    if (!still->IsStill() || still->effectiveOpacity() == 0) continue;
+    if (!still->IsStill() || still->effectiveOpacity() == 0 || !still->IsSeenIn(part)) continue;
     painter.setWorldTransform(still->sceneTransform() * whole);
     option.exposedRect = still->boundingRect();
     still->Draw(painter, option, window);
@@ -215,7 +226,6 @@ void MapScene::Replace(const Control& control) {
       });
   if (known == drawing_.Controls.end()) return;
   const Control changed = control;  // which may be the one that goes
-  if (BelongsToStill(changed)) ++still_.Version;
   for (const auto& layer : layers_) {
     if (layer->Replace(*known, changed, pictures_)) return;
   }
@@ -241,8 +251,10 @@ void MapScene::Put(ControlItem& item, Stratum stratum) {
 void MapScene::ShowSystemNames(bool shown) {
   for (const auto& layer : layers_) {
     if (layer->First().Id != ControlId::SystemLabel) continue;
-    if (layer->Items().front()->opacity() != (shown ? 1 : 0)) ++still_.Version;
-    for (ControlItem* item : layer->Items()) item->setOpacity(shown ? 1 : 0);
+    for (ControlItem* item : layer->Items()) {
+      if (item->opacity() != (shown ? 1 : 0)) item->MarkChanged();
+      item->setOpacity(shown ? 1 : 0);
+    }
   }
 }
 

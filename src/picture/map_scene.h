@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "map/redraw.h"
@@ -69,12 +70,17 @@ class MapScene : public QGraphicsScene {
 
   // The sky, the pictures and names of systems and the jump connections, with what was put below
   // lines, are still: most redraws leave them as they are. The number changes whenever they look
-  // different, also by a finer picture. Zero if none are still, or if finer pictures are awaited.
-  std::uint64_t StillVersion() const;
+  // different, also by a finer picture. Zero if none are still.
+  std::uint64_t StillVersion();
 
-  // Paints the still items in front of the background. The painter is in the scene's coordinates;
-  // `window` is where they will be seen.
-  void DrawStill(QPainter& painter, QWidget* window);
+  // Where they look different since a version; null if that may be anywhere.
+  std::optional<QRegion> StillChangesSince(std::uint64_t version) const {
+    return still_.Changes.Since(version, StillPart());
+  }
+
+  // Paints the still items that are seen in a part of the scene, in front of the background. The
+  // painter is in the scene's coordinates; `window` is where they will be seen.
+  void DrawStill(QPainter& painter, const QRegion& part, QWidget* window);
 
   // The part of the scene in which still items are seen.
   QRectF StillPart() const { return OpenPart(drawing_); }
@@ -99,6 +105,7 @@ class MapScene : public QGraphicsScene {
   void StackLayers();
   bool HasStill() const { return !layers_.empty() && layers_.front()->IsStill(); }
   void SetStill();
+  void MarkFinerPictures();
   void SpareLetters();
   QRegion HiddenPart() const;
   void MakeFrontItems(FrontLayer layer);
@@ -114,6 +121,7 @@ class MapScene : public QGraphicsScene {
   std::array<Front, kFrontLayers> front_;
   std::vector<QRectF> letters_;  // that lines spare
   StillItems still_;
+  std::uint64_t seenPictures_ = 0;  // the version of the pictures that the still items have
 };
 
 }  // namespace orrerix

@@ -5,6 +5,8 @@
 #include <QPainter>
 #include <cmath>
 
+#include "picture/pool_painting.h"
+
 namespace orrerix {
 namespace {
 
@@ -48,9 +50,7 @@ void MapSceneView::drawBackground(QPainter* painter, const QRectF& exposed) {
   const QTransform toPicture = toDevice * QTransform::fromTranslate(-corner.x(), -corner.y());
   const QRect part = toPicture.mapRect(map->StillPart()).toAlignedRect();
   const QSize size = toPicture.mapRect(QRectF(viewport()->rect())).toAlignedRect().size();
-  const Look look{map, map->StillVersion(), toPicture, size,
-                  painter->device()->devicePixelRatioF()};
-  if (look != look_) PaintPicture(*map, look);
+  Renew(*map, {map, toPicture, size, painter->device()->devicePixelRatioF()});
   const QTransform world = painter->worldTransform();
   painter->setWorldTransform(toDevice.inverted() * world);
   painter->drawImage(corner + part.topLeft(), still_, part);
@@ -60,14 +60,27 @@ void MapSceneView::drawBackground(QPainter* painter, const QRectF& exposed) {
 
 // As large as the window, so that lines are cut off at the same pixels as there. What the panel
 // hides is never written and takes no memory.
-void MapSceneView::PaintPicture(MapScene& map, const Look& look) {
+void MapSceneView::Renew(MapScene& map, const Look& look) {
+  const std::uint64_t version = map.StillVersion();
+  const auto changed = look == look_ ? map.StillChangesSince(version_) : std::nullopt;
   if (still_.size() != look.Size) still_ = QImage(look.Size, QImage::Format_RGB32);
   look_ = look;
-  still_.setDevicePixelRatio(look.DevicePixelRatio);
+  version_ = version;
+  if (!changed || !changed->isEmpty()) Paint(map, changed);
+}
+
+// Paints a part of the scene into the picture, or all of it.
+void MapSceneView::Paint(MapScene& map, const std::optional<QRegion>& part) {
+  still_.setDevicePixelRatio(look_.DevicePixelRatio);
   QPainter painter(&still_);
   painter.setRenderHints(renderHints());
-  painter.setWorldTransform(look.ToDevice * painter.deviceTransform().inverted());
-  map.DrawStill(painter, viewport());
+  const QTransform pixels = painter.deviceTransform().inverted();
+  if (part) {
+    painter.setWorldTransform(pixels);
+    painter.setClipRegion(look_.ToDevice.map(*part) + OutermostPixels(still_.rect()));
+  }
+  painter.setWorldTransform(look_.ToDevice * pixels);
+  map.DrawStill(painter, part.value_or(map.StillPart().toAlignedRect()), viewport());
   painter.end();
   still_.setDevicePixelRatio(1);  // it is copied pixel for pixel
 }

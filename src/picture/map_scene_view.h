@@ -4,8 +4,10 @@
 #include <QGraphicsView>
 #include <QImage>
 #include <QPointer>
+#include <QRegion>
 #include <QTransform>
 #include <cstdint>
+#include <optional>
 
 #include "picture/map_scene.h"
 
@@ -25,18 +27,19 @@ class MapSceneView : public QGraphicsView {
   // What the picture depends on besides the scene's content.
   struct Look {
     QPointer<QGraphicsScene> Scene;
-    std::uint64_t Version = 0;
     QTransform ToDevice;  // from the scene to the picture's pixels
     QSize Size;
     double DevicePixelRatio = 1;
     bool operator==(const Look&) const = default;
   };
 
-  void PaintPicture(MapScene& map, const Look& look);
+  void Renew(MapScene& map, const Look& look);
+  void Paint(MapScene& map, const std::optional<QRegion>& part);
 
   bool isPainting_ = false;
   QImage still_;
   Look look_;
+  std::uint64_t version_ = 0;  // of the still items in the picture
 };
 
 }  // namespace orrerix

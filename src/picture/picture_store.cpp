@@ -18,6 +18,13 @@ constexpr int kUsualCacheRoom = 64 * 1024;
 // Room for pictures that are kept in full, in bytes.
 constexpr qint64 kFullRoom = 8 * 1024 * 1024;
 
+// Pictures of no more pixels are scaled when they are drawn first, and drawings painted.
+constexpr qint64 kQuickPicture = 128 * 1024;
+constexpr qint64 kQuickDrawing = 64 * 64;
+
+// As many pixels are scaled in one go where others wait for the next redraw.
+constexpr qint64 kScaledAtOnce = 1024 * 1024;
+
 // A picture of which less than one part in so many is seen.
 constexpr int kHiddenMostly = 4;
 
@@ -222,15 +229,9 @@ QString PictureStore::VariantFor(const QString& file, QSize size) {
   return chosen->File;
 }
 
-bool PictureStore::HasScaled(const QString& file, QSize size) const {
-  const ScaledPicture* known = scaled_.object({file, size});
-  return known != nullptr && known->IsFinal;
-}
-
-QString PictureStore::FileFor(const QString& file, QSize size, Reading reading) {
-  QString best = VariantFor(file, size);
-  const auto source = sources_.find(best);
-  if (source != sources_.end() && source->second.Serves(size)) return best;
+QString PictureStore::FileFor(const QString& file, const QString& best, QSize size,
+                              Reading reading) {
+  if (IsAtHand({best, size})) return best;
   const std::vector<Variant>& variants = VariantsOf(file);
   if (reading == Reading::AtOnce || variants.empty()) {
     FullSourceOf(best);
@@ -238,33 +239,46 @@ QString PictureStore::FileFor(const QString& file, QSize size, Reading reading) 
   }
   const auto isRead = [this](const Variant& variant) { return sources_.contains(variant.File); };
   if (std::none_of(variants.begin(), variants.end(), isRead)) SourceOf(variants.front().File);
-  const auto finest = std::find_if(variants.rbegin(), variants.rend(), isRead);
-  if (finest->File != best || !sources_.at(best).Serves(size)) Want(best);
-  return finest->File;
+  return std::find_if(variants.rbegin(), variants.rend(), isRead)->File;
 }
 
-bool PictureStore::IsWanted(const QString& file) const {
-  return std::find(wanted_.begin(), wanted_.end(), file) != wanted_.end();
+// Whether it can be made without reading a file.
+bool PictureStore::IsAtHand(const SizedFile& best) const {
+  const auto source = sources_.find(best.File);
+  return source != sources_.end() && source->second.Serves(best.Size);
 }
 
-void PictureStore::Want(const QString& file) {
-  if (IsWanted(file)) return;
-  wanted_.push_back(file);
+// Whether making it takes hardly longer than drawing it, or would have to be done each time.
+bool PictureStore::IsQuick(const SizedFile& best) const {
+  if (CostOf(best.Size) > scaled_.maxCost()) return true;
+  const bool isDrawing = sources_.at(best.File).Drawing != nullptr;
+  return AreaOf(best.Size) <= (isDrawing ? kQuickDrawing : kQuickPicture);
+}
+
+void PictureStore::Want(const WantedPicture& picture) {
+  if (std::find(wanted_.begin(), wanted_.end(), picture) != wanted_.end()) return;
+  wanted_.push_back(picture);
   if (wanted_.size() == 1 && OnWanted) OnWanted();
 }
 
 void PictureStore::ReadWanted() {
-  if (wanted_.empty()) return;
-  FullSourceOf(wanted_.front()).IsAwaited = true;
-  wanted_.pop_front();
-  ++version_;
-  if (wanted_.empty()) DropCoarse();
+  for (qint64 pixels = 0; !wanted_.empty() && pixels < kScaledAtOnce;) {
+    const auto [file, best, isPart] = wanted_.front();
+    if (!IsAtHand(best)) {
+      if (pixels > 0) return;  // reading takes long enough by itself
+      FullSourceOf(best.File).IsAwaited = true;
+      pixels = kScaledAtOnce;
+    }
+    wanted_.pop_front();
+    if (!isPart) ScaledOf(best);
+    pixels += AreaOf(best.Size);
+    finer_[file] = ++version_;
+  }
 }
 
-void PictureStore::DropCoarse() {
-  for (const SizedFile& key : scaled_.keys()) {
-    if (!scaled_.object(key)->IsFinal) scaled_.remove(key);
-  }
+std::uint64_t PictureStore::VersionOf(const QString& file) const {
+  const auto found = finer_.find(file);
+  return found == finer_.end() ? 0 : found->second;
 }
 
 QPixmap PictureStore::Render(const QString& file, QSize size) {
@@ -291,20 +305,27 @@ QPixmap PictureStore::Render(const QString& file, QSize size) {
 
 QPixmap PictureStore::Scaled(const QString& file, QSize size) {
   if (size.isEmpty()) return {};
-  const QString best = VariantFor(file, size);
-  if (!HasScaled(best, size)) FileFor(file, size, Reading::AtOnce);
-  return ScaledOf(best, size, true);
+  const SizedFile best{VariantFor(file, size), size};
+  if (!scaled_.contains(best)) FileFor(file, best.File, size, Reading::AtOnce);
+  return ScaledOf(best);
 }
 
-QPixmap PictureStore::ScaledOf(const QString& file, QSize size, bool isFinal) {
-  const SizedFile key{file, size};
-  if (const ScaledPicture* known = scaled_.object(key);
-      known != nullptr && known->IsFinal >= isFinal) {
-    return known->Pixmap;
-  }
-  QPixmap pixmap = Render(file, size);
-  scaled_.insert(key, new ScaledPicture{pixmap, isFinal}, CostOf(size));
+QPixmap PictureStore::ScaledOf(const SizedFile& key) {
+  if (const QPixmap* known = scaled_.object(key)) return *known;
+  QPixmap pixmap = Render(key.File, key.Size);
+  scaled_.insert(key, new QPixmap(pixmap), CostOf(key.Size));
   return pixmap;
+}
+
+// The largest of the sizes that are kept.
+const QPixmap* PictureStore::OtherSizeOf(const QString& file) const {
+  const QPixmap* largest = nullptr;
+  for (const SizedFile& key : scaled_.keys()) {
+    if (key.File != file) continue;
+    const QPixmap* other = scaled_.object(key);
+    if (largest == nullptr || other->width() > largest->width()) largest = other;
+  }
+  return largest;
 }
 
 void PictureStore::DrawSource(QPainter& painter, const QString& file, const QRectF& place) {
@@ -324,6 +345,36 @@ void PictureStore::DrawPart(QPainter& painter, const QString& file, const QRect&
   painter.setClipRect(part, Qt::IntersectClip);
   DrawSource(painter, file, target);
   painter.restore();
+}
+
+// Draws what is at hand of just this file without keeping it. False if nothing is.
+bool PictureStore::DrawCoarse(QPainter& painter, const QString& file, const QRect& target) {
+  Source& source = SourceOf(file);
+  if (source.Drawing) {
+    const QPixmap* other = OtherSizeOf(file);
+    if (other != nullptr) painter.drawPixmap(target, *other);
+    return other != nullptr;
+  }
+  if (source.Levels.empty()) return true;
+  const QImage& level = source.LevelFor(target.size());
+  // Points that are enlarged would look like another picture.
+  const bool isEnlarged = level.width() < target.width() || level.height() < target.height();
+  const bool smooth = painter.testRenderHint(QPainter::SmoothPixmapTransform);
+  painter.setRenderHint(QPainter::SmoothPixmapTransform, isEnlarged);
+  painter.drawImage(target, level);
+  painter.setRenderHint(QPainter::SmoothPixmapTransform, smooth);
+  return true;
+}
+
+void PictureStore::DrawWhole(QPainter& painter, const QString& file, const QRect& target,
+                             Reading reading) {
+  const SizedFile best{VariantFor(file, target.size()), target.size()};
+  if (!scaled_.contains(best)) {
+    const QString chosen = FileFor(file, best.File, target.size(), reading);
+    const bool isReady = IsAtHand(best) && (reading == Reading::AtOnce || IsQuick(best));
+    if (!isReady && DrawCoarse(painter, chosen, target)) return Want({file, best});
+  }
+  painter.drawPixmap(target.topLeft(), ScaledOf(best));
 }
 
 QRectF PictureStore::PlaceOnDevice(const QPainter& painter, const QRectF& place) {
@@ -358,17 +409,15 @@ void PictureStore::Draw(QPainter& painter, const QString& file, const QRectF& pl
   const QRect part = SnappedToPixels(toDevice.mapRect(seen)).intersected(target);
   if (part.isEmpty()) return;
   const bool isPart = AreaOf(part.size()) * kHiddenMostly < AreaOf(target.size());
-  const QString best = VariantFor(file, target.size());
-  const bool isReady = !isPart && HasScaled(best, target.size());
-  const QString chosen = isReady ? best : FileFor(file, target.size(), reading);
   // Within these lines the painter's pixels are the device's own.
   const QTransform world = painter.worldTransform();
   painter.setWorldTransform(toDevice.inverted() * world);
   if (isPart) {
-    DrawPart(painter, chosen, target, part);
+    const SizedFile best{VariantFor(file, target.size()), target.size()};
+    DrawPart(painter, FileFor(file, best.File, target.size(), reading), target, part);
+    if (!IsAtHand(best)) Want({file, best, true});
   } else {
-    const bool isFinal = chosen == best && !IsWanted(best);
-    painter.drawPixmap(target.topLeft(), ScaledOf(chosen, target.size(), isFinal));
+    DrawWhole(painter, file, target, reading);
   }
   painter.setWorldTransform(world);
 }

@@ -29,8 +29,9 @@ namespace orrerix {
 // needed.
 class PictureStore {
  public:
-  // Whether drawing waits until the file is read that the size asks for. Where it does not, and
-  // something coarser is at hand, that is drawn, and the file is wanted.
+  // Whether drawing waits until the file is read that the size asks for, and until a large picture
+  // has been scaled smoothly. Where it does not, what is at hand is drawn by the quickest means,
+  // and the picture is wanted.
   enum class Reading { AtOnce, Later };
 
   PictureStore();
@@ -60,14 +61,16 @@ class PictureStore {
   // anything shine through.
   bool IsOpaque(const QString& file);
 
-  // Called when a file is wanted and none was before. ReadWanted reads one of them, for callers
-  // that draw next.
+  // Called when a picture is wanted and none was before. ReadWanted reads the file of one of them,
+  // or scales some of those whose files have been read, for callers that draw next.
   std::function<void()> OnWanted;
   bool IsWanting() const { return !wanted_.empty(); }
   void ReadWanted();
 
-  // How many wanted files have been read: pictures that were drawn before may look finer now.
+  // Another number whenever pictures that were drawn before may look finer now, and the one since
+  // which a picture does; zero for one that looks as ever.
   std::uint64_t Version() const { return version_; }
+  std::uint64_t VersionOf(const QString& file) const;
 
   // Reads a picture that will be needed soon, for sizes up to half of its own.
   void Read(const QString& file);
@@ -112,9 +115,11 @@ class PictureStore {
     }
   };
 
-  struct ScaledPicture {
-    QPixmap Pixmap;
-    bool IsFinal = true;  // made out of a level that serves the size
+  struct WantedPicture {
+    QString File;         // as callers know it
+    SizedFile Best;       // the variant that serves the size
+    bool IsPart = false;  // of which no scaled picture is kept
+    bool operator==(const WantedPicture&) const = default;
   };
 
   Source ReadSource(const QString& file) const;
@@ -122,23 +127,26 @@ class PictureStore {
   Source& FullSourceOf(const QString& file);
   void KeepWithinRoom(const QString& latest);
   void DropFull(const QString& file);
-  bool HasScaled(const QString& file, QSize size) const;
   const std::vector<Variant>& VariantsOf(const QString& file);
-  QString FileFor(const QString& file, QSize size, Reading reading);
-  bool IsWanted(const QString& file) const;
-  void Want(const QString& file);
-  void DropCoarse();
+  QString FileFor(const QString& file, const QString& best, QSize size, Reading reading);
+  void Want(const WantedPicture& picture);
+  bool IsAtHand(const SizedFile& best) const;
+  bool IsQuick(const SizedFile& best) const;
   void MakeRoomFor(const QPainter& painter);
   // These draw out of just this file, and of what is at hand of it.
   QPixmap Render(const QString& file, QSize size);
-  QPixmap ScaledOf(const QString& file, QSize size, bool isFinal);
+  QPixmap ScaledOf(const SizedFile& key);
+  const QPixmap* OtherSizeOf(const QString& file) const;
   void DrawSource(QPainter& painter, const QString& file, const QRectF& place);
   void DrawPart(QPainter& painter, const QString& file, const QRect& target, const QRect& part);
+  bool DrawCoarse(QPainter& painter, const QString& file, const QRect& target);
+  void DrawWhole(QPainter& painter, const QString& file, const QRect& target, Reading reading);
 
   std::unordered_map<QString, Source> sources_;
   std::unordered_map<QString, std::vector<Variant>> variants_;  // the smallest first
-  std::deque<QString> wanted_;
-  QCache<SizedFile, ScaledPicture> scaled_;
+  std::deque<WantedPicture> wanted_;
+  std::unordered_map<QString, std::uint64_t> finer_;  // since which version
+  QCache<SizedFile, QPixmap> scaled_;
   std::uint64_t uses_ = 0;
   std::uint64_t version_ = 1;
 };

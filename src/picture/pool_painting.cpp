@@ -33,13 +33,10 @@ QImage SamePixels(const QImage& image) {
   return same;
 }
 
-// The upper and the lower half, each of them with the outermost pixel of the other: Qt begins
-// dashes where a line enters the bounds of the clip, so both must have those of the image.
+// The upper and the lower half, each of them with the outermost pixel of the other.
 std::array<QRegion, 2> HalvesOf(const QRect& image) {
   const QRect upper(image.topLeft(), QSize(image.width(), image.height() / 2));
-  const QRegion outermost =
-      QRegion(image.left(), image.top(), 1, 1) + QRegion(image.right(), image.bottom(), 1, 1);
-  const QRegion half = QRegion(upper).xored(outermost);
+  const QRegion half = QRegion(upper).xored(OutermostPixels(image));
   return {half, QRegion(image) - half};
 }
 
@@ -55,6 +52,10 @@ void PaintHalf(const QPainter& painter, QImage image, const QRegion& half,
 }
 
 }  // namespace
+
+QRegion OutermostPixels(const QRect& image) {
+  return QRegion(image.left(), image.top(), 1, 1) + QRegion(image.right(), image.bottom(), 1, 1);
+}
 
 void PaintInPool(const QPainter& painter, const std::function<void()>& paint) {
   QSemaphore done;

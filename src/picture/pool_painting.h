@@ -2,9 +2,14 @@
 #pragma once
 
 #include <QPainter>
+#include <QRegion>
 #include <functional>
 
 namespace orrerix {
+
+// The outermost pixels of an image: top left and bottom right. Qt begins dashes where a line enters
+// the bounds of the clip, so a clip that shall not move them has these pixels, too.
+QRegion OutermostPixels(const QRect& image);
 
 // Paints lines or filled shapes, but no text, and returns when it is done. On a raster device Qt
 // cuts whatever it paints into pieces for its thread pool and waits for each of them, which takes
