@@ -9,6 +9,7 @@
 #include <QTextOption>
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 #include "picture/form_font.h"
 #include "picture/label_style.h"
@@ -31,11 +32,11 @@ QRectF BoxOf(const Control& control) {
 }
 
 // A background ends on a whole pixel: half of one would let the map shine through.
-void FillBackground(QPainter& painter, const Control& control) {
+void FillBackground(QPainter& painter, const Control& control, const QRectF& part) {
   if (!control.BackColor) return;
   const bool smooth = painter.testRenderHint(QPainter::Antialiasing);
   painter.setRenderHint(QPainter::Antialiasing, false);
-  painter.fillRect(BoxOf(control), ToQColor(*control.BackColor));
+  painter.fillRect(BoxOf(control).intersected(part), ToQColor(*control.BackColor));
   painter.setRenderHint(QPainter::Antialiasing, smooth);
 }
 
@@ -59,6 +60,14 @@ class PictureItem : public ControlItem {
   QRectF Hides() const override {
     return pictures_.IsOpaque(file_) ? mapRectToScene(seen_) : QRectF();
   }
+  QRect PaintedPixels(const QPainter& painter) const override {
+    return PictureStore::PlaceOnDevice(painter, BoxOf(Shown())).toRect();
+  }
+  QRect HiddenPixels(const QPainter& painter) const override {
+    if (!pictures_.IsOpaque(file_)) return {};
+    return PaintedPixels(painter) & PictureStore::PlaceOnDevice(painter, seen_).toRect();
+  }
+
   // A window shows the picture at hand now and a finer one a moment later; printouts and files wait
   // for the finest.
   void Draw(QPainter& painter, const QStyleOptionGraphicsItem&, QWidget* window) override {
@@ -91,8 +100,8 @@ class PictureItem : public ControlItem {
 
 class LabelItem : public ControlItem {
  public:
-  LabelItem(const Control& control, bool onPaper, QGraphicsItem* parent)
-      : ControlItem(control, parent), style_(StyleOf(control, onPaper)) {
+  LabelItem(const Control& control, PictureStore& pictures, bool onPaper, QGraphicsItem* parent)
+      : ControlItem(control, parent), pictures_(pictures), style_(StyleOf(control, onPaper)) {
     LayOut();
   }
 
@@ -106,27 +115,69 @@ class LabelItem : public ControlItem {
     return mapRectToScene(letters.adjusted(beside, 0, -beside, 0));
   }
 
-  // Letters may leave the box, and swing out of the lines they stand in.
-  QRectF PaintedPart() const override {
-    const QFontMetricsF metrics(font_);
-    const double width = std::max(text_.textWidth(), metrics.horizontalAdvance(text_.text()));
-    const double beside = width - text_.textWidth() + metrics.height();
-    const QRectF letters(corner_, QSizeF(text_.textWidth(), text_.size().height()));
-    const double above = metrics.height() / 2;
-    return mapRectToScene(letters.adjusted(-beside, -above, beside, above) | boundingRect());
-  }
+  QRectF PaintedPart() const override { return mapRectToScene(LettersPart() | boundingRect()); }
 
-  void Draw(QPainter& painter, const QStyleOptionGraphicsItem&, QWidget*) override {
-    const Control& label = Shown();
-    if (!style_.Transparent) FillBackground(painter, label);
-    painter.setFont(font_);
-    const QColor color = ToQColor(label.ForeColor.value_or(Color{}));
-    if (style_.Outlined) DrawOutline(painter);
-    painter.setPen(color);
-    painter.drawStaticText(corner_, text_);
+  void Draw(QPainter& painter, const QStyleOptionGraphicsItem&, QWidget* window) override {
+    if (!style_.Transparent) FillBackground(painter, Shown(), boundingRect());
+    if (window != nullptr && AreOutlines(painter)) return DrawKept(painter);
+    DrawLetters(painter);
   }
 
  private:
+  // Letters may leave the box, and swing out of the lines they stand in.
+  QRectF LettersPart() const {
+    const QFontMetricsF metrics(font_);
+    const double width = std::max(text_.textWidth(), metrics.horizontalAdvance(text_.text()));
+    const double beside = width - text_.textWidth() + metrics.height();
+    const double above = metrics.height() / 2;
+    const QRectF letters(corner_, QSizeF(text_.textWidth(), text_.size().height()));
+    return letters.adjusted(-beside, -above, beside, above);
+  }
+
+  void DrawLetters(QPainter& painter) {
+    painter.setFont(font_);
+    if (style_.Outlined) DrawOutline(painter);
+    painter.setPen(ToQColor(Shown().ForeColor.value_or(Color{})));
+    painter.drawStaticText(corner_, text_);
+  }
+
+  // Whether Qt has no pictures of letters in this size, and fills the outline of each of them.
+  bool AreOutlines(const QPainter& painter) const {
+    const QTransform toDevice = painter.deviceTransform();
+    constexpr int largestWithPicture = 64;
+    return toDevice.type() <= QTransform::TxScale &&
+           painter.paintEngine()->type() == QPaintEngine::Raster &&
+           font_.pixelSize() * toDevice.m22() >= largestWithPicture;
+  }
+
+  // Filling them takes ten times as long as copying a picture of them.
+  void DrawKept(QPainter& painter) {
+    const QTransform toDevice = painter.deviceTransform();
+    const QRect place = toDevice.mapRect(LettersPart()).toAlignedRect();
+    const QTransform toPicture = toDevice * QTransform::fromTranslate(-place.left(), -place.top());
+    const auto make = [&] {
+      QImage image(place.size(), QImage::Format_ARGB32_Premultiplied);
+      image.fill(Qt::transparent);
+      QPainter own(&image);
+      own.setRenderHints(painter.renderHints());
+      own.setWorldTransform(toPicture);
+      DrawLetters(own);
+      own.end();
+      return QPixmap::fromImage(std::move(image));
+    };
+    const QString name = QStringLiteral("%1|%2|%3|%4|%5|%6")
+                             .arg(font_.key())
+                             .arg(Shown().ForeColor.value_or(Color{}).Bgr)
+                             .arg(toPicture.m22())
+                             .arg(toPicture.dx())
+                             .arg(toPicture.dy())
+                             .arg(text_.text());
+    const QTransform world = painter.worldTransform();
+    painter.setWorldTransform(toDevice.inverted() * world);
+    painter.drawPixmap(place.topLeft(), pictures_.Kept(name, place.size(), make));
+    painter.setWorldTransform(world);
+  }
+
   void LayOut() {
     const Control& label = Shown();
     const QRectF box =
@@ -166,6 +217,7 @@ class LabelItem : public ControlItem {
     for (const QPointF& offset : around) painter.drawStaticText(corner_ + offset, text_);
   }
 
+  PictureStore& pictures_;
   LabelStyle style_;
   QFont font_;
   QStaticText text_;
@@ -205,12 +257,30 @@ class FrameItem : public ControlItem {
   QRectF Hides() const override {
     return Shown().BackColor ? mapRectToScene(BoxOf(Shown())) : QRectF();
   }
+  // Not where what stands in it hides the background anyway.
   void Draw(QPainter& painter, const QStyleOptionGraphicsItem&, QWidget*) override {
-    FillBackground(painter, Shown());
+    if (!Shown().BackColor) return;
+    QRegion open(boundingRect().toAlignedRect());
+    for (const QGraphicsItem* child : childItems()) {
+      const QRectF hides = static_cast<const ControlItem*>(child)->Hides();
+      open -= WholePixelsWithin(mapRectFromScene(hides));
+    }
+    for (const QRect& part : open) {
+      // What hides it goes to the device's pixels, which may be one less than it asks for.
+      FillBackground(painter, Shown(), QRectF(part.adjusted(-1, -1, 1, 1)));
+    }
   }
 };
 
 }  // namespace
+
+QRect WholePixelsWithin(const QRectF& box) {
+  const QPoint corner(static_cast<int>(std::ceil(box.left())),
+                      static_cast<int>(std::ceil(box.top())));
+  const QPoint end(static_cast<int>(std::floor(box.right())),
+                   static_cast<int>(std::floor(box.bottom())));
+  return {corner, QSize(end.x() - corner.x(), end.y() - corner.y())};
+}
 
 ControlItem::ControlItem(const Control& control, QGraphicsItem* parent)
     : QGraphicsItem(parent), control_(&control) {
@@ -253,7 +323,7 @@ ControlItem* MakeControlItem(const Control& control, PictureStore& pictures, con
     case ControlKind::Line:
       return new LinesItem({&control, 1}, view, parent);
     case ControlKind::Label:
-      return new LabelItem(control, view.OnPaper, parent);
+      return new LabelItem(control, pictures, view.OnPaper, parent);
     case ControlKind::Frame:
       if (control.Shape) return new ShapeItem(control, parent);
       return new FrameItem(control, pictures, view, parent);

@@ -37,6 +37,11 @@ class ControlItem : public QGraphicsItem {
   // The part of the scene in which nothing below can be seen.
   virtual QRectF Hides() const { return {}; }
 
+  // The device's pixels in which it paints, if it knows them, and those of them in which nothing
+  // below can be seen. The painter is in the item's coordinates.
+  virtual QRect PaintedPixels(const QPainter&) const { return {}; }
+  virtual QRect HiddenPixels(const QPainter&) const { return {}; }
+
   // Joins the items that stay as they are; null takes it out, which also comes before its end. Both
   // change what these look like. An item that is not a layer leaves its children as they are.
   virtual void SetStill(StillItems* still);
@@ -76,6 +81,9 @@ class ControlItem : public QGraphicsItem {
   const Control* control_;
   StillItems* still_ = nullptr;
 };
+
+// The whole pixels of a place.
+QRect WholePixelsWithin(const QRectF& box);
 
 // What items are made for.
 struct ItemView {

@@ -6,7 +6,7 @@
 #include <QRegion>
 #include <QStyleOptionGraphicsItem>
 #include <algorithm>
-#include <cmath>
+#include <ranges>
 #include <span>
 #include <utility>
 
@@ -16,14 +16,6 @@
 namespace orrerix {
 
 namespace {
-
-QRect WholePixelsWithin(const QRectF& box) {
-  const QPoint corner(static_cast<int>(std::ceil(box.left())),
-                      static_cast<int>(std::ceil(box.top())));
-  const QPoint end(static_cast<int>(std::floor(box.right())),
-                   static_cast<int>(std::floor(box.bottom())));
-  return {corner, QSize(end.x() - corner.x(), end.y() - corner.y())};
-}
 
 bool BelongsToStill(const Control& control) {
   switch (control.Id) {
@@ -128,14 +120,31 @@ void MapScene::MarkFinerPictures() {
   }
 }
 
+// The items that are seen in a part of the scene, front to back. Most tiles of the sky lie below
+// pictures.
+std::vector<ControlItem*> MapScene::StillItemsIn(const QRegion& part, QPainter& painter) {
+  const QTransform whole = painter.worldTransform();
+  std::vector<ControlItem*> seen;
+  QRegion hidden;
+  for (QGraphicsItem* item :
+       items(StillPart(), Qt::IntersectsItemBoundingRect, Qt::DescendingOrder)) {
+    auto* still = static_cast<ControlItem*>(item);
+    if (!still->IsStill() || still->effectiveOpacity() == 0 || !still->IsSeenIn(part)) continue;
+    painter.setWorldTransform(still->sceneTransform() * whole);
+    const QRect pixels = still->PaintedPixels(painter);
+    if (!pixels.isEmpty() && (QRegion(pixels) - hidden).isEmpty()) continue;
+    hidden += still->HiddenPixels(painter);
+    seen.push_back(still);
+  }
+  painter.setWorldTransform(whole);
+  return seen;
+}
+
 void MapScene::DrawStill(QPainter& painter, const QRegion& part, QWidget* window) {
   drawBackground(&painter, StillPart());
   const QTransform whole = painter.worldTransform();
   QStyleOptionGraphicsItem option;
-  for (QGraphicsItem* item :
-       items(StillPart(), Qt::IntersectsItemBoundingRect, Qt::AscendingOrder)) {
-    auto* still = static_cast<ControlItem*>(item);
-    if (!still->IsStill() || still->effectiveOpacity() == 0 || !still->IsSeenIn(part)) continue;
+  for (ControlItem* still : StillItemsIn(part, painter) | std::views::reverse) {
     painter.setWorldTransform(still->sceneTransform() * whole);
     option.exposedRect = still->boundingRect();
     still->Draw(painter, option, window);

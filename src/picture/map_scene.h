@@ -106,6 +106,7 @@ class MapScene : public QGraphicsScene {
   bool HasStill() const { return !layers_.empty() && layers_.front()->IsStill(); }
   void SetStill();
   void MarkFinerPictures();
+  std::vector<ControlItem*> StillItemsIn(const QRegion& part, QPainter& painter);
   void SpareLetters();
   QRegion HiddenPart() const;
   void MakeFrontItems(FrontLayer layer);

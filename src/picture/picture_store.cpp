@@ -311,9 +311,14 @@ QPixmap PictureStore::Scaled(const QString& file, QSize size) {
 }
 
 QPixmap PictureStore::ScaledOf(const SizedFile& key) {
+  return Kept(key.File, key.Size, [&] { return Render(key.File, key.Size); });
+}
+
+QPixmap PictureStore::Kept(const QString& name, QSize size, const std::function<QPixmap()>& make) {
+  const SizedFile key{name, size};
   if (const QPixmap* known = scaled_.object(key)) return *known;
-  QPixmap pixmap = Render(key.File, key.Size);
-  scaled_.insert(key, new QPixmap(pixmap), CostOf(key.Size));
+  QPixmap pixmap = make();
+  scaled_.insert(key, new QPixmap(pixmap), CostOf(size));
   return pixmap;
 }
 

@@ -54,6 +54,10 @@ class PictureStore {
   // The picture in a size in device pixels, smoothly made out of the next larger level.
   QPixmap Scaled(const QString& file, QSize size);
 
+  // A picture that the caller makes, unless one of this name and size (device pixels) is kept from
+  // before; like all scaled ones it is only kept while there is room.
+  QPixmap Kept(const QString& name, QSize size, const std::function<QPixmap()>& make);
+
   // Its own size, or that of the drawing in its place; empty if the file is no picture.
   QSize NaturalSize(const QString& file);
 
