@@ -40,6 +40,11 @@ void FillBackground(QPainter& painter, const Control& control, const QRectF& par
   painter.setRenderHint(QPainter::Antialiasing, smooth);
 }
 
+int DotsPerMeter(int dotsPerInch) {
+  constexpr double inchesPerMeter = 100 / 2.54;
+  return static_cast<int>(std::lround(dotsPerInch * inchesPerMeter));
+}
+
 class PictureItem : public ControlItem {
  public:
   PictureItem(const Control& control, PictureStore& pictures, const QRectF& open,
@@ -64,6 +69,7 @@ class PictureItem : public ControlItem {
     return PictureStore::PlaceOnDevice(painter, BoxOf(Shown())).toRect();
   }
   QRect HiddenPixels(const QPainter& painter) const override {
+    pictures_.BringToHand(file_);
     if (!pictures_.IsOpaque(file_)) return {};
     return PaintedPixels(painter) & PictureStore::PlaceOnDevice(painter, seen_).toRect();
   }
@@ -158,6 +164,9 @@ class LabelItem : public ControlItem {
     const auto make = [&] {
       QImage image(place.size(), QImage::Format_ARGB32_Premultiplied);
       image.fill(Qt::transparent);
+      // So that the fonts are the same.
+      image.setDotsPerMeterX(DotsPerMeter(painter.device()->logicalDpiX()));
+      image.setDotsPerMeterY(DotsPerMeter(painter.device()->logicalDpiY()));
       QPainter own(&image);
       own.setRenderHints(painter.renderHints());
       own.setWorldTransform(toPicture);

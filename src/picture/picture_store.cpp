@@ -237,9 +237,16 @@ QString PictureStore::FileFor(const QString& file, const QString& best, QSize si
     FullSourceOf(best);
     return best;
   }
+  BringToHand(file);
   const auto isRead = [this](const Variant& variant) { return sources_.contains(variant.File); };
-  if (std::none_of(variants.begin(), variants.end(), isRead)) SourceOf(variants.front().File);
   return std::find_if(variants.rbegin(), variants.rend(), isRead)->File;
+}
+
+void PictureStore::BringToHand(const QString& file) {
+  const std::vector<Variant>& variants = VariantsOf(file);
+  const auto isRead = [this](const Variant& variant) { return sources_.contains(variant.File); };
+  if (variants.empty() || std::any_of(variants.begin(), variants.end(), isRead)) return;
+  SourceOf(variants.front().File);
 }
 
 // Whether it can be made without reading a file.

@@ -76,6 +76,9 @@ class PictureStore {
   std::uint64_t Version() const { return version_; }
   std::uint64_t VersionOf(const QString& file) const;
 
+  // Reads a picture of which nothing has been read. It will be drawn next.
+  void BringToHand(const QString& file);
+
   // Reads a picture that will be needed soon, for sizes up to half of its own.
   void Read(const QString& file);
 
