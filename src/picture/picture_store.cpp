@@ -355,7 +355,12 @@ void PictureStore::DrawPart(QPainter& painter, const QString& file, const QRect&
                             const QRect& part) {
   painter.save();
   painter.setClipRect(part, Qt::IntersectClip);
-  DrawSource(painter, file, target);
+  Source& source = SourceOf(file);
+  source.IsAwaited = false;
+  if (source.Drawing) source.Drawing->Paint(painter, target);
+  painter.setRenderHint(QPainter::SmoothPixmapTransform);
+  // The same level whether or not a larger one is at hand.
+  if (!source.Levels.empty()) painter.drawImage(target, source.LevelFor(target.size()));
   painter.restore();
 }
 

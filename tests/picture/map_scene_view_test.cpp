@@ -3,6 +3,8 @@
 
 #include <QImage>
 #include <QPainter>
+#include <string>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -152,6 +154,57 @@ TEST_F(MapSceneViewTest, NamesThatAreNoLongerThereAreNotSeen) {
   EXPECT_EQ(Painted(view), PaintedAnew());
 }
 
+// Each of these paints no more than what it changes.
+TEST_F(MapSceneViewTest, EveryPixelIsAsIfAllWerePaintedAnewAfterSmallChanges) {
+  const std::vector<std::string> captions = {"New York", "Ab", "Omicron Gamma and all beyond it",
+                                             "Jagged fjord", "New York"};
+  for (const double ratio : {1.0, 1.25, 1.5, 2.0}) {
+    Show(true);
+    Painted(view, ratio);
+    for (const std::string& caption : captions) {
+      Show(true, caption);
+      EXPECT_EQ(Painted(view, ratio), PaintedAnew(ratio)) << ratio << caption;
+      scene.Replace(Name(2, 1480, caption + "!"));
+      EXPECT_EQ(Painted(view, ratio), PaintedAnew(ratio)) << ratio << caption;
+    }
+    drawing.Controls.erase(drawing.Controls.begin(), drawing.Controls.begin() + 2);
+    scene.Show(drawing);
+    EXPECT_EQ(Painted(view, ratio), PaintedAnew(ratio)) << ratio;
+    Show(true);
+    EXPECT_EQ(Painted(view, ratio), PaintedAnew(ratio)) << ratio;
+    drawing.Controls[3] = Line(2, {250, -400, 3800, 3600}, LineKind::JumpHole);
+    scene.Show(drawing);
+    EXPECT_EQ(Painted(view, ratio), PaintedAnew(ratio)) << ratio;
+  }
+}
+
+TEST_F(MapSceneViewTest, PicturesBelowANameThatChangesStayAsTheyAre) {
+  const TempFolder folder;
+  const auto picture = [&folder](const char* name, QColor color) {
+    QImage image(40, 40, QImage::Format_ARGB32);
+    for (int y = 0; y < 40; ++y) {
+      for (int x = 0; x < 40; ++x) image.setPixelColor(x, y, color.darker(100 + 5 * (x ^ y)));
+    }
+    const std::filesystem::path file = folder.Path() / name;
+    image.save(QString::fromStdString(file.string()));
+    return file.string();
+  };
+  const std::string sky = picture("sky.png", QColor(90, 20, 160));
+  const std::string cloud = picture("cloud.png", QColor(220, 200, 20, 120));
+  for (const double ratio : {1.0, 1.25, 1.5, 2.0}) {
+    for (const char* caption : {"New York", "New Tokyo", "N"}) {
+      Show(true, caption);
+      for (int i = 0; i < 4; ++i) {
+        drawing.Controls.insert(drawing.Controls.begin(),
+                                MakePicture(ControlId::BackgroundTile, i, {i * 800.0, 0, 810, 3000},
+                                            i % 2 == 0 ? cloud : sky));
+      }
+      scene.Show(drawing);
+      EXPECT_EQ(Painted(view, ratio), PaintedAnew(ratio)) << ratio << caption;
+    }
+  }
+}
+
 TEST_F(MapSceneViewTest, AnotherSceneIsNotTakenForTheOneBefore) {
   const auto shown = [this](Color sky) {
     MapScene other(pictures);
@@ -234,6 +287,25 @@ TEST_F(StillItemsTest, TheyArePaintedAgainForOtherContent) {
   EXPECT_TRUE(PaintsStill());
 }
 
+TEST_F(StillItemsTest, NoneIsPaintedAgainFarFromAChange) {
+  Show(true);
+  std::erase_if(drawing.Controls,
+                [](const Control& control) { return control.Kind == ControlKind::Line; });
+  scene.Show(drawing);
+  scene.Put(below, Stratum::BelowPanel);
+  scene.removeItem(&below);
+  drawing.Controls.insert(drawing.Controls.begin() + 2,
+                          Line(1, {100, 2900, 3000, 2900}, LineKind::JumpGate));
+  scene.Show(drawing);
+  scene.Put(below, Stratum::BelowLines);
+  PaintsStill();
+
+  scene.Replace(Name(2, 1500, "New London"));
+  EXPECT_FALSE(PaintsStill());
+  scene.Replace(Name(1, 300, "A name that is as wide as the map is here"));
+  EXPECT_TRUE(PaintsStill());
+}
+
 TEST_F(StillItemsTest, TheyArePaintedAgainOnOtherPixels) {
   Painted(view, 2);
   EXPECT_NE(below.Count, painted);
@@ -264,6 +336,40 @@ TEST_F(StillItemsTest, AFinerPictureIsShown) {
   EXPECT_NE(Painted(view).pixelColor(100, 100), QColor(Qt::white));
   while (pictures.IsWanting()) pictures.ReadWanted();
   EXPECT_EQ(Painted(view).pixelColor(100, 100), QColor(Qt::white));
+}
+
+// Two pictures of 400 by 800 pixels on a fine screen, which are too large to be smooth at once.
+TEST_F(StillItemsTest, OfTwoPicturesOnlyTheFinerOneIsPaintedAgain) {
+  const TempFolder folder;
+  std::vector<std::string> files;
+  for (const char* name : {"left.png", "right.png"}) {
+    QImage points(1200, 1200, QImage::Format_RGB32);
+    for (int y = 0; y < 1200; ++y) {
+      for (int x = 0; x < 1200; ++x) points.setPixel(x, y, 0xFF000000u | unsigned(x * 7919 ^ y));
+    }
+    files.push_back((folder.Path() / name).string());
+    points.save(QString::fromStdString(files.back()));
+  }
+  drawing.Controls = {MakePicture(ControlId::SystemPicture, 1, {1800, 0, 1500, 3000}, files[1]),
+                      MakePicture(ControlId::SystemPicture, 2, {0, 0, 1500, 3000}, files[0]),
+                      Line(1, {2000, 2900, 3000, 2900}, LineKind::JumpGate)};
+  scene.Show(drawing);
+  scene.Put(below, Stratum::BelowLines);
+  const QImage coarse = Painted(view, 4);
+  painted = below.Count;
+  ASSERT_TRUE(pictures.IsWanting());
+
+  pictures.ReadWanted();
+  Painted(view, 4);
+  EXPECT_EQ(below.Count, painted);
+  ASSERT_TRUE(pictures.IsWanting());
+  pictures.ReadWanted();
+  const QImage fine = Painted(view, 4);
+  EXPECT_NE(below.Count, painted);
+
+  EXPECT_FALSE(pictures.IsWanting());
+  EXPECT_NE(fine, coarse);
+  EXPECT_EQ(fine, PaintedAnew(4));
 }
 
 }  // namespace

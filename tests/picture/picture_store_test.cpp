@@ -173,6 +173,8 @@ TEST_F(PictureRoomTest, APictureReadAheadServesSizesUpToHalfOfIts) {
 
   EXPECT_LT(store.BytesOfSources(), 2 * kMegabyte);
   EXPECT_EQ(Shown(files[1], 500), QColor(20, 0, 0));
+  store.ReadWanted();
+  EXPECT_LT(store.BytesOfSources(), 2 * kMegabyte);
   EXPECT_FALSE(store.IsWanting());
 }
 
@@ -207,22 +209,133 @@ TEST_F(PictureRoomTest, WhatWasCoarseIsFineOnceThePictureIsReadAgain) {
 
 TEST_F(PictureRoomTest, ASizeThatIsKeptNeedsThePictureNoMore) {
   Shown(files[0], 900);
+  store.ReadWanted();
   for (std::size_t i = 1; i < 5; ++i) store.Scaled(files[i], {510, 510});
 
   EXPECT_EQ(Shown(files[0], 900), QColor(0, 0, 0));
   EXPECT_FALSE(store.IsWanting());
 }
 
-TEST_F(PictureRoomTest, ACoarseCopyGoesWhenAllThatIsWantedHasBeenRead) {
+TEST_F(PictureRoomTest, WhatIsDrawnCoarselyIsNotKept) {
   for (const int i : {1, 2}) {
     store.Read(files[i]);
     Shown(files[i], 700);
   }
 
+  EXPECT_EQ(store.BytesOfScaled(), 0);
+  store.ReadWanted();
+  EXPECT_EQ(store.BytesOfScaled() / 1024, 700 * 700 * 4 / 1024);
   store.ReadWanted();
   EXPECT_EQ(store.BytesOfScaled() / 1024, 2 * (700 * 700 * 4 / 1024));
+}
+
+TEST_F(PictureRoomTest, ALargePictureIsScaledSmoothlyAMomentLater) {
+  QImage lines(1000, 1000, QImage::Format_RGB32);
+  for (int y = 0; y < 1000; ++y) {
+    for (int x = 0; x < 1000; ++x) lines.setPixel(x, y, x % 2 == 0 ? 0xFFFFFFFF : 0xFF000000);
+  }
+  const QString file = QString::fromStdString((folder.Path() / "lines.png").string());
+  lines.save(file);
+  store.Scaled(file, {1000, 1000});
+
+  const QColor coarse = Shown(file, 800);  // one of the picture's own points
+  EXPECT_TRUE(coarse == QColor(Qt::white) || coarse == QColor(Qt::black));
+  ASSERT_TRUE(store.IsWanting());
   store.ReadWanted();
-  EXPECT_EQ(store.BytesOfScaled(), 0);
+
+  EXPECT_FALSE(store.IsWanting());
+  EXPECT_EQ(Shown(file, 800), store.Scaled(file, {800, 800}).toImage().pixelColor(400, 400));
+  EXPECT_FALSE(store.IsWanting());
+}
+
+TEST_F(PictureRoomTest, APictureThatIsEnlargedShowsNoSquares) {
+  QImage halves(2, 2, QImage::Format_RGB32);
+  halves.fill(Qt::black);
+  for (const int y : {0, 1}) halves.setPixelColor(1, y, Qt::white);
+  const QString file = QString::fromStdString((folder.Path() / "halves.png").string());
+  halves.save(file);
+
+  const int middle = Shown(file, 1000).red();
+
+  EXPECT_TRUE(store.IsWanting());
+  EXPECT_GT(middle, 100);
+  EXPECT_LT(middle, 155);
+}
+
+TEST_F(PictureRoomTest, ASmallPictureIsSmoothAtOnce) {
+  store.Read(files[1]);
+
+  Shown(files[1], 360);
+
+  EXPECT_FALSE(store.IsWanting());
+  EXPECT_EQ(store.BytesOfScaled() / 1024, 360 * 360 * 4 / 1024);
+}
+
+TEST_F(PictureRoomTest, APartIsMadeOutOfOneLevelWhateverIsAtHand) {
+  QImage points(1000, 1000, QImage::Format_RGB32);
+  for (int y = 0; y < 1000; ++y) {
+    for (int x = 0; x < 1000; ++x) points.setPixel(x, y, 0xFF000000u | unsigned(x * 7919 ^ y));
+  }
+  const QString file = QString::fromStdString((folder.Path() / "points.png").string());
+  points.save(file);
+  const auto part = [&](PictureStore& pictures) {
+    QImage canvas(400, 400, QImage::Format_RGB32);
+    canvas.fill(Qt::white);
+    QPainter painter(&canvas);
+    pictures.Draw(painter, file, {0, 0, 400, 400}, {0, 0, 60, 400}, PictureStore::Reading::Later);
+    return canvas;
+  };
+  PictureStore full;
+  full.Scaled(file, {900, 900});
+  store.Read(file);
+
+  EXPECT_EQ(part(full), part(store));
+}
+
+// 500 by 500 pixels are not quite a quarter of what is scaled in one go.
+TEST_F(PictureRoomTest, SeveralPicturesThatHaveBeenReadAreScaledInOneGo) {
+  for (int i = 0; i < 6; ++i) {
+    store.Read(files[i]);
+    Shown(files[i], 500);
+  }
+
+  store.ReadWanted();
+  EXPECT_EQ(store.BytesOfScaled() / 1024, 5 * (500 * 500 * 4 / 1024));
+  EXPECT_TRUE(store.IsWanting());
+  store.ReadWanted();
+  EXPECT_FALSE(store.IsWanting());
+}
+
+TEST_F(PictureRoomTest, OnlyThePictureThatIsFinerHasAnotherVersion) {
+  for (const int i : {1, 2}) {
+    store.Read(files[i]);
+    Shown(files[i], 700);
+  }
+  const std::uint64_t before = store.Version();
+
+  store.ReadWanted();
+
+  EXPECT_GT(store.Version(), before);
+  EXPECT_EQ(store.VersionOf(files[1]), store.Version());
+  EXPECT_EQ(store.VersionOf(files[2]), 0u);
+}
+
+TEST_F(PictureStoreTest, ACallersPictureIsMadeOnceForEachNameAndSize) {
+  QImage canvas(100, 100, QImage::Format_RGB32);
+  int made = 0;
+  const auto kept = [&](const char* name, QSize size) {
+    return store.Kept(name, size, [&] {
+      ++made;
+      return QPixmap(size);
+    });
+  };
+
+  EXPECT_EQ(kept("slogan", {20, 10}).size(), QSize(20, 10));
+  EXPECT_EQ(kept("slogan", {20, 10}).size(), QSize(20, 10));
+  EXPECT_EQ(made, 1);
+  kept("slogan", {40, 20});
+  kept("credit", {40, 20});
+  EXPECT_EQ(made, 3);
 }
 
 // A canvas of 2000 by 2000 pixels has 15.3 MB, and scaled pictures twice as much: two of them.
