@@ -23,7 +23,7 @@ constexpr qint64 kQuickPicture = 128 * 1024;
 constexpr qint64 kQuickDrawing = 64 * 64;
 
 // As many pixels are scaled in one go where others wait for the next redraw.
-constexpr qint64 kScaledAtOnce = 1024 * 1024;
+constexpr qint64 kScaledAtOnce = 2 * 1024 * 1024;
 
 // A picture of which less than one part in so many is seen.
 constexpr int kHiddenMostly = 4;

@@ -42,7 +42,7 @@ TEST_F(MapSpaceTest, ARedrawThatChangesNothingInThemLeavesThemAsTheyAre) {
   Read(space);
   ShowSystem(space);
   ASSERT_GT(Picture().pixelColor(285 + 40, 285).red(), 200);
-  ASSERT_TRUE(WaitUntil([&] { return map.Scene().StillVersion() > 0; }));  // no picture is awaited
+  ASSERT_TRUE(WaitUntil([&] { return !pictures.IsWanting(); }));
   const std::uint64_t version = map.Scene().StillVersion();
 
   space.MapRedrawn();
