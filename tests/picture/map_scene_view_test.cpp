@@ -3,6 +3,8 @@
 
 #include <QImage>
 #include <QPainter>
+#include <algorithm>
+#include <cstdlib>
 #include <string>
 #include <vector>
 
@@ -370,6 +372,42 @@ TEST_F(StillItemsTest, OfTwoPicturesOnlyTheFinerOneIsPaintedAgain) {
   EXPECT_FALSE(pictures.IsWanting());
   EXPECT_NE(fine, coarse);
   EXPECT_EQ(fine, PaintedAnew(4));
+}
+
+// The greatest difference of a channel of a pixel.
+int FurthestApart(const QImage& one, const QImage& other) {
+  int most = 0;
+  for (int y = 0; y < one.height(); ++y) {
+    for (int x = 0; x < one.width(); ++x) {
+      const QColor a = one.pixelColor(x, y);
+      const QColor b = other.pixelColor(x, y);
+      most = std::max({most, std::abs(a.red() - b.red()), std::abs(a.green() - b.green()),
+                       std::abs(a.blue() - b.blue())});
+    }
+  }
+  return most;
+}
+
+TEST_F(MapSceneViewTest, LargeLettersAreCopiedFromAPictureOfThem) {
+  constexpr int hardlySeen = 24;
+  Control large = Name(1, 300, "Rio");
+  large.FontSize = 60;
+  drawing.Controls = {large};
+  scene.Show(drawing);
+  ASSERT_EQ(pictures.BytesOfScaled(), 0);
+
+  const QImage first = Painted(view);
+  const qint64 kept = pictures.BytesOfScaled();
+  EXPECT_GT(kept, 0);
+  EXPECT_EQ(Painted(view), first);
+  EXPECT_EQ(pictures.BytesOfScaled(), kept);
+
+  QImage onFile(300, 200, QImage::Format_RGB32);  // where they are drawn each time
+  QPainter painter(&onFile);
+  painter.setRenderHint(QPainter::Antialiasing);
+  scene.render(&painter, onFile.rect(), onFile.rect());
+  painter.end();
+  EXPECT_LE(FurthestApart(first.copy(0, 0, 220, 200), onFile.copy(0, 0, 220, 200)), hardlySeen);
 }
 
 }  // namespace
