@@ -10,6 +10,9 @@
 namespace orrerix {
 namespace {
 
+// Painting all takes less time than keeping to a region of more rectangles.
+constexpr int kMostRectangles = 600;
+
 bool IsUpright(const QPainter& painter) {
   return painter.paintEngine() != nullptr &&
          painter.paintEngine()->type() == QPaintEngine::Raster &&
@@ -62,7 +65,8 @@ void MapSceneView::drawBackground(QPainter* painter, const QRectF& exposed) {
 // hides is never written and takes no memory.
 void MapSceneView::Renew(MapScene& map, const Look& look) {
   const std::uint64_t version = map.StillVersion();
-  const auto changed = look == look_ ? map.StillChangesSince(version_) : std::nullopt;
+  auto changed = look == look_ ? map.StillChangesSince(version_) : std::nullopt;
+  if (changed && changed->rectCount() > kMostRectangles) changed.reset();
   if (still_.size() != look.Size) still_ = QImage(look.Size, QImage::Format_RGB32);
   look_ = look;
   version_ = version;

@@ -18,7 +18,10 @@ constexpr int kUsualCacheRoom = 64 * 1024;
 // Room for pictures that are kept in full, in bytes.
 constexpr qint64 kFullRoom = 8 * 1024 * 1024;
 
-// Pictures of no more pixels are scaled when they are drawn first, and drawings painted.
+// With this room, that of a screen of 1920 by 1200 pixels, all that is shown is scaled in little
+// more than the time of a frame. On larger screens only pictures of no more pixels are scaled when
+// they are drawn first, and drawings painted.
+constexpr int kQuickRoom = 18 * 1024;
 constexpr qint64 kQuickPicture = 128 * 1024;
 constexpr qint64 kQuickDrawing = 64 * 64;
 
@@ -257,7 +260,7 @@ bool PictureStore::IsAtHand(const SizedFile& best) const {
 
 // Whether making it takes hardly longer than drawing it, or would have to be done each time.
 bool PictureStore::IsQuick(const SizedFile& best) const {
-  if (CostOf(best.Size) > scaled_.maxCost()) return true;
+  if (CostOf(best.Size) > scaled_.maxCost() || scaled_.maxCost() <= kQuickRoom) return true;
   const bool isDrawing = sources_.at(best.File).Drawing != nullptr;
   return AreaOf(best.Size) <= (isDrawing ? kQuickDrawing : kQuickPicture);
 }

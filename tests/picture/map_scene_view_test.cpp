@@ -340,8 +340,9 @@ TEST_F(StillItemsTest, AFinerPictureIsShown) {
   EXPECT_EQ(Painted(view).pixelColor(100, 100), QColor(Qt::white));
 }
 
-// Two pictures of 400 by 800 pixels on a fine screen, which are too large to be smooth at once.
+// Two pictures of 900 by 1800 pixels on a fine screen, which are too large to be smooth at once.
 TEST_F(StillItemsTest, OfTwoPicturesOnlyTheFinerOneIsPaintedAgain) {
+  constexpr double fine = 9;
   const TempFolder folder;
   std::vector<std::string> files;
   for (const char* name : {"left.png", "right.png"}) {
@@ -357,21 +358,21 @@ TEST_F(StillItemsTest, OfTwoPicturesOnlyTheFinerOneIsPaintedAgain) {
                       Line(1, {2000, 2900, 3000, 2900}, LineKind::JumpGate)};
   scene.Show(drawing);
   scene.Put(below, Stratum::BelowLines);
-  const QImage coarse = Painted(view, 4);
+  const QImage coarse = Painted(view, fine);
   painted = below.Count;
   ASSERT_TRUE(pictures.IsWanting());
 
   pictures.ReadWanted();
-  Painted(view, 4);
+  Painted(view, fine);
   EXPECT_EQ(below.Count, painted);
   ASSERT_TRUE(pictures.IsWanting());
   pictures.ReadWanted();
-  const QImage fine = Painted(view, 4);
+  const QImage smooth = Painted(view, fine);
   EXPECT_NE(below.Count, painted);
 
   EXPECT_FALSE(pictures.IsWanting());
-  EXPECT_NE(fine, coarse);
-  EXPECT_EQ(fine, PaintedAnew(4));
+  EXPECT_NE(smooth, coarse);
+  EXPECT_EQ(smooth, PaintedAnew(fine));
 }
 
 // The greatest difference of a channel of a pixel.

@@ -156,7 +156,16 @@ class PictureRoomTest : public PictureStoreTest {
     return canvas.pixelColor(side / 2, side / 2);
   }
 
+  // From now on there is room for a screen of this size; draws one pixel.
+  void UseScreen(QSize size) {
+    QImage screen(size, QImage::Format_RGB32);
+    QPainter painter(&screen);
+    store.Draw(painter, files[0], {0, 0, 1, 1});
+  }
+
   static constexpr qint64 kMegabyte = 1024 * 1024;
+  static constexpr QSize kUsualScreen{1920, 1200};
+  static constexpr QSize kLargeScreen{2560, 1440};
   std::vector<QString> files;
 };
 
@@ -237,6 +246,7 @@ TEST_F(PictureRoomTest, ALargePictureIsScaledSmoothlyAMomentLater) {
   const QString file = QString::fromStdString((folder.Path() / "lines.png").string());
   lines.save(file);
   store.Scaled(file, {1000, 1000});
+  UseScreen(kLargeScreen);
 
   const QColor coarse = Shown(file, 800);  // one of the picture's own points
   EXPECT_TRUE(coarse == QColor(Qt::white) || coarse == QColor(Qt::black));
@@ -254,6 +264,7 @@ TEST_F(PictureRoomTest, APictureThatIsEnlargedShowsNoSquares) {
   for (const int y : {0, 1}) halves.setPixelColor(1, y, Qt::white);
   const QString file = QString::fromStdString((folder.Path() / "halves.png").string());
   halves.save(file);
+  UseScreen(kLargeScreen);
 
   const int middle = Shown(file, 1000).red();
 
@@ -263,12 +274,25 @@ TEST_F(PictureRoomTest, APictureThatIsEnlargedShowsNoSquares) {
 }
 
 TEST_F(PictureRoomTest, ASmallPictureIsSmoothAtOnce) {
+  UseScreen(kLargeScreen);
   store.Read(files[1]);
+  const qint64 before = store.BytesOfScaled();
 
   Shown(files[1], 360);
 
   EXPECT_FALSE(store.IsWanting());
-  EXPECT_EQ(store.BytesOfScaled() / 1024, 360 * 360 * 4 / 1024);
+  EXPECT_EQ((store.BytesOfScaled() - before) / 1024, 360 * 360 * 4 / 1024);
+}
+
+TEST_F(PictureRoomTest, OnAUsualScreenEachPictureThatIsAtHandIsSmoothAtOnce) {
+  for (const QSize screen : {kUsualScreen, kLargeScreen}) {
+    UseScreen(screen);
+    store.Scaled(files[1], {900, 900});
+
+    Shown(files[1], 800 + screen.width() / 100);
+
+    EXPECT_EQ(store.IsWanting(), screen == kLargeScreen);
+  }
 }
 
 TEST_F(PictureRoomTest, APartIsMadeOutOfOneLevelWhateverIsAtHand) {
