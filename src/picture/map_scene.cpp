@@ -6,7 +6,6 @@
 #include <QRegion>
 #include <QStyleOptionGraphicsItem>
 #include <algorithm>
-#include <ranges>
 #include <span>
 #include <utility>
 
@@ -144,11 +143,12 @@ void MapScene::DrawStill(QPainter& painter, const QRegion& part, QWidget* window
   drawBackground(&painter, StillPart());
   const QTransform whole = painter.worldTransform();
   QStyleOptionGraphicsItem option;
-  for (ControlItem* still : StillItemsIn(part, painter) | std::views::reverse) {
+  const std::vector<ControlItem*> seen = StillItemsIn(part, painter);
+  std::for_each(seen.rbegin(), seen.rend(), [&](ControlItem* still) {
     painter.setWorldTransform(still->sceneTransform() * whole);
     option.exposedRect = still->boundingRect();
     still->Draw(painter, option, window);
-  }
+  });
   painter.setWorldTransform(whole);
 }
 
