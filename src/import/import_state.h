@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "import/game_files.h"
 #include "import/import_host.h"
 #include "import/sections/section_tables.h"
 #include "import/universe.h"
@@ -16,6 +17,7 @@ struct Import {
   ImportHost& Host;
   ImportProgress Progress;
   SectionTables Sections;
+  GameFiles Files{Game};
 
   // An overflow is the routine's failure and leaves the number of steps as it was.
   void AddSteps(Routine& routine, int count) {

@@ -29,4 +29,8 @@ inline constexpr bool kFileNamesIgnoreCase = true;
 inline constexpr bool kFileNamesIgnoreCase = false;
 #endif
 
+// Whether a program waits for another one each time that it opens or closes a file: on Windows for
+// a virus scanner, under Wine for its server.
+inline constexpr bool kOpeningWaits = kFileNamesIgnoreCase;
+
 }  // namespace orrerix

@@ -27,7 +27,7 @@ Failure CannotRead(const std::string& file, std::string_view why) {
 // A file's text, unpacked if it is packed.
 class FileText {
  public:
-  FileText(std::ifstream& stream, const std::string& file) : bytes_(WholeFile::Read(stream)) {
+  FileText(FoundFile found, const std::string& file) : bytes_(std::move(found.Whole)) {
     if (!bytes_) throw CannotRead(file, "it cannot be read");
     if (!IsPackedIni(bytes_->Bytes())) return;
     unpacked_ = UnpackIni(bytes_->Bytes());
@@ -107,13 +107,13 @@ void ReadINI(Import& import, const std::string& file, const std::string& systemN
   ReaderRoutine routine(import, file);
   routine.Run([&] {
     ++import.Progress.ImportDone;
-    auto stream = file.ends_with('\\') ? std::nullopt : import.Game.OpenFile(file);
-    if (!stream) {
+    auto found = file.ends_with('\\') ? std::nullopt : import.Files.Read(file);
+    if (!found) {
       import.Target.Log.AddErrorLine("Cant find file: [" + file + "]");
       return;
     }
     std::optional<FileText> read;
-    if (!routine.Try([&] { read.emplace(*stream, file); })) return;
+    if (!routine.Try([&] { read.emplace(std::move(*found), file); })) return;
     const std::string_view text = read->Text();
     if (text.empty()) return;
     Reader(import, routine, file, systemNickname).Read(text);

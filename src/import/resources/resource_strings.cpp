@@ -23,9 +23,9 @@ constexpr std::size_t kLongestName = 255;
 // Libraries are below 2 GiB; a larger file is none.
 constexpr std::streamoff kLargestLibrary = 0x7FFFFFFF;
 
-std::optional<WholeFile> ReadLibraryFile(const GameFolder& game, const std::string& path) {
-  auto stream = game.OpenFile(path);
-  return stream ? WholeFile::Read(*stream, kLargestLibrary) : std::nullopt;
+std::optional<WholeFile> ReadLibraryFile(GameFiles& files, const std::string& path) {
+  auto found = files.Read(path, kLargestLibrary);
+  return found ? std::move(found->Whole) : std::nullopt;
 }
 
 std::string BareFileName(std::string_view path) {
@@ -104,7 +104,7 @@ void ReadHTML_STRData(Import& import, const std::string& path, std::int32_t offs
   Routine routine(import.Target.Log, "OrrerixMain.ReadHTML_STRData",
                   "While reading dynamic linked DLL-Data");
   routine.Run([&] {
-    const auto file = ReadLibraryFile(import.Game, path);
+    const auto file = ReadLibraryFile(import.Files, path);
     const auto library = file ? ResourceLibrary::Open(file->Bytes()) : std::nullopt;
     if (!library) {
       import.Host.Show({FormatIn(import.Host.Speech(), TextId::LibraryLinkError, path),
