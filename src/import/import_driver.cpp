@@ -6,7 +6,7 @@
 #include <fmt/format.h>
 
 #include "db/schema.h"
-#include "db/values/text.h"
+#include "import/game_plan.h"
 #include "import/ini/ini_reader.h"
 #include "import/resources/crunching.h"
 #include "import/resources/resource_strings.h"
@@ -21,19 +21,6 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr int kPauseAfterTexts = 500;
-
-// Many more files than any game has; a list of all would be a matter of memory.
-constexpr std::size_t kMostExpectedFiles = 10'000;
-
-constexpr std::string_view kProgramFolder = "\\exe\\";
-constexpr std::string_view kDataFolder = "\\data\\";
-constexpr std::string_view kUniverseFolder = "\\data\\universe\\";
-constexpr std::string_view kCharacterFile = "missions\\mbases.ini";
-
-// The data file in whose place the files of all systems are read.
-bool ListsSystems(std::string_view type) {
-  return Ucase(type) == "BASES";
-}
 
 // The stages, each a function that reads like the list of its steps.
 class ImportRun {
@@ -61,14 +48,14 @@ class ImportRun {
 
  private:
   void ReadConfiguration() {
-    Read(Path(kProgramFolder, "freelancer.ini"));
-    Read(Path(kUniverseFolder, "universe.ini"));
-    ExpectFiles();
+    Read(ProgramPath(order_.Game, "freelancer.ini"));
+    Read(UniversePath(order_.Game, "universe.ini"));
+    import_.Files.Expect(PlannedFiles(database_, order_.Game));
     CleanUp();
   }
 
   void ReadCharacters() {
-    Read(Path(kDataFolder, kCharacterFile));
+    Read(DataPath(order_.Game, kCharacterFile));
     import_.Files.Expect({});
     CleanUp();
   }
@@ -86,41 +73,8 @@ class ImportRun {
     for (const TableDef& table : FixedTables()) database_.CreateHeldTable(routine_, table);
   }
 
-  std::string Path(std::string_view folder, std::string_view below) const {
-    return fmt::format("{}{}{}", order_.Game.Text(), folder, below);
-  }
-
   void Read(const std::string& path, const std::string& system = {}) {
     routine_.Try([&] { ReadINI(import_, path, system); });
-  }
-
-  // Announces the files that the stages after this one read, in their order. What fails here is
-  // reported by those stages.
-  void ExpectFiles() {
-    IgnoreFailures quiet;
-    std::vector<std::string> paths = PathsIn(quiet, kProgramFolder, "resources", "DLL");
-    for (Recordset files = database_.OpenRows(quiet, "DataFiles", RecordsetType::Snapshot);
-         !files.AtEnd() && paths.size() < kMostExpectedFiles; files.MoveNext()) {
-      if (ListsSystems(files["type"].Get().Text())) {
-        const std::vector<std::string> systems = PathsIn(quiet, kUniverseFolder, "Systems", "file");
-        paths.insert(paths.end(), systems.begin(), systems.end());
-      } else {
-        paths.push_back(Path(kDataFolder, files["pathfile"].Get().Text()));
-      }
-    }
-    paths.push_back(Path(kDataFolder, kCharacterFile));
-    import_.Files.Expect(std::move(paths));
-  }
-
-  // The files that a field of a table names.
-  std::vector<std::string> PathsIn(FailureSink& sink, std::string_view folder,
-                                   std::string_view table, std::string_view field) {
-    std::vector<std::string> paths;
-    for (Recordset rows = database_.OpenRows(sink, table, RecordsetType::Snapshot);
-         !rows.AtEnd() && paths.size() < kMostExpectedFiles; rows.MoveNext()) {
-      paths.push_back(Path(folder, rows[field].Get().Text()));
-    }
-    return paths;
   }
 
   void CleanUp() { CleanUpMemory(log_, host_, database_, order_.SaveFolder); }
@@ -142,7 +96,7 @@ class ImportRun {
       host_.AppendText("\r\n\r\n" + FormatIn(host_.Speech(), TextId::ReadingLibrary, library));
     });
     host_.Yield();
-    ReadHTML_STRData(import_, Path(kProgramFolder, library),
+    ReadHTML_STRData(import_, ProgramPath(order_.Game, library),
                      RequireLong(static_cast<double>(place) * kNumbersPerLibrary));
   }
 
@@ -169,10 +123,10 @@ class ImportRun {
   }
 
   void ReadDataFile(const std::string& type, const std::string& file) {
-    if (ListsSystems(type)) {
+    if (StandsForSystems(type)) {
       ReadSystemFiles();
     } else {
-      Read(Path(kDataFolder, file));
+      Read(DataPath(order_.Game, file));
     }
   }
 
@@ -180,7 +134,8 @@ class ImportRun {
     for (Recordset systems = database_.OpenRows(routine_, "Systems", RecordsetType::Snapshot);
          !systems.AtEnd(); systems.MoveNext()) {
       routine_.Try([&] {
-        Read(Path(kUniverseFolder, systems["file"].Get().Text()), systems["nickname"].Get().Text());
+        Read(UniversePath(order_.Game, systems["file"].Get().Text()),
+             systems["nickname"].Get().Text());
       });
     }
   }
