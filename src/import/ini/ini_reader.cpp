@@ -107,14 +107,16 @@ void ReadINI(Import& import, const std::string& file, const std::string& systemN
   ReaderRoutine routine(import, file);
   routine.Run([&] {
     ++import.Progress.ImportDone;
-    auto found = file.ends_with('\\') ? std::nullopt : import.Files.Read(file);
+    std::optional<FoundFile> found;
+    const auto read = [&] { found = import.Files.Read(file); };
+    if (!file.ends_with('\\') && !routine.Try(read)) return;
     if (!found) {
       import.Target.Log.AddErrorLine("Cant find file: [" + file + "]");
       return;
     }
-    std::optional<FileText> read;
-    if (!routine.Try([&] { read.emplace(std::move(*found), file); })) return;
-    const std::string_view text = read->Text();
+    std::optional<FileText> whole;
+    if (!routine.Try([&] { whole.emplace(std::move(*found), file); })) return;
+    const std::string_view text = whole->Text();
     if (text.empty()) return;
     Reader(import, routine, file, systemNickname).Read(text);
   });
