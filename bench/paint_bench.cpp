@@ -3,6 +3,10 @@
 // shown before, with and without a switch of the panel, and at one that is new.
 #include <QApplication>
 #include <QImage>
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <functional>
 #include <memory>
 
 #include <benchmark/benchmark.h>
@@ -32,13 +36,27 @@ enum class Change {
   Switch,   // trade lanes, off and on
   Names,    // names of systems, off and on: what is still on the map changes, too
   Zoom,     // to one that was never shown, as the user sees it first
-  FineZoom  // the same, until all pictures are as fine as they get
+  FineZoom,  // the same, until all pictures are as fine as they get
+  ZoomFrames,  // the longest time of a zoom in which the window answers to nothing
+  GlideFrame   // a frame while the map of before moves
 };
 
 struct Redraw {
   ZoomRectangle Rectangle;
   double DevicePixelRatio = 1;
   Change What = Change::Nothing;
+};
+
+// Paints as it does in its window.
+class WindowView : public MapSceneView {
+ public:
+  WindowView() {
+    OnUnfinished = [] {};
+  }
+  bool IsInWindow = false;
+
+ protected:
+  bool IsOnWindow(const QPainter&) const override { return IsInWindow; }
 };
 
 class PaintBench {
@@ -60,7 +78,7 @@ class PaintBench {
     for (auto _ : state) {
       if (redraw_.What == Change::Switch) lanes_ = !lanes_;
       if (redraw_.What == Change::Names) names_ = !names_;
-      if (redraw_.What != Change::Zoom && redraw_.What != Change::FineZoom) {
+      if (redraw_.What < Change::Zoom) {
         Show(*scene);
         continue;
       }
@@ -70,6 +88,14 @@ class PaintBench {
       scene = std::make_unique<MapScene>(*pictures);
       ShowAnotherZoom(*scene, *pictures);
       state.ResumeTiming();
+      if (redraw_.What == Change::ZoomFrames) {
+        TakeFrames(*scene, *pictures, state);
+        continue;
+      }
+      if (redraw_.What == Change::GlideFrame) {
+        TakeGlideFrame(*scene, state);
+        continue;
+      }
       Show(*scene);
       if (redraw_.What == Change::FineZoom) Sharpen(*scene, *pictures);
     }
@@ -86,6 +112,52 @@ class PaintBench {
     Show(scene);
     Sharpen(scene, pictures);
     map_.Zoom.Reset(redraw_.Rectangle);
+  }
+
+  using Clock = std::chrono::steady_clock;
+
+  void TakeFrames(MapScene& scene, PictureStore& pictures, benchmark::State& state) {
+    double longest = 0;
+    double all = 0;
+    int frames = 0;
+    const auto take = [&](const char* what, const std::function<void()>& frame) {
+      const auto start = Clock::now();
+      frame();
+      const std::chrono::duration<double> time = Clock::now() - start;
+      longest = std::max(longest, time.count());
+      all += time.count();
+      ++frames;
+      if (getenv("FRAMES")) fprintf(stderr, "%s %.1f\n", what, time.count() * 1000);
+    };
+    view_.IsInWindow = true;
+    take("first", [&] { Show(scene); });
+    bool isDone = false;
+    while (!isDone) {
+      take("more", [&] {
+        const std::optional<QRegion> seen = view_.PaintMore();
+        isDone = !seen && !pictures.IsWanting();
+        if (seen && !seen->isEmpty()) view_.viewport()->render(&canvas_, seen->boundingRect().topLeft(), *seen);
+        if (!seen && !isDone) pictures.ReadWanted();
+      });
+    }
+    view_.IsInWindow = false;
+    state.SetIterationTime(longest);
+    state.counters["frames"] = frames;
+    state.counters["all"] = all * 1000;
+  }
+
+  void TakeGlideFrame(MapScene& scene, benchmark::State& state) {
+    constexpr int longTime = 1000 * 1000;
+    view_.IsInWindow = true;
+    view_.Glide().SetTime(longTime);
+    Show(scene);
+    const auto start = Clock::now();
+    Paint(scene);
+    const std::chrono::duration<double> time = Clock::now() - start;
+    state.SetIterationTime(time.count());
+    view_.Glide().SetTime(0);
+    view_.Glide().End();
+    view_.IsInWindow = false;
   }
 
   void Sharpen(MapScene& scene, PictureStore& pictures) {
@@ -125,7 +197,7 @@ class PaintBench {
   QImage canvas_;
   bool lanes_ = true;
   bool names_ = true;
-  MapSceneView view_;
+  WindowView view_;
 };
 
 }  // namespace
@@ -141,7 +213,9 @@ void RegisterPaintBenchmarks(const std::vector<BenchGame>& games, const fs::path
       makeApplication();
       PaintBench(ImportInto(game, work), redraw).Run(state);
     };
-    benchmark::RegisterBenchmark(name.c_str(), run)->Unit(benchmark::kMillisecond);
+    auto* registered =
+        benchmark::RegisterBenchmark(name.c_str(), run)->Unit(benchmark::kMillisecond);
+    if (redraw.What >= Change::ZoomFrames) registered->UseManualTime();
   };
   for (const BenchGame& game : games) {
     for (const View& view : {View{"whole", {}}, View{"half", kHalf}, View{"zoomed", {7, 5, 10, 8}},
@@ -153,6 +227,8 @@ void RegisterPaintBenchmarks(const std::vector<BenchGame>& games, const fs::path
         add("NamesRedraw/" + name, game, {view.Rectangle, ratio, Change::Names});
         add("FirstRedraw/" + name, game, {view.Rectangle, ratio, Change::Zoom});
         add("FineRedraw/" + name, game, {view.Rectangle, ratio, Change::FineZoom});
+        add("ZoomFrames/" + name, game, {view.Rectangle, ratio, Change::ZoomFrames});
+        add("GlideFrame/" + name, game, {view.Rectangle, ratio, Change::GlideFrame});
       }
     }
   }

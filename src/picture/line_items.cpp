@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "picture/line_items.h"
 
+#include <QPaintEngine>
+#include <QPainter>
 #include <QPainterPath>
 #include <QPen>
 #include <QRegion>
@@ -154,15 +156,33 @@ void LinesItem::MarkChanged() const {
   for (const MapLine& line : lines_) Mark(line);
 }
 
+// Where the painter paints no more than a part of an image, its clip gets the bounds of the image:
+// they say where dashes begin. Returns that part.
+std::optional<QRegion> LinesItem::WidenClip(QPainter& painter) {
+  const QPaintEngine& engine = *painter.paintEngine();
+  if (!painter.hasClipping() || engine.type() != QPaintEngine::Raster) return std::nullopt;
+  QRegion part = painter.clipRegion();
+  const QTransform world = painter.worldTransform();
+  const QRect device(0, 0, engine.paintDevice()->width(), engine.paintDevice()->height());
+  painter.setWorldTransform(painter.deviceTransform().inverted() * world);
+  painter.setClipRegion(painter.clipRegion() + OutermostPixels(device));
+  painter.setWorldTransform(world);
+  return part;
+}
+
 void LinesItem::Draw(QPainter& painter, const QStyleOptionGraphicsItem& option, QWidget*) {
+  painter.save();
+  const std::optional<QRegion> part = WidenClip(painter);
   PaintInHalves(painter, [&](QPainter& half) {
     const LinePainter lines(half, onPaper_);
-    const QRegion seen =
+    const QRegion open =
         half.hasClipping() ? half.clipRegion() : QRegion(option.exposedRect.toAlignedRect());
+    const QRegion& seen = part ? *part : open;
     for (const MapLine& line : lines_) {
       if (seen.intersects(line.Box().toAlignedRect())) lines.Draw(line);
     }
   });
+  painter.restore();
 }
 
 }  // namespace orrerix

@@ -5,6 +5,8 @@
 #include <QLineF>
 #include <QPainter>
 #include <QRectF>
+#include <QRegion>
+#include <optional>
 #include <span>
 #include <vector>
 
@@ -47,6 +49,7 @@ class LinesItem : public ControlItem {
   void Draw(QPainter& painter, const QStyleOptionGraphicsItem& option, QWidget*) override;
 
  private:
+  static std::optional<QRegion> WidenClip(QPainter& painter);
   void Mark(const MapLine& line) const;
 
   QRectF seen_;

@@ -103,20 +103,22 @@ void MapScene::SetStill() {
   }
 }
 
-std::uint64_t MapScene::StillVersion() {
-  MarkFinerPictures();
-  return HasStill() ? still_.Changes.Version() : 0;
-}
-
-void MapScene::MarkFinerPictures() {
-  const std::uint64_t seen = std::exchange(seenPictures_, pictures_.Version());
-  if (seen == seenPictures_) return;
-  for (const auto& layer : layers_) {
-    if (layer->First().Kind != ControlKind::Picture || !layer->IsStill()) continue;
-    for (const ControlItem* item : layer->Items()) {
-      if (pictures_.VersionOf(PictureFile(item->Shown())) > seen) item->MarkChanged();
+QRegion MapScene::FinerSince(std::uint64_t picturesVersion) {
+  QRegion finer;
+  if (picturesVersion == pictures_.Version()) return finer;
+  for (QGraphicsItem* item : items()) {
+    const Control& shown = ControlItem::Of(*item);
+    if (shown.Kind != ControlKind::Picture ||
+        pictures_.VersionOf(PictureFile(shown)) <= picturesVersion) {
+      continue;
+    }
+    if (static_cast<ControlItem*>(item)->IsStill()) {
+      finer += item->sceneBoundingRect().toAlignedRect();
+    } else {
+      item->update();
     }
   }
+  return finer;
 }
 
 // The items that are seen in a part of the scene, front to back. Most tiles of the sky lie below

@@ -70,13 +70,18 @@ class MapScene : public QGraphicsScene {
 
   // The sky, the pictures and names of systems and the jump connections, with what was put below
   // lines, are still: most redraws leave them as they are. The number changes whenever they look
-  // different, also by a finer picture. Zero if none are still.
-  std::uint64_t StillVersion();
+  // different by more than a finer picture. Zero if none are still.
+  std::uint64_t StillVersion() const { return HasStill() ? still_.Changes.Version() : 0; }
 
   // Where they look different since a version; null if that may be anywhere.
   std::optional<QRegion> StillChangesSince(std::uint64_t version) const {
     return still_.Changes.Since(version, StillPart());
   }
+
+  // Another number whenever pictures may look finer, and where still ones do since a version. All
+  // others that do are painted again.
+  std::uint64_t PicturesVersion() const { return pictures_.Version(); }
+  QRegion FinerSince(std::uint64_t picturesVersion);
 
   // Paints the still items that are seen in a part of the scene, in front of the background. The
   // painter is in the scene's coordinates; `window` is where they will be seen.
@@ -105,7 +110,6 @@ class MapScene : public QGraphicsScene {
   void StackLayers();
   bool HasStill() const { return !layers_.empty() && layers_.front()->IsStill(); }
   void SetStill();
-  void MarkFinerPictures();
   std::vector<ControlItem*> StillItemsIn(const QRegion& part, QPainter& painter);
   void SpareLetters();
   QRegion HiddenPart() const;
@@ -122,7 +126,6 @@ class MapScene : public QGraphicsScene {
   std::array<Front, kFrontLayers> front_;
   std::vector<QRectF> letters_;  // that lines spare
   StillItems still_;
-  std::uint64_t seenPictures_ = 0;  // the version of the pictures that the still items have
 };
 
 }  // namespace orrerix

@@ -2,44 +2,53 @@
 #pragma once
 
 #include <QGraphicsView>
-#include <QImage>
-#include <QPointer>
 #include <QRegion>
-#include <QTransform>
-#include <cstdint>
-#include <optional>
+#include <functional>
 
+#include "picture/map_glide.h"
 #include "picture/map_scene.h"
+#include "picture/still_picture.h"
 
 namespace orrerix {
 
 // Shows a map scene pixel for pixel. It keeps a picture of what is still in the scene, in the
 // window's own pixels, so that most redraws copy it and paint the rest.
+//
+// In the window no redraw waits for what takes long: after a zoom the picture of before is shown in
+// its new place, and the new one is painted in passes. Whoever renders or grabs the view waits.
 class MapSceneView : public QGraphicsView {
  public:
   explicit MapSceneView(QWidget* parent = nullptr);
+
+  // Called when there is something to paint in passes. Without it nothing waits for them.
+  std::function<void()> OnUnfinished;
+
+  // Paints the next pass, and returns which pixels of the view (logical ones) will be painted again
+  // for it. Null if there was nothing to do.
+  std::optional<QRegion> PaintMore();
+
+  // The movement after a zoom.
+  MapGlide& Glide() { return glide_; }
 
  protected:
   void paintEvent(QPaintEvent* event) override;
   void drawBackground(QPainter* painter, const QRectF& exposed) override;
 
- private:
-  // What the picture depends on besides the scene's content.
-  struct Look {
-    QPointer<QGraphicsScene> Scene;
-    QTransform ToDevice;  // from the scene to the picture's pixels
-    QSize Size;
-    double DevicePixelRatio = 1;
-    bool operator==(const Look&) const = default;
-  };
+  // Whether the painter is at work on the window itself.
+  virtual bool IsOnWindow(const QPainter& painter) const;
 
-  void Renew(MapScene& map, const Look& look);
-  void Paint(MapScene& map, const std::optional<QRegion>& part);
+ private:
+  MapScene* Map() const { return dynamic_cast<MapScene*>(scene()); }
+  bool Moves(MapScene& map, const StillLook& look);
+  void Renew(MapScene& map, const StillLook& look, bool inPasses);
+  void EndGlide();
+  void Draw(QPainter& painter) const;
+  QRegion InView(const QRegion& pixels) const;
 
   bool isPainting_ = false;
-  QImage still_;
-  Look look_;
-  std::uint64_t version_ = 0;  // of the still items in the picture
+  StillPicture still_;
+  MapPlace place_;  // of what is in the picture
+  MapGlide glide_;
 };
 
 }  // namespace orrerix

@@ -15,13 +15,17 @@ bool PaintsPixels(const QPainter& painter) {
   return engine != nullptr && engine->type() == QPaintEngine::Raster;
 }
 
+// The image that pixels go to; null where it is none.
+const QImage* ImageOf(const QPainter& painter) {
+  if (!PaintsPixels(painter) || painter.hasClipping()) return nullptr;
+  const QPaintDevice* device = painter.paintEngine()->paintDevice();
+  return device->devType() == QInternal::Image ? static_cast<const QImage*>(device) : nullptr;
+}
+
 // The image that all of is painted; null for windows and for a part of an image.
 const QImage* WholeImage(const QPainter& painter) {
-  if (!PaintsPixels(painter) || painter.hasClipping()) return nullptr;
-  const QPaintEngine& engine = *painter.paintEngine();
-  const QPaintDevice* device = engine.paintDevice();
-  const bool isImage = device->devType() == QInternal::Image && engine.systemClip().isEmpty();
-  return isImage ? static_cast<const QImage*>(device) : nullptr;
+  const QImage* image = ImageOf(painter);
+  return image != nullptr && painter.paintEngine()->systemClip().isEmpty() ? image : nullptr;
 }
 
 // An image of the same pixels, for a painter of its own. The painter that is at work on the image
@@ -40,15 +44,29 @@ std::array<QRegion, 2> HalvesOf(const QRect& image) {
   return {half, QRegion(image) - half};
 }
 
-void PaintHalf(const QPainter& painter, QImage image, const QRegion& half,
+void PaintPart(const QPainter& painter, QImage image, const QRegion& part,
                const std::function<void(QPainter&)>& paint) {
   QPainter own(&image);
   const QTransform pixels = own.deviceTransform().inverted();
   own.setRenderHints(painter.renderHints());
   own.setWorldTransform(pixels);
-  own.setClipRegion(half);
+  own.setClipRegion(part);
   own.setWorldTransform(painter.deviceTransform() * pixels);
   paint(own);
+}
+
+// Runs the work for two parts of an image in two threads.
+void PaintTwoParts(const QPainter& painter, const QImage& image, const std::array<QRegion, 2>& parts,
+                   const std::function<void(QPainter&)>& paint) {
+  QSemaphore done;
+  for (const QRegion& part : parts) {
+    const auto task = [&, part] {
+      PaintPart(painter, SamePixels(image), part, paint);
+      done.release();
+    };
+    if (!QThreadPool::globalInstance()->tryStart(task)) task();
+  }
+  done.acquire(static_cast<int>(parts.size()));
 }
 
 }  // namespace
@@ -70,16 +88,17 @@ void PaintInPool(const QPainter& painter, const std::function<void()>& paint) {
 void PaintInHalves(QPainter& painter, const std::function<void(QPainter&)>& paint) {
   const QImage* image = WholeImage(painter);
   if (image == nullptr) return PaintInPool(painter, [&] { paint(painter); });
-  QSemaphore done;
-  const auto halves = HalvesOf(image->rect());
-  for (const QRegion& half : halves) {
-    const auto task = [&, half] {
-      PaintHalf(painter, SamePixels(*image), half, paint);
-      done.release();
-    };
-    if (!QThreadPool::globalInstance()->tryStart(task)) task();
-  }
-  done.acquire(static_cast<int>(halves.size()));
+  PaintTwoParts(painter, *image, HalvesOf(image->rect()), paint);
+}
+
+void PaintPixelsInHalves(QPainter& painter, const std::function<void(QPainter&)>& paint) {
+  const QImage* image = ImageOf(painter);
+  if (image == nullptr) return paint(painter);
+  const QRegion clip = painter.paintEngine()->systemClip();
+  const QRegion open = clip.isEmpty() ? QRegion(image->rect()) : clip & image->rect();
+  QRect upper = open.boundingRect();
+  upper.setHeight(upper.height() / 2);
+  PaintTwoParts(painter, *image, {open & upper, open - upper}, paint);
 }
 
 }  // namespace orrerix

@@ -22,4 +22,8 @@ void PaintInPool(const QPainter& painter, const std::function<void()>& paint);
 // pixels are those that a single painter would leave.
 void PaintInHalves(QPainter& painter, const std::function<void(QPainter&)>& paint);
 
+// The same for work whose pixels do not depend on where the clip begins, such as copying pictures.
+// The halves are those of what the painter may paint, so that it serves windows, too.
+void PaintPixelsInHalves(QPainter& painter, const std::function<void(QPainter&)>& paint);
+
 }  // namespace orrerix

@@ -8,11 +8,11 @@
 
 #include "forms/layers/layer_areas.h"
 #include "forms/layers/universe_snapshot.h"
-#include "forms/map/map_glide.h"
 #include "forms/workbench/setting_keys.h"
 #include "forms/workbench/throw_failures.h"
 #include "picture/form_font.h"
 #include "picture/plain_tool_tip.h"
+#include "picture/twips.h"
 #include "space/describe.h"
 #include "space/pick.h"
 #include "space/read_space.h"
@@ -21,6 +21,15 @@ namespace orrerix {
 namespace {
 
 constexpr double kPointerReach = 7;  // pixels around the pointer
+
+// What the panel leaves of the map frame, in pixels.
+QRectF OpenPart(const MapDrawing& drawing) {
+  QRectF open(0, 0, Pixels(drawing.Frame.Width), Pixels(drawing.Frame.Height));
+  const QRectF panel = Pixels(drawing.PanelBox);
+  if (drawing.Panel == PanelPlace::Right) open.setRight(panel.left());
+  if (drawing.Panel == PanelPlace::Below) open.setBottom(panel.top());
+  return open;
+}
 
 std::shared_ptr<const Space> ReadUniverse(const std::filesystem::path& universe,
                                           const std::string& game,

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "forms/map/map_screen.h"
 
+#include <QGuiApplication>
+#include <QStyle>
+#include <algorithm>
 #include <utility>
 #include <vector>
 
@@ -16,6 +19,7 @@
 namespace orrerix {
 namespace {
 
+constexpr int kMostGlideTime = 150;  // milliseconds
 constexpr int kCompactForm = 1020;  // outer width of a form beside the game, pixels
 
 std::vector<QString> PicturesOfZooms() {
@@ -29,16 +33,24 @@ std::vector<QString> PicturesOfZooms() {
 
 }  // namespace
 
+int DesktopGlideTime(const QWidget& widget) {
+  const QString platform = QGuiApplication::platformName();
+  if (platform == "offscreen" || platform == "minimal") return 0;
+  const int time =
+      widget.style()->styleHint(QStyle::SH_Widget_Animation_Duration, nullptr, &widget);
+  return std::clamp(time, 0, kMostGlideTime);
+}
+
 MapScreen::MapScreen(PictureStore& pictures, Settings& settings, TextSource& texts, QWidget* form)
     : pictures_(pictures),
       settings_(settings),
       texts_(texts),
       scene_(pictures),
       frame_(new SysmapFrame(scene_, form)),
-      glide_(new MapGlide(*frame_)),
       sharpening_(new QTimer(frame_)) {
   frame_->hide();
-  glide_->SetTime(DesktopGlideTime(*frame_));
+  frame_->Glide().SetTime(DesktopGlideTime(*frame_));
+  frame_->OnUnfinished = [this] { sharpening_->start(0); };
   overlay_ = std::make_unique<HoverOverlay>(scene_, frame_);
   QObject::connect(sharpening_, &QTimer::timeout, frame_, [this] { Sharpen(); });
   pictures_.OnWanted = [this] { sharpening_->start(0); };
@@ -86,11 +98,11 @@ void MapScreen::ReadAhead() {
   timer->start(0);
 }
 
-// Reading a finer picture takes longer than a redraw, so it is done after one.
+// What takes longer than a redraw is done after one, bit by bit.
 void MapScreen::Sharpen() {
+  if (frame_->PaintMore()) return;
   pictures_.ReadWanted();
-  scene_.update();
-  if (pictures_.IsWanting()) return;
+  if (pictures_.IsWanting() || frame_->PaintMore()) return;
   sharpening_->stop();
   ReturnFreedMemory();
 }
@@ -110,10 +122,8 @@ void MapScreen::Redraw(Universe& universe, int formWidth, int formHeight) {
   const QRectF frame = Pixels(drawing.Frame);
   frame_->setGeometry(QRect(frame.topLeft().toPoint(), QSize(static_cast<int>(frame.width()),
                                                              static_cast<int>(frame.height()))));
-  glide_->Take(scene_.Drawing(), drawing);
   scene_.Show(std::move(drawing));
   frame_->show();
-  glide_->Start();
 }
 
 }  // namespace orrerix

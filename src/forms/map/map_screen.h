@@ -7,7 +7,6 @@
 #include <string>
 
 #include "forms/map/hover_overlay.h"
-#include "forms/map/map_glide.h"
 #include "forms/map/sysmap_frame.h"
 #include "map/redraw.h"
 #include "picture/qt_text_measure.h"
@@ -15,6 +14,10 @@
 #include "shell/settings.h"
 
 namespace orrerix {
+
+// Milliseconds that a movement takes where the desktop wants movements; 0 where it wants none, or
+// where nobody sees them.
+int DesktopGlideTime(const QWidget& widget);
 
 // The map on the main form, with all that it remembers between two redraws.
 class MapScreen {
@@ -51,7 +54,6 @@ class MapScreen {
   MapState& State() { return state_; }
   SysmapFrame& Frame() { return *frame_; }
   MapScene& Scene() { return scene_; }
-  MapGlide& Glide() { return *glide_; }
   const MapDrawing& Drawing() const { return scene_.Drawing(); }
 
   // The switches as the last redraw has read them: what the panel shows.
@@ -75,7 +77,6 @@ class MapScreen {
   std::optional<std::string> starMap_;
   MapScene scene_;
   SysmapFrame* frame_;
-  MapGlide* glide_;
   std::unique_ptr<HoverOverlay> overlay_;  // on the frame, but gone before the scene
   QTimer* sharpening_;
 };
