@@ -137,7 +137,7 @@ class PaintBench {
         const std::optional<QRegion> seen = view_.PaintMore();
         isDone = !seen && !pictures.IsWanting();
         if (seen && !seen->isEmpty()) view_.viewport()->render(&canvas_, seen->boundingRect().topLeft(), *seen);
-        if (!seen && !isDone) pictures.ReadWanted();
+        if (!seen && !isDone) pictures.ReadWanted(PictureStore::Waiting::ForNothing);
       });
     }
     view_.IsInWindow = false;

@@ -140,6 +140,21 @@ class LabelItem : public ControlItem {
     return letters.adjusted(-beside, -above, beside, above);
   }
 
+  // No more than that, as the font measures it. Of several lines it is not known.
+  QRectF InkPart() const {
+    const QFontMetricsF metrics(font_);
+    if (style_.Wraps || style_.Lines || text_.size().height() > metrics.height() + 1) {
+      return LettersPart();
+    }
+    const double width = metrics.horizontalAdvance(text_.text());
+    const QRectF ink = metrics.tightBoundingRect(text_.text());
+    const double beside = std::max(0.0, width - text_.textWidth()) + std::max(0.0, -ink.left()) +
+                          std::max(0.0, ink.right() - width) + 2;
+    const QRectF letters(corner_.x(), corner_.y() + metrics.ascent() + ink.top(),
+                         text_.textWidth(), ink.height());
+    return letters.adjusted(-beside, -2, beside, 2);
+  }
+
   void DrawLetters(QPainter& painter) {
     painter.setFont(font_);
     if (style_.Outlined) DrawOutline(painter);
@@ -159,7 +174,7 @@ class LabelItem : public ControlItem {
   // Filling them takes ten times as long as copying a picture of them.
   void DrawKept(QPainter& painter) {
     const QTransform toDevice = painter.deviceTransform();
-    const QRect place = toDevice.mapRect(LettersPart()).toAlignedRect();
+    const QRect place = toDevice.mapRect(InkPart()).toAlignedRect();
     const QTransform toPicture = toDevice * QTransform::fromTranslate(-place.left(), -place.top());
     const auto make = [&] {
       QImage image(place.size(), QImage::Format_ARGB32_Premultiplied);

@@ -3,18 +3,15 @@
 #pragma once
 
 #include <QCache>
-#include <QImage>
 #include <QPainter>
 #include <QPixmap>
 #include <QString>
 #include <cstdint>
 #include <deque>
 #include <functional>
-#include <memory>
 #include <unordered_map>
-#include <vector>
 
-#include "picture/vector_drawing.h"
+#include "picture/picture_sources.h"
 
 namespace orrerix {
 
@@ -49,7 +46,7 @@ class PictureStore {
   }
 
   // The file, or the brother of it, that a size in device pixels is made out of.
-  QString VariantFor(const QString& file, QSize size);
+  QString VariantFor(const QString& file, QSize size) { return sources_.VariantFor(file, size); }
 
   // The picture in a size in device pixels, smoothly made out of the next larger level.
   QPixmap Scaled(const QString& file, QSize size);
@@ -59,17 +56,19 @@ class PictureStore {
   QPixmap Kept(const QString& name, QSize size, const std::function<QPixmap()>& make);
 
   // Its own size, or that of the drawing in its place; empty if the file is no picture.
-  QSize NaturalSize(const QString& file);
+  QSize NaturalSize(const QString& file) { return sources_.NaturalSize(file); }
 
   // Whether the file has been read, and neither it nor any brother of it that has been read lets
   // anything shine through.
-  bool IsOpaque(const QString& file);
+  bool IsOpaque(const QString& file) { return sources_.IsOpaque(file); }
 
   // Called when a picture is wanted and none was before. ReadWanted reads the file of one of them,
-  // or scales some of those whose files have been read, for callers that draw next.
+  // or scales some of those whose files have been read, for callers that draw next. A caller that
+  // waits for nothing calls it again while another thread reads the file.
+  enum class Waiting { ForFiles, ForNothing };
   std::function<void()> OnWanted;
   bool IsWanting() const { return !wanted_.empty(); }
-  void ReadWanted();
+  void ReadWanted(Waiting waiting = Waiting::ForFiles);
 
   // Another number whenever pictures that were drawn before may look finer now, and the one since
   // which a picture does; zero for one that looks as ever.
@@ -77,13 +76,13 @@ class PictureStore {
   std::uint64_t VersionOf(const QString& file) const;
 
   // Reads a picture of which nothing has been read. It will be drawn next.
-  void BringToHand(const QString& file);
+  void BringToHand(const QString& file) { sources_.BringToHand(file); }
 
   // Reads a picture that will be needed soon, for sizes up to half of its own.
-  void Read(const QString& file);
+  void Read(const QString& file) { sources_.Read(file); }
 
   // What the pictures that were read take, in bytes.
-  qint64 BytesOfSources() const;
+  qint64 BytesOfSources() const { return sources_.Bytes(); }
 
   // What is kept of pictures in the sizes that were drawn, in bytes.
   qint64 BytesOfScaled() const;
@@ -92,27 +91,6 @@ class PictureStore {
   static QRectF PlaceOnDevice(const QPainter& painter, const QRectF& place);
 
  private:
-  // One of the two, or neither for a file that is no picture.
-  struct Source {
-    std::vector<QImage> Levels;  // each in half the size of the one before
-    std::unique_ptr<VectorDrawing> Drawing;
-    bool IsFull = true;      // the first level is the picture itself, and not the next one
-    bool IsAwaited = false;  // it was read because it is wanted, and has not been drawn yet
-    std::uint64_t Used = 0;  // when; the latest has the highest number
-
-    // The smallest level that need not be enlarged to this size; the first if all must be.
-    const QImage& LevelFor(QSize size) const;
-
-    // Whether a picture of this size is as fine as the file can make it.
-    bool Serves(QSize size) const;
-
-    // What dropping the picture itself would set free; nothing while it is awaited.
-    qint64 FullBytes() const;
-  };
-  struct Variant {
-    QString File;
-    QSize Covers;  // the largest size that it need not be enlarged to; a drawing has none
-  };
   struct SizedFile {
     QString File;
     QSize Size;
@@ -129,16 +107,9 @@ class PictureStore {
     bool operator==(const WantedPicture&) const = default;
   };
 
-  Source ReadSource(const QString& file) const;
-  Source& SourceOf(const QString& file);
-  Source& FullSourceOf(const QString& file);
-  void KeepWithinRoom(const QString& latest);
-  void DropFull(const QString& file);
-  const std::vector<Variant>& VariantsOf(const QString& file);
-  QString FileFor(const QString& file, const QString& best, QSize size, Reading reading);
+  QString FileFor(const QString& file, const SizedFile& best, Reading reading);
   void Want(const WantedPicture& picture);
-  bool IsAtHand(const SizedFile& best) const;
-  bool IsQuick(const SizedFile& best) const;
+  bool IsQuick(const SizedFile& best);
   void MakeRoomFor(const QPainter& painter);
   // These draw out of just this file, and of what is at hand of it.
   QPixmap Render(const QString& file, QSize size);
@@ -146,15 +117,14 @@ class PictureStore {
   const QPixmap* OtherSizeOf(const QString& file) const;
   void DrawSource(QPainter& painter, const QString& file, const QRectF& place);
   void DrawPart(QPainter& painter, const QString& file, const QRect& target, const QRect& part);
-  bool DrawCoarse(QPainter& painter, const QString& file, const QRect& target);
+  bool DrawCoarse(QPainter& painter, const QString& file, const QString& best,
+                  const QRect& target);
   void DrawWhole(QPainter& painter, const QString& file, const QRect& target, Reading reading);
 
-  std::unordered_map<QString, Source> sources_;
-  std::unordered_map<QString, std::vector<Variant>> variants_;  // the smallest first
+  PictureSources sources_;
   std::deque<WantedPicture> wanted_;
   std::unordered_map<QString, std::uint64_t> finer_;  // since which version
   QCache<SizedFile, QPixmap> scaled_;
-  std::uint64_t uses_ = 0;
   std::uint64_t version_ = 1;
 };
 

@@ -101,7 +101,7 @@ void MapScreen::ReadAhead() {
 // What takes longer than a redraw is done after one, bit by bit.
 void MapScreen::Sharpen() {
   if (frame_->PaintMore()) return;
-  pictures_.ReadWanted();
+  pictures_.ReadWanted(PictureStore::Waiting::ForNothing);
   if (pictures_.IsWanting() || frame_->PaintMore()) return;
   sharpening_->stop();
   ReturnFreedMemory();
