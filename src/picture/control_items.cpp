@@ -62,6 +62,7 @@ class PictureItem : public ControlItem {
     box.addRect(BoxOf(Shown()));
     return box;
   }
+  QString PictureName() const override { return file_; }
   QRectF Hides() const override {
     return pictures_.IsOpaque(file_) ? mapRectToScene(seen_) : QRectF();
   }
@@ -104,6 +105,30 @@ class PictureItem : public ControlItem {
   QRectF seen_;
 };
 
+// Laid out text.
+struct Letters {
+  QStaticText Text;
+  QFont Font;
+  QPointF Corner;
+  QColor Ink;
+  bool Outlined = false;
+
+  void Draw(QPainter& painter) const {
+    painter.setFont(Font);
+    if (Outlined) DrawOutline(painter);
+    painter.setPen(Ink);
+    painter.drawStaticText(Corner, Text);
+  }
+
+  void DrawOutline(QPainter& painter) const {
+    constexpr std::array<QPointF, 8> around = {QPointF(-1, 0), QPointF(1, 0),   QPointF(0, -1),
+                                               QPointF(0, 1),  QPointF(-1, -1), QPointF(1, -1),
+                                               QPointF(-1, 1), QPointF(1, 1)};
+    painter.setPen(QColor(0, 0, 16, 150));
+    for (const QPointF& offset : around) painter.drawStaticText(Corner + offset, Text);
+  }
+};
+
 class LabelItem : public ControlItem {
  public:
   LabelItem(const Control& control, PictureStore& pictures, bool onPaper, QGraphicsItem* parent)
@@ -115,8 +140,8 @@ class LabelItem : public ControlItem {
 
   QRectF NameLetters() const override {
     if (!style_.Spared) return {};
-    const double width = QFontMetricsF(font_).horizontalAdvance(text_.text());
-    const QRectF letters(corner_, QSizeF(text_.textWidth(), text_.size().height()));
+    const double width = QFontMetricsF(letters_.Font).horizontalAdvance(letters_.Text.text());
+    const QRectF letters(letters_.Corner, QSizeF(letters_.Text.textWidth(), letters_.Text.size().height()));
     const double beside = (letters.width() - width) / 2;
     return mapRectToScene(letters.adjusted(beside, 0, -beside, 0));
   }
@@ -126,40 +151,37 @@ class LabelItem : public ControlItem {
   void Draw(QPainter& painter, const QStyleOptionGraphicsItem&, QWidget* window) override {
     if (!style_.Transparent) FillBackground(painter, Shown(), boundingRect());
     if (window != nullptr && AreOutlines(painter)) return DrawKept(painter);
-    DrawLetters(painter);
+    letters_.Draw(painter);
+  }
+
+  QString PictureName() const override {
+    return QStringLiteral("%1|%2").arg(letters_.Text.text()).arg(letters_.Ink.rgb());
   }
 
  private:
   // Letters may leave the box, and swing out of the lines they stand in.
   QRectF LettersPart() const {
-    const QFontMetricsF metrics(font_);
-    const double width = std::max(text_.textWidth(), metrics.horizontalAdvance(text_.text()));
-    const double beside = width - text_.textWidth() + metrics.height();
+    const QFontMetricsF metrics(letters_.Font);
+    const double width = std::max(letters_.Text.textWidth(), metrics.horizontalAdvance(letters_.Text.text()));
+    const double beside = width - letters_.Text.textWidth() + metrics.height();
     const double above = metrics.height() / 2;
-    const QRectF letters(corner_, QSizeF(text_.textWidth(), text_.size().height()));
+    const QRectF letters(letters_.Corner, QSizeF(letters_.Text.textWidth(), letters_.Text.size().height()));
     return letters.adjusted(-beside, -above, beside, above);
   }
 
   // No more than that, as the font measures it. Of several lines it is not known.
   QRectF InkPart() const {
-    const QFontMetricsF metrics(font_);
-    if (style_.Wraps || style_.Lines || text_.size().height() > metrics.height() + 1) {
+    const QFontMetricsF metrics(letters_.Font);
+    if (style_.Wraps || style_.Lines || letters_.Text.size().height() > metrics.height() + 1) {
       return LettersPart();
     }
-    const double width = metrics.horizontalAdvance(text_.text());
-    const QRectF ink = metrics.tightBoundingRect(text_.text());
-    const double beside = std::max(0.0, width - text_.textWidth()) + std::max(0.0, -ink.left()) +
+    const double width = metrics.horizontalAdvance(letters_.Text.text());
+    const QRectF ink = metrics.tightBoundingRect(letters_.Text.text());
+    const double beside = std::max(0.0, width - letters_.Text.textWidth()) + std::max(0.0, -ink.left()) +
                           std::max(0.0, ink.right() - width) + 2;
-    const QRectF letters(corner_.x(), corner_.y() + metrics.ascent() + ink.top(),
-                         text_.textWidth(), ink.height());
+    const QRectF letters(letters_.Corner.x(), letters_.Corner.y() + metrics.ascent() + ink.top(),
+                         letters_.Text.textWidth(), ink.height());
     return letters.adjusted(-beside, -2, beside, 2);
-  }
-
-  void DrawLetters(QPainter& painter) {
-    painter.setFont(font_);
-    if (style_.Outlined) DrawOutline(painter);
-    painter.setPen(ToQColor(Shown().ForeColor.value_or(Color{})));
-    painter.drawStaticText(corner_, text_);
   }
 
   // Whether Qt has no pictures of letters in this size, and fills the outline of each of them.
@@ -168,7 +190,7 @@ class LabelItem : public ControlItem {
     constexpr int largestWithPicture = 64;
     return toDevice.type() <= QTransform::TxScale &&
            painter.paintEngine()->type() == QPaintEngine::Raster &&
-           font_.pixelSize() * toDevice.m22() >= largestWithPicture;
+           letters_.Font.pixelSize() * toDevice.m22() >= largestWithPicture;
   }
 
   // Filling them takes ten times as long as copying a picture of them.
@@ -176,76 +198,69 @@ class LabelItem : public ControlItem {
     const QTransform toDevice = painter.deviceTransform();
     const QRect place = toDevice.mapRect(InkPart()).toAlignedRect();
     const QTransform toPicture = toDevice * QTransform::fromTranslate(-place.left(), -place.top());
-    const auto make = [&] {
-      QImage image(place.size(), QImage::Format_ARGB32_Premultiplied);
+    // So that the fonts are the same.
+    const QSize dots(DotsPerMeter(painter.device()->logicalDpiX()),
+                     DotsPerMeter(painter.device()->logicalDpiY()));
+    const auto make = [letters = letters_, size = place.size(), toPicture, dots,
+                       hints = painter.renderHints()] {
+      QImage image(size, QImage::Format_ARGB32_Premultiplied);
       image.fill(Qt::transparent);
-      // So that the fonts are the same.
-      image.setDotsPerMeterX(DotsPerMeter(painter.device()->logicalDpiX()));
-      image.setDotsPerMeterY(DotsPerMeter(painter.device()->logicalDpiY()));
+      image.setDotsPerMeterX(dots.width());
+      image.setDotsPerMeterY(dots.height());
       QPainter own(&image);
-      own.setRenderHints(painter.renderHints());
+      own.setRenderHints(hints);
       own.setWorldTransform(toPicture);
-      DrawLetters(own);
+      letters.Draw(own);
       own.end();
       return QPixmap::fromImage(std::move(image));
     };
-    const QString name = QStringLiteral("%1|%2|%3|%4|%5|%6")
-                             .arg(font_.key())
-                             .arg(Shown().ForeColor.value_or(Color{}).Bgr)
-                             .arg(toPicture.m22())
-                             .arg(toPicture.dx())
-                             .arg(toPicture.dy())
-                             .arg(text_.text());
+    const QString detail = QStringLiteral("%1|%2|%3|%4")
+                               .arg(letters_.Font.key())
+                               .arg(toPicture.m22())
+                               .arg(toPicture.dx())
+                               .arg(toPicture.dy());
     const QTransform world = painter.worldTransform();
     painter.setWorldTransform(toDevice.inverted() * world);
-    painter.drawPixmap(place.topLeft(), pictures_.Kept(name, place.size(), make));
+    pictures_.DrawMade(painter, {PictureName(), place.size(), detail}, place.topLeft(), make);
     painter.setWorldTransform(world);
   }
 
   void LayOut() {
     const Control& label = Shown();
+    letters_.Ink = ToQColor(label.ForeColor.value_or(Color{}));
+    letters_.Outlined = style_.Outlined;
     const QRectF box =
         BoxOf(label).adjusted(style_.MarginX, style_.MarginY, -style_.MarginX, -style_.MarginY);
     QString caption = QString::fromStdString(label.Caption.value_or(""));
-    text_.setTextFormat(Qt::PlainText);
+    letters_.Text.setTextFormat(Qt::PlainText);
     QTextOption option(style_.Alignment & Qt::AlignHorizontal_Mask);
     option.setWrapMode(style_.Wraps ? QTextOption::WordWrap : QTextOption::NoWrap);
-    text_.setTextOption(option);
-    text_.setTextWidth(box.width());
+    letters_.Text.setTextOption(option);
+    letters_.Text.setTextWidth(box.width());
     int points = label.FontSize.value_or(kDesignFont);
-    font_ = style_.FixedWidth ? FixedFont(points) : FormFont(points);
+    letters_.Font = style_.FixedWidth ? FixedFont(points) : FormFont(points);
     if (style_.Wraps) {
-      while (points > kSmallestFont && !Fits(caption, box)) font_ = FormFont(--points);
+      while (points > kSmallestFont && !Fits(caption, box)) letters_.Font = FormFont(--points);
     } else if (style_.Lines) {
       caption.replace("\r\n", QString(QChar::LineSeparator));
     } else if (!style_.Overflows) {
-      caption = QFontMetricsF(font_).elidedText(caption, Qt::ElideRight, box.width() + 1);
+      caption = QFontMetricsF(letters_.Font).elidedText(caption, Qt::ElideRight, box.width() + 1);
     }
-    text_.setText(caption);
-    text_.prepare({}, font_);
-    corner_ = box.topLeft();
-    if (style_.Alignment & Qt::AlignBottom) corner_.setY(box.bottom() - text_.size().height());
+    letters_.Text.setText(caption);
+    letters_.Text.prepare({}, letters_.Font);
+    letters_.Corner = box.topLeft();
+    if (style_.Alignment & Qt::AlignBottom) letters_.Corner.setY(box.bottom() - letters_.Text.size().height());
   }
 
   bool Fits(const QString& caption, const QRectF& box) const {
-    const QRectF needed = QFontMetricsF(font_).boundingRect(
+    const QRectF needed = QFontMetricsF(letters_.Font).boundingRect(
         box, static_cast<int>(Qt::TextWordWrap | style_.Alignment), caption);
     return needed.width() <= box.width() && needed.height() <= box.height();
   }
 
-  void DrawOutline(QPainter& painter) {
-    constexpr std::array<QPointF, 8> around = {QPointF(-1, 0), QPointF(1, 0),   QPointF(0, -1),
-                                               QPointF(0, 1),  QPointF(-1, -1), QPointF(1, -1),
-                                               QPointF(-1, 1), QPointF(1, 1)};
-    painter.setPen(QColor(0, 0, 16, 150));
-    for (const QPointF& offset : around) painter.drawStaticText(corner_ + offset, text_);
-  }
-
   PictureStore& pictures_;
   LabelStyle style_;
-  QFont font_;
-  QStaticText text_;
-  QPointF corner_;
+  Letters letters_;
 };
 
 // A filled outline.

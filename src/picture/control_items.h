@@ -34,6 +34,9 @@ class ControlItem : public QGraphicsItem {
   // Where the name of a system has its letters, in the scene's coordinates; empty for all others.
   virtual QRectF NameLetters() const { return {}; }
 
+  // What it asks the pictures for: a file or another name; empty if nothing.
+  virtual QString PictureName() const { return {}; }
+
   // The part of the scene in which nothing below can be seen.
   virtual QRectF Hides() const { return {}; }
 
@@ -53,6 +56,9 @@ class ControlItem : public QGraphicsItem {
     return part.intersects(PaintedPart().adjusted(-1, -1, 1, 1).toAlignedRect());
   }
 
+  // The part of the scene in which it leaves pixels; soft edges may go a pixel further.
+  virtual QRectF PaintedPart() const { return mapRectToScene(boundingRect()); }
+
   // Adds the place in which it paints to the changes, if it is still.
   virtual void MarkChanged() const;
 
@@ -71,9 +77,6 @@ class ControlItem : public QGraphicsItem {
   }
 
  protected:
-  // The part of the scene in which it leaves pixels; soft edges may go a pixel further.
-  virtual QRectF PaintedPart() const { return mapRectToScene(boundingRect()); }
-
   // To be called when it looks other than before without having been made anew.
   void SetChanged();
 

@@ -9,7 +9,6 @@
 #include <span>
 #include <utility>
 
-#include "picture/picture_files.h"
 #include "picture/twips.h"
 
 namespace orrerix {
@@ -107,15 +106,13 @@ QRegion MapScene::FinerSince(std::uint64_t picturesVersion) {
   QRegion finer;
   if (picturesVersion == pictures_.Version()) return finer;
   for (QGraphicsItem* item : items()) {
-    const Control& shown = ControlItem::Of(*item);
-    if (shown.Kind != ControlKind::Picture ||
-        pictures_.VersionOf(PictureFile(shown)) <= picturesVersion) {
-      continue;
-    }
-    if (static_cast<ControlItem*>(item)->IsStill()) {
-      finer += item->sceneBoundingRect().toAlignedRect();
+    auto* shown = static_cast<ControlItem*>(item);
+    const QString picture = shown->PictureName();
+    if (picture.isEmpty() || pictures_.VersionOf(picture) <= picturesVersion) continue;
+    if (shown->IsStill()) {
+      finer += shown->PaintedPart().toAlignedRect();
     } else {
-      item->update();
+      update(shown->PaintedPart());
     }
   }
   return finer;

@@ -60,42 +60,47 @@ qint64 PictureStore::BytesOfScaled() const {
   return qint64{1024} * scaled_.totalCost();
 }
 
-QString PictureStore::FileFor(const QString& file, const SizedFile& best, Reading reading) {
-  if (sources_.IsAtHand(best.File, best.Size)) return best.File;
+QString PictureStore::FileFor(const QString& file, const Sized& best, Reading reading) {
+  if (sources_.IsAtHand(best.Name, best.Size)) return best.Name;
   if (reading == Reading::Later) return sources_.FinestAtHand(file);
-  sources_.FullSourceOf(best.File);
-  return best.File;
+  sources_.FullSourceOf(best.Name);
+  return best.Name;
 }
 
 // Whether making it takes hardly longer than drawing it, or would have to be done each time.
-bool PictureStore::IsQuick(const SizedFile& best) {
+bool PictureStore::IsQuick(const Sized& best) {
   if (CostOf(best.Size) > scaled_.maxCost() || scaled_.maxCost() <= kQuickRoom) return true;
-  const bool isDrawing = sources_.SourceOf(best.File).Drawing != nullptr;
+  const bool isDrawing = sources_.SourceOf(best.Name).Drawing != nullptr;
   return AreaOf(best.Size) <= (isDrawing ? kQuickDrawing : kQuickPicture);
 }
 
 void PictureStore::Want(const WantedPicture& picture) {
-  if (std::find(wanted_.begin(), wanted_.end(), picture) != wanted_.end()) return;
+  const auto isSame = [&](const WantedPicture& other) {
+    return other.Best == picture.Best && other.Name == picture.Name &&
+           other.IsPart == picture.IsPart;
+  };
+  if (std::any_of(wanted_.begin(), wanted_.end(), isSame)) return;
   wanted_.push_back(picture);
   if (wanted_.size() == 1 && OnWanted) OnWanted();
 }
 
 void PictureStore::ReadWanted(Waiting waiting) {
   for (qint64 pixels = 0; !wanted_.empty() && pixels < kScaledAtOnce;) {
-    const auto [file, best, isPart] = wanted_.front();
-    if (!sources_.IsAtHand(best.File, best.Size)) {
+    const auto [name, best, isPart, make] = wanted_.front();
+    if (!make && !sources_.IsAtHand(best.Name, best.Size)) {
       if (pixels > 0) return;  // reading takes long enough by itself
       if (waiting == Waiting::ForFiles) {
-        sources_.FullSourceOf(best.File).IsAwaited = true;
-      } else if (!sources_.AwaitFull(best.File)) {
+        sources_.FullSourceOf(best.Name).IsAwaited = true;
+      } else if (!sources_.AwaitFull(best.Name)) {
         return;
       }
       pixels = kScaledAtOnce;
     }
     wanted_.pop_front();
-    if (!isPart) ScaledOf(best);
+    if (make) Kept(best, make);
+    if (!make && !isPart) ScaledOf(best);
     pixels += AreaOf(best.Size);
-    finer_[file] = ++version_;
+    finer_[name] = ++version_;
   }
 }
 
@@ -128,32 +133,52 @@ QPixmap PictureStore::Render(const QString& file, QSize size) {
 
 QPixmap PictureStore::Scaled(const QString& file, QSize size) {
   if (size.isEmpty()) return {};
-  const SizedFile best{sources_.VariantFor(file, size), size};
+  const Sized best{sources_.VariantFor(file, size), size};
   if (!scaled_.contains(best)) FileFor(file, best, Reading::AtOnce);
   return ScaledOf(best);
 }
 
-QPixmap PictureStore::ScaledOf(const SizedFile& key) {
-  return Kept(key.File, key.Size, [&] { return Render(key.File, key.Size); });
+QPixmap PictureStore::ScaledOf(const Sized& key) {
+  return Kept(key, [&] { return Render(key.Name, key.Size); });
 }
 
-QPixmap PictureStore::Kept(const QString& name, QSize size, const std::function<QPixmap()>& make) {
-  const SizedFile key{name, size};
+QPixmap PictureStore::Kept(const Sized& key, const std::function<QPixmap()>& make) {
   if (const QPixmap* known = scaled_.object(key)) return *known;
   QPixmap pixmap = make();
-  scaled_.insert(key, new QPixmap(pixmap), CostOf(size));
+  scaled_.insert(key, new QPixmap(pixmap), CostOf(key.Size));
   return pixmap;
 }
 
 // The largest of the sizes that are kept.
-const QPixmap* PictureStore::OtherSizeOf(const QString& file) const {
+const QPixmap* PictureStore::OtherSizeOf(const QString& name) const {
   const QPixmap* largest = nullptr;
-  for (const SizedFile& key : scaled_.keys()) {
-    if (key.File != file) continue;
+  for (const Sized& key : scaled_.keys()) {
+    if (key.Name != name) continue;
     const QPixmap* other = scaled_.object(key);
     if (largest == nullptr || other->width() > largest->width()) largest = other;
   }
   return largest;
+}
+
+// Draws another size point by point, unless these would be seen.
+bool PictureStore::DrawOtherSize(QPainter& painter, const QString& name,
+                                 const QRect& target) const {
+  const QPixmap* other = OtherSizeOf(name);
+  if (other == nullptr || kAlmost * other->width() < target.width()) return false;
+  const bool smooth = painter.testRenderHint(QPainter::SmoothPixmapTransform);
+  painter.setRenderHint(QPainter::SmoothPixmapTransform, false);
+  painter.drawPixmap(target, *other);
+  painter.setRenderHint(QPainter::SmoothPixmapTransform, smooth);
+  return true;
+}
+
+void PictureStore::DrawMade(QPainter& painter, const Sized& picture, QPoint corner,
+                            const std::function<QPixmap()>& make) {
+  const bool isKept = scaled_.contains(picture);
+  if (!isKept && DrawOtherSize(painter, picture.Name, {corner, picture.Size})) {
+    return Want({picture.Name, picture, false, make});
+  }
+  painter.drawPixmap(corner, Kept(picture, make));
 }
 
 void PictureStore::DrawSource(QPainter& painter, const QString& file, const QRectF& place) {
@@ -194,14 +219,8 @@ bool PictureStore::DrawCoarse(QPainter& painter, const QString& file, const QStr
   const QImage& level = source.LevelFor(target.size());
   // Points that are enlarged would look like another picture.
   const bool isEnlarged = level.width() < target.width() || level.height() < target.height();
+  if (isEnlarged && DrawOtherSize(painter, best, target)) return true;
   const bool smooth = painter.testRenderHint(QPainter::SmoothPixmapTransform);
-  if (const QPixmap* other = isEnlarged ? OtherSizeOf(best) : nullptr;
-      other != nullptr && kAlmost * other->width() >= target.width()) {
-    painter.setRenderHint(QPainter::SmoothPixmapTransform, false);
-    painter.drawPixmap(target, *other);
-    painter.setRenderHint(QPainter::SmoothPixmapTransform, smooth);
-    return true;
-  }
   painter.setRenderHint(QPainter::SmoothPixmapTransform, isEnlarged);
   painter.drawImage(target, level);
   painter.setRenderHint(QPainter::SmoothPixmapTransform, smooth);
@@ -210,11 +229,11 @@ bool PictureStore::DrawCoarse(QPainter& painter, const QString& file, const QStr
 
 void PictureStore::DrawWhole(QPainter& painter, const QString& file, const QRect& target,
                              Reading reading) {
-  const SizedFile best{sources_.VariantFor(file, target.size()), target.size()};
+  const Sized best{sources_.VariantFor(file, target.size()), target.size()};
   if (!scaled_.contains(best)) {
     const QString chosen = FileFor(file, best, reading);
-    const bool isReady = sources_.IsAtHand(best.File, best.Size) && (reading == Reading::AtOnce || IsQuick(best));
-    if (!isReady && DrawCoarse(painter, chosen, best.File, target)) return Want({file, best});
+    const bool isReady = sources_.IsAtHand(best.Name, best.Size) && (reading == Reading::AtOnce || IsQuick(best));
+    if (!isReady && DrawCoarse(painter, chosen, best.Name, target)) return Want({file, best});
   }
   painter.drawPixmap(target.topLeft(), ScaledOf(best));
 }
@@ -255,9 +274,9 @@ void PictureStore::Draw(QPainter& painter, const QString& file, const QRectF& pl
   const QTransform world = painter.worldTransform();
   painter.setWorldTransform(toDevice.inverted() * world);
   if (isPart) {
-    const SizedFile best{sources_.VariantFor(file, target.size()), target.size()};
+    const Sized best{sources_.VariantFor(file, target.size()), target.size()};
     DrawPart(painter, FileFor(file, best, reading), target, part);
-    if (!sources_.IsAtHand(best.File, best.Size)) Want({file, best, true});
+    if (!sources_.IsAtHand(best.Name, best.Size)) Want({file, best, true});
   } else {
     DrawWhole(painter, file, target, reading);
   }

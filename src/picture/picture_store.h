@@ -31,6 +31,18 @@ class PictureStore {
   // and the picture is wanted.
   enum class Reading { AtOnce, Later };
 
+  // A picture in a size in device pixels. Pictures of one name are of the same thing; where they
+  // differ by more than their size, the detail says by what.
+  struct Sized {
+    QString Name;
+    QSize Size;
+    QString Detail = {};
+    bool operator==(const Sized&) const = default;
+    friend size_t qHash(const Sized& key, size_t seed = 0) {
+      return qHashMulti(seed, key.Name, key.Size.width(), key.Size.height(), key.Detail);
+    }
+  };
+
   PictureStore();
   PictureStore(const PictureStore&) = delete;
   PictureStore& operator=(const PictureStore&) = delete;
@@ -51,9 +63,11 @@ class PictureStore {
   // The picture in a size in device pixels, smoothly made out of the next larger level.
   QPixmap Scaled(const QString& file, QSize size);
 
-  // A picture that the caller makes, unless one of this name and size (device pixels) is kept from
-  // before; like all scaled ones it is only kept while there is room.
-  QPixmap Kept(const QString& name, QSize size, const std::function<QPixmap()>& make);
+  // Draws a picture that the caller makes, unless it is kept from before; like all scaled ones it is
+  // only kept while there is room. If one of its name is kept in nearly its size, that is drawn
+  // first, and the right one is wanted: `make` is called then. The painter is in device pixels.
+  void DrawMade(QPainter& painter, const Sized& picture, QPoint corner,
+                const std::function<QPixmap()>& make);
 
   // Its own size, or that of the drawing in its place; empty if the file is no picture.
   QSize NaturalSize(const QString& file) { return sources_.NaturalSize(file); }
@@ -91,30 +105,23 @@ class PictureStore {
   static QRectF PlaceOnDevice(const QPainter& painter, const QRectF& place);
 
  private:
-  struct SizedFile {
-    QString File;
-    QSize Size;
-    bool operator==(const SizedFile&) const = default;
-    friend size_t qHash(const SizedFile& key, size_t seed = 0) {
-      return qHashMulti(seed, key.File, key.Size.width(), key.Size.height());
-    }
-  };
-
   struct WantedPicture {
-    QString File;         // as callers know it
-    SizedFile Best;       // the variant that serves the size
+    QString Name;         // as callers know it
+    Sized Best;           // of a file the variant that serves the size
     bool IsPart = false;  // of which no scaled picture is kept
-    bool operator==(const WantedPicture&) const = default;
+    std::function<QPixmap()> Make = {};
   };
 
-  QString FileFor(const QString& file, const SizedFile& best, Reading reading);
+  QString FileFor(const QString& file, const Sized& best, Reading reading);
   void Want(const WantedPicture& picture);
-  bool IsQuick(const SizedFile& best);
+  bool IsQuick(const Sized& best);
   void MakeRoomFor(const QPainter& painter);
   // These draw out of just this file, and of what is at hand of it.
   QPixmap Render(const QString& file, QSize size);
-  QPixmap ScaledOf(const SizedFile& key);
-  const QPixmap* OtherSizeOf(const QString& file) const;
+  QPixmap ScaledOf(const Sized& key);
+  QPixmap Kept(const Sized& key, const std::function<QPixmap()>& make);
+  const QPixmap* OtherSizeOf(const QString& name) const;
+  bool DrawOtherSize(QPainter& painter, const QString& name, const QRect& target) const;
   void DrawSource(QPainter& painter, const QString& file, const QRectF& place);
   void DrawPart(QPainter& painter, const QString& file, const QRect& target, const QRect& part);
   bool DrawCoarse(QPainter& painter, const QString& file, const QString& best,
@@ -124,7 +131,7 @@ class PictureStore {
   PictureSources sources_;
   std::deque<WantedPicture> wanted_;
   std::unordered_map<QString, std::uint64_t> finer_;  // since which version
-  QCache<SizedFile, QPixmap> scaled_;
+  QCache<Sized, QPixmap> scaled_;
   std::uint64_t version_ = 1;
 };
 
