@@ -71,16 +71,28 @@ QRegion StillPicture::NextDue(qint64 area) const {
   return FirstOf(missing_.isEmpty() ? coarse_ : missing_, area);
 }
 
-void StillPicture::Paint(MapScene& map, const QRegion& pixels, QWidget* window) {
+void StillPicture::Paint(MapScene& map, QRegion pixels, QWidget* window) {
   if (pixels.isEmpty()) return;
   missing_ -= pixels;
   coarse_ -= pixels;
+  if (pixels == QRegion(part_)) return PaintWithin(map, {}, window);
+  // Lines are painted in these in any case (pool_painting.h).
+  const QRect image = image_.rect();
+  const QRgb first = image_.pixel(image.topLeft());
+  const QRgb last = image_.pixel(image.bottomRight());
+  PaintWithin(map, pixels, window);
+  if (!pixels.contains(image.topLeft())) image_.setPixel(image.topLeft(), first);
+  if (!pixels.contains(image.bottomRight())) image_.setPixel(image.bottomRight(), last);
+}
+
+// Null paints all.
+void StillPicture::PaintWithin(MapScene& map, const QRegion& pixels, QWidget* window) {
   image_.setDevicePixelRatio(look_.DevicePixelRatio);
   QPainter painter(&image_);
   painter.setRenderHint(QPainter::Antialiasing);
   const QTransform toPixels = painter.deviceTransform().inverted();
   QRegion places = map.StillPart().toAlignedRect();
-  if (pixels != QRegion(part_)) {
+  if (!pixels.isEmpty()) {
     painter.setWorldTransform(toPixels);
     painter.setClipRegion(pixels);
     const QTransform toScene = look_.ToDevice.inverted();

@@ -57,9 +57,10 @@ class StillPicture {
   QRegion NextDue(qint64 area) const;
 
   // Paints some pixels. `window` is where they will be seen.
-  void Paint(MapScene& map, const QRegion& pixels, QWidget* window);
+  void Paint(MapScene& map, QRegion pixels, QWidget* window);
 
  private:
+  void PaintWithin(MapScene& map, const QRegion& pixels, QWidget* window);
   QRegion PixelsOf(const QRegion& places) const;
 
   QImage image_;
