@@ -17,6 +17,7 @@
 #include "picture/application_icon.h"
 #include "platform/application_folder.h"
 #include "platform/console.h"
+#include "platform/freed_memory.h"
 #include "platform/game_path.h"
 #include "platform/native_registry.h"
 #include "platform/path_text.h"
@@ -85,6 +86,7 @@ int PrintGame() {
 }
 
 int RunProgram(int argc, char** argv, const StartPaths& paths) {
+  KeepLargeMemoryApart();
   ApplyStoredScale(paths.ApplicationFolder);
   QApplication application(argc, argv);
   QApplication::setApplicationName("orrerix");

@@ -19,7 +19,7 @@ QTransform PartOf(const QTransform& whole, double part) {
 
 }  // namespace
 
-std::optional<QTransform> WayBetween(const MapPlace& from, const MapPlace& to) {
+std::optional<QTransform> WayBetween(const ShownCells& from, const ShownCells& to) {
   const bool isWay = !from.OnPaper && !to.OnPaper && from.Frame == to.Frame &&
                      from.Cells.CellSize() > 0 && to.Cells.CellSize() > 0;
   if (!isWay || from.Cells == to.Cells) return std::nullopt;

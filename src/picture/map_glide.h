@@ -15,19 +15,19 @@
 namespace orrerix {
 
 // Where a drawing has the cells of the map.
-struct MapPlace {
+struct ShownCells {
   CellGeometry Cells;
   TwipRect Frame;
   bool OnPaper = false;
 
-  static MapPlace Of(const MapDrawing& drawing) {
+  static ShownCells Of(const MapDrawing& drawing) {
     return {drawing.Cells, drawing.Frame, drawing.PrintMode};
   }
 };
 
 // From the pixels of the map in one place to those in another. Null if both are the same, if one of
 // them is for paper, or if the frames differ.
-std::optional<QTransform> WayBetween(const MapPlace& from, const MapPlace& to);
+std::optional<QTransform> WayBetween(const ShownCells& from, const ShownCells& to);
 
 // What a zoom shows until the new map is painted, and while the eye follows it: a picture of the
 // map of before, on its way to where its cells are now. All places are pixels of the device.

@@ -74,7 +74,7 @@ void MapSceneView::drawBackground(QPainter* painter, const QRectF& exposed) {
 
 // Whether the map has moved; then a picture of the one before is on its way to where it is now.
 bool MapSceneView::Moves(MapScene& map, const StillLook& look) {
-  const auto way = WayBetween(place_, MapPlace::Of(map.Drawing()));
+  const auto way = WayBetween(cells_, ShownCells::Of(map.Drawing()));
   if (!way) return false;
   const QTransform pixels = look.ToDevice.inverted() * *way * look.ToDevice;
   if (glide_.IsShown() && !still_.Missing().isEmpty()) {
@@ -88,7 +88,7 @@ bool MapSceneView::Moves(MapScene& map, const StillLook& look) {
 void MapSceneView::Renew(MapScene& map, const StillLook& look, bool inPasses) {
   const bool isSameLook = look == still_.Look();
   const bool isMoved = isSameLook && inPasses && Moves(map, look);
-  place_ = MapPlace::Of(map.Drawing());
+  cells_ = ShownCells::Of(map.Drawing());
   if (!isSameLook || isMoved) still_.Begin(map, look);
   if (!isSameLook) glide_.End();
   still_.Follow(map);
@@ -103,7 +103,9 @@ void MapSceneView::Renew(MapScene& map, const StillLook& look, bool inPasses) {
 }
 
 void MapSceneView::EndGlide() {
-  if (glide_.IsShown() && still_.Missing().isEmpty() && !glide_.IsMoving()) glide_.End();
+  if (!glide_.IsShown() || !still_.Missing().isEmpty() || glide_.IsMoving()) return;
+  glide_.End();
+  if (OnUnfinished) OnUnfinished();
 }
 
 // The painter is in the picture's pixels.

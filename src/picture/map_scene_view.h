@@ -20,7 +20,8 @@ class MapSceneView : public QGraphicsView {
  public:
   explicit MapSceneView(QWidget* parent = nullptr);
 
-  // Called when there is something to paint in passes. Without it nothing waits for them.
+  // Called when there is something to paint in passes, and when a zoom has ended, which sets memory
+  // free. Without it nothing waits for passes.
   std::function<void()> OnUnfinished;
 
   // Paints the next pass, and returns which pixels of the view (logical ones) will be painted again
@@ -47,7 +48,7 @@ class MapSceneView : public QGraphicsView {
 
   bool isPainting_ = false;
   StillPicture still_;
-  MapPlace place_;  // of what is in the picture
+  ShownCells cells_;  // of what is in the picture
   MapGlide glide_;
 };
 

@@ -84,15 +84,15 @@ void PictureStore::Want(const WantedPicture& picture) {
   if (wanted_.size() == 1 && OnWanted) OnWanted();
 }
 
-void PictureStore::ReadWanted(Waiting waiting) {
+bool PictureStore::ReadWanted(Waiting waiting) {
   for (qint64 pixels = 0; !wanted_.empty() && pixels < kScaledAtOnce;) {
     const auto [name, best, isPart, make] = wanted_.front();
     if (!make && !sources_.IsAtHand(best.Name, best.Size)) {
-      if (pixels > 0) return;  // reading takes long enough by itself
+      if (pixels > 0) return true;  // reading takes long enough by itself
       if (waiting == Waiting::ForFiles) {
         sources_.FullSourceOf(best.Name).IsAwaited = true;
       } else if (!sources_.AwaitFull(best.Name)) {
-        return;
+        return false;
       }
       pixels = kScaledAtOnce;
     }
@@ -102,6 +102,7 @@ void PictureStore::ReadWanted(Waiting waiting) {
     pixels += AreaOf(best.Size);
     finer_[name] = ++version_;
   }
+  return true;
 }
 
 std::uint64_t PictureStore::VersionOf(const QString& file) const {

@@ -78,11 +78,11 @@ class PictureStore {
 
   // Called when a picture is wanted and none was before. ReadWanted reads the file of one of them,
   // or scales some of those whose files have been read, for callers that draw next. A caller that
-  // waits for nothing calls it again while another thread reads the file.
+  // waits for nothing calls it again while another thread reads the file: then it returns false.
   enum class Waiting { ForFiles, ForNothing };
   std::function<void()> OnWanted;
   bool IsWanting() const { return !wanted_.empty(); }
-  void ReadWanted(Waiting waiting = Waiting::ForFiles);
+  bool ReadWanted(Waiting waiting = Waiting::ForFiles);
 
   // Another number whenever pictures that were drawn before may look finer now, and the one since
   // which a picture does; zero for one that looks as ever.

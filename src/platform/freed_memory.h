@@ -7,4 +7,8 @@ namespace orrerix {
 // that needed much memory for a moment; takes some milliseconds.
 void ReturnFreedMemory();
 
+// From now on each large piece of memory, such as a picture of a screen, goes back as soon as it is
+// freed, whichever thread has asked for it. To be called once, when the program starts.
+void KeepLargeMemoryApart();
+
 }  // namespace orrerix

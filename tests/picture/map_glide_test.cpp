@@ -9,7 +9,7 @@ namespace {
 constexpr int kLongTime = 1'000'000;
 
 // Cells of the whole grid have 8550 / 19 = 450 twips, 30 pixels; two of them 4275, 285 pixels.
-MapPlace PlaceOf(const ZoomRectangle& visible) {
+ShownCells PlaceOf(const ZoomRectangle& visible) {
   const TwipRect frame{0, 0, 14000, 8550};
   return {CellGeometry(frame, visible), frame, false};
 }
@@ -35,10 +35,10 @@ TEST(MapGlideTest, TheWayLeadsToWhereTheCellsAre) {
 }
 
 TEST(MapGlideTest, ThereIsNoWayWithinOnePlaceOrToPaperOrAnotherFrame) {
-  const MapPlace whole = PlaceOf({1, 1, 19, 19});
-  MapPlace paper = PlaceOf({8, 10, 9, 11});
+  const ShownCells whole = PlaceOf({1, 1, 19, 19});
+  ShownCells paper = PlaceOf({8, 10, 9, 11});
   paper.OnPaper = true;
-  MapPlace small = PlaceOf({8, 10, 9, 11});
+  ShownCells small = PlaceOf({8, 10, 9, 11});
   small.Frame.Width = 9000;
 
   EXPECT_FALSE(WayBetween(whole, whole));

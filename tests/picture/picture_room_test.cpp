@@ -201,6 +201,31 @@ TEST_F(PictureRoomTest, SeveralPicturesThatHaveBeenReadAreScaledInOneGo) {
   EXPECT_FALSE(store.IsWanting());
 }
 
+TEST_F(PictureRoomTest, WhoeverWaitsForNothingGetsAFileOnceAnotherThreadHasReadIt) {
+  store.Read(files[1]);
+  Shown(files[1], 700);
+  const std::uint64_t before = store.Version();
+
+  EXPECT_FALSE(store.ReadWanted(PictureStore::Waiting::ForNothing));  // it has just begun
+  EXPECT_EQ(store.Version(), before);
+  EXPECT_TRUE(store.IsWanting());
+  while (!store.ReadWanted(PictureStore::Waiting::ForNothing)) continue;
+
+  EXPECT_FALSE(store.IsWanting());
+  EXPECT_EQ(store.VersionOf(files[1]), before + 1);
+  EXPECT_EQ(store.BytesOfScaled() / 1024, 700 * 700 * 4 / 1024);
+}
+
+TEST_F(PictureRoomTest, WhatIsReadForLaterMayBeReadAtOnceMeanwhile) {
+  store.Read(files[1]);
+  Shown(files[1], 700);
+  store.ReadWanted(PictureStore::Waiting::ForNothing);
+
+  EXPECT_EQ(store.Scaled(files[1], {700, 700}).size(), QSize(700, 700));
+  EXPECT_TRUE(store.ReadWanted(PictureStore::Waiting::ForNothing));
+  EXPECT_FALSE(store.IsWanting());
+}
+
 TEST_F(PictureRoomTest, OnlyThePictureThatIsFinerHasAnotherVersion) {
   for (const int i : {1, 2}) {
     store.Read(files[i]);

@@ -19,7 +19,8 @@
 namespace orrerix {
 namespace {
 
-constexpr int kMostGlideTime = 150;  // milliseconds
+constexpr int kMostGlideTime = 100;  // milliseconds
+constexpr int kReadingPause = 2;
 constexpr int kCompactForm = 1020;  // outer width of a form beside the game, pixels
 
 std::vector<QString> PicturesOfZooms() {
@@ -101,7 +102,8 @@ void MapScreen::ReadAhead() {
 // What takes longer than a redraw is done after one, bit by bit.
 void MapScreen::Sharpen() {
   if (frame_->PaintMore()) return;
-  pictures_.ReadWanted(PictureStore::Waiting::ForNothing);
+  const bool isDone = pictures_.ReadWanted(PictureStore::Waiting::ForNothing);
+  sharpening_->setInterval(isDone ? 0 : kReadingPause);
   if (pictures_.IsWanting() || frame_->PaintMore()) return;
   sharpening_->stop();
   ReturnFreedMemory();

@@ -15,4 +15,13 @@ void ReturnFreedMemory() {
 #endif
 }
 
+void KeepLargeMemoryApart() {
+#ifdef __GLIBC__
+  constexpr int megabyte = 1024 * 1024;
+  // The library's own threshold grows with what is freed, up to 32 MB.
+  mallopt(M_MMAP_THRESHOLD, 2 * megabyte);
+  mallopt(M_TRIM_THRESHOLD, 4 * megabyte);
+#endif
+}
+
 }  // namespace orrerix

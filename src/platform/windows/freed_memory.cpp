@@ -5,5 +5,6 @@ namespace orrerix {
 
 // The heap there gives memory back by itself.
 void ReturnFreedMemory() {}
+void KeepLargeMemoryApart() {}
 
 }  // namespace orrerix
