@@ -141,7 +141,8 @@ class LabelItem : public ControlItem {
   QRectF NameLetters() const override {
     if (!style_.Spared) return {};
     const double width = QFontMetricsF(letters_.Font).horizontalAdvance(letters_.Text.text());
-    const QRectF letters(letters_.Corner, QSizeF(letters_.Text.textWidth(), letters_.Text.size().height()));
+    const QRectF letters(letters_.Corner,
+                         QSizeF(letters_.Text.textWidth(), letters_.Text.size().height()));
     const double beside = (letters.width() - width) / 2;
     return mapRectToScene(letters.adjusted(beside, 0, -beside, 0));
   }
@@ -162,10 +163,12 @@ class LabelItem : public ControlItem {
   // Letters may leave the box, and swing out of the lines they stand in.
   QRectF LettersPart() const {
     const QFontMetricsF metrics(letters_.Font);
-    const double width = std::max(letters_.Text.textWidth(), metrics.horizontalAdvance(letters_.Text.text()));
+    const double width =
+        std::max(letters_.Text.textWidth(), metrics.horizontalAdvance(letters_.Text.text()));
     const double beside = width - letters_.Text.textWidth() + metrics.height();
     const double above = metrics.height() / 2;
-    const QRectF letters(letters_.Corner, QSizeF(letters_.Text.textWidth(), letters_.Text.size().height()));
+    const QRectF letters(letters_.Corner,
+                         QSizeF(letters_.Text.textWidth(), letters_.Text.size().height()));
     return letters.adjusted(-beside, -above, beside, above);
   }
 
@@ -177,8 +180,8 @@ class LabelItem : public ControlItem {
     }
     const double width = metrics.horizontalAdvance(letters_.Text.text());
     const QRectF ink = metrics.tightBoundingRect(letters_.Text.text());
-    const double beside = std::max(0.0, width - letters_.Text.textWidth()) + std::max(0.0, -ink.left()) +
-                          std::max(0.0, ink.right() - width) + 2;
+    const double beside = std::max(0.0, width - letters_.Text.textWidth()) +
+                          std::max(0.0, -ink.left()) + std::max(0.0, ink.right() - width) + 2;
     const QRectF letters(letters_.Corner.x(), letters_.Corner.y() + metrics.ascent() + ink.top(),
                          letters_.Text.textWidth(), ink.height());
     return letters.adjusted(-beside, -2, beside, 2);
@@ -249,12 +252,14 @@ class LabelItem : public ControlItem {
     letters_.Text.setText(caption);
     letters_.Text.prepare({}, letters_.Font);
     letters_.Corner = box.topLeft();
-    if (style_.Alignment & Qt::AlignBottom) letters_.Corner.setY(box.bottom() - letters_.Text.size().height());
+    if (style_.Alignment & Qt::AlignBottom)
+      letters_.Corner.setY(box.bottom() - letters_.Text.size().height());
   }
 
   bool Fits(const QString& caption, const QRectF& box) const {
-    const QRectF needed = QFontMetricsF(letters_.Font).boundingRect(
-        box, static_cast<int>(Qt::TextWordWrap | style_.Alignment), caption);
+    const QRectF needed =
+        QFontMetricsF(letters_.Font)
+            .boundingRect(box, static_cast<int>(Qt::TextWordWrap | style_.Alignment), caption);
     return needed.width() <= box.width() && needed.height() <= box.height();
   }
 

@@ -112,14 +112,13 @@ void MapSceneView::EndGlide() {
 void MapSceneView::Draw(QPainter& painter) const {
   const QRect part = still_.Part();
   const auto copy = [&](const QRect& rect) {
-    PaintPixelsInHalves(painter, [&](QPainter& half) {
-      half.drawImage(rect.topLeft(), still_.Image(), rect);
-    });
+    PaintPixelsInHalves(
+        painter, [&](QPainter& half) { half.drawImage(rect.topLeft(), still_.Image(), rect); });
   };
   if (!glide_.IsShown()) return copy(part);
   const QRegion open = QRegion(part) - glide_.Hides();
   for (const QRect& rect : open - still_.Missing()) copy(rect);
-  for (const QRect& rect : open & still_.Missing()) {
+  for (const QRect& rect : open& still_.Missing()) {
     painter.fillRect(rect, scene()->backgroundBrush());
   }
   glide_.Paint(painter, part);

@@ -206,8 +206,8 @@ void PictureStore::DrawPart(QPainter& painter, const QString& file, const QRect&
   painter.restore();
 }
 
-// Draws what is at hand of just this file without keeping it, or another size of the best one. False
-// if nothing is.
+// Draws what is at hand of just this file without keeping it, or another size of the best one.
+// False if nothing is.
 bool PictureStore::DrawCoarse(QPainter& painter, const QString& file, const QString& best,
                               const QRect& target) {
   PictureSource& source = sources_.SourceOf(file);
@@ -233,7 +233,8 @@ void PictureStore::DrawWhole(QPainter& painter, const QString& file, const QRect
   const Sized best{sources_.VariantFor(file, target.size()), target.size()};
   if (!scaled_.contains(best)) {
     const QString chosen = FileFor(file, best, reading);
-    const bool isReady = sources_.IsAtHand(best.Name, best.Size) && (reading == Reading::AtOnce || IsQuick(best));
+    const bool isReady =
+        sources_.IsAtHand(best.Name, best.Size) && (reading == Reading::AtOnce || IsQuick(best));
     if (!isReady && DrawCoarse(painter, chosen, best.Name, target)) return Want({file, best});
   }
   painter.drawPixmap(target.topLeft(), ScaledOf(best));

@@ -63,8 +63,8 @@ class PictureStore {
   // The picture in a size in device pixels, smoothly made out of the next larger level.
   QPixmap Scaled(const QString& file, QSize size);
 
-  // Draws a picture that the caller makes, unless it is kept from before; like all scaled ones it is
-  // only kept while there is room. If one of its name is kept in nearly its size, that is drawn
+  // Draws a picture that the caller makes, unless it is kept from before; like all scaled ones it
+  // is only kept while there is room. If one of its name is kept in nearly its size, that is drawn
   // first, and the right one is wanted: `make` is called then. The painter is in device pixels.
   void DrawMade(QPainter& painter, const Sized& picture, QPoint corner,
                 const std::function<QPixmap()>& make);
@@ -124,8 +124,7 @@ class PictureStore {
   bool DrawOtherSize(QPainter& painter, const QString& name, const QRect& target) const;
   void DrawSource(QPainter& painter, const QString& file, const QRectF& place);
   void DrawPart(QPainter& painter, const QString& file, const QRect& target, const QRect& part);
-  bool DrawCoarse(QPainter& painter, const QString& file, const QString& best,
-                  const QRect& target);
+  bool DrawCoarse(QPainter& painter, const QString& file, const QString& best, const QRect& target);
   void DrawWhole(QPainter& painter, const QString& file, const QRect& target, Reading reading);
 
   PictureSources sources_;

@@ -56,7 +56,8 @@ void PaintPart(const QPainter& painter, QImage image, const QRegion& part,
 }
 
 // Runs the work for two parts of an image in two threads.
-void PaintTwoParts(const QPainter& painter, const QImage& image, const std::array<QRegion, 2>& parts,
+void PaintTwoParts(const QPainter& painter, const QImage& image,
+                   const std::array<QRegion, 2>& parts,
                    const std::function<void(QPainter&)>& paint) {
   QSemaphore done;
   for (const QRegion& part : parts) {

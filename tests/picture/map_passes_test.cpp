@@ -8,11 +8,11 @@
 namespace orrerix {
 namespace {
 
-constexpr ZoomRectangle kAll{1, 1, 8, 8};        // cells of 25 pixels
-constexpr ZoomRectangle kQuarter{1, 1, 4, 4};    // cells of 50
-constexpr ZoomRectangle kMiddle{3, 3, 6, 6};     // cells of 50
-constexpr ZoomRectangle kOneCell{2, 3, 2, 3};    // a cell of 200
-constexpr double kFine = 6;                      // 1320 by 1200 pixels of map: two passes
+constexpr ZoomRectangle kAll{1, 1, 8, 8};      // cells of 25 pixels
+constexpr ZoomRectangle kQuarter{1, 1, 4, 4};  // cells of 50
+constexpr ZoomRectangle kMiddle{3, 3, 6, 6};   // cells of 50
+constexpr ZoomRectangle kOneCell{2, 3, 2, 3};  // a cell of 200
+constexpr double kFine = 6;                    // 1320 by 1200 pixels of map: two passes
 
 // Takes every image for its window.
 class WindowView : public MapSceneView {
