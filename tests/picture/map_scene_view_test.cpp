@@ -237,6 +237,30 @@ TEST_F(StillItemsTest, WhatTheCallerPutsInFrontOfLinesIsPaintedEachTime) {
   EXPECT_TRUE(PaintsStill());
 }
 
+// What lies below an opaque picture is not even scaled.
+TEST_F(StillItemsTest, WhatAPictureHidesIsNotPainted) {
+  const TempFolder folder;
+  const auto plain = [&folder](const char* name) {
+    QImage image(10, 10, QImage::Format_RGB32);
+    image.fill(Qt::red);
+    const std::string file = (folder.Path() / name).string();
+    image.save(QString::fromStdString(file));
+    return file;
+  };
+  drawing.Controls = {
+      MakePicture(ControlId::BackgroundTile, 1, {300, 300, 900, 900}, plain("tile.png")),
+      MakePicture(ControlId::SystemPicture, 1, {0, 0, 1500, 1500}, plain("system.png"))};
+  scene.Show(drawing);
+  Painted(view);
+  EXPECT_EQ(pictures.BytesOfScaled() / 1024, 100 * 100 * 4 / 1024);  // of the system only
+
+  drawing.Controls[1].Place = {300, 300, 600, 900};
+  scene.Show(drawing);
+  Painted(view);
+  EXPECT_EQ(pictures.BytesOfScaled() / 1024,
+            100 * 100 * 4 / 1024 + 60 * 60 * 4 / 1024 + 40 * 60 * 4 / 1024);
+}
+
 TEST_F(StillItemsTest, AFinerPictureIsShown) {
   const TempFolder folder;
   const QString file = QString::fromStdString((folder.Path() / "sky.png").string());

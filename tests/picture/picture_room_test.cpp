@@ -152,6 +152,28 @@ TEST_F(PictureRoomTest, ASmallPictureIsSmoothAtOnce) {
   EXPECT_EQ((store.BytesOfScaled() - before) / 1024, 360 * 360 * 4 / 1024);
 }
 
+// A drawing of red; in 80 by 80 pixels it is too large to be painted at once on a large screen.
+TEST_F(PictureRoomTest, ADrawingIsShownInTheSizeThatIsKeptUntilItIsPaintedInAnother) {
+  const auto file = QString::fromStdString(
+      folder
+          .Write("gate.svg",
+                 R"(<svg xmlns="http://www.w3.org/2000/svg" width="10" height="10" )"
+                 R"(viewBox="0 0 10 10"><rect width="10" height="10" fill="#f00"/></svg>)")
+          .string());
+  UseScreen(kLargeScreen);
+
+  EXPECT_EQ(Shown(file, 60), QColor(Qt::red));
+  EXPECT_FALSE(store.IsWanting());
+  const qint64 small = store.BytesOfScaled();
+  EXPECT_EQ(Shown(file, 80), QColor(Qt::red));
+  EXPECT_TRUE(store.IsWanting());
+  EXPECT_EQ(store.BytesOfScaled(), small);
+  store.ReadWanted();
+
+  EXPECT_EQ((store.BytesOfScaled() - small) / 1024, 80 * 80 * 4 / 1024);
+  EXPECT_FALSE(store.IsWanting());
+}
+
 TEST_F(PictureRoomTest, OnAUsualScreenEachPictureThatIsAtHandIsSmoothAtOnce) {
   for (const QSize screen : {kUsualScreen, kLargeScreen}) {
     UseScreen(screen);
