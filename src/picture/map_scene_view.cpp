@@ -95,6 +95,7 @@ void MapSceneView::Renew(MapScene& map, const StillLook& look, bool inPasses) {
   still_.FollowPictures(map);
   if (!inPasses) {
     still_.Paint(map, still_.Due(), viewport());
+    glide_.End();
   } else if (!glide_.IsShown()) {
     still_.Paint(map, still_.Missing(), viewport());
   }
@@ -118,9 +119,8 @@ void MapSceneView::Draw(QPainter& painter) const {
   if (!glide_.IsShown()) return copy(part);
   const QRegion open = QRegion(part) - glide_.Hides();
   for (const QRect& rect : open - still_.Missing()) copy(rect);
-  for (const QRect& rect : open& still_.Missing()) {
-    painter.fillRect(rect, scene()->backgroundBrush());
-  }
+  const QRegion blank = open & still_.Missing();
+  for (const QRect& rect : blank) painter.fillRect(rect, scene()->backgroundBrush());
   glide_.Paint(painter, part);
 }
 

@@ -6,6 +6,7 @@
 #include <QThreadPool>
 #include <algorithm>
 #include <chrono>
+#include <exception>
 #include <utility>
 
 namespace orrerix {
@@ -103,8 +104,13 @@ bool PictureSources::AwaitFull(const QString& file) {
   if (reading_.File != file) {
     auto done = std::make_shared<std::promise<PictureSource>>();
     reading_ = {file, done->get_future()};
-    QThreadPool::globalInstance()->start(
-        [done, file] { done->set_value(PictureSource::Read(file)); });
+    QThreadPool::globalInstance()->start([done, file] {
+      try {
+        done->set_value(PictureSource::Read(file));
+      } catch (...) {
+        done->set_exception(std::current_exception());
+      }
+    });
   }
   if (reading_.Source.wait_for(std::chrono::seconds(0)) != std::future_status::ready) return false;
   PictureSource source = reading_.Source.get();

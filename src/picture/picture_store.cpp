@@ -52,6 +52,18 @@ QRect SnappedToPixels(const QRectF& place) {
                                            static_cast<int>(std::ceil(place.height() - nothing)))};
 }
 
+// Draws a picture pixel for pixel, of a clip of many rectangles one after the other: Qt would hand
+// their rows to its thread pool, and wait for it each time. The painter is in the device's pixels.
+void DrawInClip(QPainter& painter, QPoint corner, const QPixmap& picture) {
+  const QRegion clip = painter.hasClipping() ? painter.clipRegion() : QRegion();
+  if (clip.rectCount() < 2) return painter.drawPixmap(corner, picture);
+  painter.setClipping(false);
+  for (const QRect& rect : clip& QRect(corner, picture.size())) {
+    painter.drawPixmap(rect.topLeft(), picture, rect.translated(-corner));
+  }
+  painter.setClipping(true);
+}
+
 }  // namespace
 
 PictureStore::PictureStore() : scaled_(kLeastCacheRoom) {}
@@ -237,7 +249,7 @@ void PictureStore::DrawWhole(QPainter& painter, const QString& file, const QRect
         sources_.IsAtHand(best.Name, best.Size) && (reading == Reading::AtOnce || IsQuick(best));
     if (!isReady && DrawCoarse(painter, chosen, best.Name, target)) return Want({file, best});
   }
-  painter.drawPixmap(target.topLeft(), ScaledOf(best));
+  DrawInClip(painter, target.topLeft(), ScaledOf(best));
 }
 
 QRectF PictureStore::PlaceOnDevice(const QPainter& painter, const QRectF& place) {

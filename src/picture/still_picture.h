@@ -57,7 +57,7 @@ class StillPicture {
   QRegion NextDue(qint64 area) const;
 
   // Paints some pixels. `window` is where they will be seen.
-  void Paint(MapScene& map, QRegion pixels, QWidget* window);
+  void Paint(MapScene& map, const QRegion& due, QWidget* window);
 
  private:
   void PaintWithin(MapScene& map, const QRegion& pixels, QWidget* window);

@@ -258,6 +258,17 @@ TEST_F(MapPassesTest, WhileTheMapOfBeforeMovesThePassesAreNotSeen) {
   EXPECT_EQ(Painted(window), PaintedAnew());
 }
 
+TEST_F(MapPassesTest, AMovementEndsWhereSomebodyRendersTheView) {
+  constexpr int longTime = 1'000'000;
+  Zoom(kAll);
+  window.Glide().SetTime(longTime);
+  Zoom(kMiddle);
+  ASSERT_TRUE(window.Glide().IsMoving());
+
+  window.IsInWindow = false;
+  EXPECT_EQ(Painted(window), PaintedAnew());
+}
+
 // A picture that is too large to be smooth at once is painted again in passes, too.
 TEST_F(MapPassesTest, AFinerPictureWaitsForItsPass) {
   constexpr double fine = 9;  // 2700 by 1800 pixels

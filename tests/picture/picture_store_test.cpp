@@ -49,6 +49,26 @@ TEST_F(PictureStoreTest, OnAFineScreenTheScreensOwnPixelsCount) {
   EXPECT_EQ(canvas.pixelColor(21, 5), QColor(Qt::black));
 }
 
+TEST_F(PictureStoreTest, InAClipOfManyRectanglesOnlyTheirPixelsAreDrawn) {
+  QImage canvas = Canvas(2);
+  QPainter painter(&canvas);
+  painter.setClipRegion(QRegion(2, 2, 8, 8) + QRegion(20, 20, 5, 5));
+
+  store.Draw(painter, Plain(Qt::red), {5, 5, 30, 30});
+  painter.fillRect(QRect(0, 0, 4, 4), Qt::blue);
+  painter.end();
+
+  QImage expected = Canvas(2);
+  expected.setDevicePixelRatio(1);
+  QPainter pixels(&expected);
+  pixels.fillRect(QRect(10, 10, 10, 10), Qt::red);
+  pixels.fillRect(QRect(40, 40, 10, 10), Qt::red);
+  pixels.fillRect(QRect(4, 4, 4, 4), Qt::blue);
+  pixels.end();
+  expected.setDevicePixelRatio(2);
+  EXPECT_EQ(canvas, expected);
+}
+
 TEST_F(PictureStoreTest, OfAHiddenPictureOnlyTheSeenPartIsDrawn) {
   QImage canvas = Canvas();
   QPainter painter(&canvas);
