@@ -71,9 +71,8 @@ QRegion StillPicture::NextDue(qint64 area) const {
   return FirstOf(missing_.isEmpty() ? coarse_ : missing_, area);
 }
 
-void StillPicture::Paint(MapScene& map, const QRegion& due, QWidget* window) {
-  if (due.isEmpty()) return;
-  const QRegion pixels = due;  // which may be what is missing
+void StillPicture::Paint(MapScene& map, const QRegion& pixels, QWidget* window) {
+  if (pixels.isEmpty()) return;
   missing_ -= pixels;
   coarse_ -= pixels;
   if (pixels == QRegion(part_)) return PaintWithin(map, {}, window);

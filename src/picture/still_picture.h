@@ -47,7 +47,7 @@ class StillPicture {
   void FollowPictures(MapScene& map);
 
   // Pixels that do not show the scene.
-  const QRegion& Missing() const { return missing_; }
+  QRegion Missing() const { return missing_; }
 
   // All that is due.
   QRegion Due() const { return missing_ + coarse_; }
@@ -57,7 +57,7 @@ class StillPicture {
   QRegion NextDue(qint64 area) const;
 
   // Paints some pixels. `window` is where they will be seen.
-  void Paint(MapScene& map, const QRegion& due, QWidget* window);
+  void Paint(MapScene& map, const QRegion& pixels, QWidget* window);
 
  private:
   void PaintWithin(MapScene& map, const QRegion& pixels, QWidget* window);
