@@ -87,12 +87,12 @@ TEST_F(MapScreenTest, ThePlayersOwnStarMapTakesThePlaceOfThePaintedOne) {
 }
 
 // On a screen of 90000 x 67500 twips, 6000 x 4500 pixels, the star map is shown larger than it is.
-TEST_F(MapScreenTest, PicturesGetFinerBehindTheRedraw) {
+TEST_F(MapScreenTest, PicturesGetFinerAfterTheRedraw) {
   map.Redraw(universe, 90000, 67500);
 
   map.Frame().grab();
   EXPECT_TRUE(pictures.IsWanting());
-  for (int i = 0; i < 1000 && pictures.IsWanting(); ++i) PassEvents();
+  EXPECT_TRUE(WaitUntil([&] { return !pictures.IsWanting(); }));
 
   map.Frame().grab();
   EXPECT_FALSE(pictures.IsWanting());
